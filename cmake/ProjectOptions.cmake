@@ -1,0 +1,26 @@
+option(CORVEL_BENCHMARKS "Build the benchmark programs" OFF)
+set(CORVEL_SANITIZERS "" CACHE STRING "Sanitizers of the whole build: address,undefined or thread")
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+
+# Everything of ours links this. Rounding is part of the sound: no contraction, never -ffast-math.
+add_library(project_options INTERFACE)
+target_compile_options(project_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror -ffp-contract=off)
+target_include_directories(project_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
+
+if(WIN32)
+    # printf of the language standard, so that every display text is the same on both systems
+    target_compile_definitions(project_options INTERFACE __USE_MINGW_ANSI_STDIO=1)
+endif()
+
+if(CORVEL_SANITIZERS)
+    add_compile_options(-fsanitize=${CORVEL_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=${CORVEL_SANITIZERS})
+endif()

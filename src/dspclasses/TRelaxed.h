@@ -1,0 +1,29 @@
+#pragma once
+
+#include <atomic>
+
+/// A value that one thread writes while another reads it, and that reads like a plain one.
+/// Loads and stores are relaxed: on x86-64 the same machine instructions as plain accesses, without
+/// the undefined behaviour. It orders nothing: a reader may see one field new and its neighbour
+/// old.
+template <typename Value>
+class TRelaxed {
+    static_assert(std::atomic<Value>::is_always_lock_free);
+
+public:
+    TRelaxed() = default;
+    TRelaxed(Value value) : m_value(value) {}
+    TRelaxed(const TRelaxed &other) : m_value(other.load()) {}
+
+    TRelaxed &operator=(Value value) {
+        m_value.store(value, std::memory_order_relaxed);
+        return *this;
+    }
+    TRelaxed &operator=(const TRelaxed &other) { return *this = other.load(); }
+
+    operator Value() const { return load(); }
+    Value load() const { return m_value.load(std::memory_order_relaxed); }
+
+private:
+    std::atomic<Value> m_value{};
+};

@@ -1,0 +1,19 @@
+#include "platform/NativeLibrary.h"
+
+#include <dlfcn.h>
+
+void *openNativeLibrary(const std::string &path, std::string &reason) {
+    void *library = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
+    if (library == nullptr)
+        reason = dlerror();
+    return library;
+}
+
+void *nativeSymbol(void *library, const char *name) {
+    return dlsym(library, name);
+}
+
+void closeNativeLibrary(void *library) {
+    if (library != nullptr)
+        dlclose(library);
+}
