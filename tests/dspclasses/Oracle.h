@@ -160,14 +160,12 @@ private:
                 if (sameBits(a, b))
                     continue;
                 std::ostringstream text;
-                const std::size_t inBlock = i - static_cast<std::size_t>(offset);
+                const int inBlock = static_cast<int>(i) - offset;
                 text << (sizeof(Sample) == 4 ? "float " : "double ") << what << ", frame "
-                     << static_cast<std::size_t>(start) + inBlock << " (" << inBlock
-                     << " of its block of " << got.channels[0].size() - inBlock + inBlock
-                     << "), channel " << channel << std::hexfloat << ": got " << a
-                     << ", expected " << b << std::defaultfloat
-                     << std::setprecision(std::numeric_limits<Sample>::max_digits10) << " (" << a
-                     << ", " << b << ")";
+                     << start + inBlock << " (" << inBlock << " of a block of "
+                     << got.frames() - offset << "), channel " << channel
+                     << std::setprecision(std::numeric_limits<Sample>::max_digits10) << ": got "
+                     << a << ", expected " << b << std::hexfloat << " (" << a << ", " << b << ")";
                 return text.str();
             }
         }

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <bit>
+#include <cstdint>
+
+/// Denormals end as zero by a test of the value, not by a mode of the processor, which belongs to
+/// the host.
+
+/// @return true for zero of either sign and for denormals: the exponent bits are all zero.
+inline bool isDenormalOrZero(float value) {
+    return (std::bit_cast<std::uint32_t>(value) & 0x7f800000u) == 0;
+}
+inline bool isDenormalOrZero(double value) {
+    return (std::bit_cast<std::uint64_t>(value) & 0x7ff0000000000000u) == 0;
+}
+
+/// @return 0.0 for zero of either sign and for denormals, every other value as it is.
+inline float flushDenormal(float value) {
+    return isDenormalOrZero(value) ? 0.0f : value;
+}
+inline double flushDenormal(double value) {
+    return isDenormalOrZero(value) ? 0.0 : value;
+}
