@@ -1,0 +1,17 @@
+#!/usr/bin/env bash
+# run.sh [VOICE [OPTION...]]: sets up, builds and sends a recorded voice through the channel strip.
+# VOICE is an audio file, by default the human speech that alsa-utils ships; the options are those
+# of `corvel render`. The result is written to build/voices.
+set -euo pipefail
+top=$(dirname "$(dirname "$(realpath "$0")")")
+
+"$top/scripts/setup.sh" run
+"$top/scripts/build.sh" linux Corvel corvel
+
+voice=/usr/share/sounds/alsa/Front_Center.wav
+if [ $# -gt 0 ]; then
+    voice=$1
+    shift
+fi
+mkdir -p "$top/build/voices"
+exec "$top/build/linux/bin/corvel" render "$voice" "$top/build/voices/$(basename "$voice")" "$@"

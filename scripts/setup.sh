@@ -1,0 +1,42 @@
+#!/usr/bin/env bash
+# setup.sh [run|test]: installs through apt what the build and the run need, with "test" (the default)
+# also what the tests need. Quiet and quick when nothing is missing.
+set -euo pipefail
+
+run_packages=(
+    g++ cmake ninja-build          # the build
+    libsndfile1-dev libsamplerate0-dev libcli11-dev nlohmann-json3-dev  # the command-line host
+    googletest                     # configured with every build
+    libbenchmark-dev python3       # the benchmarks, and the table that they print
+    alsa-utils                     # its speaker test ships recorded human speech
+)
+test_packages=(
+    git                                                 # tests of the source tree list its files
+    g++-mingw-w64-x86-64-posix gcc-mingw-w64-x86-64-posix  # the Windows build
+    wine wine64                                         # and where its tests run
+)
+
+packages=("${run_packages[@]}")
+case "${1:-test}" in
+run) ;;
+test) packages+=("${test_packages[@]}") ;;
+*) echo "usage: setup.sh [run|test]" >&2; exit 2 ;;
+esac
+
+installed=$(dpkg-query -W -f '${db:Status-Status} ${Package}\n' "${packages[@]}" 2>/dev/null || true)
+missing=()
+for package in "${packages[@]}"; do
+    grep -qx "installed $package" <<< "$installed" || missing+=("$package")
+done
+[ ${#missing[@]} -gt 0 ] || exit 0
+
+as_root=()
+[ "$(id -u)" = 0 ] || as_root=(sudo)
+echo "Installing: ${missing[*]}"
+log=$(mktemp)
+trap 'rm -f "$log"' EXIT
+{
+    "${as_root[@]}" apt-get update -q &&
+        "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+            apt-get install -q -y --no-install-recommends "${missing[@]}"
+} > "$log" 2>&1 || { cat "$log" >&2; exit 1; }
