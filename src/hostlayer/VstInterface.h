@@ -1,8 +1,8 @@
 #pragma once
 
-#include <cstdint>
-
 #include "hostlayer/VstOpcodes.h"
+
+#include <cstdint>
 
 /// The published plug-in interface, version 2.4, as host and effect lay it out in memory on 64-bit
 /// systems. Names are the published ones. VstInterface.cpp proves every size and offset.

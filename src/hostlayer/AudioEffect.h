@@ -1,0 +1,98 @@
+#pragma once
+
+#include "hostlayer/AEffEditor.h"
+#include "hostlayer/VstInterface.h"
+
+#include <cstdint>
+
+/// The published base class of every effect: owns the AEffect record, receives the host's calls and
+/// turns them into virtual operations. What a subclass leaves alone gives the published answer.
+///
+/// The host is trusted: indices, pointers and lengths are not checked. Parameters, programs and
+/// settings come on [any thread]; several hosts send them on two at once, beside the audio thread.
+class AudioEffect {
+public:
+    /// 44100 Hz, blocks of 1024, program 0, processReplacing; usable as it stands, since hosts ask
+    /// things before effOpen.
+    AudioEffect(audioMasterCallback host, int programs, int parameters);
+    virtual ~AudioEffect();
+    AudioEffect(const AudioEffect &) = delete;
+    AudioEffect &operator=(const AudioEffect &) = delete;
+
+    /// The record for the host. Lives as long as the effect.
+    AEffect *getAeffect() { return &cEffect; }
+
+    /// @return the published result of `opcode`; 0 for one that is not known, with nothing touched.
+    virtual std::intptr_t dispatcher(int opcode, int index, std::intptr_t value, void *ptr,
+                                     float opt);
+
+    virtual void open() {}
+    virtual void close() {}    ///< the host's last call; the effect is deleted behind it
+    virtual void suspend() {}  ///< mains off; may come twice, or first
+    virtual void resume() {}   ///< mains on; may come twice
+
+    /// [audio thread] The deprecated accumulating entry.
+    virtual void process(float **inputs, float **outputs, int sampleFrames);
+    /// [audio thread] Overwrites the outputs, which may be the input buffers.
+    virtual void processReplacing(float **inputs, float **outputs, int sampleFrames) = 0;
+    /// [audio thread] As above; called only after canDoubleReplacing.
+    virtual void processDoubleReplacing(double **inputs, double **outputs, int sampleFrames);
+
+    /// @param value  0 to 1. Some hosts call both on the audio thread.
+    virtual void setParameter(int /*index*/, float /*value*/) {}
+    virtual float getParameter(int /*index*/) { return 0.0f; }
+    /// For changes that the editor makes: sets the parameter, then tells the host.
+    virtual void setParameterAutomated(int index, float value);
+    virtual bool canParameterBeAutomated(int /*index*/) { return true; }
+
+    virtual void setProgram(int program) { curProgram = program; }
+    virtual int getProgram() { return curProgram; }
+    virtual void setProgramName(char * /*name*/) {}
+    virtual void getProgramName(char *name) { *name = '\0'; }  ///< kVstMaxProgNameLen
+
+    virtual void getParameterLabel(int /*index*/, char *label) { *label = '\0'; }
+    virtual void getParameterDisplay(int /*index*/, char *text) { *text = '\0'; }
+    virtual void getParameterName(int /*index*/, char *text) { *text = '\0'; }
+
+    /// @param data      receives memory that stays the effect's.
+    /// @param isPreset  the current program alone, else the whole bank.
+    /// @return bytes, 0 if there is no chunk.
+    virtual int getChunk(void ** /*data*/, bool /*isPreset*/) { return 0; }
+    /// @return not 0 if the data were taken.
+    virtual int setChunk(void * /*data*/, int /*byteSize*/, bool /*isPreset*/) { return 0; }
+
+    virtual void setSampleRate(float rate) { sampleRate = rate; }  ///< Hz
+    virtual void setBlockSize(int frames) { blockSize = frames; }  ///< no block is longer
+    float getSampleRate() const { return sampleRate; }
+    int getBlockSize() const { return blockSize; }
+
+    /// Lets the host know by effFlagsHasEditor, and deletes the editor with the effect. An editor
+    /// that was set before is the caller's again. Null for none.
+    void setEditor(AEffEditor *newEditor);
+    AEffEditor *getEditor() const { return editor; }
+
+    void setNumInputs(int inputs) { cEffect.numInputs = inputs; }
+    void setNumOutputs(int outputs) { cEffect.numOutputs = outputs; }
+    void setUniqueID(std::int32_t id) { cEffect.uniqueID = id; }
+    void setInitialDelay(int frames) { cEffect.initialDelay = frames; }  ///< then ioChanged()
+    void canProcessReplacing(bool state = true) { setFlag(effFlagsCanReplacing, state); }
+    void canDoubleReplacing(bool state = true) { setFlag(effFlagsCanDoubleReplacing, state); }
+    void programsAreChunks(bool state = true) { setFlag(effFlagsProgramChunks, state); }
+
+    int getMasterVersion() { return static_cast<int>(askHost(audioMasterVersion)); }
+    int getCurrentUniqueId() { return static_cast<int>(askHost(audioMasterCurrentId)); }
+    void masterIdle() { askHost(audioMasterIdle); }
+
+protected:
+    /// @return the host's answer, 0 if there is no host.
+    std::intptr_t askHost(AudioMasterOpcode opcode, int index = 0, std::intptr_t value = 0,
+                          void *ptr = nullptr, float opt = 0.0f);
+    void setFlag(VstAEffectFlags flag, bool state);
+
+    audioMasterCallback audioMaster;
+    AEffEditor *editor = nullptr;  // owned
+    float sampleRate = 44100.0f;   // Hz
+    int blockSize = 1024;          // frames
+    int curProgram = 0;
+    AEffect cEffect{};
+};

@@ -1,0 +1,120 @@
+#pragma once
+
+#include "hostlayer/VstInterface.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <cstring>
+#include <map>
+#include <mutex>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+/// A call that an effect made to its host.
+struct SHostCall {
+    AEffect *effect;
+    std::int32_t opcode;
+    std::int32_t index;
+    std::intptr_t value;
+    float opt;
+    std::string text;  // the word of audioMasterCanDo, or the text buffer as it came in
+};
+
+/// A host to hand to an effect: answers as it is told to, and logs every call. One at a time, since
+/// a host is a plain function to the effect. Set the answers while no effect is calling; the log
+/// may be written from several threads.
+class FakeHost {
+public:
+    FakeHost() {
+        EXPECT_EQ(s_current, nullptr) << "one fake host at a time";
+        s_current = this;
+    }
+    ~FakeHost() { s_current = nullptr; }
+    FakeHost(const FakeHost &) = delete;
+    FakeHost &operator=(const FakeHost &) = delete;
+
+    /// Give this to the effect's entry point or constructor.
+    static std::intptr_t callback(AEffect *effect, std::int32_t opcode, std::int32_t index,
+                                  std::intptr_t value, void *ptr, float opt) {
+        return s_current->answer({effect, opcode, index, value, opt, {}}, ptr);
+    }
+
+    std::map<std::int32_t, std::intptr_t> answers{{audioMasterVersion, 2400}};  // others are 0
+    std::map<std::string, std::intptr_t> canDo;  // words that are not here are 0
+    std::set<std::int32_t> unconnectedInputs;
+    std::optional<VstTimeInfo> time;     // without it the host keeps no time
+    std::optional<std::string> product;  // without it the effect's buffer is left alone; written
+    std::optional<std::string> vendor;   // without a terminator, as a careless host would
+    bool logging = true;                 // off where a test counts allocations
+
+    std::vector<SHostCall> calls() const {
+        const std::lock_guard lock(m_mutex);
+        return m_calls;
+    }
+    std::vector<SHostCall> calls(std::int32_t opcode) const {
+        std::vector<SHostCall> found = calls();
+        std::erase_if(found, [=](const SHostCall &call) { return call.opcode != opcode; });
+        return found;
+    }
+    void forgetCalls() {
+        const std::lock_guard lock(m_mutex);
+        m_calls.clear();
+    }
+
+private:
+    std::intptr_t answer(SHostCall call, void *ptr) {
+        char *text = static_cast<char *>(ptr);
+        if (logging) {
+            if (call.opcode == audioMasterCanDo)
+                call.text = text;
+            else if (isTextQuestion(call.opcode))
+                call.text.assign(text, kVstMaxVendorStrLen);
+            const std::lock_guard lock(m_mutex);
+            m_calls.push_back(call);
+        }
+        switch (call.opcode) {
+        case audioMasterCanDo:
+            return wordAnswer(text);
+        case audioMasterPinConnected:
+            return unconnectedInputs.contains(call.index) ? 1 : 0;
+        case audioMasterGetTime:
+            return time ? reinterpret_cast<std::intptr_t>(&*time) : 0;
+        case audioMasterGetProductString:
+            return write(product, text);
+        case audioMasterGetVendorString:
+            return write(vendor, text);
+        default:
+            return fixedAnswer(call.opcode);
+        }
+    }
+
+    static bool isTextQuestion(std::int32_t opcode) {
+        return opcode == audioMasterGetProductString || opcode == audioMasterGetVendorString;
+    }
+
+    std::intptr_t fixedAnswer(std::int32_t opcode) const {
+        const auto found = answers.find(opcode);
+        return found != answers.end() ? found->second : 0;
+    }
+
+    std::intptr_t wordAnswer(const char *word) const {
+        const auto found = canDo.find(word);
+        return found != canDo.end() ? found->second : 0;
+    }
+
+    static std::intptr_t write(const std::optional<std::string> &answer, char *text) {
+        if (!answer)
+            return 0;
+        std::memcpy(text, answer->data(), answer->size());
+        return 1;
+    }
+
+    static inline FakeHost *s_current = nullptr;
+
+    mutable std::mutex m_mutex;
+    std::vector<SHostCall> m_calls;
+};
