@@ -1,0 +1,64 @@
+#pragma once
+
+#include "foundation/SInstanceCounts.h"
+
+#include <typeinfo>
+
+namespace Tessitor::Basics {
+
+class CClassManager;
+
+/// The run-time record of a class: its name, its parent's name and the count of its instances. A
+/// record registers itself with the one manager, which the first of them makes, and withdraws when
+/// it is destroyed. Names are cut to 127 bytes; a null name leaves what was there.
+///
+/// Every class of the library owns one record, of the kind TClassRecord.h describes. Nothing here
+/// is for two threads at once.
+class CClass {
+public:
+    CClass();  ///< nameless; not registered, though the manager is made
+    explicit CClass(const char *className);
+    CClass(const char *className, const char *parentClassName);
+    CClass(const CClass &other);  ///< takes the name only
+    /// The record of an instantiated template, as templateClassName names it.
+    /// @param templateName  a literal such as "TPointerDeleter<TypeName>".
+    CClass(const char *templateName, const std::type_info &argument);
+    CClass(const char *templateName, const std::type_info &argument, const char *parentClassName);
+    CClass(const char *templateName, const std::type_info &argument, const char *parentTemplateName,
+           const std::type_info &parentArgument);
+    virtual ~CClass();
+
+    CClass &operator=(const CClass &other);  ///< takes the name only
+    void setClassName(const char *className);
+
+    const char *getClassName() const { return m_className; }
+    std::uint32_t getInstanceCount() const { return m_counts->instances; }
+    std::uint32_t getTotalCount() const { return m_counts->total; }
+
+    void incrementInstanceCount() { m_counts->increment(); }
+    void decrementInstanceCount() { m_counts->decrement(); }
+
+    bool operator==(const CClass &other) const;  ///< compares the names
+    bool operator==(const char *className) const;
+
+    /// Whether the class is the target or descends from it. Goes by names and along the registered
+    /// records: a parent whose name no record bears ends the walk.
+    bool isTypeOf(const CClass &target) const;
+
+protected:
+    /// Counts in `counts` from now on, which must outlive the record.
+    void countIn(SInstanceCounts &counts) { m_counts = &counts; }
+
+private:
+    static void makeManager();
+    void enrol();
+
+    static CClassManager *s_manager;
+
+    char m_className[128] = "UndefinedClass";
+    char m_parentClassName[128] = "UndefinedParent";
+    SInstanceCounts m_ownCounts;
+    SInstanceCounts *m_counts = &m_ownCounts;
+};
+
+}  // namespace Tessitor::Basics

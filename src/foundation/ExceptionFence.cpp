@@ -1,0 +1,31 @@
+#include "foundation/ExceptionFence.h"
+
+#include "foundation/CException.h"
+
+namespace Tessitor::Exceptions {
+
+namespace {
+
+Basics::CString reasonBelow(const char *lead, const CException &caught) {
+    Basics::CString reason(lead);
+    reason.appendString(caught.getErrorReason());
+    reason.appendString("\n\n");
+    reason.appendString(caught.getFunctionName());
+    return reason;
+}
+
+}  // namespace
+
+void rethrowThrough(const SFence &fence) {
+    try {
+        throw;
+    } catch (const CException &thrown) {
+        // Taken by value, as everywhere: the class record counts the copy's end.
+        const CException caught(thrown);
+        throw CException(reasonBelow(fence.lead, caught), fence.function, true);
+    } catch (...) {
+        throw CException(fence.unknown, fence.function, true);
+    }
+}
+
+}  // namespace Tessitor::Exceptions

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstdint>
+
+namespace Tessitor::Basics {
+
+class CClass;
+
+/// The face of every object of the library. Whoever keeps an object calls reference, and
+/// dereference when done with it. Counts are plain integers: one object is never referenced or
+/// released on two threads at once.
+class ICountedObject {
+public:
+    virtual ~ICountedObject() = default;
+
+    virtual void reference() = 0;
+    /// Destroys the object when its count falls below 1, so also when nobody ever referenced it.
+    virtual void dereference() = 0;
+    virtual std::int32_t getReferenceCount() const = 0;
+
+    /// Writes a text about the object, cut to fit and always terminated; the rest is zeroed.
+    /// @param array  `size` bytes; null, or a size below 1, is ignored.
+    virtual void getObjectDescription(char *array, long size) const = 0;
+
+    /// @return the one static record of the object's class.
+    virtual CClass &getClass() const = 0;
+};
+
+}  // namespace Tessitor::Basics

@@ -1,0 +1,101 @@
+#include "foundation/CCountedObject.h"
+
+#include "foundation/ObjectSamples.h"
+
+#include <gtest/gtest.h>
+
+using Tessitor::Basics::CCountedObject;
+
+namespace {
+
+TEST(CCountedObject, BeginsAtZero) {
+    EXPECT_EQ(CCountedObject().getReferenceCount(), 0);
+}
+
+TEST(CCountedObject, LivesUntilTheLastReferenceIsGivenBack) {
+    bool destroyed = false;
+    auto *object = new CWatchedObject(destroyed);
+    object->reference();
+    object->reference();
+    EXPECT_EQ(object->getReferenceCount(), 2);
+    object->dereference();
+    EXPECT_FALSE(destroyed);
+    object->dereference();
+    EXPECT_TRUE(destroyed);
+}
+
+TEST(CCountedObject, DiesWhenDereferencedAtZero) {
+    bool destroyed = false;
+    (new CWatchedObject(destroyed))->dereference();
+    EXPECT_TRUE(destroyed);
+}
+
+TEST(CCountedObject, CountsItselfInItsRecord) {
+    const auto &record = CCountedObject().getClass();
+    const auto instances = record.getInstanceCount(), total = record.getTotalCount();
+    {
+        const CCountedObject first, second;
+        EXPECT_EQ(record.getInstanceCount(), instances + 2);
+    }
+    EXPECT_EQ(record.getInstanceCount(), instances);
+    EXPECT_EQ(record.getTotalCount(), total + 2);
+}
+
+TEST(CCountedObject, ADerivedObjectCountsInEveryRecordOfItsChain) {
+    bool destroyed = false;
+    const CWatchedObject witness(destroyed);
+    const CCountedObject base;
+    const auto derivedCount = witness.getClass().getInstanceCount();
+    const auto baseCount = base.getClass().getInstanceCount();
+    const CWatchedObject another(destroyed);
+    EXPECT_EQ(witness.getClass().getInstanceCount(), derivedCount + 1);
+    EXPECT_EQ(base.getClass().getInstanceCount(), baseCount + 1);
+}
+
+TEST(CCountedObject, ACopyTakesTheCountAndDrivesTheRecordDown) {
+    CCountedObject original;
+    original.reference();
+    original.reference();
+    const auto &record = original.getClass();
+    const auto instances = record.getInstanceCount(), total = record.getTotalCount();
+    {
+        const CCountedObject copy(original);
+        EXPECT_EQ(copy.getReferenceCount(), 2);
+        EXPECT_EQ(record.getInstanceCount(), instances);
+    }
+    EXPECT_EQ(record.getInstanceCount(), instances - 1);
+    EXPECT_EQ(record.getTotalCount(), total);
+    original.getClass().incrementInstanceCount();  // undoes the asymmetry for the next test
+}
+
+TEST(CCountedObject, AssignmentLeavesEachItsOwnCount) {
+    CCountedObject left, right;
+    right.reference();
+    left = right;
+    EXPECT_EQ(left.getReferenceCount(), 0);
+}
+
+TEST(CCountedObject, DescriptionTellsTheCountWithoutClosingBracket) {
+    CCountedObject object;
+    object.reference();
+    char text[64];
+    object.getObjectDescription(text, sizeof text);
+    EXPECT_STREQ(text, "[CCounted Object Base Reference Count = 1");
+}
+
+TEST(CCountedObject, DescriptionIsCutToTheBufferAndTerminated) {
+    char text[10] = "xxxxxxxxx";
+    CCountedObject().getObjectDescription(text, 9);
+    EXPECT_STREQ(text, "[CCounte");
+    EXPECT_EQ(text[9], '\0');
+}
+
+TEST(CCountedObject, DescriptionNeedsABuffer) {
+    char text[] = "kept";
+    CCountedObject().getObjectDescription(nullptr, 10);
+    CCountedObject().getObjectDescription(text, 0);
+    CCountedObject().getObjectDescription(text, -1);
+    EXPECT_STREQ(text, "kept");
+}
+
+}  // namespace
