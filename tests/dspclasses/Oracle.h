@@ -137,18 +137,11 @@ private:
         TStereo<Sample> plainIn = moduleIn;
         // Different fillings, so that a sample that nobody writes differs too.
         TStereo<Sample> moduleOut(offset + length, 77), plainOut(offset + length, 99);
-        run(module, moduleIn, moduleOut, length, offset);
-        run(plain, plainIn, plainOut, length, offset);
+        renderPart(module, moduleIn, moduleOut, offset, length);
+        renderPart(plain, plainIn, plainOut, offset, length);
 
         const std::string difference = compare(moduleOut, plainOut, "output", offset, start);
         return difference.empty() ? compare(moduleIn, plainIn, "input", offset, start) : difference;
-    }
-
-    template <typename Sample, typename Module>
-    static void run(Module &module, TStereo<Sample> &in, TStereo<Sample> &out, int length,
-                    int offset) {
-        std::array<Sample *, 2> inputs = in.pointers(offset), outputs = out.pointers(offset);
-        process(module, inputs.data(), outputs.data(), length);
     }
 
     template <typename Sample>

@@ -187,13 +187,19 @@ void process(Module &module, double **in, double **out, int frames) {
     module.processDoubleReplacing(in, out, frames);
 }
 
+/// Runs the frames from `start` on, out of one signal into the other.
+template <typename Module, typename Sample>
+void renderPart(Module &module, TStereo<Sample> &input, TStereo<Sample> &output, int start,
+                int frames) {
+    std::array<Sample *, 2> in = input.pointers(start), out = output.pointers(start);
+    process(module, in.data(), out.data(), frames);
+}
+
 /// @return the output of the whole input, taken in blocks of blockLength and a rest.
 template <typename Module, typename Sample>
 TStereo<Sample> render(Module &module, TStereo<Sample> input, int blockLength) {
     TStereo<Sample> output(input.frames());
-    for (int done = 0; done < input.frames(); done += blockLength) {
-        std::array<Sample *, 2> in = input.pointers(done), out = output.pointers(done);
-        process(module, in.data(), out.data(), std::min(blockLength, input.frames() - done));
-    }
+    for (int done = 0; done < input.frames(); done += blockLength)
+        renderPart(module, input, output, done, std::min(blockLength, input.frames() - done));
     return output;
 }

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstdint>
+#include <cstring>
+
+/// The denormal tests as the plain readings make them: the exponent bits, masked out.
+
+inline bool exponentIsZero(float value) {
+    std::uint32_t bits;
+    std::memcpy(&bits, &value, sizeof bits);
+    return (bits & 0x7f800000u) == 0;
+}
+
+inline bool exponentIsZero(double value) {
+    std::uint64_t bits;
+    std::memcpy(&bits, &value, sizeof bits);
+    return (bits & 0x7ff0000000000000u) == 0;
+}
