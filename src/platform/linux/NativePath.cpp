@@ -1,0 +1,3 @@
+#include "platform/NativePath.h"
+
+const char nativePathSeparator[2] = "/";

@@ -1,0 +1,37 @@
+#include "platform/NativeShell.h"
+
+#include <cerrno>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+int waitFor(pid_t process) {
+    int status = 0;
+    while (waitpid(process, &status, 0) < 0) {
+        if (errno == ECHILD)  // the host reaps every child itself, and saw the status
+            return 0;
+        if (errno != EINTR)
+            return -1;
+    }
+    return status;
+}
+
+}  // namespace
+
+bool openNativeDocument(const std::string &document) {
+    // The shell ends at once and is waited for. What it started is no child of the host, which
+    // would otherwise keep its zombie, and has none of the host's files open.
+    const char *const arguments[] = {
+        "sh", "-c", R"(xdg-open "$1" >/dev/null 2>&1 &)", "sh", document.c_str(), nullptr};
+    posix_spawn_file_actions_t actions;
+    if (posix_spawn_file_actions_init(&actions) != 0)
+        return false;
+    posix_spawn_file_actions_addclosefrom_np(&actions, STDERR_FILENO + 1);
+    pid_t shell = 0;
+    const int failed = posix_spawn(&shell, "/bin/sh", &actions, nullptr,
+                                   const_cast<char *const *>(arguments), environ);
+    posix_spawn_file_actions_destroy(&actions);
+    return failed == 0 && waitFor(shell) == 0;
+}
