@@ -1,0 +1,189 @@
+#include "foundation/CSystemString.h"
+
+#include "foundation/CStringTokeniser.h"
+#include "platform/NativePath.h"
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace Tessitor::Basics {
+
+namespace {
+
+char separator() {
+    return nativePathSeparator[0];
+}
+
+}  // namespace
+
+TClassRecord<CSystemString> CSystemString::s_class("CSystemString", "CString");
+
+CSystemString::CSystemString(const char *text) : CString(text) {
+    s_class.incrementInstanceCount();
+}
+
+CSystemString::CSystemString(const CString &text) : CString(text) {
+    s_class.incrementInstanceCount();
+}
+
+CSystemString::CSystemString(const CSystemString &other) : CString(other) {
+    s_class.incrementInstanceCount();
+}
+
+CSystemString &CSystemString::operator=(const char *text) {
+    CString::operator=(text);
+    return *this;
+}
+
+CSystemString &CSystemString::operator+=(const char *text) {
+    const CString added(text);
+    appendSeparator();
+    appendString(added);
+    return *this;
+}
+
+CSystemString &CSystemString::operator+=(const CString &other) {
+    return *this += other.getString();
+}
+
+CSystemString &CSystemString::operator=(const CSystemString &other) {
+    if (&other != this)
+        setString(other);
+    return *this;
+}
+
+bool CSystemString::operator==(const CSystemString &other) const {
+    return equals(other);
+}
+
+bool CSystemString::operator!=(const CSystemString &other) const {
+    return !(*this == other);
+}
+
+bool CSystemString::hasExtension(const CString &extension) const {
+    return hasExtension(extension.getString());
+}
+
+bool CSystemString::hasExtension(const char *extension) const {
+    const std::string_view wanted(extension);
+    const std::string_view text(getString(), static_cast<std::size_t>(getNumberOfCharacters()) - 1);
+    return wanted.size() > text.size() || text.ends_with(wanted);
+}
+
+bool CSystemString::hasExtension() const {
+    return findBackwards('.') > 0;
+}
+
+void CSystemString::setNewExtension(const CString &extension, bool removeOld) {
+    setNewExtension(extension.getString(), removeOld);
+}
+
+void CSystemString::setNewExtension(const char *extension, bool removeOld) {
+    const CString added(extension);
+    if (removeOld)
+        removeExtension();
+    appendString(".");
+    appendString(added);
+}
+
+void CSystemString::removeExtension() {
+    const std::int32_t dot = findBackwards('.');
+    if (dot > 0)
+        terminateAt(dot);
+}
+
+bool CSystemString::hasNoExtension() const {
+    return !hasExtension();
+}
+
+void CSystemString::removeFileName() {
+    const std::int32_t last = findBackwards(separator());
+    if (last != -1)
+        setString(firstCharacters(last + 1));
+}
+
+CString CSystemString::getPath() const {
+    if (hasNoExtension())
+        return *this;
+    return firstCharacters(findBackwards(separator()) + 1);
+}
+
+void CSystemString::appendSeparator() {
+    appendString(nativePathSeparator);
+}
+
+void CSystemString::appendPath(const CString &path) {
+    const CString added(path);
+    if (characterAt(getNumberOfCharacters() - 2) != separator())
+        appendSeparator();
+    appendString(added);
+}
+
+CString CSystemString::getDrive(bool asPath) const {
+    return firstCharacters(asPath ? findForward(separator()) + 1 : 1);
+}
+
+CString CSystemString::getExtension() const {
+    const std::int32_t dot = findBackwards('.');
+    return dot == -1 ? CString() : charactersFrom(dot);
+}
+
+CString CSystemString::getFileName() const {
+    const std::int32_t last = findBackwards(separator());
+    return last == -1 ? CString() : charactersFrom(last + 1);
+}
+
+std::int32_t CSystemString::getNumberOfPathSections() const {
+    return CStringTokeniser(*this, separator()).countTokens();
+}
+
+CString *CSystemString::getPathSection(long index) const {
+    if (index < 1 && index >= getNumberOfPathSections())
+        return nullptr;
+
+    CStringTokeniser sections(*this, separator());
+    CString section;
+    for (long i = 0; i < index; ++i) {
+        if (!sections.getNextToken(section))
+            return nullptr;
+    }
+    if (!sections.getNextToken(section))
+        return nullptr;
+    // Kept: only the first section is given its separator.
+    if (index == 0)
+        section.appendString(nativePathSeparator);
+    return new CString(section);
+}
+
+CString CSystemString::getLastPathSection() const {
+    const std::unique_ptr<CString> section(getPathSection(getNumberOfPathSections() - 1));
+    return section == nullptr ? CString() : *section;
+}
+
+void CSystemString::removeLastPathSection() {
+    const std::int32_t last = findBackwards(separator());
+    if (last >= 2)
+        setString(firstCharacters(last));
+}
+
+void CSystemString::removeFirstPathSection() {
+    const std::int32_t first = findForward(separator());
+    if (first != -1)
+        setString(charactersFrom(first + 1));
+}
+
+void CSystemString::convertSlashes() {
+    replaceCharWithChar('/', separator());
+}
+
+// getSubString() takes no single character.
+CString CSystemString::firstCharacters(std::int32_t number) const {
+    return std::string(getString(), static_cast<std::size_t>(number)).c_str();
+}
+
+CString CSystemString::charactersFrom(std::int32_t index) const {
+    return getSubString(index, getNumberOfCharacters() - 1);
+}
+
+}  // namespace Tessitor::Basics
