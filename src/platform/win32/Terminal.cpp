@@ -1,0 +1,8 @@
+#include "platform/Terminal.h"
+
+#include <cstdio>
+#include <io.h>
+
+bool isErrorStreamTerminal() {
+    return _isatty(_fileno(stderr)) != 0;
+}
