@@ -1,0 +1,56 @@
+#include "hostlayer/CHostCanDo.h"
+
+#include "foundation/CException.h"
+
+namespace Tessitor::Vst {
+
+namespace {
+
+constexpr std::array<const char *, numberOfHostCapabilities> words{"sendVstEvents",
+                                                                   "sendVstMidiEvent",
+                                                                   "sendVstTimeInfo",
+                                                                   "receiveVstEvents",
+                                                                   "receiveVstMidiEvent",
+                                                                   "receiveVstTimeInfo",
+                                                                   "reportConnectionChanges",
+                                                                   "acceptIOChanges",
+                                                                   "sizeWindow",
+                                                                   "asyncProcessing",
+                                                                   "offline",
+                                                                   "supplyIdle",
+                                                                   "supportShell",
+                                                                   "editFile",
+                                                                   "closeFileSelector",
+                                                                   "startStopProcess"};
+
+/// Room for a host that writes more than the published 64, and zeroed for one that writes nothing.
+using HostText = std::array<char, 256>;
+
+}  // namespace
+
+Basics::TClassRecord<CHostCanDo> CHostCanDo::s_class("CHostCanDo", "CCountedObject");
+
+void CHostCanDo::setFromAudioEffectX(AudioEffectX *effect) {
+    if (effect == nullptr)
+        throw Exceptions::CException("Effect is NULL",
+                                     "CHostCanDo::setFromAudioEffectX(AudioEffectX *)", true);
+    // Kept: any answer but 0 counts, so a host's -1 is a yes.
+    for (std::size_t i = 0; i < words.size(); ++i)
+        m_capabilities[i] = effect->canHostDo(words[i]) != 0;
+
+    HostText product{}, vendor{};
+    effect->getHostProductString(product.data());
+    effect->getHostVendorString(vendor.data());
+    m_product.setString(product.data());
+    m_vendor.setString(vendor.data());
+    m_version = effect->getHostVendorVersion();
+}
+
+void CHostCanDo::clear() {
+    m_capabilities.fill(false);
+    m_product.setString("");
+    m_vendor.setString("");
+    m_version = 0;
+}
+
+}  // namespace Tessitor::Vst

@@ -1,0 +1,60 @@
+#include "hostlayer/CMidiEvent.h"
+
+#include "foundation/CopyText.h"
+
+#include <cstdio>
+
+namespace Tessitor::Midi {
+
+Basics::TClassRecord<CMidiEvent> CMidiEvent::s_class("CMidiEvent", "CCountedObject");
+
+CMidiEvent::CMidiEvent(const CMidiEvent &other)
+    : CCountedObject(other), m_status(other.m_status), m_value(other.m_value),
+      m_subValue(other.m_subValue), m_channel(other.m_channel), m_delta(other.m_delta),
+      m_pitchBend(other.m_pitchBend) {
+    s_class.incrementInstanceCount();
+}
+
+bool CMidiEvent::isNoteOff() const {
+    return m_status == midiNoteOff || (m_status == midiNoteOn && m_subValue == 0);
+}
+
+void CMidiEvent::getObjectDescription(char *array, long size) const {
+    const long status = m_status, value = m_value, subValue = m_subValue, channel = m_channel,
+               delta = m_delta;
+    char text[256];
+    if (isNoteOff())
+        std::snprintf(
+            text, sizeof text,
+            "[Note Off       : Note(%03li), Velocity(%03li), Channel(%03li), Delta(%03li)]", value,
+            subValue, channel, delta);
+    else if (isNoteOn())
+        std::snprintf(
+            text, sizeof text,
+            "[Note On        : Note(%03li), Velocity(%03li), Channel(%03li), Delta(%03li)]", value,
+            subValue, channel, delta);
+    else if (isController())
+        std::snprintf(text, sizeof text,
+                      "[Control Change : CC(%03li), Value(%03li), Channel(%03li), Delta(%03li)]",
+                      value, subValue, channel, delta);
+    else
+        std::snprintf(text, sizeof text,
+                      "[Other Message  : Status(%03li), Value(%03li), SubValue(%03li), "
+                      "Channel(%03li), Delta(%03li)]",
+                      status, value, subValue, channel, delta);
+    Basics::copyText(array, size, text);
+}
+
+int CMidiEvent::compare(const CMidiEvent *first, const CMidiEvent *second) {
+    if (first == second)
+        return 0;
+    if (first == nullptr)
+        return 1;
+    if (second == nullptr)
+        return -1;
+    if (*first == *second)
+        return 0;
+    return *first < *second ? -1 : 1;
+}
+
+}  // namespace Tessitor::Midi

@@ -1,0 +1,27 @@
+#include "hostlayer/CTimeSignature.h"
+
+namespace Tessitor::Music {
+
+Basics::TClassRecord<CTimeSignature> CTimeSignature::s_class("CTimeSignature", "CCountedObject");
+
+CTimeSignature::CTimeSignature(std::int32_t numerator, std::int32_t denominator)
+    : m_numerator(numerator), m_denominator(denominator) {
+    s_class.incrementInstanceCount();
+}
+
+CTimeSignature::CTimeSignature(const CTimeSignature &other)
+    : CCountedObject(other), m_numerator(other.m_numerator), m_denominator(other.m_denominator) {
+    s_class.incrementInstanceCount();
+}
+
+void CTimeSignature::setTimeSignature(std::int32_t numerator, std::int32_t denominator) {
+    m_numerator = numerator;
+    m_denominator = denominator;
+}
+
+double CTimeSignature::getBeats() const {
+    // Kept: the division is one of whole numbers.
+    return static_cast<double>(m_numerator / m_denominator);
+}
+
+}  // namespace Tessitor::Music

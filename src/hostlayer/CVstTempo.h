@@ -1,0 +1,45 @@
+#pragma once
+
+#include "hostlayer/AudioEffectX.h"
+#include "hostlayer/STempoInformation.h"
+
+#include <memory>
+
+namespace Tessitor::Vst {
+
+/// Reads the host's transport, once per block. [audio thread]
+class CVstTempo : public Basics::CCountedObject {
+public:
+    CVstTempo();  ///< without an effect; set one before reading
+    /// @throws CException if the effect is null.
+    explicit CVstTempo(AudioEffectX *effect);
+    CVstTempo(const CVstTempo &) = delete;
+    CVstTempo &operator=(const CVstTempo &) = delete;
+    ~CVstTempo() override { s_class.decrementInstanceCount(); }
+    Basics::CClass &getClass() const override { return s_class; }
+
+    void setEffect(AudioEffectX *effect) { m_theEffect = effect; }  ///< outlives the reader
+
+    /// Asks the host and renews the record; a host that gives no time leaves it as it stands.
+    /// @param mask  VstTimeInfoFlags to ask for; what the host gives beyond them is read too.
+    /// @return isValid()
+    /// @throws CException without an effect; nothing is allocated otherwise.
+    bool getTempoInformation(int mask);
+
+    bool isValid() const { return m_valid; }  ///< whether the host gave a time when last asked
+    const STempoInformation &getInformation() const { return *m_information; }
+
+private:
+    void readTempo(const VstTimeInfo &time);
+    void readTimeSignature(const VstTimeInfo &time);
+    void readPosition(const VstTimeInfo &time);
+    void countSamplesToNextBar(double sampleRate);
+
+    static Basics::TClassRecord<CVstTempo> s_class;
+
+    AudioEffectX *m_theEffect = nullptr;  // not owned
+    bool m_valid = false;
+    std::unique_ptr<STempoInformation> m_information = std::make_unique<STempoInformation>();
+};
+
+}  // namespace Tessitor::Vst

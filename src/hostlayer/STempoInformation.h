@@ -1,0 +1,26 @@
+#pragma once
+
+#include "hostlayer/CTimeSignature.h"
+
+namespace Tessitor::Vst {
+
+/// What the host last said about tempo and transport. A value without its flag is 0, and 4/4.
+struct STempoInformation {
+    bool tempoValid = false;
+    bool timeSignatureValid = false;
+    bool ppqPositionValid = false;
+    bool barsValid = false;
+    bool samplesToNextBarValid = false;  // never cleared again
+    bool samplesPerBeatValid = false;
+    bool transportChanged = false;
+    bool transportPlaying = false;
+    Music::CTimeSignature timeSignature;
+    double tempo = 120.0;           // beats per minute; 120 until the host gives a time
+    double ppqPosition = 0.0;       // quarter notes
+    double barStartPosition = 0.0;  // quarter notes
+    double samplePosition = 0.0;    // frames
+    std::int32_t samplesToNextBar = 0;
+    std::int32_t samplesPerBeat = 0;
+};
+
+}  // namespace Tessitor::Vst

@@ -1,0 +1,56 @@
+#include "hostlayer/CTimeSignature.h"
+
+#include <gtest/gtest.h>
+
+using Tessitor::Music::CTimeSignature;
+
+TEST(CTimeSignature, IsFourFourUnlessToldOtherwise) {
+    const CTimeSignature signature;
+    EXPECT_EQ(signature.getNumerator(), 4);
+    EXPECT_EQ(signature.getDenominator(), 4);
+}
+
+TEST(CTimeSignature, TakesBothNumbersOrEach) {
+    CTimeSignature signature(7, 8);
+    EXPECT_EQ(signature.getNumerator(), 7);
+    EXPECT_EQ(signature.getDenominator(), 8);
+    signature.setNumerator(5);
+    EXPECT_EQ(signature.getNumerator(), 5);
+    EXPECT_EQ(signature.getDenominator(), 8);
+    signature.setDenominator(16);
+    EXPECT_EQ(signature.getNumerator(), 5);
+    EXPECT_EQ(signature.getDenominator(), 16);
+    signature.setTimeSignature(3, 2);
+    EXPECT_EQ(signature.getNumerator(), 3);
+    EXPECT_EQ(signature.getDenominator(), 2);
+}
+
+TEST(CTimeSignature, CopiesBothNumbers) {
+    const CTimeSignature original(7, 8);
+    const CTimeSignature copy(original);
+    CTimeSignature assigned;
+    assigned = original;
+    EXPECT_EQ(copy.getNumerator(), 7);
+    EXPECT_EQ(copy.getDenominator(), 8);
+    EXPECT_EQ(assigned.getNumerator(), 7);
+    EXPECT_EQ(assigned.getDenominator(), 8);
+}
+
+TEST(CTimeSignature, GivesTheWholePartOfItsBeats) {
+    EXPECT_EQ(CTimeSignature(3, 4).getBeats(), 0.0);
+    EXPECT_EQ(CTimeSignature(4, 4).getBeats(), 1.0);
+    EXPECT_EQ(CTimeSignature(6, 4).getBeats(), 1.0);
+    EXPECT_EQ(CTimeSignature(8, 4).getBeats(), 2.0);
+}
+
+TEST(CTimeSignature, CountsItsInstances) {
+    const CTimeSignature first(3, 4);
+    auto &record = first.getClass();
+    EXPECT_STREQ(record.getClassName(), "CTimeSignature");
+    const auto before = record.getInstanceCount();
+    {
+        const CTimeSignature second, third(first), fourth(6, 8);
+        EXPECT_EQ(record.getInstanceCount(), before + 3);
+    }
+    EXPECT_EQ(record.getInstanceCount(), before);
+}
