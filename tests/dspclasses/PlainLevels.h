@@ -39,6 +39,7 @@ class CPlainMono : public CDSPBase {
 public:
     void setParameter(int, float value) override { mode = static_cast<int>(value * 3.0f); }
     float getParameter(int) override { return static_cast<float>(mode) / 3.0f; }
+    int getMode() const { return mode; }
     void processReplacing(float **in, float **out, int frames) override {
         run(in, out, frames, 0.70710677f);
     }

@@ -1,0 +1,240 @@
+#include "dspclasses/CDSPMultiFX.h"
+
+#include "dspclasses/Assertion.h"
+#include "dspclasses/CDSPBalance.h"
+#include "dspclasses/CDSPGain.h"
+#include "dspclasses/CDSPPan.h"
+#include "dspclasses/CDSPStandIn.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
+#include <string>
+#include <utility>
+
+static constexpr int delaySlot = 16;
+static constexpr int delayTempo = 6;  // a parameter of the delay that has no id
+
+static constexpr std::array<const char *, CChainOrder::slotCount> slotLabels{
+    "InGain",        "MonoType",    "Balance",     "Pan",        "Gain",  "3Band",
+    "Rumble Filter", "HiPass",      "Presence",    "Parametric", "Gate",  "Compressor",
+    "DeEsser",       "Modulator 1", "Modulator 2", "Warmer",     "Delay", "Reverb"};
+
+static CDSPMultiFX::Modules buildModules() {
+    return {
+        std::make_unique<CDSPGain>(),     // 0, fixed head
+        std::make_unique<CDSPMono>(),     // 1, fixed head
+        std::make_unique<CDSPBalance>(),  // 2
+        std::make_unique<CDSPPan>(),      // 3
+        std::make_unique<CDSPGain>(),     // 4
+        std::make_unique<CDSPStandIn>(),  // 5, three-band equaliser
+        std::make_unique<CDSPStandIn>(),  // 6, rumble filter
+        std::make_unique<CDSPStandIn>(),  // 7, high-pass
+        std::make_unique<CDSPStandIn>(),  // 8, presence
+        std::make_unique<CDSPStandIn>(),  // 9, parametric
+        std::make_unique<CDSPStandIn>(),  // 10, gate
+        std::make_unique<CDSPStandIn>(),  // 11, compressor
+        std::make_unique<CDSPStandIn>(),  // 12, de-esser
+        std::make_unique<CDSPStandIn>(),  // 13, modulator 1
+        std::make_unique<CDSPStandIn>(),  // 14, modulator 2
+        std::make_unique<CDSPStandIn>(),  // 15, warmer
+        std::make_unique<CDSPStandIn>(),  // 16, delay
+        std::make_unique<CDSPStandIn>(),  // 17, reverb
+    };
+}
+
+CDSPMultiFX::CDSPMultiFX() : CDSPMultiFX(buildModules()) {}
+
+CDSPMultiFX::CDSPMultiFX(Modules slots) : modules(std::move(slots)) {
+    setTempo(120.0f);
+    outMono = std::make_unique<CDSPMono>();
+    readParameterCache();
+    initOrder();
+}
+
+CDSPMultiFX::~CDSPMultiFX() {
+    // An array would destroy its last element first.
+    for (auto &module : modules)
+        module.reset();
+}
+
+// The run
+
+static void process(CDSPBase &module, float **in, float **out, int frames) {
+    module.processReplacing(in, out, frames);
+}
+
+static void process(CDSPBase &module, double **in, double **out, int frames) {
+    module.processDoubleReplacing(in, out, frames);
+}
+
+void CDSPMultiFX::processReplacing(float **in, float **out, int frames) {
+    floatBuffers.grow(frames);
+    const float *dry = floatBuffers.DryBuf[0];
+    assertAlways(reinterpret_cast<std::uintptr_t>(dry) != 0xcdcdcdcd,
+                 "DryBuf[0]!=(float *)0xcdcdcdcd", "DSPMultiFX", 502);
+    assertAlways(dry != nullptr, "DryBuf[0]!=(float *)0", "DSPMultiFX", 503);
+    run(in, out, frames, floatBuffers);
+}
+
+void CDSPMultiFX::processDoubleReplacing(double **in, double **out, int frames) {
+    doubleBuffers.grow(frames);
+    run(in, out, frames, doubleBuffers);
+}
+
+template <typename Sample>
+void CDSPMultiFX::run(Sample **in, Sample **out, int frames, TStripBuffers<Sample> &buffers) {
+    if (in == nullptr || out == nullptr)
+        return;
+    std::copy_n(in[0], frames, buffers.DryBuf[0]);
+    std::copy_n(in[monoInput ? 0 : 1], frames, buffers.DryBuf[1]);
+
+    Sample **cur = buffers.DryBuf, **alt = buffers.WetBuf;
+    for (int slot = 0; slot >= 0; slot = order.nextOf(slot)) {
+        process(*modules[static_cast<std::size_t>(slot)], cur, alt, frames);
+        std::swap(cur, alt);
+    }
+    if (outMono->getMode() != CDSPMono::kStereo) {
+        process(*outMono, cur, alt, frames);
+        cur = alt;
+    }
+    copyOut(cur, out, frames);
+}
+
+template <typename Sample>
+void CDSPMultiFX::copyOut(Sample *const *from, Sample **out, int frames) const {
+    if (out[1] == nullptr && monoInput) {
+        for (int i = 0; i < frames; ++i)
+            out[0][i] = (from[0][i] + from[1][i]) * Sample(0.5);
+        return;
+    }
+    std::copy_n(from[0], frames, out[0]);
+    std::copy_n(from[1], frames, out[1]);
+}
+
+void CDSPMultiFX::reset() {
+    for (int slot = 0; slot >= 0; slot = order.nextOf(slot))
+        modules[static_cast<std::size_t>(slot)]->reset();
+}
+
+void CDSPMultiFX::resetAllModules() {
+    for (auto &module : modules)
+        module->reset();
+}
+
+void CDSPMultiFX::setTempo(float bpm) {
+    if (bpm == tempo)
+        return;
+    tempo = bpm;
+    modules[delaySlot]->setParameter(delayTempo, bpm);
+}
+
+void CDSPMultiFX::setMonoInput(bool isMono) {
+    monoInput = isMono;
+}
+
+// The running order
+
+void CDSPMultiFX::initOrder() {
+    order.initialise();
+}
+
+SOrderEntry &CDSPMultiFX::orderEntry(int slot) {
+    return order.entry(slot);
+}
+
+void CDSPMultiFX::setOrderEntry(int slot, int prev, int next) {
+    order.entry(slot) = {prev, next};
+}
+
+void CDSPMultiFX::recountFX() {
+    order.recount();
+}
+
+int CDSPMultiFX::getFXCount() const {
+    return order.getCount();
+}
+
+void CDSPMultiFX::appendFX(int slot) {
+    order.append(slot);
+}
+
+void CDSPMultiFX::insertFX(int target, int slot, bool before, bool resetModule) {
+    if (before)
+        order.insertBefore(target, slot);
+    else
+        order.insertAfter(target, slot);
+    if (resetModule)
+        modules[static_cast<std::size_t>(slot)]->reset();
+}
+
+void CDSPMultiFX::replaceFX(int target, int slot) {
+    order.replace(target, slot);
+}
+
+void CDSPMultiFX::removeFX(int slot) {
+    order.remove(slot);
+}
+
+void CDSPMultiFX::moveFXBefore(int target, int slot) {
+    order.moveBefore(target, slot);
+}
+
+void CDSPMultiFX::getFXName(int slot, char *text) const {
+    if (slot < CChainOrder::slotCount)
+        std::strcpy(text, slotLabels[static_cast<std::size_t>(slot)]);
+}
+
+// The parameters
+
+static const SParameter &parameterOf(int id) {
+    return parameterTable[static_cast<std::size_t>(id)];
+}
+
+CDSPBase &CDSPMultiFX::moduleOf(const SParameter &parameter) {
+    if (parameter.slot == kOutMonoSlot)
+        return *outMono;
+    return *modules[static_cast<std::size_t>(parameter.slot)];
+}
+
+void CDSPMultiFX::readParameterCache() {
+    for (int id = 0; id < kStripParameters; ++id) {
+        const SParameter &parameter = parameterOf(id);
+        if (parameter.slot != kNoSlot)
+            paramCache[static_cast<std::size_t>(id)] =
+                moduleOf(parameter).getParameter(parameter.index);
+    }
+}
+
+void CDSPMultiFX::setStripParameter(int id, float value) {
+    TRelaxed<float> &last = paramCache[static_cast<std::size_t>(id)];
+    if (value == last)
+        return;
+    last = value;
+    const SParameter &parameter = parameterOf(id);
+    if (parameter.slot != kNoSlot)
+        moduleOf(parameter).setParameter(parameter.index, parameter.law(value));
+}
+
+float CDSPMultiFX::getStripParameter(int id) const {
+    return id < kStripParameters ? paramCache[static_cast<std::size_t>(id)].load() : 0.0f;
+}
+
+void CDSPMultiFX::getParameterName(int id, char *text) const {
+    if (id < kStripParameters)
+        std::strcpy(text, parameterOf(id).name);
+}
+
+void CDSPMultiFX::getParameterDisplay(int id, char *text) {
+    if (id >= kStripParameters)
+        return;
+    const SParameter &parameter = parameterOf(id);
+    const float value =
+        parameter.slot == kNoSlot ? 0.0f : moduleOf(parameter).getParameter(parameter.index);
+    std::strcpy(text, parameter.text(value).c_str());
+}
+
+void CDSPMultiFX::getParameterLabel(int id, char *text) const {
+    if (id < kStripParameters)
+        std::strcpy(text, parameterOf(id).unit);
+}

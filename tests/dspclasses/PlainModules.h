@@ -1,0 +1,29 @@
+#pragma once
+
+#include "dspclasses/CDSPStandIn.h"
+#include "dspclasses/PlainLevels.h"
+#include "dspclasses/PlainStrip.h"
+
+/// The plain reading of every module of the strip, by slot.
+inline CPlainStrip::Modules makePlainModules() {
+    return {
+        std::make_unique<CPlainGain>(),     // 0, fixed head
+        std::make_unique<CPlainMono>(),     // 1, fixed head
+        std::make_unique<CPlainBalance>(),  // 2
+        std::make_unique<CPlainPan>(),      // 3
+        std::make_unique<CPlainGain>(),     // 4
+        std::make_unique<CDSPStandIn>(),    // 5, three-band equaliser
+        std::make_unique<CDSPStandIn>(),    // 6, rumble filter
+        std::make_unique<CDSPStandIn>(),    // 7, high-pass
+        std::make_unique<CDSPStandIn>(),    // 8, presence
+        std::make_unique<CDSPStandIn>(),    // 9, parametric
+        std::make_unique<CDSPStandIn>(),    // 10, gate
+        std::make_unique<CDSPStandIn>(),    // 11, compressor
+        std::make_unique<CDSPStandIn>(),    // 12, de-esser
+        std::make_unique<CDSPStandIn>(),    // 13, modulator 1
+        std::make_unique<CDSPStandIn>(),    // 14, modulator 2
+        std::make_unique<CDSPStandIn>(),    // 15, warmer
+        std::make_unique<CDSPStandIn>(),    // 16, delay
+        std::make_unique<CDSPStandIn>(),    // 17, reverb
+    };
+}
