@@ -1,6 +1,7 @@
 #include "foundation/CClass.h"
 
 #include "foundation/CClassManager.h"
+#include "foundation/CTextStream.h"
 #include "foundation/CopyText.h"
 #include "foundation/TemplateClassName.h"
 
@@ -85,6 +86,16 @@ bool CClass::isTypeOf(const CClass &target) const {
         }
     }
     return *this == target;
+}
+
+void CClass::destroyClassManager(const char *reportPath) {
+    if (s_manager != nullptr && reportPath != nullptr) {
+        IO::CTextStream report(reportPath, IO::EStreamMode::Write);
+        s_manager->sortClasses();
+        s_manager->writeClassInformation(report);
+    }
+    delete s_manager;
+    s_manager = nullptr;
 }
 
 void CClass::makeManager() {

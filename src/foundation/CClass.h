@@ -45,6 +45,11 @@ public:
     /// records: a parent whose name no record bears ends the walk.
     bool isTypeOf(const CClass &target) const;
 
+    /// Deletes the manager. A record built afterwards makes a new one.
+    /// @param reportPath  file for the report of the classes that still have instances, replaced if
+    ///                    it is there; null for none.
+    static void destroyClassManager(const char *reportPath);
+
 protected:
     /// Counts in `counts` from now on, which must outlive the record.
     void countIn(SInstanceCounts &counts) { m_counts = &counts; }

@@ -1,5 +1,8 @@
 #include "foundation/CClassManager.h"
 
+#include "foundation/CTextStream.h"
+
+#include <cstdio>
 #include <cstring>
 
 namespace Tessitor::Basics {
@@ -42,6 +45,39 @@ CClass *CClassManager::getClassWithName(const char *name) const {
 
 void CClassManager::sortClasses() {
     m_classes->sortSlots(standsBefore);
+}
+
+void CClassManager::writeClassInformation(IO::CTextStream &stream) const {
+    if (!stream.isOpenForWriting())
+        return;
+
+    static constexpr char rule[] = "+--------------------------------------------------------------"
+                                   "---+----------+----------+\n";
+    stream << rule
+           << "| Tessitor class information                                      |          |      "
+              "    |\n"
+           << rule << rule
+           << "| Class Name                                                      | Instance |   "
+              "Total  |\n"
+           << rule;
+
+    // A count that copies have driven below zero prints as the 32-bit number it is.
+    unsigned long long instances = 0, total = 0;
+    char row[1024];
+    for (int i = 0; i < m_classes->getArraySize(); ++i) {
+        const CClass *record = m_classes->elementAtIndex(i);
+        if (record == nullptr || record->getInstanceCount() == 0)
+            continue;
+        std::snprintf(row, sizeof row, "| %63s |%10lu|%10lu|\n", record->getClassName(),
+                      static_cast<unsigned long>(record->getInstanceCount()),
+                      static_cast<unsigned long>(record->getTotalCount()));
+        stream << row;
+        instances += record->getInstanceCount();
+        total += record->getTotalCount();
+    }
+
+    std::snprintf(row, sizeof row, "| %63s |%10llu|%10llu|\n", "", instances, total);
+    stream << rule << row << rule;
 }
 
 }  // namespace Tessitor::Basics

@@ -4,6 +4,10 @@
 
 #include <memory>
 
+namespace Tessitor::IO {
+class CTextStream;
+}
+
 namespace Tessitor::Basics {
 
 /// The list of the class records, none of which it owns. CClass makes and keeps the only one that
@@ -24,6 +28,9 @@ public:
 
     /// Orders the slots by class name as unsigned bytes, the empty ones last.
     void sortClasses();
+    /// Writes the table of the classes that have instances now, with their sums. Does nothing
+    /// unless the stream is open for writing.
+    void writeClassInformation(IO::CTextStream &stream) const;
 
     const Collections::TPointerCollection<CClass> &getClasses() const { return *m_classes; }
 
