@@ -1,0 +1,127 @@
+#include "hostlayer/CVstEffect.h"
+
+#include "foundation/CApplicationInformation.h"
+
+#include <cstring>
+
+namespace Tessitor::Vst {
+
+namespace {
+
+constexpr int numberOfNotes = 128;
+
+bool copyName(char *destination, const Basics::CString &name) {
+    if (destination == nullptr)
+        return false;
+    *destination = '\0';
+    std::strncat(destination, name.getString(), 24);
+    return true;
+}
+
+void copyDefaultProgramName(char *name) {
+    std::strcpy(name, "Default");
+}
+
+// Nine bytes where the published length is eight: hosts keep more room.
+void copyDefaultParameterText(char *text) {
+    std::strcpy(text, "No param");
+}
+
+}  // namespace
+
+Basics::TClassRecord<CVstEffect> CVstEffect::s_class("CVstEffect", "CCountedObject");
+
+CVstEffect::CVstEffect(audioMasterCallback host, int parameters, int programs)
+    : AudioEffectX(host, programs, parameters) {
+    m_hostCanDo.clear();
+    m_hostCanDo.setFromAudioEffectX(this);
+    m_blockSize = getBlockSize();
+    m_sampleRate = getSampleRate();
+    m_tempo.setEffect(this);
+    for (int note = 0; note < numberOfNotes; ++note)
+        m_notes.addElement(new NoteValues);
+    m_midiEvents.setChannel(0);
+    m_criticalSection = new Threading::CCriticalSection;
+    m_criticalSection->reference();
+    s_class.incrementInstanceCount();
+}
+
+CVstEffect::~CVstEffect() {
+    m_criticalSection->dereference();
+    m_notes.clearArray();
+    s_class.decrementInstanceCount();
+}
+
+void CVstEffect::setSampleRate(float rate) {
+    AudioEffectX::setSampleRate(rate);
+    if (rate == m_sampleRate)
+        return;
+    m_sampleRateChanged = true;
+    m_sampleRate = rate;
+}
+
+void CVstEffect::setBlockSize(int frames) {
+    AudioEffectX::setBlockSize(frames);
+    if (frames == m_blockSize)
+        return;
+    m_blockSizeChanged = true;
+    m_blockSize = frames;
+}
+
+void CVstEffect::processReplacing(float ** /*inputs*/, float ** /*outputs*/, int /*sampleFrames*/) {
+    m_midiEvents.clear();
+}
+
+void CVstEffect::processDoubleReplacing(double ** /*inputs*/, double ** /*outputs*/,
+                                        int /*sampleFrames*/) {
+    m_midiEvents.clear();
+}
+
+void CVstEffect::process(float ** /*inputs*/, float ** /*outputs*/, long /*sampleFrames*/) {
+    m_midiEvents.clear();
+}
+
+int CVstEffect::processEvents(VstEvents *events) {
+    m_midiEvents.readEvents(*events);
+    return 1;
+}
+
+bool CVstEffect::getEffectName(char *name) {
+    return copyName(name, Basics::CApplicationInformation::getApplicationName());
+}
+
+bool CVstEffect::getVendorString(char *text) {
+    return copyName(text, Basics::CApplicationInformation::getCompanyName());
+}
+
+bool CVstEffect::getProductString(char *text) {
+    return copyName(text, Basics::CApplicationInformation::getDescription());
+}
+
+// Kept: the name is not taken, and the caller's text becomes the one that stands in for it.
+void CVstEffect::setProgramName(char *name) {
+    copyDefaultProgramName(name);
+}
+
+void CVstEffect::getProgramName(char *name) {
+    copyDefaultProgramName(name);
+}
+
+bool CVstEffect::getProgramNameIndexed(int /*category*/, int /*index*/, char *text) {
+    copyDefaultProgramName(text);
+    return true;
+}
+
+void CVstEffect::getParameterLabel(int /*index*/, char *label) {
+    copyDefaultParameterText(label);
+}
+
+void CVstEffect::getParameterDisplay(int /*index*/, char *text) {
+    copyDefaultParameterText(text);
+}
+
+void CVstEffect::getParameterName(int /*index*/, char *text) {
+    copyDefaultParameterText(text);
+}
+
+}  // namespace Tessitor::Vst
