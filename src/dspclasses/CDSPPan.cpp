@@ -41,17 +41,22 @@ float CDSPPan::getParameter(int /*index*/) {
     return pan;
 }
 
+// A function of its own, since only parameters keep their word that nothing overlaps.
+template <typename Sample>
+static void mix(const Sample *__restrict inL, const Sample *__restrict inR, Sample *__restrict outL,
+                Sample *__restrict outR, int frames, Sample ll, Sample lr, Sample rl, Sample rr) {
+    for (int i = 0; i < frames; ++i) {
+        outL[i] = inL[i] * ll + inR[i] * rl;
+        outR[i] = inL[i] * lr + inR[i] * rr;
+    }
+}
+
 template <typename Sample>
 void CDSPPan::run(const Sample *const *in, Sample *const *out, int frames) const {
-    const Sample *__restrict inL = in[0], *__restrict inR = in[1];
-    Sample *__restrict outL = out[0], *__restrict outR = out[1];
-    forEachGroup(frames, [=, this](int first, int count) {
+    forEachGroup(frames, [&](int first, int count) {
         const Sample ll = leftToLeft.load(), lr = leftToRight.load();
         const Sample rl = rightToLeft.load(), rr = rightToRight.load();
-        for (int i = first; i < first + count; ++i) {
-            outL[i] = inL[i] * ll + inR[i] * rl;
-            outR[i] = inL[i] * lr + inR[i] * rr;
-        }
+        mix(in[0] + first, in[1] + first, out[0] + first, out[1] + first, count, ll, lr, rl, rr);
     });
 }
 

@@ -12,7 +12,7 @@
 
 /// The plain reading of the strip over any eighteen modules: every step of its own, every channel
 /// copied frame by frame. Takes part in an oracle case with parameter ids for indices.
-class CPlainStrip {
+class CPlainStrip : public CDSPBase {
 public:
     using Modules = std::array<std::unique_ptr<CDSPBase>, 18>;
 
@@ -26,24 +26,26 @@ public:
         order[1].prev = 0;
     }
 
-    void setParameter(int id, float value) {
+    void setParameter(int id, float value) override {
         if (value == paramCache[index(id)])
             return;
         paramCache[index(id)] = value;
         if (id <= 61)
             moduleOf(id).setParameter(rowOf(id).index, rowOf(id).law(value));
     }
-    float getParameter(int id) const { return paramCache[index(id)]; }
+    float getParameter(int id) override { return paramCache[index(id)]; }
 
     /// What the module itself holds.
     float getModuleParameter(int id) { return moduleOf(id).getParameter(rowOf(id).index); }
 
-    void processReplacing(float **in, float **out, int frames) { run(in, out, frames, floats); }
-    void processDoubleReplacing(double **in, double **out, int frames) {
+    void processReplacing(float **in, float **out, int frames) override {
+        run(in, out, frames, floats);
+    }
+    void processDoubleReplacing(double **in, double **out, int frames) override {
         run(in, out, frames, doubles);
     }
 
-    void reset() {
+    void reset() override {
         for (int slot = 0; slot >= 0; slot = order[index(slot)].next)
             modules[index(slot)]->reset();
     }
