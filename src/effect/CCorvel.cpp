@@ -1,0 +1,224 @@
+#include "effect/CCorvel.h"
+
+#include "effect/FactoryPrograms.h"
+#include "foundation/CCriticalSection.h"
+#include "hostlayer/PinProperties.h"
+
+#include <algorithm>
+#include <cstring>
+#include <mutex>
+#include <string_view>
+
+namespace Tessitor::Corvel {
+
+namespace {
+
+constexpr int uniqueId = 'Q' | 'r' << 8 | 'M' << 16 | 'k' << 24;  // "QrMk" in memory
+constexpr int reverbSpread = 57;
+
+struct SPin {
+    const char *label;
+    const char *shortLabel;
+};
+constexpr SPin inputPins[] = {{"Left input", "L in"}, {"Right input", "R in"}};
+constexpr SPin outputPins[] = {{"Left output", "L out"}, {"Right output", "R out"}};
+
+constexpr std::string_view abilities[] = {"plugAsChannelInsert", "plugAsSend", "2in2out",
+                                          "receiveVstMidiEvent"};
+
+// A name ends inside its record, whatever a chunk or a host brought.
+void copyName(char *to, const char *from) {
+    const char *end = std::find(from, from + sizeof(SProgram::name) - 1, '\0');
+    *std::copy(from, end, to) = '\0';
+}
+
+bool describePin(const SPin (&pins)[2], int index, VstPinProperties &properties) {
+    if (index != 0 && index != 1)
+        return false;
+    fillPinProperties(properties, pins[index].label, pins[index].shortLabel,
+                      kVstPinIsActive | kVstPinIsStereo);
+    return true;
+}
+
+}  // namespace
+
+Basics::TClassRecord<CCorvel> CCorvel::s_class("CCorvel", "CVstEffect");
+
+CCorvel::CCorvel(audioMasterCallback host)
+    : CVstEffect(host, parameterCount, programCount), m_dsp(std::make_unique<CDSPMultiFX>()),
+      m_programs(std::make_unique<SProgram[]>(programCount)) {
+    s_class.incrementInstanceCount();
+
+    setNumInputs(2);
+    setNumOutputs(2);
+    canProcessReplacing(true);
+    canDoubleReplacing(true);
+    setUniqueID(uniqueId);
+    programsAreChunks(true);
+
+    initialisePrograms();
+
+    for (int id = 0; id < parameterCount; ++id) {
+        char unit[8] = {};
+        m_dsp->getParameterLabel(id, unit);
+        m_parameterUnits[std::size_t(id)] = unit;
+    }
+}
+
+CCorvel::~CCorvel() {
+    s_class.decrementInstanceCount();
+}
+
+void CCorvel::resume() {
+    m_dsp->resetAllModules();
+    m_dsp->setMonoInput(!isInputConnected(1));
+}
+
+void CCorvel::readTempo() {
+    m_tempo.getTempoInformation(kVstTempoValid);
+    m_dsp->setTempo(static_cast<float>(m_tempo.getInformation().tempo));
+}
+
+void CCorvel::processReplacing(float **inputs, float **outputs, int sampleFrames) {
+    readTempo();
+    {
+        const std::lock_guard lock(*m_criticalSection);
+        m_dsp->processReplacing(inputs, outputs, sampleFrames);
+    }
+    CVstEffect::processReplacing(inputs, outputs, sampleFrames);
+}
+
+void CCorvel::processDoubleReplacing(double **inputs, double **outputs, int sampleFrames) {
+    readTempo();
+    {
+        const std::lock_guard lock(*m_criticalSection);
+        m_dsp->processDoubleReplacing(inputs, outputs, sampleFrames);
+    }
+    CVstEffect::processDoubleReplacing(inputs, outputs, sampleFrames);
+}
+
+// Not the host's accumulating entry, which ends in the base's empty operation: this one replaces.
+void CCorvel::process(float **inputs, float **outputs, long sampleFrames) {
+    readTempo();
+    {
+        const std::lock_guard lock(*m_criticalSection);
+        m_dsp->processReplacing(inputs, outputs, static_cast<int>(sampleFrames));
+    }
+    CVstEffect::process(inputs, outputs, sampleFrames);
+}
+
+void CCorvel::setParameter(int index, float value) {
+    TRelaxed<float> &present = m_parameterValues[std::size_t(index)];
+    if (value == present)
+        return;
+    if (index == reverbSpread) {
+        // The one setter that replaces buffers the audio path reads.
+        const std::lock_guard lock(*m_criticalSection);
+        m_dsp->setStripParameter(index, value);
+    } else {
+        m_dsp->setStripParameter(index, value);
+    }
+    present = value;
+}
+
+float CCorvel::getParameter(int index) {
+    return m_parameterValues[std::size_t(index)];
+}
+
+void CCorvel::getParameterLabel(int index, char *label) {
+    if (label != nullptr)
+        m_dsp->getParameterLabel(index, label);
+}
+
+void CCorvel::getParameterDisplay(int index, char *text) {
+    if (text != nullptr)
+        m_dsp->getParameterDisplay(index, text);
+}
+
+void CCorvel::getParameterName(int index, char *text) {
+    if (text != nullptr)
+        m_dsp->getParameterName(index, text);
+}
+
+void CCorvel::initialisePrograms() {
+    std::copy(factoryPrograms.begin(), factoryPrograms.end(), m_programs.get());
+    loadProgram(0);
+}
+
+void CCorvel::storeCurrentProgram() {
+    SProgram &record = m_programs[std::size_t(curProgram)];
+    for (int id = 0; id < parameterCount; ++id)
+        record.parameters[std::size_t(id)] = getParameter(id);
+    for (int slot = 0; slot < slotCount; ++slot) {
+        const auto &link = m_dsp->orderEntry(slot);
+        record.order[std::size_t(slot)] = {link.prev, link.next};
+    }
+}
+
+void CCorvel::loadProgram(int program) {
+    curProgram = program;
+    applyProgram(m_programs[std::size_t(program)]);
+}
+
+// Beside the audio, without the lock: a block that runs meanwhile may meet some values and links of
+// the old program and some of the new one.
+void CCorvel::applyProgram(const SProgram &program) {
+    for (int id = 0; id < parameterCount; ++id)
+        setParameter(id, program.parameters[std::size_t(id)]);
+    for (int slot = 0; slot < slotCount; ++slot) {
+        const SChainLink &link = program.order[std::size_t(slot)];
+        m_dsp->setOrderEntry(slot, link.prev, link.next);
+    }
+    m_dsp->recountFX();
+}
+
+void CCorvel::setProgram(int program) {
+    storeCurrentProgram();
+    if (program != curProgram)
+        loadProgram(program);
+}
+
+void CCorvel::setProgramName(char *name) {
+    copyName(m_programs[std::size_t(curProgram)].name.data(), name);
+}
+
+void CCorvel::getProgramName(char *name) {
+    copyName(name, m_programs[std::size_t(curProgram)].name.data());
+}
+
+bool CCorvel::getProgramNameIndexed(int /*category*/, int index, char *text) {
+    if (static_cast<unsigned>(index) >= unsigned{programCount})
+        return false;
+    copyName(text, m_programs[std::size_t(index)].name.data());
+    return true;
+}
+
+int CCorvel::getChunk(void **data, bool isPreset) {
+    storeCurrentProgram();
+    *data = &m_programs[isPreset ? std::size_t(curProgram) : 0];
+    return static_cast<int>(sizeof(SProgram)) * (isPreset ? 1 : programCount);
+}
+
+int CCorvel::setChunk(void *data, int /*byteSize*/, bool isPreset) {
+    SProgram &target = m_programs[isPreset ? std::size_t(curProgram) : 0];
+    const std::size_t size = sizeof(SProgram) * (isPreset ? 1 : programCount);
+    std::memcpy(&target, data, size);
+    applyProgram(target);
+    return static_cast<int>(size);
+}
+
+bool CCorvel::getInputProperties(int index, VstPinProperties *properties) {
+    return describePin(inputPins, index, *properties);
+}
+
+bool CCorvel::getOutputProperties(int index, VstPinProperties *properties) {
+    return describePin(outputPins, index, *properties);
+}
+
+int CCorvel::canDo(char *text) {
+    if (text == nullptr)
+        return -1;
+    return std::ranges::find(abilities, std::string_view(text)) != std::end(abilities) ? 1 : -1;
+}
+
+}  // namespace Tessitor::Corvel

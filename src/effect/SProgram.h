@@ -1,0 +1,35 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+
+namespace Tessitor::Corvel {
+
+inline constexpr int parameterCount = 64;
+inline constexpr int programCount = 20;
+inline constexpr int slotCount = 18;
+
+/// A module's place in the running order: the slots before and behind it, -1 for none.
+struct SChainLink {
+    std::int32_t prev;
+    std::int32_t next;
+
+    bool operator==(const SChainLink &) const = default;
+};
+
+/// A program as it is held and as hosts store it: a chunk is the bytes of one record or of all
+/// twenty, little-endian, without header or version.
+struct SProgram {
+    std::array<float, parameterCount> parameters;  // normalised
+    std::array<SChainLink, slotCount> order;       // by module slot
+    std::array<char, 24> name;                     // zero-terminated
+
+    bool operator==(const SProgram &) const = default;
+};
+
+static_assert(sizeof(SProgram) == 424);
+static_assert(offsetof(SProgram, order) == 256);
+static_assert(offsetof(SProgram, name) == 400);
+
+}  // namespace Tessitor::Corvel

@@ -1,0 +1,27 @@
+#include "effect/CCorvel.h"
+#include "effect/CLibrarySession.h"
+#include "foundation/DisplayMessage.h"
+#include "hostlayer/VstInterface.h"
+
+/// What a host looks for; the linker exports it under its older name, main, as well.
+/// @return null if the host has no version or the effect cannot be built, the latter with a
+/// message.
+///
+/// The host is asked for its version and nothing else before there is an effect to name: some hosts
+/// end when they are asked for more without one.
+extern "C" AEffect *VSTPluginMain(audioMasterCallback host) {
+    try {
+        // Built here and not by the loader's notification: every class record stands by now, and
+        // nothing is started under the loader's lock. Once per load, undone at unload.
+        static const Tessitor::Corvel::CLibrarySession session;
+
+        if (host(nullptr, audioMasterVersion, 0, 0, nullptr, 0.0f) == 0)
+            return nullptr;
+        return (new Tessitor::Corvel::CCorvel(host))->getAeffect();
+    } catch (...) {
+        Tessitor::displayMessage(
+            "Caught exception in main function of Corvel. Cannot continue to load",
+            "Exception occurred", true);
+        return nullptr;
+    }
+}

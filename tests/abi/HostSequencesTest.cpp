@@ -1,0 +1,187 @@
+#include "abi/LoadedPlugin.h"
+#include "dspclasses/Signals.h"
+#include "hostlayer/FakeHost.h"
+
+#include <gtest/gtest.h>
+
+#include <thread>
+
+// The orders in which real hosts were seen to call: every one must end in the same state and sound.
+
+namespace {
+
+class HostSequences : public testing::Test {
+protected:
+    FakeHost host;
+    CPluginFile file;
+
+    CLoadedEffect load() { return {file, FakeHost::callback}; }
+
+    // A state to be saved: another program, two edits.
+    struct SState {
+        std::vector<char> bank, preset;
+        std::vector<float> parameters;
+        TStereo<float> sound;
+    };
+    SState edited() {
+        const CLoadedEffect effect = load();
+        start(effect);
+        effect.send(effSetProgram, 0, 0);
+        effect.setParameter(0, 0.37f);
+        effect.setParameter(20, 0.5f);
+        SState state;
+        state.bank = effect.chunk(false);
+        state.preset = effect.chunk(true);
+        state.parameters = effect.parameters();
+        state.sound = sound(effect);
+        return state;
+    }
+
+    static void start(const CLoadedEffect &effect) {
+        effect.send(effOpen);
+        effect.send(effSetSampleRate, 0, 0, nullptr, 48000.0f);
+        effect.send(effSetBlockSize, 0, 1024);
+        effect.send(effMainsChanged, 0, 1);
+    }
+
+    static TStereo<float> sound(const CLoadedEffect &effect) {
+        return render(effect, makeSignal<float>(ESignal::Bursts, 1, 4096), 512);
+    }
+
+    static void expectState(const CLoadedEffect &effect, const SState &state) {
+        EXPECT_EQ(effect.parameters(), state.parameters);
+        EXPECT_EQ(sound(effect), state.sound);
+    }
+};
+
+}  // namespace
+
+TEST_F(HostSequences, ParametersThenMainsThenProgramThenBank) {
+    const SState state = edited();
+    const CLoadedEffect effect = load();
+    effect.send(effOpen);
+    for (int id = 0; id < 64; ++id)
+        effect.setParameter(id, state.parameters[std::size_t(id)]);
+    effect.send(effMainsChanged, 0, 0);
+    effect.send(effMainsChanged, 0, 1);
+    effect.send(effMainsChanged, 0, 1);
+    effect.send(effSetProgram, 0, 0);
+    effect.setChunk(state.bank, false);
+    expectState(effect, state);
+}
+
+TEST_F(HostSequences, BankThenEveryParameterInNoOrder) {
+    const SState state = edited();
+    const CLoadedEffect effect = load();
+    effect.send(effGetPlugCategory);
+    effect.send(effSetSampleRate, 0, 0, nullptr, 44100.0f);
+    effect.send(effSetBlockSize, 0, 2048);
+    effect.send(effOpen);
+    effect.setChunk(state.bank, false);
+    for (int k = 0; k < 64; ++k) {
+        const int id = k * 37 % 64;
+        char text[32];
+        std::snprintf(text, sizeof text, "%g", double{state.parameters[std::size_t(id)]});
+        effect.setParameter(id, std::stof(text));
+    }
+    effect.send(effMainsChanged, 0, 1);
+    expectState(effect, state);
+}
+
+TEST_F(HostSequences, BankAfterTheProcessWasStartedAndParametersOnTheAudioThread) {
+    const SState state = edited();
+    const CLoadedEffect effect = load();
+    start(effect);
+    effect.send(effMainsChanged, 0, 1);
+    effect.send(effStartProcess);
+    effect.setChunk(state.bank, false);
+    TStereo<float> result;
+    std::thread audio([&] {
+        for (int id = 0; id < 64; ++id) {
+            effect.send(effCanBeAutomated, id);
+            if (effect.getParameter(id) != state.parameters[std::size_t(id)])
+                effect.setParameter(id, state.parameters[std::size_t(id)]);
+        }
+        result = sound(effect);
+    });
+    audio.join();
+    EXPECT_EQ(effect.parameters(), state.parameters);
+    EXPECT_EQ(result, state.sound);
+}
+
+TEST_F(HostSequences, OneProgramsChunkBetweenBeginAndEnd) {
+    const SState state = edited();
+    const CLoadedEffect effect = load();
+    effect.send(effIdentify);
+    effect.send(effSetSampleRate, 0, 0, nullptr, 44100.0f);
+    effect.send(effSetBlockSize, 0, 512);
+    effect.send(effOpen);
+    effect.send(effSetProgram, 0, 0);
+    VstPatchChunkInfo info{};
+    info.version = 1;
+    info.pluginUniqueID = effect.record().uniqueID;
+    EXPECT_EQ(effect.send(effBeginLoadProgram, 0, 0, &info), 0);
+    effect.send(effBeginSetProgram);
+    EXPECT_EQ(effect.setChunk(state.preset, true), 424);
+    effect.send(effEndSetProgram);
+    effect.send(effBeginSetProgram);
+    for (int id = 0; id < 64; ++id)
+        effect.setParameter(id, state.parameters[std::size_t(id)]);
+    effect.send(effEndSetProgram);
+    effect.send(effSetBlockSize, 0, 8192);
+    effect.send(effMainsChanged, 0, 1);
+    expectState(effect, state);
+}
+
+TEST_F(HostSequences, ClosesAfterAHandfulOfCalls) {
+    const CLoadedEffect effect = load();
+    effect.send(effOpen);
+    effect.send(effGetVstVersion);
+    effect.text(effGetProgramNameIndexed, 0);
+    effect.send(effMainsChanged, 0, 0);
+}
+
+TEST_F(HostSequences, AnswersThatAnyParameterCanBeAutomatedHoweverItIsAsked) {
+    const CLoadedEffect effect = load();
+    EXPECT_EQ(effect.send(effCanBeAutomated, 63), 1);
+    EXPECT_EQ(effect.send(effCanBeAutomated, 0, 63), 1);
+}
+
+TEST_F(HostSequences, BlocksOfAnyLengthAndBuffersInPlaceSoundTheSame) {
+    const TStereo<float> voice = makeSignal<float>(ESignal::Bursts, 2, 6000);
+    const CLoadedEffect steady = load(), cut = load();
+    start(steady);
+    start(cut);
+    const TStereo<float> expected = render(steady, voice, 1024);
+
+    TStereo<float> inPlace = voice;
+    CRandom random(3);
+    for (int done = 0; done < voice.frames();) {
+        const int frames = std::min(voice.frames() - done, random.whole(1, 1500));
+        auto channels = inPlace.pointers(done);
+        cut.processReplacing(channels.data(), channels.data(), frames);
+        done += frames;
+    }
+    EXPECT_EQ(inPlace, expected);
+}
+
+TEST_F(HostSequences, MonoTrackFeedsBothChannels) {
+    host.unconnectedInputs = {1};
+    const CLoadedEffect effect = load();
+    start(effect);
+    effect.send(effSetProgram, 0, 19);
+    const TStereo<double> voice = makeSignal<double>(ESignal::Noise, 4, 256);
+    const TStereo<double> result = render(effect, voice, 256);
+    EXPECT_EQ(result.channels[0], voice.channels[0]);
+    EXPECT_EQ(result.channels[1], voice.channels[0]);
+}
+
+TEST_F(HostSequences, EmptyProgramGivesTheInputBackBitForBit) {
+    const CLoadedEffect effect = load();
+    start(effect);
+    effect.send(effSetProgram, 0, 19);
+    const TStereo<float> single = makeSignal<float>(ESignal::Loud, 5, 5000);
+    EXPECT_EQ(render(effect, single, 512), single);
+    const TStereo<double> twice = makeSignal<double>(ESignal::Loud, 5, 5000);
+    EXPECT_EQ(render(effect, twice, 512), twice);
+}

@@ -1,0 +1,140 @@
+#include "abi/LoadedPlugin.h"
+#include "hostlayer/FakeHost.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+#include <string>
+
+TEST(PluginFile, HasOneEntryUnderTwoNames) {
+    const CPluginFile file;
+    ASSERT_NE(file.symbol("VSTPluginMain"), nullptr);
+    EXPECT_EQ(file.symbol("VSTPluginMain"), file.symbol("main"));
+}
+
+TEST(PluginFile, GivesNoEffectToAHostWithoutAVersion) {
+    FakeHost host;
+    host.answers[audioMasterVersion] = 0;
+    const CPluginFile file;
+    EXPECT_EQ(file.entry()(FakeHost::callback), nullptr);
+}
+
+TEST(PluginFile, GivesAnEffectToHostsOfOldVersions) {
+    FakeHost host;
+    const CPluginFile file;
+    for (int version : {1, 2, 2300, 2400}) {
+        host.answers[audioMasterVersion] = version;
+        const CLoadedEffect effect(file, FakeHost::callback);
+        EXPECT_EQ(effect.record().magic, kEffectMagic) << version;
+    }
+}
+
+TEST(PluginFile, AsksForTheVersionAloneBeforeThereIsAnEffect) {
+    FakeHost host;
+    const CPluginFile file;
+    const CLoadedEffect effect(file, FakeHost::callback);
+    for (const SHostCall &call : host.calls())
+        EXPECT_EQ(call.effect == nullptr, call.opcode == audioMasterVersion) << call.opcode;
+    EXPECT_EQ(host.calls(audioMasterVersion).size(), 1u);
+}
+
+TEST(PluginFile, MayBeLoadedAndUnloadedAgainAndAgain) {
+    FakeHost host;
+    for (int i = 0; i < 5; ++i) {
+        const CPluginFile file;
+        const CLoadedEffect effect(file, FakeHost::callback);
+        EXPECT_EQ(effect.text(effGetEffectName), "Corvel");
+    }
+}
+
+TEST(LoadedEffect, NamesItself) {
+    FakeHost host;
+    const CPluginFile file;
+    const CLoadedEffect effect(file, FakeHost::callback);
+    EXPECT_EQ(effect.text(effGetEffectName), "Corvel");
+    EXPECT_EQ(effect.text(effGetVendorString), "Lumatic");
+    EXPECT_EQ(effect.text(effGetProductString), "Vocal VST plugin");
+    EXPECT_EQ(effect.send(effGetVendorVersion), 0);
+    EXPECT_EQ(effect.send(effGetVstVersion), 2400);
+    EXPECT_EQ(effect.send(effGetPlugCategory), 0);
+    EXPECT_EQ(effect.send(effIdentify), kEffectIdentity);
+}
+
+TEST(LoadedEffect, FillsItsRecord) {
+    FakeHost host;
+    const CPluginFile file;
+    const CLoadedEffect effect(file, FakeHost::callback);
+    const AEffect &record = effect.record();
+    EXPECT_EQ(record.magic, 0x56737450);
+    EXPECT_EQ(record.numPrograms, 20);
+    EXPECT_EQ(record.numParams, 64);
+    EXPECT_EQ(record.numInputs, 2);
+    EXPECT_EQ(record.numOutputs, 2);
+    EXPECT_EQ(record.flags, 1 << 4 | 1 << 5 | 1 << 12);
+    EXPECT_EQ(record.uniqueID, 0x6B4D7251);
+    EXPECT_EQ(record.version, 1);
+    for (char byte : record.future)
+        EXPECT_EQ(byte, 0);
+}
+
+TEST(LoadedEffect, GivesEveryLiveParameterANameOfItsOwn) {
+    FakeHost host;
+    const CPluginFile file;
+    const CLoadedEffect effect(file, FakeHost::callback);
+    std::set<std::string> names;
+    for (int id = 0; id < 62; ++id)
+        names.insert(effect.text(effGetParamName, id));
+    EXPECT_EQ(names.size(), 62u);
+    EXPECT_EQ(effect.text(effGetParamName, 17), "GateThrsh");
+    EXPECT_EQ(effect.text(effGetParamLabel, 17), "dB");
+    EXPECT_EQ(effect.text(effGetParamName, 63), "");
+}
+
+TEST(LoadedEffect, ListsItsProgramsByOldAndNewHosts) {
+    FakeHost host;
+    const CPluginFile file;
+    const CLoadedEffect effect(file, FakeHost::callback);
+    char name[kVstMaxProgNameLen] = {};
+    for (int category : {-1, 0}) {
+        EXPECT_EQ(effect.send(effGetProgramNameIndexed, 19, category, name), 1);
+        EXPECT_STREQ(name, "Empty");
+        EXPECT_EQ(effect.send(effGetProgramNameIndexed, 20, category, name), 0);
+    }
+    effect.send(effSetProgram, 0, 3);
+    EXPECT_EQ(effect.text(effGetProgramName), "BV (Pop)");
+    EXPECT_EQ(effect.send(effGetProgram), 3);
+    effect.send(effSetProgram, 0, 20);
+    EXPECT_EQ(effect.send(effGetProgram), 3);
+}
+
+TEST(LoadedEffect, AnswersOpcodesThatItDoesNotKnowWithZero) {
+    FakeHost host;
+    const CPluginFile file;
+    const CLoadedEffect effect(file, FakeHost::callback);
+    for (int opcode : {80, 100, 1000, -1})
+        EXPECT_EQ(effect.send(static_cast<AEffectOpcode>(opcode)), 0) << opcode;
+}
+
+TEST(LoadedEffect, HasNoEditor) {
+    FakeHost host;
+    const CPluginFile file;
+    const CLoadedEffect effect(file, FakeHost::callback);
+    ERect *rect = nullptr;
+    EXPECT_EQ(effect.send(effEditGetRect, 0, 0, &rect), 0);
+    EXPECT_EQ(effect.send(effEditOpen), 0);
+    EXPECT_EQ(rect, nullptr);
+}
+
+TEST(LoadedEffect, FillsPinsNoFurtherThanTheShortestHostsRecord) {
+    FakeHost host;
+    const CPluginFile file;
+    const CLoadedEffect effect(file, FakeHost::callback);
+    VstPinProperties pin;
+    std::memset(&pin, 0x55, sizeof pin);
+    EXPECT_EQ(effect.send(effGetInputProperties, 1, 0, &pin), 1);
+    EXPECT_STREQ(pin.label, "Right input");
+    EXPECT_STREQ(pin.shortLabel, "R in");
+    for (std::size_t i = 80; i < sizeof pin; ++i)
+        EXPECT_EQ(reinterpret_cast<const char *>(&pin)[i], 0x55) << i;
+    EXPECT_EQ(effect.send(effGetOutputProperties, 2, 0, &pin), 0);
+}
