@@ -1,10 +1,15 @@
 #include "dspclasses/CDSPMultiFX.h"
 
 #include "dspclasses/Assertion.h"
+#include "dspclasses/CDSP3EQ.h"
 #include "dspclasses/CDSPBalance.h"
 #include "dspclasses/CDSPGain.h"
+#include "dspclasses/CDSPHiPass.h"
 #include "dspclasses/CDSPPan.h"
+#include "dspclasses/CDSPParametric.h"
+#include "dspclasses/CDSPPresence.h"
 #include "dspclasses/CDSPStandIn.h"
+#include "dspclasses/CDSPWarmer.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -22,24 +27,24 @@ static constexpr std::array<const char *, CChainOrder::slotCount> slotLabels{
 
 static CDSPMultiFX::Modules buildModules() {
     return {
-        std::make_unique<CDSPGain>(),     // 0, fixed head
-        std::make_unique<CDSPMono>(),     // 1, fixed head
-        std::make_unique<CDSPBalance>(),  // 2
-        std::make_unique<CDSPPan>(),      // 3
-        std::make_unique<CDSPGain>(),     // 4
-        std::make_unique<CDSPStandIn>(),  // 5, three-band equaliser
-        std::make_unique<CDSPStandIn>(),  // 6, rumble filter
-        std::make_unique<CDSPStandIn>(),  // 7, high-pass
-        std::make_unique<CDSPStandIn>(),  // 8, presence
-        std::make_unique<CDSPStandIn>(),  // 9, parametric
-        std::make_unique<CDSPStandIn>(),  // 10, gate
-        std::make_unique<CDSPStandIn>(),  // 11, compressor
-        std::make_unique<CDSPStandIn>(),  // 12, de-esser
-        std::make_unique<CDSPStandIn>(),  // 13, modulator 1
-        std::make_unique<CDSPStandIn>(),  // 14, modulator 2
-        std::make_unique<CDSPStandIn>(),  // 15, warmer
-        std::make_unique<CDSPStandIn>(),  // 16, delay
-        std::make_unique<CDSPStandIn>(),  // 17, reverb
+        std::make_unique<CDSPGain>(),        // 0, fixed head
+        std::make_unique<CDSPMono>(),        // 1, fixed head
+        std::make_unique<CDSPBalance>(),     // 2
+        std::make_unique<CDSPPan>(),         // 3
+        std::make_unique<CDSPGain>(),        // 4
+        std::make_unique<CDSP3EQ>(),         // 5
+        std::make_unique<CDSPHiPass>(),      // 6, rumble filter
+        std::make_unique<CDSPHiPass>(),      // 7, high-pass
+        std::make_unique<CDSPPresence>(),    // 8
+        std::make_unique<CDSPParametric>(),  // 9
+        std::make_unique<CDSPStandIn>(),     // 10, gate
+        std::make_unique<CDSPStandIn>(),     // 11, compressor
+        std::make_unique<CDSPStandIn>(),     // 12, de-esser
+        std::make_unique<CDSPStandIn>(),     // 13, modulator 1
+        std::make_unique<CDSPStandIn>(),     // 14, modulator 2
+        std::make_unique<CDSPWarmer>(),      // 15
+        std::make_unique<CDSPStandIn>(),     // 16, delay
+        std::make_unique<CDSPStandIn>(),     // 17, reverb
     };
 }
 

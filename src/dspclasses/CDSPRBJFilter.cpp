@@ -86,9 +86,6 @@ SRawCoefficients gainCoefficients(EKind kind, const SDesign &d, double gainDb) {
     }
 }
 
-/// A sample beyond this is a recursion that has run away.
-constexpr double runawayLimit = 5.0;
-
 struct SBiquadLanes {
     SDoubles2 b0, b1, b2, a1, a2;
     SDoubles2 x1, x2, y1, y2;
@@ -98,7 +95,7 @@ struct SBiquadLanes {
         SDoubles2 y = b0 * x + b1 * x1 + b2 * x2 - a1 * y1 - a2 * y2;
         x2 = x1;
         x1 = x;
-        y = guard.contain(guard.flush(y), runawayLimit);
+        y = guard.contain(guard.flush(y));
         y2 = y1;
         y1 = y;
         return y;

@@ -1,29 +1,34 @@
 #pragma once
 
 #include "dspclasses/CDSPStandIn.h"
+#include "dspclasses/Plain3EQ.h"
+#include "dspclasses/PlainHiPass.h"
 #include "dspclasses/PlainLevels.h"
+#include "dspclasses/PlainParametric.h"
+#include "dspclasses/PlainPresence.h"
 #include "dspclasses/PlainStrip.h"
+#include "dspclasses/PlainWarmer.h"
 
 /// The plain reading of every module of the strip, by slot.
 inline CPlainStrip::Modules makePlainModules() {
     return {
-        std::make_unique<CPlainGain>(),     // 0, fixed head
-        std::make_unique<CPlainMono>(),     // 1, fixed head
-        std::make_unique<CPlainBalance>(),  // 2
-        std::make_unique<CPlainPan>(),      // 3
-        std::make_unique<CPlainGain>(),     // 4
-        std::make_unique<CDSPStandIn>(),    // 5, three-band equaliser
-        std::make_unique<CDSPStandIn>(),    // 6, rumble filter
-        std::make_unique<CDSPStandIn>(),    // 7, high-pass
-        std::make_unique<CDSPStandIn>(),    // 8, presence
-        std::make_unique<CDSPStandIn>(),    // 9, parametric
-        std::make_unique<CDSPStandIn>(),    // 10, gate
-        std::make_unique<CDSPStandIn>(),    // 11, compressor
-        std::make_unique<CDSPStandIn>(),    // 12, de-esser
-        std::make_unique<CDSPStandIn>(),    // 13, modulator 1
-        std::make_unique<CDSPStandIn>(),    // 14, modulator 2
-        std::make_unique<CDSPStandIn>(),    // 15, warmer
-        std::make_unique<CDSPStandIn>(),    // 16, delay
-        std::make_unique<CDSPStandIn>(),    // 17, reverb
+        std::make_unique<CPlainGain>(),        // 0, fixed head
+        std::make_unique<CPlainMono>(),        // 1, fixed head
+        std::make_unique<CPlainBalance>(),     // 2
+        std::make_unique<CPlainPan>(),         // 3
+        std::make_unique<CPlainGain>(),        // 4
+        std::make_unique<CPlain3EQ>(),         // 5
+        std::make_unique<CPlainHiPass>(),      // 6, rumble filter
+        std::make_unique<CPlainHiPass>(),      // 7, high-pass
+        std::make_unique<CPlainPresence>(),    // 8
+        std::make_unique<CPlainParametric>(),  // 9
+        std::make_unique<CDSPStandIn>(),       // 10, gate
+        std::make_unique<CDSPStandIn>(),       // 11, compressor
+        std::make_unique<CDSPStandIn>(),       // 12, de-esser
+        std::make_unique<CDSPStandIn>(),       // 13, modulator 1
+        std::make_unique<CDSPStandIn>(),       // 14, modulator 2
+        std::make_unique<CPlainWarmer>(),      // 15
+        std::make_unique<CDSPStandIn>(),       // 16, delay
+        std::make_unique<CDSPStandIn>(),       // 17, reverb
     };
 }
