@@ -1,0 +1,60 @@
+#include "Allocation.h"
+
+#include <cstdlib>
+#include <new>
+
+// The array and nothrow forms of the library lead to these.
+
+static thread_local std::uint64_t allocations = 0;
+static thread_local std::int64_t untilFailure = -1;  // below 0: none fails
+
+std::uint64_t allocationsOfThisThread() {
+    return allocations;
+}
+
+CFailingAllocation::CFailingAllocation(std::int64_t index) {
+    untilFailure = index;
+}
+
+CFailingAllocation::~CFailingAllocation() {
+    untilFailure = -1;
+}
+
+// Room to align by hand: the systems differ in what their malloc offers. The block that was really
+// allocated is remembered just before the aligned one.
+static void *allocate(std::size_t size, std::size_t alignment) {
+    ++allocations;
+    if (untilFailure >= 0 && untilFailure-- == 0)
+        throw std::bad_alloc();
+    void *const block = std::malloc(size + alignment + sizeof(void *));
+    if (block == nullptr)
+        throw std::bad_alloc();
+    const auto first = reinterpret_cast<std::uintptr_t>(block) + sizeof(void *);
+    void *const result = reinterpret_cast<void *>((first + alignment - 1) / alignment * alignment);
+    static_cast<void **>(result)[-1] = block;
+    return result;
+}
+
+static void release(void *result) {
+    if (result != nullptr)
+        std::free(static_cast<void **>(result)[-1]);
+}
+
+void *operator new(std::size_t size) {
+    return allocate(size, __STDCPP_DEFAULT_NEW_ALIGNMENT__);
+}
+void *operator new(std::size_t size, std::align_val_t alignment) {
+    return allocate(size, static_cast<std::size_t>(alignment));
+}
+void operator delete(void *result) noexcept {
+    release(result);
+}
+void operator delete(void *result, std::size_t) noexcept {
+    release(result);
+}
+void operator delete(void *result, std::align_val_t) noexcept {
+    release(result);
+}
+void operator delete(void *result, std::size_t, std::align_val_t) noexcept {
+    release(result);
+}

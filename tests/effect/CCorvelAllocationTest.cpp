@@ -1,0 +1,76 @@
+#include "effect/CCorvel.h"
+
+#include "Allocation.h"
+#include "dspclasses/Signals.h"
+#include "hostlayer/FakeHost.h"
+
+#include <gtest/gtest.h>
+
+using Tessitor::Corvel::CCorvel;
+
+namespace {
+
+constexpr int longest = 1024;
+constexpr int reverbSpread = 57;  // rebuilds buffers, under the lock
+
+template <typename Sample>
+class CCorvelAllocation : public testing::Test {
+protected:
+    FakeHost host;
+    CCorvel effect{FakeHost::callback};
+    TStereo<Sample> voice = makeSignal<Sample>(ESignal::Bursts, 1, longest);
+    TStereo<Sample> result{longest};
+
+    CCorvelAllocation() { host.logging = false; }
+
+    void runBlock(int frames) {
+        process(effect, voice.pointers().data(), result.pointers().data(), frames);
+    }
+};
+using Precisions = testing::Types<float, double>;
+TYPED_TEST_SUITE(CCorvelAllocation, Precisions);
+
+}  // namespace
+
+TYPED_TEST(CCorvelAllocation, HappensInNoBlockOnceTheLongestWasSeen) {
+    this->runBlock(longest);
+    for (int program = 0; program < 20; ++program) {
+        this->effect.setProgram(program);
+        const std::uint64_t before = allocationsOfThisThread();
+        for (int frames : {longest, 1, 63, 512, longest})
+            this->runBlock(frames);
+        EXPECT_EQ(allocationsOfThisThread(), before) << "program " << program;
+    }
+}
+
+TYPED_TEST(CCorvelAllocation, HappensForALongerBlock) {
+    const std::uint64_t before = allocationsOfThisThread();
+    this->runBlock(longest);
+    EXPECT_GT(allocationsOfThisThread(), before);
+}
+
+// Some hosts set and read parameters on the audio thread.
+TYPED_TEST(CCorvelAllocation, HappensForNoParameterButTheReverbsSpread) {
+    CRandom random(2);
+    for (int id = 0; id < 64; ++id) {
+        if (id == reverbSpread)
+            continue;
+        const std::uint64_t before = allocationsOfThisThread();
+        for (int i = 0; i < 20; ++i)
+            this->effect.setParameter(id, static_cast<float>(random.real(0.0, 1.0)));
+        this->effect.getParameter(id);
+        EXPECT_EQ(allocationsOfThisThread(), before) << "parameter " << id;
+    }
+}
+
+TYPED_TEST(CCorvelAllocation, HappensForNoEventsOfTheHost) {
+    VstMidiEvent note{};
+    note.type = kVstMidiType;
+    VstEvents events{};
+    events.numEvents = 1;
+    events.events[0] = reinterpret_cast<VstEvent *>(&note);
+    const std::uint64_t before = allocationsOfThisThread();
+    for (int i = 0; i < 200; ++i)
+        this->effect.processEvents(&events);
+    EXPECT_EQ(allocationsOfThisThread(), before);
+}
