@@ -18,8 +18,8 @@ public:
     Basics::CClass &getClass() const override { return s_class; }
 
     TypeName *getPointer() const { return m_pointer; }  ///< null if empty
-    /// Lets the old one go before it takes the new one, which null stands for none of. So the
-    /// pointer held already, and one that only the old one keeps alive, must have another owner.
+    /// Lets the old one go, then takes the new one; null takes none, and the one that is held
+    /// already stays. A new one that only the old one keeps alive must have another owner.
     void setPointer(TypeName *pointer);
     void freePointer();
 
@@ -50,6 +50,8 @@ TAutomaticPointer<TypeName>::~TAutomaticPointer() {
 
 template <typename TypeName>
 void TAutomaticPointer<TypeName>::setPointer(TypeName *pointer) {
+    if (pointer == m_pointer)
+        return;
     freePointer();
     // Nothing of this object is touched after the last one was let go: in a ring of references that
     // may have destroyed this object as well.

@@ -1,5 +1,7 @@
 #include "platform/NativeShell.h"
 
+#include "CTemporaryFolder.h"
+
 #include <cerrno>
 #include <cstdlib>
 #include <filesystem>
@@ -18,9 +20,6 @@ namespace {
 class NativeShell : public testing::Test {
 protected:
     void SetUp() override {
-        std::string name = (fs::temp_directory_path() / "shell.XXXXXX").string();
-        ASSERT_NE(mkdtemp(name.data()), nullptr);
-        folder = name;
         ASSERT_EQ(mkfifo((folder / "told").c_str(), 0600), 0);
         std::ofstream(folder / "xdg-open")
             << "#!/bin/sh\n"
@@ -28,12 +27,9 @@ protected:
             << "printf '%s|%s|%s' \"$#\" \"$1\" \"$file\" > " << (folder / "told") << "\n";
         fs::permissions(folder / "xdg-open", fs::perms::owner_all);
         path = std::getenv("PATH");
-        setenv("PATH", folder.c_str(), 1);
+        setenv("PATH", folder.path().c_str(), 1);
     }
-    void TearDown() override {
-        setenv("PATH", path.c_str(), 1);
-        fs::remove_all(folder);
-    }
+    void TearDown() override { setenv("PATH", path.c_str(), 1); }
 
     // Opening the pipe waits for the one who writes.
     std::string told() const {
@@ -42,7 +38,7 @@ protected:
         return text;
     }
 
-    fs::path folder;
+    CTemporaryFolder folder;
     std::string path;
 };
 

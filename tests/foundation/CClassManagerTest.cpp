@@ -1,0 +1,190 @@
+#include "foundation/CClassManager.h"
+
+#include "CTemporaryFolder.h"
+#include "foundation/CTextStream.h"
+#include "foundation/ReadFile.h"
+
+#include <gtest/gtest.h>
+
+using Tessitor::Basics::CClass;
+using Tessitor::Basics::CClassManager;
+using Tessitor::IO::CTextStream;
+using Tessitor::IO::EStreamMode;
+
+namespace {
+
+/// Records that only the test's own manager lists, whatever the program's one makes of them.
+class CClassManagerList : public testing::Test {
+protected:
+    std::string report() const {
+        const CTemporaryFolder folder;
+        const std::string path = (folder / "report.txt").string();
+        CTextStream stream(path.c_str(), EStreamMode::Write);
+        manager.writeClassInformation(stream);
+        stream.close();
+        return readFile(path);
+    }
+
+    CClass beta{"TestBeta"}, alpha{"TestAlpha"}, gamma{"TestGamma"};
+    CClassManager manager;
+};
+
+TEST_F(CClassManagerList, FindsByName) {
+    manager.registerClass(&beta);
+    manager.registerClass(&alpha);
+    EXPECT_EQ(manager.getClassWithName("TestAlpha"), &alpha);
+    EXPECT_EQ(manager.getClassWithName("TestGamma"), nullptr);
+    EXPECT_TRUE(manager.isClassRegistered(&beta));
+    EXPECT_FALSE(manager.isClassRegistered(&gamma));
+}
+
+TEST_F(CClassManagerList, IgnoresNull) {
+    manager.registerClass(nullptr);
+    EXPECT_EQ(manager.getClasses().getInsertIndex(), 0);
+    EXPECT_FALSE(manager.isClassRegistered(nullptr));
+}
+
+TEST_F(CClassManagerList, KeepsTheFirstOfAName) {
+    const CClass another("TestBeta");
+    CClass second(another);
+    manager.registerClass(&beta);
+    manager.registerClass(&second);
+    EXPECT_EQ(manager.getClasses().getInsertIndex(), 1);
+    EXPECT_EQ(manager.getClassWithName("TestBeta"), &beta);
+    EXPECT_TRUE(manager.isClassRegistered(&second));
+}
+
+TEST_F(CClassManagerList, WithdrawsByAddress) {
+    const CClass namesake("TestBeta");
+    manager.registerClass(&beta);
+    manager.withdrawClass(&namesake);
+    EXPECT_TRUE(manager.isClassRegistered(&beta));
+    manager.withdrawClass(&beta);
+    EXPECT_FALSE(manager.isClassRegistered(&beta));
+}
+
+TEST_F(CClassManagerList, NeverDeletesARecord) {
+    {
+        CClassManager passing;
+        passing.registerClass(&beta);
+    }
+    EXPECT_STREQ(beta.getClassName(), "TestBeta");  // the sanitizer would tell
+}
+
+TEST_F(CClassManagerList, SortsByNameWithTheEmptySlotsBehind) {
+    manager.registerClass(&beta);
+    manager.registerClass(&gamma);
+    manager.registerClass(&alpha);
+    manager.sortClasses();
+    const auto &classes = manager.getClasses();
+    ASSERT_EQ(classes.getArraySize(), 32);
+    EXPECT_EQ(classes.elementAtIndex(0), &alpha);
+    EXPECT_EQ(classes.elementAtIndex(1), &beta);
+    EXPECT_EQ(classes.elementAtIndex(2), &gamma);
+    for (int i = 3; i < 32; ++i)
+        EXPECT_EQ(classes.elementAtIndex(i), nullptr) << i;
+}
+
+TEST_F(CClassManagerList, SortsOverHoles) {
+    manager.registerClass(&gamma);
+    manager.registerClass(&beta);
+    manager.registerClass(&alpha);
+    manager.withdrawClass(&beta);
+    manager.sortClasses();
+    EXPECT_EQ(manager.getClasses().elementAtIndex(0), &alpha);
+    EXPECT_EQ(manager.getClasses().elementAtIndex(1), &gamma);
+    EXPECT_EQ(manager.getClasses().elementAtIndex(2), nullptr);
+}
+
+TEST_F(CClassManagerList, SortsByUnsignedBytes) {
+    CClass umlaut("\xc4"), letter("z");
+    manager.registerClass(&umlaut);
+    manager.registerClass(&letter);
+    manager.sortClasses();
+    EXPECT_EQ(manager.getClasses().elementAtIndex(0), &letter);
+    EXPECT_EQ(manager.getClasses().elementAtIndex(1), &umlaut);
+}
+
+TEST_F(CClassManagerList, SortsAnEmptyList) {
+    manager.sortClasses();
+    EXPECT_EQ(manager.getClasses().getArraySize(), 0);
+}
+
+TEST_F(CClassManagerList, ReportsNothingWithHeadAndZeros) {
+    EXPECT_EQ(
+        report(),
+        "+-----------------------------------------------------------------+----------+----------+"
+        "\n"
+        "| Tessitor class information                                      |          |          "
+        "|\n"
+        "+-----------------------------------------------------------------+----------+----------+"
+        "\n"
+        "+-----------------------------------------------------------------+----------+----------+"
+        "\n"
+        "| Class Name                                                      | Instance |   Total  "
+        "|\n"
+        "+-----------------------------------------------------------------+----------+----------+"
+        "\n"
+        "+-----------------------------------------------------------------+----------+----------+"
+        "\n"
+        "|                                                                 |         0|         "
+        "0|\n"
+        "+-----------------------------------------------------------------+----------+----------"
+        "+\n");
+}
+
+TEST_F(CClassManagerList, ReportsTheClassesWithInstancesAndTheirSums) {
+    manager.registerClass(&beta);
+    manager.registerClass(&alpha);
+    manager.registerClass(&gamma);
+    for (int i = 0; i < 12; ++i)
+        beta.incrementInstanceCount();
+    alpha.incrementInstanceCount();
+    alpha.decrementInstanceCount();  // none left: not in the table, nor in the sums
+    gamma.incrementInstanceCount();
+    gamma.incrementInstanceCount();
+    gamma.decrementInstanceCount();
+    EXPECT_EQ(
+        report().substr(6 * 90),
+        "|                                                        TestBeta |        12|        "
+        "12|\n"
+        "|                                                       TestGamma |         1|         "
+        "2|\n"
+        "+-----------------------------------------------------------------+----------+----------+"
+        "\n"
+        "|                                                                 |        13|        "
+        "14|\n"
+        "+-----------------------------------------------------------------+----------+----------"
+        "+\n");
+}
+
+TEST_F(CClassManagerList, ReportsACountBelowZeroAsUnsigned) {
+    manager.registerClass(&beta);
+    beta.decrementInstanceCount();
+    EXPECT_NE(report().find("|                                                        TestBeta "
+                            "|4294967295|         "
+                            "0|\n"),
+              std::string::npos);
+}
+
+TEST_F(CClassManagerList, ReportsANameThatIsWiderThanTheTable) {
+    const std::string name(127, 'n');
+    CClass wide(name.c_str());
+    wide.incrementInstanceCount();
+    manager.registerClass(&wide);
+    EXPECT_NE(report().find("| " + name + " |         1|         1|\n"), std::string::npos);
+}
+
+TEST_F(CClassManagerList, WritesNothingToAStreamThatIsNotOpenForWriting) {
+    const CTemporaryFolder folder;
+    const std::string path = (folder / "report.txt").string();
+    CTextStream stream;
+    manager.writeClassInformation(stream);
+    CTextStream(path.c_str(), EStreamMode::Write).close();
+    stream.open(path.c_str(), EStreamMode::Read);
+    manager.writeClassInformation(stream);
+    stream.close();
+    EXPECT_EQ(readFile(path), "");
+}
+
+}  // namespace

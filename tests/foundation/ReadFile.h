@@ -1,0 +1,11 @@
+#pragma once
+
+#include <fstream>
+#include <iterator>
+#include <string>
+
+/// Every byte of a file as it is; "" if it cannot be read.
+inline std::string readFile(const std::string &path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
