@@ -1,0 +1,221 @@
+#include "corvel/CParameterText.h"
+
+#include <cmath>
+#include <cstdio>
+#include <gtest/gtest.h>
+
+#include "corvel/Errors.h"
+
+using Tessitor::Tool::CCallError;
+using Tessitor::Tool::CParameterText;
+
+namespace {
+
+std::string printed(const char *format, double number) {
+    char text[32];
+    std::snprintf(text, sizeof(text), format, number);
+    return text;
+}
+
+// As the strip shows decibels.
+std::string decibels(double db) {
+    return db > -60.0 ? printed("%.2f", db) : "-oo";
+}
+
+// Falls back from -15 dB to -20 dB at a quarter.
+double gainLaw(double v) {
+    return v > 0.5 ? (v - 0.5) * 12.0 : v < 0.25 ? (0.2 - v) * -180.0 - 24.0 : (0.5 - v) * -80.0;
+}
+
+std::string gain(float v) {
+    return decibels(gainLaw(v));
+}
+
+std::string threshold(float v) {
+    return decibels(60.0 * v - 60.0);
+}
+
+std::string frequency(float v) {
+    return printed("%.0f", v > 0.999f ? 6000.0 : 100.0 * std::exp2(5.90689039 * v));
+}
+
+std::string ratio(float v) {
+    return printed("%.1f:1", 7.0 * v + 1.0);
+}
+
+std::string balance(float v) {
+    const double x = 200.0 * v - 100.0;
+    return x < 0.0 ? "100:" + std::to_string(static_cast<long>(x + 100.0))
+                   : std::to_string(static_cast<long>(100.0 - x)) + ":100";
+}
+
+std::string route(float v) {
+    const char *const texts[] = {"Combine", "AllLeft", "AllRight", "Stereo"};
+    return texts[static_cast<int>(3.0f * v)];
+}
+
+std::string linkage(float v) {
+    return v < 0.5f ? "Separate" : "Linked";
+}
+
+std::string refusal(const CParameterText &parameter, const std::string &text) {
+    try {
+        parameter.valueOf(text);
+    } catch (const CCallError &error) {
+        return error.what();
+    }
+    return "";
+}
+
+}  // namespace
+
+TEST(CParameterText, APlainNumberIsTheNormalisedValue) {
+    const CParameterText parameter("dB", threshold);
+    EXPECT_EQ(parameter.valueOf("0"), 0.0f);
+    EXPECT_EQ(parameter.valueOf("0.405"), 0.405f);
+    EXPECT_EQ(parameter.valueOf("1"), 1.0f);
+    EXPECT_EQ(parameter.valueOf(" .5 "), 0.5f);
+}
+
+TEST(CParameterText, ANumberWithTheUnitIsWhatIsShown) {
+    const CParameterText parameter("dB", threshold);
+    EXPECT_NEAR(parameter.valueOf("-18dB"), 0.7f, 1e-6f);
+    EXPECT_NEAR(parameter.valueOf("-18.00 DB"), 0.7f, 1e-6f);
+    EXPECT_EQ(threshold(parameter.valueOf("-0.01dB")), "-0.01");
+}
+
+TEST(CParameterText, EveryShownTextIsFoundAgain) {
+    const CParameterText parameter("Hz", frequency);
+    for (int hertz = 100; hertz <= 5975; hertz += 5) {
+        const std::string text = std::to_string(hertz);
+        EXPECT_EQ(frequency(parameter.valueOf(text + "Hz")), text);
+    }
+}
+
+TEST(CParameterText, AJumpAtTheEndOfALawIsFound) {
+    const CParameterText parameter("Hz", frequency);
+    EXPECT_EQ(parameter.valueOf("6000Hz"), 1.0f);
+    EXPECT_EQ(frequency(parameter.valueOf("5980Hz")), "5975");
+    EXPECT_EQ(frequency(parameter.valueOf("5995Hz")), "6000");
+}
+
+TEST(CParameterText, TheMiddleOfTheValuesThatShowTheTextIsTaken) {
+    const CParameterText parameter("Hz", frequency);
+    const float value = parameter.valueOf("120Hz");
+    // 119.5 to 120.5 Hz
+    const double first = std::log2(1.195) / 5.90689039, last = std::log2(1.205) / 5.90689039;
+    EXPECT_NEAR(value, (first + last) / 2.0, 1e-6);
+}
+
+TEST(CParameterText, NeutralValuesComeOutExactly) {
+    EXPECT_EQ(CParameterText("dB", gain).valueOf("0dB"), 0.5f);
+    EXPECT_EQ(CParameterText("dB", threshold).valueOf("0.00dB"), 1.0f);
+    EXPECT_EQ(CParameterText("", balance).valueOf("100:100"), 0.5f);
+}
+
+TEST(CParameterText, ASwitchIsSetToItsEnd) {
+    const CParameterText parameter("", linkage);
+    EXPECT_EQ(parameter.valueOf("separate"), 0.0f);
+    EXPECT_EQ(parameter.valueOf("Linked"), 1.0f);
+}
+
+TEST(CParameterText, ATextThatOneValueAloneShowsIsFound) {
+    const CParameterText parameter("", route);
+    EXPECT_EQ(parameter.valueOf("Stereo"), 1.0f);
+    EXPECT_NEAR(parameter.valueOf("AllRight"), 5.0f / 6.0f, 1e-4f);
+}
+
+TEST(CParameterText, ALawThatFallsBackIsSearchedOnBothSides) {
+    const CParameterText parameter("dB", gain);
+    // -18 dB stands at 0.2333 and at 0.275, where the law is flatter; -22 dB only on the steep
+    // branch, and -10 dB only on the other.
+    EXPECT_NEAR(parameter.valueOf("-18dB"), 0.275f, 1e-4f);
+    EXPECT_NEAR(parameter.valueOf("-22dB"), 0.2f + 2.0f / 180.0f, 1e-4f);
+    EXPECT_NEAR(parameter.valueOf("-10dB"), 0.375f, 1e-4f);
+}
+
+TEST(CParameterText, SilenceHasANameOfItsOwn) {
+    const CParameterText parameter("dB", threshold);
+    EXPECT_EQ(parameter.valueOf("-oo"), 0.0f);
+    EXPECT_EQ(parameter.valueOf("-oo dB"), 0.0f);
+    EXPECT_EQ(parameter.valueOf("-inf"), 0.0f);
+}
+
+TEST(CParameterText, TheFirstShownNumberAboveSilenceIsFound) {
+    const CParameterText parameter("dB", threshold);
+    EXPECT_EQ(threshold(parameter.valueOf("-59.99dB")), "-59.99");
+}
+
+TEST(CParameterText, TheNearestShownNumberStandsInForOneBetween) {
+    const CParameterText parameter("Hz", frequency);
+    EXPECT_EQ(frequency(parameter.valueOf("120.4Hz")), "120");
+    EXPECT_EQ(frequency(parameter.valueOf("120.6Hz")), "121");
+}
+
+TEST(CParameterText, TheNearestNumberAlsoComesFromTheMiddleOfItsValues) {
+    const CParameterText parameter("Hz", frequency);
+    EXPECT_EQ(parameter.valueOf("120.4Hz"), parameter.valueOf("120Hz"));
+}
+
+TEST(CParameterText, ClosingZerosOfARatioDoNotMatter) {
+    const CParameterText parameter("", ratio);
+    EXPECT_EQ(ratio(parameter.valueOf("3:1")), "3.0:1");
+    EXPECT_EQ(ratio(parameter.valueOf("3.0:1")), "3.0:1");
+    EXPECT_EQ(ratio(parameter.valueOf("2.5 : 1")), "2.5:1");
+}
+
+TEST(CParameterText, BothSidesOfABalanceAreFound) {
+    const CParameterText parameter("", balance);
+    for (const char *text : {"100:0", "100:80", "100:99", "80:100", "1:100", "0:100"})
+        EXPECT_EQ(balance(parameter.valueOf(text)), text);
+}
+
+TEST(CParameterText, ANumberBeyondOneIsATextWhereThereIsNoUnit) {
+    const CParameterText speed("", [](float v) { return printed("%.0f", 100.0 - 100.0 * v); });
+    EXPECT_NEAR(speed.valueOf("30"), 0.7f, 1e-3f);
+    EXPECT_EQ(speed.valueOf("1"), 1.0f);  // within 0 to 1 it is the normalised value
+}
+
+TEST(CParameterText, ANumberWithoutItsUnitIsRefusedWithAHint) {
+    const CParameterText parameter("dB", threshold);
+    EXPECT_EQ(refusal(parameter, "-18"),
+              "\"-18\" is not from 0 to 1 and has no unit, as \"-18dB\" has");
+}
+
+TEST(CParameterText, ANumberBeyondTheEndsIsRefused) {
+    const CParameterText parameter("Hz", frequency);
+    EXPECT_EQ(refusal(parameter, "7000Hz"),
+              "\"7000Hz\" is not shown; it shows \"100Hz\" to \"6000Hz\"");
+    EXPECT_NE(refusal(CParameterText("dB", threshold), "-70dB"), "");
+    EXPECT_NE(refusal(CParameterText("dB", threshold), "0.5dB"), "");
+}
+
+TEST(CParameterText, ANumberOfAnotherUnitIsRefused) {
+    EXPECT_NE(refusal(CParameterText("Hz", frequency), "120ms"), "");
+}
+
+TEST(CParameterText, AnUnknownTextIsRefusedWithTheKnownOnes) {
+    EXPECT_EQ(refusal(CParameterText("", linkage), "Linkd"),
+              "\"Linkd\" is not shown; it shows \"Separate\" and \"Linked\"");
+    EXPECT_EQ(refusal(CParameterText("", route), "Mono"),
+              "\"Mono\" is not shown; it shows \"Combine\", \"AllLeft\", \"AllRight\" and "
+              "\"Stereo\"");
+}
+
+TEST(CParameterText, NeitherNothingNorNoNumberIsAValue) {
+    const CParameterText parameter("dB", threshold);
+    for (const char *text : {"", "nan", "inf", "dB", "-", "1e999", "0x1p-1"})
+        EXPECT_NE(refusal(parameter, text), "") << text;
+}
+
+TEST(CParameterText, AParameterThatShowsNothingTakesNormalisedValuesOnly) {
+    const CParameterText parameter("", [](float) { return std::string(); });
+    EXPECT_EQ(parameter.valueOf("0.25"), 0.25f);
+    EXPECT_NE(refusal(parameter, "On"), "");
+}
+
+TEST(CParameterText, AFallingLawIsInverted) {
+    const CParameterText parameter("ms",
+                                   [](float v) { return printed("%.1f", 500.0 - 499.0 * v); });
+    EXPECT_NEAR(parameter.valueOf("100.5ms"), 399.5f / 499.0f, 1e-4f);
+}

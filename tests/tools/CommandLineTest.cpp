@@ -1,0 +1,156 @@
+#include <gmock/gmock.h>
+#include <nlohmann/json.hpp>
+
+#include "tools/support/AudioFiles.h"
+#include "tools/support/CTemporaryFolder.h"
+#include "tools/support/Program.h"
+
+using testing::HasSubstr;
+
+namespace {
+
+void expectWrongCall(const std::vector<std::string> &arguments, const std::string &words) {
+    const SProgramRun run = corvel(arguments);
+    EXPECT_EQ(run.status, 2);
+    EXPECT_THAT(run.errors, testing::StartsWith("corvel: "));
+    EXPECT_THAT(run.errors, HasSubstr(words));
+    EXPECT_EQ(std::count(run.errors.begin(), run.errors.end(), '\n'), 1) << run.errors;
+    EXPECT_EQ(run.out, "");
+}
+
+SProgramRun corvelWith(std::vector<std::string> arguments, const std::string &effect = "Whole") {
+    arguments.insert(arguments.end(), {"--plugin", testEffect(effect)});
+    return corvel(arguments);
+}
+
+}  // namespace
+
+TEST(CommandLine, TellsItsVersion) {
+    const SProgramRun run = corvel({"--version"});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.out, "corvel " CORVEL_VERSION "\n");
+}
+
+TEST(CommandLine, HelpTellsOfEveryCommandAndOption) {
+    const SProgramRun general = corvel({"--help"});
+    EXPECT_EQ(general.status, 0);
+    for (const char *command : {"render", "programs", "params", "info", "Exit status"})
+        EXPECT_THAT(general.out, HasSubstr(command));
+    const SProgramRun render = corvel({"render", "--help"});
+    EXPECT_EQ(render.status, 0);
+    for (const char *option : {"--program", "--set", "--chain", "--tempo", "--block", "--double",
+                               "--tail", "--format", "--resample", "--mono", "--json", "--plugin"})
+        EXPECT_THAT(render.out, HasSubstr(option));
+}
+
+TEST(CommandLine, WrongCallsAreRefusedInOneLine) {
+    expectWrongCall({}, "no command");
+    expectWrongCall({"play"}, "play");
+    expectWrongCall({"render"}, "required");
+    expectWrongCall({"render", "in.wav"}, "2 required");
+    expectWrongCall({"render", "in.wav", "out.wav", "--loud"}, "--loud");
+    expectWrongCall({"render", "in.wav", "out.wav", "--program"}, "--program");
+    expectWrongCall({"info", "a.so", "b.so"}, "b.so");
+    expectWrongCall({"params", "--program", "7", "--plugin", testEffect("Whole")},
+                    "no program \"7\"");
+}
+
+TEST(CommandLine, TheEffectBesideTheProgramIsFound) {
+    const CTemporaryFolder folder;
+    std::filesystem::create_directories(folder / "bin");
+    std::filesystem::copy(CORVEL_PROGRAM, folder / "bin/corvel");
+    const std::string program = folder / "bin/corvel";
+
+    SProgramRun run = runProgram(program, {"programs"});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_THAT(run.errors, HasSubstr("no effect found: neither "));
+
+    std::filesystem::copy(testEffect("Whole"), folder / "bin/Corvel.so");
+    EXPECT_EQ(runProgram(program, {"programs"}).status, 0);
+
+    // The plugin folder comes first.
+    std::filesystem::create_directories(folder / "plugin");
+    std::filesystem::copy(testEffect("NoEntry"), folder / "plugin/Corvel.so");
+    run = runProgram(program, {"programs"});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_THAT(run.errors, HasSubstr("plugin/Corvel.so: not a VST 2 effect"));
+
+    // A link to the program does not change where that is.
+    std::filesystem::create_symlink(program, folder / "link");
+    EXPECT_THAT(runProgram(folder / "link", {"programs"}).errors,
+                HasSubstr("plugin/Corvel.so: not a VST 2 effect"));
+}
+
+TEST(CommandLine, ProgramsAreListed) {
+    const SProgramRun run = corvelWith({"programs"});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.out, "#  Name   Chain\n"
+                       "0  Plain\n"
+                       "1  Loud   Rumble Filter, Compressor\n"
+                       "2  Empty\n");
+    const nlohmann::json json = nlohmann::json::parse(corvelWith({"programs", "--json"}).out);
+    ASSERT_EQ(json.size(), 3u);
+    EXPECT_EQ(json[1],
+              (nlohmann::json{
+                  {"program", 1}, {"name", "Loud"}, {"chain", {"Rumble Filter", "Compressor"}}}));
+    EXPECT_EQ(json[2]["chain"], nlohmann::json::array());
+}
+
+TEST(CommandLine, ProgramsOfOtherEffectsHaveNoChain) {
+    EXPECT_EQ(corvelWith({"programs"}, "Stranger").out, "#  Name\n"
+                                                        "0  Plain\n"
+                                                        "1  Loud\n"
+                                                        "2  Empty\n");
+}
+
+TEST(CommandLine, ParametersAreListed) {
+    const SProgramRun run = corvelWith({"params", "--program", "loud"});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.out, "#  Name   Value  Display   Unit\n"
+                       "0  Gain   1      6.00      dB\n"
+                       "1  Freq   0.25   200       Hz\n"
+                       "2  Link   0      Separate\n"
+                       "3  Ratio  0      1.0:1\n"
+                       "4  Route  0      Combine\n"
+                       "5         0\n");
+    const nlohmann::json json = nlohmann::json::parse(corvelWith({"params", "--json"}).out);
+    ASSERT_EQ(json.size(), 6u);
+    EXPECT_EQ(json[1], (nlohmann::json{{"parameter", 1},
+                                       {"name", "Freq"},
+                                       {"value", 0.25},
+                                       {"display", "200"},
+                                       {"unit", "Hz"}}));
+}
+
+TEST(CommandLine, InfoTellsWhatAHostSees) {
+    const SProgramRun run = corvel({"info", testEffect("Late")});
+    EXPECT_EQ(run.status, 0);
+    for (const char *line :
+         {"entry       VSTPluginMain\n", "name        Test effect\n",
+          "vendor      Test vendor, version 0\n", "interface   VST 2400\n", "category    unknown\n",
+          "unique id   0x6B4D7251, in memory \"QrMk\"\n", "version     7\n",
+          "flags       CanReplacing, ProgramChunks, CanDoubleReplacing\n", "programs    3\n",
+          "parameters  6\n", "inputs      2\n", "outputs     2\n", "latency     1000 frames\n",
+          "editor      none\n", "input pin   Left input (L, active, stereo)\n",
+          "output pin  Right output (R, active, stereo)\n", "can do      2in2out\n",
+          "cannot do   bypass\n"})
+        EXPECT_THAT(run.out, HasSubstr(line));
+}
+
+TEST(CommandLine, InfoIsToldAsJson) {
+    const nlohmann::json json =
+        nlohmann::json::parse(corvel({"info", testEffect("OldEntry"), "--json"}).out);
+    EXPECT_EQ(json["entries"], nlohmann::json({"main"}));
+    EXPECT_EQ(json["uniqueIdLetters"], "QrMk");
+    EXPECT_EQ(json["inputs"], 2);
+    EXPECT_EQ(json["inputPins"][1]["label"], "Right input");
+    EXPECT_EQ(json["canDo"]["2in2out"], 1);
+    EXPECT_EQ(json["canDo"]["bypass"], -1);
+    EXPECT_TRUE(json["editor"].is_null());
+}
+
+TEST(CommandLine, InfoOfWhatIsNoEffectFails) {
+    const SProgramRun run = corvel({"info", CORVEL_PROGRAM});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_THAT(run.errors, HasSubstr("cannot be loaded as an effect"));
+}

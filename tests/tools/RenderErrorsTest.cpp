@@ -1,0 +1,242 @@
+#include <gmock/gmock.h>
+#include <nlohmann/json.hpp>
+
+#include "tools/support/AudioFiles.h"
+#include "tools/support/CTemporaryFolder.h"
+#include "tools/support/Program.h"
+
+// Each error of `corvel render`: one line that says which file and what is wrong, the exit status,
+// and an output that stays what it was.
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+namespace {
+
+class RenderErrors : public testing::Test {
+protected:
+    RenderErrors() {
+        writeSound(folder / "in.wav", voice(21, 3000));
+        writeFile(folder / "out.wav", "old");
+    }
+
+    /// Expects that a call fails with one line and changes no file.
+    void expectFailure(int status, const std::string &words,
+                       const std::vector<std::string> &arguments,
+                       const std::string &environment = "") {
+        const std::vector<std::string> before = folder.names();
+        const SProgramRun run = corvel(arguments, environment);
+        EXPECT_EQ(run.status, status);
+        EXPECT_THAT(run.errors, StartsWith("corvel: "));
+        EXPECT_THAT(run.errors, HasSubstr(words));
+        EXPECT_EQ(std::count(run.errors.begin(), run.errors.end(), '\n'), 1) << run.errors;
+        EXPECT_EQ(run.out, "");
+        EXPECT_TRUE(readFile(folder / "out.wav") == "old");
+        EXPECT_EQ(folder.names(), before);
+    }
+
+    void expectFailureOfInput(const std::string &in, const std::string &words,
+                              const std::vector<std::string> &options = {}) {
+        std::vector<std::string> arguments = renderTo("out.wav", options);
+        arguments[1] = folder / in;
+        expectFailure(1, (folder / in).string() + ": " + words, arguments);
+    }
+
+    std::vector<std::string> renderTo(const std::string &out,
+                                      const std::vector<std::string> &options = {},
+                                      const std::string &effect = "Whole") {
+        std::vector<std::string> arguments = {"render", folder / "in.wav", folder / out, "--plugin",
+                                              testEffect(effect)};
+        arguments.insert(arguments.end(), options.begin(), options.end());
+        return arguments;
+    }
+
+    CTemporaryFolder folder;
+};
+
+}  // namespace
+
+TEST_F(RenderErrors, InputThatIsMissing) {
+    expectFailureOfInput("missing.wav", "no such file");
+}
+
+TEST_F(RenderErrors, InputThatIsShort) {
+    copyHead(folder / "in.wav", folder / "short.wav", 5000);
+    expectFailureOfInput("short.wav", "cut short, ");
+}
+
+TEST_F(RenderErrors, CompressedInputThatIsShort) {
+    SSound sound = voice(21, 60000);
+    sound.format = SF_FORMAT_FLAC | SF_FORMAT_PCM_16;
+    writeSound(folder / "whole.flac", sound);
+    copyHead(folder / "whole.flac", folder / "short.flac", 60000);
+    expectFailureOfInput("short.flac", "cut short or damaged, ends after ");
+}
+
+TEST_F(RenderErrors, InputOfTheWrongKind) {
+    writeFile(folder / "text.wav", "Dear Sir or Madam");
+    expectFailureOfInput("text.wav", "not a readable audio file");
+}
+
+TEST_F(RenderErrors, InputThatIsAFolder) {
+    std::filesystem::create_directory(folder / "folder");
+    expectFailureOfInput("folder", "not a file");
+}
+
+TEST_F(RenderErrors, InputOfThreeChannels) {
+    writeSound(folder / "three.wav", voice(21, 100, 3));
+    expectFailureOfInput("three.wav", "has 3 channels; only mono and stereo can be rendered");
+}
+
+TEST_F(RenderErrors, MonoSumOfAStereoFile) {
+    expectFailureOfInput("in.wav", "is stereo; --mono is for mono files", {"--mono"});
+}
+
+TEST_F(RenderErrors, RateThatCannotBeConverted) {
+    SSound sound = voice(21, 100);
+    sound.sampleRate = 1;
+    writeSound(folder / "slow.wav", sound);
+    expectFailureOfInput("slow.wav", "cannot be converted from 1 to 44100 Hz", {"--resample"});
+}
+
+TEST_F(RenderErrors, OutputFolderThatIsMissing) {
+    expectFailure(1, "missing/out.wav: cannot be written", renderTo("missing/out.wav"));
+}
+
+TEST_F(RenderErrors, OutputThatIsADevice) {
+    expectFailure(1, "/dev/null: cannot be written (not a file)",
+                  {"render", folder / "in.wav", "/dev/null", "--plugin", testEffect("Whole")});
+}
+
+TEST_F(RenderErrors, FullDisk) {
+    SSound sound = voice(21, 200000);
+    writeSound(folder / "long.wav", sound);
+    expectFailure(
+        1, "out.wav: cannot be written",
+        {"render", folder / "long.wav", folder / "out.wav", "--plugin", testEffect("Whole")},
+        "trap '' XFSZ; ulimit -f 200;");
+}
+
+TEST_F(RenderErrors, DiskThatIsFullAtTheLastByte) {
+    // 3000 frames of 16 bits are 12000 bytes; two blocks of 512 hold none of them.
+    expectFailure(1, "out.wav: cannot be written", renderTo("out.wav", {"--format", "wav:16"}),
+                  "trap '' XFSZ; ulimit -f 1;");
+}
+
+TEST_F(RenderErrors, FormatThatTheRateDoesNotAllow) {
+    expectFailure(1, "out.wav: cannot be written", renderTo("out.wav", {"--format", "ogg:opus"}));
+}
+
+TEST_F(RenderErrors, EffectThatIsMissing) {
+    expectFailure(1, "Missing.so: no such file", renderTo("out.wav", {}, "Missing"));
+}
+
+TEST_F(RenderErrors, EffectThatIsNone) {
+    expectFailure(1, "NoEntry.so: not a VST 2 effect", renderTo("out.wav", {}, "NoEntry"));
+    expectFailure(1, "NoMagic.so: not a VST 2 effect", renderTo("out.wav", {}, "NoMagic"));
+    expectFailure(1, "Refusing.so: the effect refuses to start",
+                  renderTo("out.wav", {}, "Refusing"));
+    expectFailure(1, "in.wav: cannot be loaded as an effect",
+                  {"render", folder / "in.wav", folder / "out.wav", "--plugin", folder / "in.wav"});
+}
+
+TEST_F(RenderErrors, EffectThatCannotRender) {
+    expectFailure(1, "OneChannel.so: has 1 inputs and 1 outputs",
+                  renderTo("out.wav", {}, "OneChannel"));
+    expectFailure(1, "NoReplacing.so: cannot process", renderTo("out.wav", {}, "NoReplacing"));
+    expectFailure(1, "SingleOnly.so: cannot process in double precision",
+                  renderTo("out.wav", {"--double"}, "SingleOnly"));
+}
+
+TEST_F(RenderErrors, EffectWithAStateOfAnotherSize) {
+    expectFailure(1, "ShortChunk.so: the effect's state has 100 bytes, not 424",
+                  renderTo("out.wav", {"--chain", "Gate"}, "ShortChunk"));
+}
+
+TEST_F(RenderErrors, WrongSettings) {
+    expectFailure(2, "--program: no program \"Lauter\"",
+                  renderTo("out.wav", {"--program", "Lauter"}));
+    expectFailure(2, "--program: no program \"3\"", renderTo("out.wav", {"--program", "3"}));
+    expectFailure(2, "--set: no parameter \"Gian\"", renderTo("out.wav", {"--set", "Gian=1"}));
+    expectFailure(2, "--set: \"Gain\" is not NAME=VALUE", renderTo("out.wav", {"--set", "Gain"}));
+    expectFailure(2, "--set Gain: \"9dB\" is not shown",
+                  renderTo("out.wav", {"--set", "Gain=9dB"}));
+    expectFailure(2, "--set Gain: \"-6\" is not from 0 to 1",
+                  renderTo("out.wav", {"--set", "Gain=-6"}));
+    expectFailure(2, "--chain: no module \"Flanger\"",
+                  renderTo("out.wav", {"--chain", "Gate,Flanger"}));
+    expectFailure(2, "--chain: Gate can stand in the chain once only",
+                  renderTo("out.wav", {"--chain", "Gate,gate"}));
+    expectFailure(2, "is not a Corvel", renderTo("out.wav", {"--chain", "Gate"}, "Stranger"));
+}
+
+TEST_F(RenderErrors, WrongNumbers) {
+    for (const char *const option : {"--tempo", "--block", "--tail"})
+        for (const char *const value : {"-1", "x", "1e9", "nan"})
+            expectFailure(2, option, renderTo("out.wav", {option, value}));
+    expectFailure(2, "--block", renderTo("out.wav", {"--block", "0"}));
+    expectFailure(2, "--tempo", renderTo("out.wav", {"--tempo", "0"}));
+}
+
+TEST_F(RenderErrors, WrongFormat) {
+    expectFailure(2, "--format: no container \"mp3\"", renderTo("out.wav", {"--format", "mp3"}));
+    expectFailure(2, "--format: flac has no sample type \"float\"",
+                  renderTo("out.wav", {"--format", "flac:float"}));
+}
+
+TEST_F(RenderErrors, OutputThatIsAnInput) {
+    expectFailure(2, "in.wav: is an input, it would be written over", renderTo("in.wav"));
+    expectFailure(2, "in.wav: is an input, it would be written over", renderTo("."));
+}
+
+TEST_F(RenderErrors, SeveralInputsToOneFile) {
+    expectFailure(2, "out.wav: several inputs need a folder to go to",
+                  {"render", folder / "in.wav", folder / "in.wav", folder / "out.wav", "--plugin",
+                   testEffect("Whole")});
+    expectFailure(2, "two inputs would be written to it",
+                  {"render", folder / "in.wav", folder / "in.wav", folder / "batch", "--plugin",
+                   testEffect("Whole")});
+}
+
+TEST_F(RenderErrors, OneFileOfABatchDoesNotStopTheOthers) {
+    writeSound(folder / "good.wav", voice(22, 1000));
+    writeFile(folder / "bad.wav", "bad");
+    const SProgramRun run =
+        corvel({"render", folder / "in.wav", folder / "bad.wav", folder / "missing.wav",
+                folder / "good.wav", folder / "batch", "--json", "--plugin", testEffect("Whole")});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(std::count(run.errors.begin(), run.errors.end(), '\n'), 2) << run.errors;
+    EXPECT_EQ(readSound(folder / "batch/in.wav").frames(), 3000u);
+    EXPECT_EQ(readSound(folder / "batch/good.wav").frames(), 1000u);
+    EXPECT_FALSE(std::filesystem::exists(folder / "batch/bad.wav"));
+
+    const nlohmann::json files = nlohmann::json::parse(run.out)["files"];
+    ASSERT_EQ(files.size(), 4u);
+    EXPECT_FALSE(files[0].contains("error"));
+    EXPECT_THAT(files[1]["error"].get<std::string>(), HasSubstr("bad.wav: not a readable"));
+    EXPECT_THAT(files[2]["error"].get<std::string>(), HasSubstr("missing.wav: no such file"));
+}
+
+TEST_F(RenderErrors, AWrongCallMakesNoFolder) {
+    expectFailure(2, "no program",
+                  {"render", folder / "in.wav", folder / "other.wav", folder / "batch", "--program",
+                   "Lauter", "--plugin", testEffect("Whole")});
+}
+
+TEST_F(RenderErrors, AnInterruptLeavesNothingBehind) {
+    for (const std::string &signal : {std::string("INT"), std::string("TERM")}) {
+        // An hour in single frames takes long enough. The part is there before the first sample.
+        const std::string script =
+            std::string(CORVEL_PROGRAM " render ") + (folder / "in.wav").string() + " " +
+            (folder / "out.wav").string() + " --tail 3600 --block 1 --plugin " +
+            testEffect("Whole") + " &\nuntil ls -A " + folder.path().string() +
+            " | grep -q part; do sleep 0.01; done\n"
+            "kill -" +
+            signal + " $!\nwait $!";
+        const SProgramRun run = runProgram("sh", {"-c", script});
+        EXPECT_EQ(run.status, 1);
+        EXPECT_EQ(run.errors, "corvel: " + (folder / "in.wav").string() + ": interrupted\n");
+        EXPECT_TRUE(readFile(folder / "out.wav") == "old");
+        EXPECT_EQ(folder.names(), (std::vector<std::string>{"in.wav", "out.wav"}));
+    }
+}

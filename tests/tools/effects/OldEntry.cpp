@@ -1,0 +1,9 @@
+#include "tools/effects/TestEffect.h"
+
+// The language reserves the name for programs; this is a library.
+extern "C" [[gnu::visibility("default")]] AEffect *
+oldEntry(audioMasterCallback host) __asm__("main");
+
+AEffect *oldEntry(audioMasterCallback host) {
+    return enterTestEffect(host);
+}

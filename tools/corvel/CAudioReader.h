@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <sndfile.h>
+
+namespace Tessitor::Tool {
+
+struct SSoundFileCloser {
+    void operator()(SNDFILE *file) const { sf_close(file); }
+};
+
+/// An audio file to read: WAV, AIFF, FLAC or Ogg, of one or two channels.
+class CAudioReader {
+public:
+    /// @throws CJobError if the file is missing, cut short, of another kind or of more channels.
+    explicit CAudioReader(const std::filesystem::path &file);
+
+    int sampleRate() const { return m_info.samplerate; }
+    int channels() const { return m_info.channels; }
+    int format() const { return m_info.format; }  ///< as libsndfile numbers it
+    /// FLAC that was written into a pipe does not say how long it is.
+    bool knowsLength() const { return m_info.frames != SF_COUNT_MAX; }
+    std::int64_t frames() const { return m_info.frames; }  ///< a huge number if not known
+
+    /// Reads on, interleaved; integers become n / 2^(bits - 1).
+    /// @return frames read, fewer than asked for only at the end.
+    /// @throws CJobError if the file is damaged or ends before it should.
+    std::int64_t read(float *samples, std::int64_t frames);
+    std::int64_t read(double *samples, std::int64_t frames);
+
+private:
+    std::int64_t handleRead(std::int64_t frames, std::int64_t asked);
+
+    std::filesystem::path m_path;
+    SF_INFO m_info{};
+    std::unique_ptr<SNDFILE, SSoundFileCloser> m_file;
+    std::int64_t m_framesRead = 0;
+};
+
+}  // namespace Tessitor::Tool

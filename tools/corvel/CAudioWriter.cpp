@@ -1,0 +1,70 @@
+#include "corvel/CAudioWriter.h"
+
+#include <algorithm>
+
+#include "corvel/Errors.h"
+#include "corvel/OutputFormat.h"
+#include "corvel/Quantise.h"
+
+namespace Tessitor::Tool {
+
+namespace {
+
+std::int64_t writeFrames(SNDFILE *file, const float *samples, std::int64_t frames) {
+    return sf_writef_float(file, samples, frames);
+}
+
+std::int64_t writeFrames(SNDFILE *file, const double *samples, std::int64_t frames) {
+    return sf_writef_double(file, samples, frames);
+}
+
+}  // namespace
+
+CAudioWriter::CAudioWriter(const std::filesystem::path &file, int format, int sampleRate,
+                           int channels)
+    : m_place(file), m_channels(channels), m_bits(integerBits(format)), m_pending(file) {
+    SF_INFO info{};
+    info.format = format;
+    info.samplerate = sampleRate;
+    info.channels = channels;
+    m_file.reset(sf_open(m_pending.path().c_str(), SFM_WRITE, &info));
+    if (m_file == nullptr)
+        fail(sf_strerror(nullptr));
+    // That chunk holds the time of day: the same sound would never give the same file twice.
+    sf_command(m_file.get(), SFC_SET_ADD_PEAK_CHUNK, nullptr, SF_FALSE);
+}
+
+void CAudioWriter::write(const float *samples, std::int64_t frames) {
+    writeAll(samples, frames);
+}
+
+void CAudioWriter::write(const double *samples, std::int64_t frames) {
+    writeAll(samples, frames);
+}
+
+template <typename Sample>
+void CAudioWriter::writeAll(const Sample *samples, std::int64_t frames) {
+    std::int64_t written = 0;
+    if (m_bits == 0) {
+        written = writeFrames(m_file.get(), samples, frames);
+    } else {
+        const auto count = static_cast<std::size_t>(frames * m_channels);
+        m_integers.resize(std::max(m_integers.size(), count));
+        m_clipped += quantise(samples, count, m_bits, m_integers.data());
+        written = sf_writef_int(m_file.get(), m_integers.data(), frames);
+    }
+    if (written != frames)
+        fail(sf_strerror(m_file.get()));
+}
+
+void CAudioWriter::finish() {
+    if (const int error = sf_close(m_file.release()))
+        fail(sf_error_number(error));
+    m_pending.commit();
+}
+
+void CAudioWriter::fail(const std::string &reason) const {
+    throw CJobError(m_place.string() + ": cannot be written (" + reason + ")");
+}
+
+}  // namespace Tessitor::Tool

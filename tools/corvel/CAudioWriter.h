@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "corvel/CAudioReader.h"
+#include "corvel/CPendingFile.h"
+
+namespace Tessitor::Tool {
+
+/// An audio file to write. It comes into its place by finish(), whole, or not at all.
+class CAudioWriter {
+public:
+    /// @param format  as libsndfile numbers it.
+    /// @throws CJobError if the file cannot be made.
+    CAudioWriter(const std::filesystem::path &file, int format, int sampleRate, int channels);
+
+    int channels() const { return m_channels; }
+
+    /// Writes on, interleaved. Integers are rounded and clipped, floating-point samples are not.
+    /// @throws CJobError if the file cannot be written.
+    void write(const float *samples, std::int64_t frames);
+    void write(const double *samples, std::int64_t frames);
+
+    /// Completes the file and puts it in its place.
+    /// @throws CJobError if it cannot be completed.
+    void finish();
+
+    std::uint64_t clippedSamples() const { return m_clipped; }
+
+private:
+    template <typename Sample>
+    void writeAll(const Sample *samples, std::int64_t frames);
+    [[noreturn]] void fail(const std::string &reason) const;
+
+    std::filesystem::path m_place;
+    int m_channels;
+    int m_bits;  // of the integers, 0 for floating-point samples
+    std::uint64_t m_clipped = 0;
+    std::vector<std::int32_t> m_integers;
+    CPendingFile m_pending;  // outlives the handle
+    std::unique_ptr<SNDFILE, SSoundFileCloser> m_file;
+};
+
+}  // namespace Tessitor::Tool

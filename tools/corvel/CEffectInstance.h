@@ -1,0 +1,79 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <span>
+#include <string>
+
+#include "corvel/CEffectLibrary.h"
+#include "corvel/HostCallback.h"
+
+namespace Tessitor::Tool {
+
+/// How an instance is to run.
+struct SRunSettings {
+    double sampleRate = 44100.0;    // Hz
+    double tempo = 120.0;           // beats per minute
+    std::int32_t blockSize = 1024;  // longest block, frames
+    bool doublePrecision = false;
+    bool rightInputConnected = true;
+    bool rightOutputConnected = true;
+};
+
+/// One effect, opened and closed as a host does it. One thread at a time.
+class CEffectInstance {
+public:
+    /// Enters the library and opens the effect.
+    /// @throws CJobError if what comes back is no usable effect.
+    explicit CEffectInstance(const CEffectLibrary &library);
+    ~CEffectInstance();
+    CEffectInstance(const CEffectInstance &) = delete;
+    CEffectInstance &operator=(const CEffectInstance &) = delete;
+
+    const AEffect &record() const { return *m_effect; }
+    bool has(VstAEffectFlags flag) const { return (m_effect->flags & flag) != 0; }
+    std::string fileName() const { return m_library.file().string(); }
+
+    std::intptr_t dispatch(AEffectOpcode opcode, std::int32_t index = 0, std::intptr_t value = 0,
+                           void *ptr = nullptr, float opt = 0.0f);
+    /// The text that an opcode writes to its `ptr`; empty if the effect writes none.
+    std::string text(AEffectOpcode opcode, std::int32_t index = 0, std::intptr_t value = 0);
+
+    float parameter(std::int32_t index) { return m_effect->getParameter(m_effect, index); }
+    void setParameter(std::int32_t index, float value) {
+        m_effect->setParameter(m_effect, index, value);
+    }
+
+    /// The present program's state. The bytes are the effect's and stand until the next call.
+    /// @throws CJobError if the effect gives none.
+    std::span<const std::byte> programChunk();
+    void setProgramChunk(std::span<const std::byte> chunk);
+
+    /// Rate, block size, mains on, start. The transport starts at 0.
+    void start(const SRunSettings &settings);
+    /// Stop, mains off. Does nothing unless started.
+    void stop();
+
+    /// Between start and stop only.
+    /// @param in, out  two channels of `frames` samples; out[1] may be null without a right output.
+    /// @param frames   at most the block size.
+    void process(float **in, float **out, std::int32_t frames);
+    /// For effects with effFlagsCanDoubleReplacing, started in double precision.
+    void process(double **in, double **out, std::int32_t frames);
+
+private:
+    struct SCloser {
+        std::mutex &lock;
+        void operator()(AEffect *effect) const;
+    };
+
+    void advanceTransport(std::int32_t frames);
+
+    const CEffectLibrary &m_library;
+    SHostState m_host;
+    std::unique_ptr<AEffect, SCloser> m_owner;
+    AEffect *m_effect = nullptr;  // what m_owner owns
+    bool m_running = false;
+};
+
+}  // namespace Tessitor::Tool

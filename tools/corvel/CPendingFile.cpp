@@ -1,0 +1,64 @@
+#include "corvel/CPendingFile.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <string>
+
+#include "corvel/Errors.h"
+
+namespace fs = std::filesystem;
+
+namespace Tessitor::Tool {
+
+namespace {
+
+// A link is followed: it is its target that is written, and the link stays.
+fs::path resolved(const fs::path &place) {
+    std::error_code error;
+    const fs::path real = fs::weakly_canonical(place, error);
+    return error ? place : real;
+}
+
+// Exclusively, so that no file of that name is written over, not even one of another corvel.
+fs::path makeFileBeside(const fs::path &place) {
+    constexpr int attempts = 1000;
+    for (int number = 0; number < attempts; ++number) {
+        std::string name = ".";
+        name.append(place.filename()).append(".").append(std::to_string(number)).append(".part");
+        fs::path candidate = place;
+        candidate.replace_filename(name);
+        if (std::FILE *file = std::fopen(candidate.c_str(), "wbx")) {
+            std::fclose(file);
+            return candidate;
+        }
+        if (errno != EEXIST)
+            break;
+    }
+    throw CJobError(place.string() + ": cannot be written (" + std::strerror(errno) + ")");
+}
+
+}  // namespace
+
+CPendingFile::CPendingFile(const fs::path &place) : m_place(resolved(place)) {
+    // A device or a pipe would be replaced by the renaming.
+    if (fs::exists(m_place) && !fs::is_regular_file(m_place))
+        throw CJobError(place.string() + ": cannot be written (not a file)");
+    m_path = makeFileBeside(m_place);
+}
+
+CPendingFile::~CPendingFile() {
+    std::error_code ignored;  // nothing can be done about it, and the name says what it is
+    if (!m_committed)
+        fs::remove(m_path, ignored);
+}
+
+void CPendingFile::commit() {
+    std::error_code error;
+    fs::rename(m_path, m_place, error);
+    if (error)
+        throw CJobError(m_place.string() + ": cannot be written (" + error.message() + ")");
+    m_committed = true;
+}
+
+}  // namespace Tessitor::Tool

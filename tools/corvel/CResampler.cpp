@@ -1,0 +1,53 @@
+#include "corvel/CResampler.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "corvel/Errors.h"
+
+namespace Tessitor::Tool {
+
+CResampler::CResampler(std::string file, double fromRate, double toRate, int channels)
+    : m_file(std::move(file)), m_ratio(toRate / fromRate),
+      m_channels(static_cast<std::size_t>(channels)) {
+    int error = 0;
+    if (src_is_valid_ratio(m_ratio) != 0)
+        m_state.reset(src_new(SRC_SINC_BEST_QUALITY, channels, &error));
+    if (m_state == nullptr)
+        throw CJobError(m_file + ": cannot be converted from " +
+                        std::to_string(std::lround(fromRate)) + " to " +
+                        std::to_string(std::lround(toRate)) + " Hz");
+}
+
+std::span<const float> CResampler::convert(std::span<const float> samples) {
+    // Room for what the converter held back as well.
+    constexpr double spareFrames = 1024.0;
+    std::size_t used = 0, made = 0;
+    while (used < samples.size()) {
+        const auto left = static_cast<double>((samples.size() - used) / m_channels);
+        const auto room = static_cast<std::size_t>(left * m_ratio + spareFrames) * m_channels;
+        m_converted.resize(std::max(m_converted.size(), made + room));
+
+        SRC_DATA data{};
+        data.data_in = samples.data() + used;
+        data.input_frames = static_cast<long>((samples.size() - used) / m_channels);
+        data.data_out = m_converted.data() + made;
+        data.output_frames = static_cast<long>((m_converted.size() - made) / m_channels);
+        data.src_ratio = m_ratio;
+        if (const int error = src_process(m_state.get(), &data))
+            throw CJobError(m_file + ": cannot be converted (" + src_strerror(error) + ")");
+        used += static_cast<std::size_t>(data.input_frames_used) * m_channels;
+        made += static_cast<std::size_t>(data.output_frames_gen) * m_channels;
+    }
+    return {m_converted.data(), made};
+}
+
+std::span<const double> CResampler::convert(std::span<const double> samples) {
+    m_narrowed.assign(samples.begin(), samples.end());
+    const std::span<const float> converted = convert(std::span<const float>(m_narrowed));
+    m_widened.assign(converted.begin(), converted.end());
+    return m_widened;
+}
+
+}  // namespace Tessitor::Tool

@@ -1,0 +1,105 @@
+#include "corvel/Chain.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+
+#include "corvel/Errors.h"
+#include "corvel/Text.h"
+
+namespace Tessitor::Tool {
+
+namespace {
+
+using Corvel::slotCount;
+using Corvel::SProgram;
+
+constexpr std::int32_t channelStripId = 'Q' | 'r' << 8 | 'M' << 16 | 'k' << 24;
+
+// Slots 0 and 1, input gain and input routing, begin every chain.
+constexpr int lastHeadSlot = 1;
+constexpr int firstModuleSlot = 2;
+constexpr std::array<std::string_view, slotCount - firstModuleSlot> labels = {
+    "Balance",     "Pan",        "Gain",  "3Band",      "Rumble Filter", "HiPass",
+    "Presence",    "Parametric", "Gate",  "Compressor", "DeEsser",       "Modulator 1",
+    "Modulator 2", "Warmer",     "Delay", "Reverb"};
+
+int slotFromLabel(std::string_view label) {
+    std::string known;
+    for (std::size_t i = 0; i < labels.size(); ++i) {
+        if (equalInAnyCapitals(labels[i], label))
+            return static_cast<int>(i) + firstModuleSlot;
+        known += (i == 0 ? "" : ", ") + std::string(labels[i]);
+    }
+    throw CCallError("--chain: no module \"" + std::string(label) + "\": " + known);
+}
+
+SProgram programOf(CEffectInstance &effect) {
+    const std::span<const std::byte> chunk = effect.programChunk();
+    SProgram program;
+    if (chunk.size() != sizeof(program))
+        throw CJobError(effect.fileName() + ": the effect's state has " +
+                        std::to_string(chunk.size()) + " bytes, not " +
+                        std::to_string(sizeof(program)));
+    std::memcpy(&program, chunk.data(), sizeof(program));
+    return program;
+}
+
+}  // namespace
+
+Chain chainFromText(std::string_view text) {
+    Chain chain;
+    if (trimmed(text).empty() || equalInAnyCapitals(trimmed(text), "none"))
+        return chain;
+    for (const std::string_view label : split(text, ',')) {
+        const int slot = slotFromLabel(trimmed(label));
+        if (std::find(chain.begin(), chain.end(), slot) != chain.end())
+            throw CCallError("--chain: " + std::string(moduleLabel(slot)) +
+                             " can stand in the chain once only");
+        chain.push_back(slot);
+    }
+    return chain;
+}
+
+std::string_view moduleLabel(int slot) {
+    return labels[static_cast<std::size_t>(slot - firstModuleSlot)];
+}
+
+Chain chainOf(const SProgram &program) {
+    Chain chain;
+    int slot = program.order[lastHeadSlot].next;
+    while (slot >= firstModuleSlot && slot < slotCount &&
+           std::find(chain.begin(), chain.end(), slot) == chain.end()) {
+        chain.push_back(slot);
+        slot = program.order[static_cast<std::size_t>(slot)].next;
+    }
+    return chain;
+}
+
+void setChain(SProgram &program, const Chain &chain) {
+    program.order.fill({-1, -1});
+    program.order[0].next = lastHeadSlot;
+    program.order[lastHeadSlot].prev = 0;
+    int last = lastHeadSlot;
+    for (const int slot : chain) {
+        program.order[static_cast<std::size_t>(last)].next = slot;
+        program.order[static_cast<std::size_t>(slot)].prev = last;
+        last = slot;
+    }
+}
+
+bool hasChain(const CEffectInstance &effect) {
+    return effect.record().uniqueID == channelStripId && effect.has(effFlagsProgramChunks);
+}
+
+Chain chainOf(CEffectInstance &effect) {
+    return chainOf(programOf(effect));
+}
+
+void setChain(CEffectInstance &effect, const Chain &chain) {
+    SProgram program = programOf(effect);
+    setChain(program, chain);
+    effect.setProgramChunk(std::as_bytes(std::span(&program, 1)));
+}
+
+}  // namespace Tessitor::Tool

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "corvel/CEffectSettings.h"
+#include "corvel/Render.h"
+
+namespace Tessitor::Tool {
+
+// Each command prints its result on standard output and what went wrong on standard error, throws
+// CCallError or CJobError before it has begun, and returns the exit status.
+
+struct SRenderCall {
+    std::optional<std::string> plugin;  // the effect's file, else the one beside the program
+    std::vector<std::string> files;     // the last one is the output
+    SSettingsRequest settings;
+    SRenderOptions options;
+    bool json = false;
+};
+int runRender(const SRenderCall &call);
+
+struct SProgramsCall {
+    std::optional<std::string> plugin;
+    bool json = false;
+};
+int runPrograms(const SProgramsCall &call);
+
+struct SParamsCall {
+    std::optional<std::string> plugin;
+    std::optional<std::string> program;
+    bool json = false;
+};
+int runParams(const SParamsCall &call);
+
+struct SInfoCall {
+    std::optional<std::string> file;
+    bool json = false;
+};
+int runInfo(const SInfoCall &call);
+
+}  // namespace Tessitor::Tool

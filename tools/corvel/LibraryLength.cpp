@@ -1,0 +1,64 @@
+#include "corvel/LibraryLength.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <fstream>
+#include <string_view>
+
+namespace Tessitor::Tool {
+
+namespace {
+
+// The published layout of a 64-bit ELF file, as far as it says what is loaded.
+struct SFileHeader {
+    std::array<char, 32> identityAndType;
+    std::uint64_t segmentTable;  // place in the file
+    std::array<char, 14> rest;
+    std::uint16_t segmentSize;  // bytes of one entry
+    std::uint16_t segmentCount;
+};
+static_assert(sizeof(SFileHeader) == 64 && offsetof(SFileHeader, segmentSize) == 54);
+
+struct SSegment {
+    std::uint32_t type;
+    std::uint32_t flags;
+    std::uint64_t place;  // in the file
+    std::uint64_t addresses[2];
+    std::uint64_t bytes;  // in the file
+};
+static_assert(sizeof(SSegment) == 40);
+
+constexpr std::string_view identity = "\x7F"
+                                      "ELF\x02\x01";  // 64 bits, little-endian
+constexpr std::uint32_t loaded = 1;
+
+template <typename Record>
+bool read(std::ifstream &file, Record &record) {
+    file.read(reinterpret_cast<char *>(&record), sizeof(record));
+    return file.gcount() == sizeof(record);
+}
+
+}  // namespace
+
+bool isLibraryCutShort(const std::filesystem::path &path) {
+    std::ifstream file(path, std::ios::binary);
+    const std::uint64_t fileBytes = std::filesystem::file_size(path);
+    SFileHeader header;
+    if (!read(file, header) ||
+        !std::string_view(header.identityAndType.data(), header.identityAndType.size())
+             .starts_with(identity))
+        return false;
+    for (std::uint16_t i = 0; i < header.segmentCount; ++i) {
+        file.seekg(static_cast<std::streamoff>(header.segmentTable + i * header.segmentSize));
+        SSegment segment;
+        if (!read(file, segment))
+            return true;
+        if (segment.type == loaded &&
+            (segment.place > fileBytes || segment.bytes > fileBytes - segment.place))
+            return true;
+    }
+    return false;
+}
+
+}  // namespace Tessitor::Tool

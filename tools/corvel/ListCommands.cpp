@@ -1,0 +1,79 @@
+#include "corvel/Commands.h"
+#include "corvel/Print.h"
+#include "corvel/Text.h"
+
+namespace Tessitor::Tool {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+using Rows = std::vector<std::vector<std::string>>;
+
+// JSON numbers are doubles: through the text, 0.1f becomes 0.1 and not 0.10000000149011612.
+double asWritten(float number) {
+    return std::stod(shortest(number));
+}
+
+std::string joined(const std::vector<std::string> &parts) {
+    std::string text;
+    for (const std::string &part : parts)
+        text += (text.empty() ? "" : ", ") + part;
+    return text;
+}
+
+std::vector<std::string> labelsOf(const Chain &chain) {
+    std::vector<std::string> labels;
+    for (const int slot : chain)
+        labels.emplace_back(moduleLabel(slot));
+    return labels;
+}
+
+}  // namespace
+
+int runPrograms(const SProgramsCall &call) {
+    const CEffectLibrary library(CEffectLibrary::choose(call.plugin));
+    CEffectInstance effect(library);
+    const bool chained = hasChain(effect);
+    Json json = Json::array();
+    Rows rows = {{"#", "Name"}};
+    if (chained)
+        rows.front().emplace_back("Chain");
+    for (std::int32_t program = 0; program < effect.record().numPrograms; ++program) {
+        const std::string name = programName(effect, program);
+        json.push_back({{"program", program}, {"name", name}});
+        rows.push_back({std::to_string(program), name});
+        if (!chained)
+            continue;
+        effect.dispatch(effSetProgram, 0, program);
+        const std::vector<std::string> labels = labelsOf(chainOf(effect));
+        json.back()["chain"] = labels;
+        rows.back().push_back(joined(labels));
+    }
+    call.json ? printJson(json) : print(inColumns(rows));
+    return 0;
+}
+
+int runParams(const SParamsCall &call) {
+    const CEffectLibrary library(CEffectLibrary::choose(call.plugin));
+    CEffectInstance effect(library);
+    if (call.program)
+        effect.dispatch(effSetProgram, 0, programFromText(effect, *call.program));
+    Json json = Json::array();
+    Rows rows = {{"#", "Name", "Value", "Display", "Unit"}};
+    for (std::int32_t index = 0; index < effect.record().numParams; ++index) {
+        const std::string name = effect.text(effGetParamName, index);
+        const float value = effect.parameter(index);
+        const std::string display = effect.text(effGetParamDisplay, index);
+        const std::string unit = effect.text(effGetParamLabel, index);
+        json.push_back({{"parameter", index},
+                        {"name", name},
+                        {"value", asWritten(value)},
+                        {"display", display},
+                        {"unit", unit}});
+        rows.push_back({std::to_string(index), name, shortest(value), display, unit});
+    }
+    call.json ? printJson(json) : print(inColumns(rows));
+    return 0;
+}
+
+}  // namespace Tessitor::Tool

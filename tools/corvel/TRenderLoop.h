@@ -1,0 +1,172 @@
+#pragma once
+
+#include <algorithm>
+#include <limits>
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "corvel/CAudioReader.h"
+#include "corvel/CAudioWriter.h"
+#include "corvel/CResampler.h"
+#include "corvel/Errors.h"
+#include "corvel/Interleave.h"
+#include "corvel/Interrupt.h"
+#include "corvel/Render.h"
+
+namespace Tessitor::Tool {
+
+/// The road of the sound: file, rate of the strip, effect, rate of the file, file. Each station
+/// hands on what it has. The effect and the two rate converters may hold some back, which the
+/// silence behind the end pushes out.
+template <typename Sample>
+class TRenderLoop {
+public:
+    /// @param effect  started, at the rate of the strip if the options want resampling.
+    TRenderLoop(const SRenderJob &job, const SRenderOptions &options, CAudioReader &reader,
+                CEffectInstance &effect, CAudioWriter &writer);
+
+    /// @param result  receives frames and levels.
+    void run(SRenderResult &result, const RenderListener &listener);
+
+private:
+    using Samples = std::span<const Sample>;  // interleaved
+
+    void feed(Samples samples);
+    void process(Samples samples);
+    void processBlock(Samples samples, Sample *out);
+    void deliver(Samples samples);
+    void stopIfInterrupted() const;
+
+    const SRenderJob &m_job;
+    CAudioReader &m_reader;
+    CEffectInstance &m_effect;
+    CAudioWriter &m_writer;
+    const std::size_t m_channelsIn, m_channelsOut;
+    const std::size_t m_blockFrames, m_chunkFrames;
+    const std::int64_t m_tailFrames;
+    std::optional<CResampler> m_toStrip, m_fromStrip;
+
+    std::vector<Sample> m_chunk;      // what is read at a time
+    std::vector<Sample> m_processed;  // what the effect made of a chunk
+    std::vector<Sample> m_inLeft, m_inRight, m_outLeft, m_outRight;  // one block
+
+    std::size_t m_latencyLeft;  // frames of the effect's output that precede the sound
+    std::int64_t m_framesDelivered = 0;
+    std::int64_t m_framesWanted = std::numeric_limits<std::int64_t>::max();  // until the end is met
+    CLevels m_levelsOut;
+};
+
+// Definitions
+
+namespace RenderLoop {
+
+// Long enough to be worth a system call, short enough to stay in the cache on the whole road.
+inline constexpr std::size_t chunkFrames = 16384;
+
+// More than both rate converters together hold back, in frames of the file.
+inline constexpr std::size_t flushFrames = 4096;
+
+}  // namespace RenderLoop
+
+template <typename Sample>
+TRenderLoop<Sample>::TRenderLoop(const SRenderJob &job, const SRenderOptions &options,
+                                 CAudioReader &reader, CEffectInstance &effect,
+                                 CAudioWriter &writer)
+    : m_job(job), m_reader(reader), m_effect(effect), m_writer(writer),
+      m_channelsIn(static_cast<std::size_t>(reader.channels())),
+      m_channelsOut(static_cast<std::size_t>(writer.channels())),
+      m_blockFrames(static_cast<std::size_t>(options.blockSize)),
+      // Whole blocks, so that only the last one of a file is shorter.
+      m_chunkFrames(m_blockFrames *
+                    std::max<std::size_t>(1, RenderLoop::chunkFrames / m_blockFrames)),
+      m_tailFrames(tailFrames(options, reader.sampleRate())), m_chunk(m_chunkFrames * m_channelsIn),
+      m_inLeft(m_blockFrames), m_inRight(m_blockFrames), m_outLeft(m_blockFrames),
+      m_outRight(m_blockFrames),
+      m_latencyLeft(static_cast<std::size_t>(std::max(0, effect.record().initialDelay))) {
+    if (options.resample && reader.sampleRate() != stripRate) {
+        m_toStrip.emplace(job.in.string(), reader.sampleRate(), stripRate, reader.channels());
+        m_fromStrip.emplace(job.in.string(), stripRate, reader.sampleRate(), writer.channels());
+    }
+}
+
+template <typename Sample>
+void TRenderLoop<Sample>::run(SRenderResult &result, const RenderListener &listener) {
+    while (const auto frames = static_cast<std::size_t>(
+               m_reader.read(m_chunk.data(), static_cast<std::int64_t>(m_chunkFrames)))) {
+        const Samples samples(m_chunk.data(), frames * m_channelsIn);
+        result.levelsIn.add(samples.data(), samples.size());
+        result.framesIn += static_cast<std::int64_t>(frames);
+        feed(samples);
+        listener(static_cast<double>(result.framesIn) / static_cast<double>(m_reader.frames()));
+        stopIfInterrupted();
+    }
+
+    m_framesWanted = result.framesIn + m_tailFrames;
+    std::fill(m_chunk.begin(), m_chunk.end(), Sample(0));
+    while (m_framesDelivered < m_framesWanted) {
+        const auto missing = static_cast<std::size_t>(m_framesWanted - m_framesDelivered) +
+                             (m_toStrip ? RenderLoop::flushFrames : 0);
+        feed(Samples(m_chunk.data(), std::min(missing, m_chunkFrames) * m_channelsIn));
+        stopIfInterrupted();
+    }
+    result.framesOut = m_framesDelivered;
+    result.levelsOut = m_levelsOut;
+}
+
+template <typename Sample>
+void TRenderLoop<Sample>::feed(Samples samples) {
+    process(m_toStrip ? m_toStrip->convert(samples) : samples);
+}
+
+template <typename Sample>
+void TRenderLoop<Sample>::process(Samples samples) {
+    const std::size_t frames = samples.size() / m_channelsIn;
+    m_processed.resize(std::max(m_processed.size(), frames * m_channelsOut));
+    for (std::size_t done = 0; done < frames; done += m_blockFrames) {
+        const std::size_t length = std::min(m_blockFrames, frames - done);
+        processBlock(samples.subspan(done * m_channelsIn, length * m_channelsIn),
+                     m_processed.data() + done * m_channelsOut);
+    }
+
+    const std::size_t dropped = std::min(m_latencyLeft, frames);
+    m_latencyLeft -= dropped;
+    const Samples processed(m_processed.data() + dropped * m_channelsOut,
+                            (frames - dropped) * m_channelsOut);
+    deliver(m_fromStrip ? m_fromStrip->convert(processed) : processed);
+}
+
+template <typename Sample>
+void TRenderLoop<Sample>::processBlock(Samples samples, Sample *out) {
+    const std::size_t frames = samples.size() / m_channelsIn;
+    // An input that is not connected is silent, one channel of the output that is not has no
+    // buffer.
+    if (m_channelsIn == 2)
+        deinterleave(samples.data(), frames, m_inLeft.data(), m_inRight.data());
+    else
+        std::copy(samples.begin(), samples.end(), m_inLeft.begin());
+    Sample *ins[] = {m_inLeft.data(), m_inRight.data()};
+    Sample *outs[] = {m_outLeft.data(), m_channelsOut == 2 ? m_outRight.data() : nullptr};
+    m_effect.process(ins, outs, static_cast<std::int32_t>(frames));
+    if (m_channelsOut == 2)
+        interleave(m_outLeft.data(), m_outRight.data(), frames, out);
+    else
+        std::copy_n(m_outLeft.begin(), frames, out);
+}
+
+template <typename Sample>
+void TRenderLoop<Sample>::deliver(Samples samples) {
+    const auto ready = static_cast<std::int64_t>(samples.size() / m_channelsOut);
+    const std::int64_t frames = std::min(ready, m_framesWanted - m_framesDelivered);
+    m_levelsOut.add(samples.data(), static_cast<std::size_t>(frames) * m_channelsOut);
+    m_writer.write(samples.data(), frames);
+    m_framesDelivered += frames;
+}
+
+template <typename Sample>
+void TRenderLoop<Sample>::stopIfInterrupted() const {
+    if (isInterrupted())
+        throw CJobError(m_job.in.string() + ": interrupted");
+}
+
+}  // namespace Tessitor::Tool

@@ -1,0 +1,195 @@
+#include <CLI/CLI.hpp>
+#include <exception>
+#include <functional>
+#include <string>
+
+#include "corvel/Commands.h"
+#include "corvel/Errors.h"
+#include "corvel/Print.h"
+#include "corvel/Text.h"
+
+using namespace Tessitor::Tool;
+
+namespace {
+
+constexpr const char *generalHelp = R"(
+The effect is the file that --plugin names, else ../plugin/Corvel.so as seen from the
+folder of this program, else Corvel.so in that folder.
+
+Exit status: 0 when all was done, 1 when a job failed, 2 when the call was wrong.
+
+corvel COMMAND --help tells the rest about a command.
+)";
+
+constexpr const char *renderHelp = R"(
+Files
+  OUT is a file, or a folder for outputs that are named after their inputs. With several
+  inputs it is always a folder, made if it is not there, and they are rendered on all
+  cores, each through an instance of its own. An output takes its place when it is
+  complete; until then, and after a failure, what was there stays.
+
+  WAV, AIFF, FLAC and Ogg files of any rate with one or two channels are read. The output
+  keeps the rate of its input. A mono file comes to the effect as from a host that has no
+  right input connected, and comes out in stereo; --mono gives the strip's own mono sum.
+
+  The container is that of --format, else that of OUT's extension, else that of the
+  input. The sample type is that of --format, else that of the input, else the nearest
+  that the container has. Integers are clipped, with a warning that counts the samples;
+  floating-point samples are not.
+    wav, aiff   8, 16, 24, 32, float, double
+    flac        8, 16, 24
+    ogg         vorbis, opus
+
+Settings
+  --set NAME=VALUE finds the parameter by its name in any capitals (corvel params lists
+  them) and may be repeated. A plain VALUE from 0 to 1 is the normalised value, as a host
+  stores it. Any other is the text that the effect shows, with its unit: -18dB, "120 Hz",
+  3:1, Linked, 100:80. Of the values that show the text, the middle one is taken, or 0, 1
+  or 0.5 if that is one of them. If none shows it, the nearest number that is shown is
+  taken; beyond the ends of the range is an error.
+
+  --chain takes the modules by their labels in running order, "none" for no module, each
+  once at most: Balance, Pan, Gain, 3Band, Rumble Filter, HiPass, Presence, Parametric,
+  Gate, Compressor, DeEsser, Modulator 1, Modulator 2, Warmer, Delay, Reverb. The strip
+  runs as many as are given; its editor shows the first six.
+
+  The program comes first, then the chain, then the parameters in their order.
+
+Examples
+  corvel render voice.wav out.wav --program "Lead Vocal" --set CmpThresh=-24dB
+  corvel render *.flac mixed --chain "Rumble Filter,Compressor" --format wav:24
+  corvel render phone.wav out.wav --resample --json
+)";
+
+/// Wires the options of one command to its call.
+struct SCommand {
+    CLI::App *app;
+    std::function<int()> run;
+};
+
+// CLI::Range lets what is no number pass.
+CLI::Validator between(double low, double high) {
+    return {[=](std::string &text) -> std::string {
+                double number = 0.0;
+                if (CLI::detail::lexical_cast(text, number) && number >= low && number <= high)
+                    return {};
+                return text + " is not a number from " + decimal(low, 0) + " to " +
+                       decimal(high, 0);
+            },
+            ""};
+}
+
+void addPlugin(CLI::App &app, std::optional<std::string> &plugin) {
+    app.add_option("--plugin", plugin, "The effect's file")->type_name("FILE");
+}
+
+void addJson(CLI::App &app, bool &json) {
+    app.add_flag("--json", json, "Print the result as JSON");
+}
+
+SCommand addRender(CLI::App &app, SRenderCall &call) {
+    CLI::App &render = *app.add_subcommand("render", "Render audio files through the effect");
+    SRenderOptions &options = call.options;
+    render.add_option("FILES", call.files, "IN ... OUT: one or more inputs and the output")
+        ->required()
+        ->expected(2, CLI::detail::expected_max_vector_size)
+        ->type_name("");
+    render.add_option("--program", call.settings.program, "Program to start from")
+        ->type_name("N|NAME");
+    render.add_option("--set", call.settings.set, "Set a parameter")
+        ->type_name("NAME=VALUE")
+        ->allow_extra_args(false);
+    render.add_option("--chain", call.settings.chain, "Modules in running order")
+        ->type_name("LABEL,...");
+    render.add_option("--tempo", options.tempo, "Tempo in beats per minute, 10 to 1000")
+        ->type_name("BPM")
+        ->check(between(10.0, 1000.0))
+        ->capture_default_str();
+    render
+        .add_option("--block", options.blockSize,
+                    "Frames that the effect gets at a time, up to 1048576")
+        ->type_name("N")
+        ->check(between(1, 1 << 20))
+        ->capture_default_str();
+    render
+        .add_option("--tail", options.tailSeconds,
+                    "Go on behind the end of the input, up to an hour")
+        ->type_name("SECONDS")
+        ->check(between(0.0, 3600.0));
+    render
+        .add_option_function<std::string>(
+            "--format",
+            [&options](const std::string &text) { options.format = formatFromText(text); },
+            "Container and sample type of the output")
+        ->type_name("CONTAINER[:TYPE]");
+    render.add_flag("--double", options.doublePrecision, "Process in double precision");
+    render.add_flag("--resample", options.resample,
+                    "Process at 44100 Hz, for which the strip is made, and convert back");
+    render.add_flag("--mono", options.mono, "Write the strip's mono sum of a mono file");
+    addPlugin(render, call.plugin);
+    addJson(render, call.json);
+    render.footer(renderHelp);
+    return {&render, [&call] { return runRender(call); }};
+}
+
+SCommand addPrograms(CLI::App &app, SProgramsCall &call) {
+    CLI::App &programs = *app.add_subcommand("programs", "List the effect's programs");
+    addPlugin(programs, call.plugin);
+    addJson(programs, call.json);
+    return {&programs, [&call] { return runPrograms(call); }};
+}
+
+SCommand addParams(CLI::App &app, SParamsCall &call) {
+    CLI::App &params = *app.add_subcommand("params", "List the effect's parameters");
+    params.add_option("--program", call.program, "As this program has them")->type_name("N|NAME");
+    addPlugin(params, call.plugin);
+    addJson(params, call.json);
+    return {&params, [&call] { return runParams(call); }};
+}
+
+SCommand addInfo(CLI::App &app, SInfoCall &call) {
+    CLI::App &info = *app.add_subcommand("info", "Tell what a host sees of an effect");
+    info.add_option("FILE", call.file, "The effect's file, else the one beside corvel")
+        ->type_name("");
+    addJson(info, call.json);
+    return {&info, [&call] { return runInfo(call); }};
+}
+
+int parseAndRun(int argc, char **argv) {
+    CLI::App app("Runs the Corvel channel strip without a host program.", "corvel");
+    app.require_subcommand(0, 1);
+    app.set_version_flag("--version", "corvel " CORVEL_VERSION);
+    app.footer(generalHelp);
+
+    SRenderCall render;
+    SProgramsCall programs;
+    SParamsCall params;
+    SInfoCall info;
+    const SCommand commands[] = {addRender(app, render), addPrograms(app, programs),
+                                 addParams(app, params), addInfo(app, info)};
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::Success &help) {
+        return app.exit(help);
+    } catch (const CLI::ParseError &error) {
+        throw CCallError(error.what());
+    }
+    for (const SCommand &command : commands)
+        if (command.app->parsed())
+            return command.run();
+    throw CCallError("no command: render, programs, params or info (corvel --help tells more)");
+}
+
+}  // namespace
+
+int main(int argc, char **argv) {
+    try {
+        return parseAndRun(argc, argv);
+    } catch (const CCallError &error) {
+        printRemark(error.what());
+        return 2;
+    } catch (const std::exception &error) {
+        printRemark(error.what());
+        return 1;
+    }
+}
