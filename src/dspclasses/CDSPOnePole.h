@@ -23,6 +23,11 @@ public:
         gain = 1.0f - value;
     }
     float getPole() const { return pole; }
+    float getGain() const { return gain; }
+
+    /// The last output, for a kernel that holds it in a register over some frames.
+    float getState() const { return state; }
+    void setState(float value) { state = value; }
 
     void clear() { state = 0.0f; }
 
