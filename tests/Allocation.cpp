@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <new>
 
-// The array and nothrow forms of the library lead to these.
+// The nothrow forms of the library lead to these.
 
 static thread_local std::uint64_t allocations = 0;
 static thread_local std::int64_t untilFailure = -1;  // below 0: none fails
@@ -40,21 +40,41 @@ static void release(void *result) {
         std::free(static_cast<void **>(result)[-1]);
 }
 
+// The array forms stand here too: a sanitizer has its own, which would not lead to the others.
 void *operator new(std::size_t size) {
+    return allocate(size, __STDCPP_DEFAULT_NEW_ALIGNMENT__);
+}
+void *operator new[](std::size_t size) {
     return allocate(size, __STDCPP_DEFAULT_NEW_ALIGNMENT__);
 }
 void *operator new(std::size_t size, std::align_val_t alignment) {
     return allocate(size, static_cast<std::size_t>(alignment));
 }
+void *operator new[](std::size_t size, std::align_val_t alignment) {
+    return allocate(size, static_cast<std::size_t>(alignment));
+}
+
 void operator delete(void *result) noexcept {
+    release(result);
+}
+void operator delete[](void *result) noexcept {
     release(result);
 }
 void operator delete(void *result, std::size_t) noexcept {
     release(result);
 }
+void operator delete[](void *result, std::size_t) noexcept {
+    release(result);
+}
 void operator delete(void *result, std::align_val_t) noexcept {
     release(result);
 }
+void operator delete[](void *result, std::align_val_t) noexcept {
+    release(result);
+}
 void operator delete(void *result, std::size_t, std::align_val_t) noexcept {
+    release(result);
+}
+void operator delete[](void *result, std::size_t, std::align_val_t) noexcept {
     release(result);
 }
