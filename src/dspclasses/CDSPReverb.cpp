@@ -3,6 +3,7 @@
 #include "dspclasses/Denormals.h"
 #include "dspclasses/Lanes.h"
 #include "dspclasses/ReverbGeometry.h"
+#include "dspclasses/SingleMath.h"
 #include "dspclasses/Truncation.h"
 #include "dspclasses/WholeCount.h"
 #include "dspclasses/WideLoop.h"
@@ -118,7 +119,7 @@ void CDSPReverb::applyDecayToTails() {
 
 /// @return the gain after so many samples.
 float CDSPReverb::decayOver(float samples) const {
-    return std::pow(static_cast<float>(decayBase), samples);
+    return powSingle(static_cast<float>(decayBase), samples);
 }
 
 void CDSPReverb::setSpread(float value) {

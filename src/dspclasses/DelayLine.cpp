@@ -3,6 +3,7 @@
 #include "dspclasses/Assertion.h"
 #include "dspclasses/Denormals.h"
 #include "dspclasses/Lanes.h"
+#include "dspclasses/SingleMath.h"
 #include "dspclasses/WholeCount.h"
 #include "dspclasses/WideLoop.h"
 
@@ -60,8 +61,8 @@ static void assertNotNegative(float offset) {
 static std::uint32_t roundedUpToPowerOfTwo(std::uint32_t size) {
     if ((size & (size - 1)) == 0)
         return size;
-    const double exponent = double{std::log(static_cast<float>(size))} * 1.4426950408889634;
-    return wholeCount(std::pow(2.0f, std::ceil(static_cast<float>(exponent))));
+    const double exponent = double{logSingle(static_cast<float>(size))} * 1.4426950408889634;
+    return wholeCount(powSingle(2.0f, std::ceil(static_cast<float>(exponent))));
 }
 
 DelayLine::DelayLine(std::uint32_t size) {
