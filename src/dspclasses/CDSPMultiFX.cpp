@@ -3,11 +3,14 @@
 #include "dspclasses/Assertion.h"
 #include "dspclasses/CDSP3EQ.h"
 #include "dspclasses/CDSPBalance.h"
+#include "dspclasses/CDSPDelay.h"
 #include "dspclasses/CDSPGain.h"
 #include "dspclasses/CDSPHiPass.h"
+#include "dspclasses/CDSPModulation.h"
 #include "dspclasses/CDSPPan.h"
 #include "dspclasses/CDSPParametric.h"
 #include "dspclasses/CDSPPresence.h"
+#include "dspclasses/CDSPReverb.h"
 #include "dspclasses/CDSPStandIn.h"
 #include "dspclasses/CDSPWarmer.h"
 
@@ -40,11 +43,11 @@ static CDSPMultiFX::Modules buildModules() {
         std::make_unique<CDSPStandIn>(),     // 10, gate
         std::make_unique<CDSPStandIn>(),     // 11, compressor
         std::make_unique<CDSPStandIn>(),     // 12, de-esser
-        std::make_unique<CDSPStandIn>(),     // 13, modulator 1
-        std::make_unique<CDSPStandIn>(),     // 14, modulator 2
+        std::make_unique<CDSPModulation>(),  // 13, modulator 1
+        std::make_unique<CDSPModulation>(),  // 14, modulator 2
         std::make_unique<CDSPWarmer>(),      // 15
-        std::make_unique<CDSPStandIn>(),     // 16, delay
-        std::make_unique<CDSPStandIn>(),     // 17, reverb
+        std::make_unique<CDSPDelay>(),       // 16
+        std::make_unique<CDSPReverb>(),      // 17
     };
 }
 

@@ -2,10 +2,13 @@
 
 #include "dspclasses/CDSPStandIn.h"
 #include "dspclasses/Plain3EQ.h"
+#include "dspclasses/PlainDelay.h"
 #include "dspclasses/PlainHiPass.h"
 #include "dspclasses/PlainLevels.h"
+#include "dspclasses/PlainModulation.h"
 #include "dspclasses/PlainParametric.h"
 #include "dspclasses/PlainPresence.h"
+#include "dspclasses/PlainReverb.h"
 #include "dspclasses/PlainStrip.h"
 #include "dspclasses/PlainWarmer.h"
 
@@ -25,10 +28,10 @@ inline CPlainStrip::Modules makePlainModules() {
         std::make_unique<CDSPStandIn>(),       // 10, gate
         std::make_unique<CDSPStandIn>(),       // 11, compressor
         std::make_unique<CDSPStandIn>(),       // 12, de-esser
-        std::make_unique<CDSPStandIn>(),       // 13, modulator 1
-        std::make_unique<CDSPStandIn>(),       // 14, modulator 2
+        std::make_unique<CPlainModulation>(),  // 13, modulator 1
+        std::make_unique<CPlainModulation>(),  // 14, modulator 2
         std::make_unique<CPlainWarmer>(),      // 15
-        std::make_unique<CDSPStandIn>(),       // 16, delay
-        std::make_unique<CDSPStandIn>(),       // 17, reverb
+        std::make_unique<CPlainDelay>(),       // 16
+        std::make_unique<CPlainReverb>(),      // 17
     };
 }
