@@ -1,17 +1,23 @@
 #include "dspclasses/CDSP3EQ.h"
 #include "dspclasses/CDSPBalance.h"
+#include "dspclasses/CDSPDelay.h"
 #include "dspclasses/CDSPGain.h"
 #include "dspclasses/CDSPHiPass.h"
+#include "dspclasses/CDSPModulation.h"
 #include "dspclasses/CDSPMono.h"
 #include "dspclasses/CDSPPan.h"
 #include "dspclasses/CDSPParametric.h"
 #include "dspclasses/CDSPPresence.h"
+#include "dspclasses/CDSPReverb.h"
 #include "dspclasses/CDSPWarmer.h"
 #include "dspclasses/Plain3EQ.h"
+#include "dspclasses/PlainDelay.h"
 #include "dspclasses/PlainHiPass.h"
 #include "dspclasses/PlainLevels.h"
+#include "dspclasses/PlainModulation.h"
 #include "dspclasses/PlainParametric.h"
 #include "dspclasses/PlainPresence.h"
+#include "dspclasses/PlainReverb.h"
 #include "dspclasses/PlainWarmer.h"
 #include "dspclasses/SSubject.h"
 
@@ -29,6 +35,14 @@ std::vector<SSubject> modulesToMeasure() {
         subject<CDSPPresence, CPlainPresence>("Presence", {{0, 4000.0f}, {1, 4.0f}}),
         subject<CDSPParametric, CPlainParametric>("Parametric",
                                                   {{0, 400.0f}, {1, 0.7f}, {2, -5.0f}}),
+        subject<CDSPModulation, CPlainModulation>("Vibrato", {{0, 0.0f}, {1, 22.5f}, {2, 0.25f}}),
+        subject<CDSPModulation, CPlainModulation>("Double tracking",
+                                                  {{0, 0.5f}, {1, 22.5f}, {2, 0.25f}}),
+        subject<CDSPModulation, CPlainModulation>("Phaser", {{0, 1.0f}, {1, 22.5f}, {2, 0.25f}}),
         subject<CDSPWarmer, CPlainWarmer>("Warmer", {{0, 0.4f}}),
+        subject<CDSPDelay, CPlainDelay>("Delay", {{0, 775.0f}}),
+        subject<CDSPDelay, CPlainDelay>("Ping-pong", {{0, 775.0f}, {3, 1.0f}}),
+        subject<CDSPReverb, CPlainReverb>("Reverb", {{0, 75.0f}, {5, 1.0f}}),
+        subject<CDSPReverb, CPlainReverb>("Reverb, least room", {{0, 1.0f}, {4, 0.5f}, {5, 1.0f}}),
     };
 }
