@@ -7,9 +7,10 @@ VstKeyCode keyCodeOf(int index, std::intptr_t value, float opt) {
             static_cast<unsigned char>(static_cast<int>(opt))};
 }
 
+/// Some pointers travel as numbers in this interface.
 template <typename Record>
 Record *recordAt(std::intptr_t value) {
-    return reinterpret_cast<Record *>(value);
+    return reinterpret_cast<Record *>(value);  // NOLINT(performance-no-int-to-ptr)
 }
 
 }  // namespace

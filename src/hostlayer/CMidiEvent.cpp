@@ -23,25 +23,26 @@ void CMidiEvent::getObjectDescription(char *array, long size) const {
     const long status = m_status, value = m_value, subValue = m_subValue, channel = m_channel,
                delta = m_delta;
     char text[256];
-    if (isNoteOff())
+    if (isNoteOff()) {
         std::snprintf(
             text, sizeof text,
             "[Note Off       : Note(%03li), Velocity(%03li), Channel(%03li), Delta(%03li)]", value,
             subValue, channel, delta);
-    else if (isNoteOn())
+    } else if (isNoteOn()) {
         std::snprintf(
             text, sizeof text,
             "[Note On        : Note(%03li), Velocity(%03li), Channel(%03li), Delta(%03li)]", value,
             subValue, channel, delta);
-    else if (isController())
+    } else if (isController()) {
         std::snprintf(text, sizeof text,
                       "[Control Change : CC(%03li), Value(%03li), Channel(%03li), Delta(%03li)]",
                       value, subValue, channel, delta);
-    else
+    } else {
         std::snprintf(text, sizeof text,
                       "[Other Message  : Status(%03li), Value(%03li), SubValue(%03li), "
                       "Channel(%03li), Delta(%03li)]",
                       status, value, subValue, channel, delta);
+    }
     Basics::copyText(array, size, text);
 }
 

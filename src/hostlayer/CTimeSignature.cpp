@@ -21,7 +21,8 @@ void CTimeSignature::setTimeSignature(std::int32_t numerator, std::int32_t denom
 
 double CTimeSignature::getBeats() const {
     // Kept: the division is one of whole numbers.
-    return static_cast<double>(m_numerator / m_denominator);
+    const std::int32_t wholeBeats = m_numerator / m_denominator;
+    return wholeBeats;
 }
 
 }  // namespace Tessitor::Music

@@ -18,13 +18,18 @@ bool copyName(char *destination, const Basics::CString &name) {
     return true;
 }
 
+template <std::size_t size>
+void copyWhole(char *destination, const char (&text)[size]) {
+    std::memcpy(destination, text, size);
+}
+
 void copyDefaultProgramName(char *name) {
-    std::strcpy(name, "Default");
+    copyWhole(name, "Default");
 }
 
 // Nine bytes where the published length is eight: hosts keep more room.
 void copyDefaultParameterText(char *text) {
-    std::strcpy(text, "No param");
+    copyWhole(text, "No param");
 }
 
 }  // namespace
@@ -48,7 +53,6 @@ CVstEffect::CVstEffect(audioMasterCallback host, int parameters, int programs)
 
 CVstEffect::~CVstEffect() {
     m_criticalSection->dereference();
-    m_notes.clearArray();
     s_class.decrementInstanceCount();
 }
 

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <climits>
+#include <cstring>
 #include <gtest/gtest.h>
 #include <ostream>
 #include <vector>
@@ -114,6 +115,12 @@ Memory filledMemory() {
     return memory;
 }
 
+std::array<char, sizeof(AEffect)> bytesOf(const AEffect &record) {
+    std::array<char, sizeof(AEffect)> bytes;
+    std::memcpy(bytes.data(), &record, sizeof record);
+    return bytes;
+}
+
 }  // namespace
 
 class AudioEffectXDefaults : public testing::TestWithParam<SDefault> {};
@@ -145,11 +152,11 @@ TEST(AudioEffectX, GivesNoSpeakerArrangement) {
 TEST(AudioEffectX, AnswersZeroToWhatItDoesNotKnowAndTouchesNothing) {
     ProbeEffect effect;
     Memory memory = filledMemory();
-    const AEffect before = *effect.getAeffect();
+    const auto before = bytesOf(*effect.getAeffect());
     for (const int opcode : {80, 81, 99, 1000, -1, INT_MAX, INT_MIN})
         EXPECT_EQ(effect.call(opcode, 1, 1, memory.data(), 1.0f), 0) << opcode;
     EXPECT_EQ(memory, filledMemory());
-    EXPECT_EQ(std::memcmp(effect.getAeffect(), &before, sizeof before), 0);
+    EXPECT_EQ(bytesOf(*effect.getAeffect()), before);
 }
 
 TEST(AudioEffectX, IsASynthOnlyIfItSaysSo) {
@@ -168,7 +175,7 @@ struct SRoute {
     AEffectOpcode opcode;
     int index;
     std::intptr_t value;
-    float opt;
+    double opt;
     const char *reached;
     std::intptr_t result;
     bool takesPointer = false;
@@ -187,7 +194,7 @@ const SRoute routes[] = {
     {effGetParamLabel, 5, 0, 0, "getParameterLabel 5", 0, true},
     {effGetParamDisplay, 6, 0, 0, "getParameterDisplay 6", 0, true},
     {effGetParamName, 7, 0, 0, "getParameterName 7", 0, true},
-    {effSetSampleRate, 0, 0, 48000.0f, "setSampleRate 48000", 0},
+    {effSetSampleRate, 0, 0, 48000.0, "setSampleRate 48000", 0},
     {effSetBlockSize, 0, 353, 0, "setBlockSize 353", 0},
     {effGetChunk, 0, 0, 0, "getChunk 0", 7, true},
     {effGetChunk, 1, 0, 0, "getChunk 1", 7, true},
@@ -208,7 +215,7 @@ const SRoute routes[] = {
     {effGetVendorString, 0, 0, 0, "getVendorString", 1, true},
     {effGetProductString, 0, 0, 0, "getProductString", 1, true},
     {effGetVendorVersion, 0, 0, 0, "getVendorVersion", 7},
-    {effVendorSpecific, 4, 5, 0.5f, "vendorSpecific 4 5 0.5", 7, true},
+    {effVendorSpecific, 4, 5, 0.5, "vendorSpecific 4 5 0.5", 7, true},
     {effCanDo, 0, 0, 0, "canDo", 7, true},
     {effGetTailSize, 0, 0, 0, "getTailSize", 7},
     {effGetParameterProperties, 3, 0, 0, "getParameterProperties 3", 1, true},
@@ -219,7 +226,7 @@ const SRoute routes[] = {
     {effStartProcess, 0, 0, 0, "startProcess", 7},
     {effStopProcess, 0, 0, 0, "stopProcess", 7},
     {effSetTotalSampleToProcess, 0, 9, 0, "setTotalSampleToProcess 9", 7},
-    {effSetPanLaw, 0, 2, 0.5f, "setPanLaw 2 0.5", 1},
+    {effSetPanLaw, 0, 2, 0.5, "setPanLaw 2 0.5", 1},
     {effBeginLoadBank, 0, 0, 0, "beginLoadBank", 7, true},
     {effBeginLoadProgram, 0, 0, 0, "beginLoadProgram", 7, true},
     {effSetProcessPrecision, 0, 1, 0, "setProcessPrecision 1", 1},
@@ -235,7 +242,8 @@ TEST_P(AudioEffectXRoutes, LeadToTheOperationAndBack) {
     const SRoute &route = GetParam();
     RecordingEffect effect;
     Memory memory = filledMemory();
-    EXPECT_EQ(effect.call(route.opcode, route.index, route.value, memory.data(), route.opt),
+    EXPECT_EQ(effect.call(route.opcode, route.index, route.value, memory.data(),
+                          static_cast<float>(route.opt)),
               route.result);
     EXPECT_EQ(effect.reached.text, route.reached);
     EXPECT_EQ(effect.reached.first, route.takesPointer ? memory.data() : nullptr);
@@ -288,7 +296,7 @@ struct SQuestion {
     int opcode;
     std::intptr_t answer;  // of the host
     std::intptr_t result;
-    int index = 0;
+    std::intptr_t index = 0;
     std::intptr_t value = 0;
 };
 

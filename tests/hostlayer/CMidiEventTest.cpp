@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <memory>
 #include <vector>
 
 using namespace Tessitor::Midi;
@@ -112,7 +113,8 @@ TEST(CMidiEvent, CountsItsInstances) {
     EXPECT_STREQ(record.getClassName(), "CMidiEvent");
     const auto before = record.getInstanceCount();
     {
-        const CMidiEvent second, third(first);
+        const CMidiEvent second;
+        const auto third = std::make_unique<CMidiEvent>(first);
         EXPECT_EQ(record.getInstanceCount(), before + 2);
     }
     EXPECT_EQ(record.getInstanceCount(), before);

@@ -1,6 +1,7 @@
 #include "hostlayer/CTimeSignature.h"
 
 #include <gtest/gtest.h>
+#include <memory>
 
 using Tessitor::Music::CTimeSignature;
 
@@ -27,11 +28,12 @@ TEST(CTimeSignature, TakesBothNumbersOrEach) {
 
 TEST(CTimeSignature, CopiesBothNumbers) {
     const CTimeSignature original(7, 8);
-    const CTimeSignature copy(original);
-    CTimeSignature assigned;
+    CTimeSignature copy(original), assigned;
     assigned = original;
-    EXPECT_EQ(copy.getNumerator(), 7);
+    copy.setNumerator(9);
+    EXPECT_EQ(copy.getNumerator(), 9);
     EXPECT_EQ(copy.getDenominator(), 8);
+    EXPECT_EQ(original.getNumerator(), 7);
     EXPECT_EQ(assigned.getNumerator(), 7);
     EXPECT_EQ(assigned.getDenominator(), 8);
 }
@@ -49,7 +51,8 @@ TEST(CTimeSignature, CountsItsInstances) {
     EXPECT_STREQ(record.getClassName(), "CTimeSignature");
     const auto before = record.getInstanceCount();
     {
-        const CTimeSignature second, third(first), fourth(6, 8);
+        const CTimeSignature second, third(6, 8);
+        const auto fourth = std::make_unique<CTimeSignature>(first);
         EXPECT_EQ(record.getInstanceCount(), before + 3);
     }
     EXPECT_EQ(record.getInstanceCount(), before);

@@ -1,12 +1,14 @@
 #include "hostlayer/CVstEffect.h"
 
+#include "Allocation.h"
 #include "foundation/CApplicationInformation.h"
-#include "hostlayer/AllocationCounter.h"
 #include "hostlayer/EventBlock.h"
 #include "hostlayer/FakeHost.h"
 #include "hostlayer/PinProperties.h"
 
+#include <cstring>
 #include <gtest/gtest.h>
+#include <vector>
 
 using namespace Tessitor;
 using Tessitor::Vst::CVstEffect;

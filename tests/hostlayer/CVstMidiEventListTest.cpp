@@ -1,6 +1,6 @@
 #include "hostlayer/CVstMidiEventList.h"
 
-#include "hostlayer/AllocationCounter.h"
+#include "Allocation.h"
 #include "hostlayer/EventBlock.h"
 
 #include <gtest/gtest.h>
@@ -79,6 +79,7 @@ TEST(CVstMidiEventList, ScalesPitchBend) {
     EXPECT_EQ(eventOf(0xE0, 0, 0).getPitchBend(), -1.0);
     EXPECT_EQ(eventOf(0xE0, 1, 64).getPitchBend(), 0.0001220703125);
     EXPECT_EQ(eventOf(0xE0, 127, 127).getPitchBend(), 1.0 - 0.0001220703125);
+    EXPECT_EQ(eventOf(0xE0, 0x80, 64).getPitchBend(), 0.015625);  // all eight bits count
     const CMidiEvent event = eventOf(0xE0, 5, 6, 7);
     EXPECT_EQ(event.getStatus(), 224);
     EXPECT_EQ(event.getValue(), 0);
@@ -100,7 +101,7 @@ TEST(CVstMidiEventList, LeavesTheSlotsChannelToAPitchBend) {
 }
 
 TEST(CVstMidiEventList, HearsHalfOfTheChannels) {
-    for (int channel = 0; channel < 16; ++channel)
+    for (int channel = 0; channel < 16; ++channel) {
         for (const int listening : {0, 8}) {
             CVstMidiEventList list;
             list.setChannel(listening);
@@ -111,6 +112,7 @@ TEST(CVstMidiEventList, HearsHalfOfTheChannels) {
                 continue;
             EXPECT_EQ(list.getEventAtIndex(0)->getChannel(), listening);
         }
+    }
 }
 
 TEST(CVstMidiEventList, HearsNothingOnAnyOtherChannel) {

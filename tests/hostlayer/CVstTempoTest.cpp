@@ -1,7 +1,7 @@
 #include "hostlayer/CVstTempo.h"
 
+#include "Allocation.h"
 #include "foundation/CException.h"
-#include "hostlayer/AllocationCounter.h"
 #include "hostlayer/FakeHost.h"
 #include "hostlayer/ProbeEffect.h"
 
@@ -168,7 +168,7 @@ struct SBar {
     const char *name;
     int numerator;
     double barStart, position, tempo;
-    int samples;
+    std::int64_t samples;
 };
 
 void PrintTo(const SBar &bar, std::ostream *stream) {
@@ -222,6 +222,8 @@ TEST_F(CVstTempoTest, AllocatesNothing) {
     auto &record = m_tempo.getInformation().timeSignature.getClass();
     const auto instances = record.getTotalCount();
     const auto allocations = allocationsOfThisThread();
+    m_tempo.getTempoInformation(kVstTempoValid);
+    m_host.time->flags = 0;
     m_tempo.getTempoInformation(kVstTempoValid);
     m_host.time.reset();
     m_tempo.getTempoInformation(kVstTempoValid);

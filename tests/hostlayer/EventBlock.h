@@ -23,10 +23,12 @@ public:
         return *this;
     }
 
+    /// Where a MIDI event has its bytes, this one has those of a note on.
     EventBlock &sysex() {
         VstMidiSysexEvent event{};
         event.type = kVstSysExType;
         event.byteSize = sizeof event;
+        event.resvd1 = 0x643C90;
         m_pointers.push_back(reinterpret_cast<VstEvent *>(&m_sysex.emplace_back(event)));
         return *this;
     }

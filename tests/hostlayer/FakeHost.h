@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstring>
 #include <map>
 #include <mutex>
 #include <optional>
@@ -109,7 +108,7 @@ private:
     static std::intptr_t write(const std::optional<std::string> &answer, char *text) {
         if (!answer)
             return 0;
-        std::memcpy(text, answer->data(), answer->size());
+        answer->copy(text, answer->size());
         return 1;
     }
 
