@@ -20,10 +20,8 @@ struct SActingGuard {
 
     /// A runaway value is replaced by 1 of its sign.
     SDoubles2 contain(SDoubles2 value) {
-        const __m128d sign = _mm_set1_pd(-0.0), one = _mm_set1_pd(1.0);
-        const __m128d beyond = _mm_cmpgt_pd(magnitude(value).lanes, _mm_set1_pd(runawayLimit));
-        const __m128d replaced = _mm_or_pd(_mm_and_pd(sign, value.lanes), one);
-        return {_mm_or_pd(_mm_and_pd(beyond, replaced), _mm_andnot_pd(beyond, value.lanes))};
+        const SDoubles2 isRunaway = isAbove(magnitude(value), both(runawayLimit));
+        return select(isRunaway, select(both(-0.0), value, both(1.0)), value);
     }
 };
 
@@ -32,27 +30,25 @@ struct SActingGuard {
 class CWatchingGuard {
 public:
     SDoubles2 flush(SDoubles2 value) {
-        m_quietest = _mm_min_pd(magnitude(value).lanes, m_quietest);
-        m_bits = _mm_or_pd(m_bits, value.lanes);
+        m_quietest = lesser(magnitude(value), m_quietest);
+        m_bits = m_bits | value;
         return value;
     }
     SDoubles2 contain(SDoubles2 value) {
-        m_loudest = _mm_max_pd(magnitude(value).lanes, m_loudest);
+        m_loudest = greater(magnitude(value), m_loudest);
         return value;
     }
     bool mightHaveActed() const {
-        const __m128d smallest = _mm_set1_pd(std::numeric_limits<double>::min());
-        const __m128d quiet = _mm_and_pd(m_bits, _mm_cmplt_pd(m_quietest, smallest));
-        const __m128d loud = _mm_cmpgt_pd(m_loudest, _mm_set1_pd(runawayLimit));
-        const __m128i changed = _mm_castpd_si128(_mm_or_pd(quiet, loud));
-        return _mm_movemask_epi8(_mm_cmpeq_epi32(changed, _mm_setzero_si128())) != 0xffff;
+        const SDoubles2 quiet = isBelow(m_quietest, both(std::numeric_limits<double>::min()));
+        const SDoubles2 loud = isAbove(m_loudest, both(runawayLimit));
+        return hasAnyBit((quiet & m_bits) | loud);
     }
 
 private:
-    // A NaN passes the guards, and neither min nor max keeps one.
-    __m128d m_quietest = _mm_set1_pd(1.0);  // the smallest magnitude so far, at most 1
-    __m128d m_loudest = _mm_setzero_pd();   // the largest magnitude so far
-    __m128d m_bits = _mm_setzero_pd();      // every bit that was set in any value
+    // A NaN stands in none of the first two: the guards let it pass as well.
+    SDoubles2 m_quietest = both(1.0);  // the smallest magnitude so far, at most 1
+    SDoubles2 m_loudest = both(0.0);   // the largest magnitude so far
+    SDoubles2 m_bits = both(0.0);      // every bit that was set in any value
 };
 
 enum class EInput {
@@ -83,6 +79,7 @@ void runFrames(Filter &filter, Guard &guard, Sample *inL, Sample *inR, Sample *o
     }
 }
 
+/// Runs a filter over both channels of a block.
 /// @param filter   coefficients and state in registers, with a template step(frame, guard) that
 ///                 takes one frame on. Ends in the state after the last frame.
 /// @param refresh  called with the filter before each group, so that what another thread sets lands

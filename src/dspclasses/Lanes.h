@@ -40,6 +40,35 @@ inline SDoubles2 operator*(SDoubles2 a, SDoubles2 b) {
     return {_mm_mul_pd(a.lanes, b.lanes)};
 }
 
+inline SDoubles2 operator|(SDoubles2 a, SDoubles2 b) {
+    return {_mm_or_pd(a.lanes, b.lanes)};
+}
+inline SDoubles2 operator&(SDoubles2 a, SDoubles2 b) {
+    return {_mm_and_pd(a.lanes, b.lanes)};
+}
+/// @return all bits of a lane set where a is below (above) b, none where one of the two is a NaN.
+inline SDoubles2 isBelow(SDoubles2 a, SDoubles2 b) {
+    return {_mm_cmplt_pd(a.lanes, b.lanes)};
+}
+inline SDoubles2 isAbove(SDoubles2 a, SDoubles2 b) {
+    return {_mm_cmpgt_pd(a.lanes, b.lanes)};
+}
+/// @return a where the mask's bits are set, b where they are not.
+inline SDoubles2 select(SDoubles2 mask, SDoubles2 a, SDoubles2 b) {
+    return {_mm_or_pd(_mm_and_pd(mask.lanes, a.lanes), _mm_andnot_pd(mask.lanes, b.lanes))};
+}
+/// The lesser and the greater of each lane; b's where one of the two is a NaN.
+inline SDoubles2 lesser(SDoubles2 a, SDoubles2 b) {
+    return {_mm_min_pd(a.lanes, b.lanes)};
+}
+inline SDoubles2 greater(SDoubles2 a, SDoubles2 b) {
+    return {_mm_max_pd(a.lanes, b.lanes)};
+}
+inline bool hasAnyBit(SDoubles2 a) {
+    const __m128i clear = _mm_cmpeq_epi32(_mm_castpd_si128(a.lanes), _mm_setzero_si128());
+    return _mm_movemask_epi8(clear) != 0xffff;
+}
+
 inline SFloats4 all(float value) {
     return {_mm_set1_ps(value)};
 }
