@@ -2,7 +2,7 @@
 
 #include <cmath>
 #include <cstdio>
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include "corvel/Errors.h"
 
@@ -47,6 +47,11 @@ std::string balance(float v) {
     const double x = 200.0 * v - 100.0;
     return x < 0.0 ? "100:" + std::to_string(static_cast<long>(x + 100.0))
                    : std::to_string(static_cast<long>(100.0 - x)) + ":100";
+}
+
+std::string mix(float v) {
+    return std::to_string(static_cast<long>(100.0f - 100.0f * v)) + ":" +
+           std::to_string(static_cast<long>(100.0f * v));
 }
 
 std::string route(float v) {
@@ -168,6 +173,16 @@ TEST(CParameterText, BothSidesOfABalanceAreFound) {
     const CParameterText parameter("", balance);
     for (const char *text : {"100:0", "100:80", "100:99", "80:100", "1:100", "0:100"})
         EXPECT_EQ(balance(parameter.valueOf(text)), text);
+}
+
+TEST(CParameterText, APairThatIsCutToWholeNumbersIsFoundOrNearlyFound) {
+    const CParameterText parameter("", mix);
+    EXPECT_EQ(parameter.valueOf("30:70"), 0.7f);  // one value in the world shows it
+    EXPECT_EQ(mix(parameter.valueOf("100:0")), "100:0");
+    EXPECT_EQ(mix(0.6f), "39:60");  // and none shows 40:60
+    EXPECT_THAT(mix(parameter.valueOf("40:60")), testing::AnyOf("39:60", "40:59"));
+    EXPECT_NE(refusal(parameter, "40:40"), "");
+    EXPECT_NE(refusal(parameter, "130:0"), "");
 }
 
 TEST(CParameterText, ANumberBeyondOneIsATextWhereThereIsNoUnit) {

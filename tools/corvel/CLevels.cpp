@@ -1,10 +1,18 @@
 #include "corvel/CLevels.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <numeric>
 
 namespace Tessitor::Tool {
+
+namespace {
+
+// Independent lanes, so that the compiler may use whole vectors without reordering any sum.
+constexpr std::size_t lanes = 8;
+
+}  // namespace
 
 double decibels(double amplitude) {
     return 20.0 * std::log10(amplitude);
@@ -12,11 +20,12 @@ double decibels(double amplitude) {
 
 template <typename Sample>
 void CLevels::addAll(const Sample *samples, std::size_t count) {
-    std::array<double, lanes> peaks = m_peaks, squares = m_squares;
-    const auto take = [&](std::size_t lane, double sample) {
-        const double size = std::abs(sample);
+    std::array<Sample, lanes> peaks{};
+    std::array<double, lanes> squares{};
+    const auto take = [&](std::size_t lane, Sample sample) {
+        const Sample size = std::abs(sample);
         peaks[lane] = size > peaks[lane] ? size : peaks[lane];
-        squares[lane] += sample * sample;
+        squares[lane] += static_cast<double>(sample) * static_cast<double>(sample);
     };
     std::size_t i = 0;
     for (; i + lanes <= count; i += lanes)
@@ -24,8 +33,10 @@ void CLevels::addAll(const Sample *samples, std::size_t count) {
             take(lane, samples[i + lane]);
     for (; i < count; ++i)
         take(i % lanes, samples[i]);
-    m_peaks = peaks;
-    m_squares = squares;
+
+    for (const Sample peak : peaks)
+        m_peak = std::max(m_peak, static_cast<double>(peak));
+    m_squares = std::accumulate(squares.begin(), squares.end(), m_squares);
     m_count += count;
 }
 
@@ -37,15 +48,10 @@ void CLevels::add(const double *samples, std::size_t count) {
     addAll(samples, count);
 }
 
-double CLevels::peak() const {
-    return *std::max_element(m_peaks.begin(), m_peaks.end());
-}
-
 double CLevels::rms() const {
     if (m_count == 0)
         return 0.0;
-    const double sum = std::accumulate(m_squares.begin(), m_squares.end(), 0.0);
-    return std::sqrt(sum / static_cast<double>(m_count));
+    return std::sqrt(m_squares / static_cast<double>(m_count));
 }
 
 }  // namespace Tessitor::Tool

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 
@@ -15,18 +14,15 @@ public:
     void add(const float *samples, std::size_t count);
     void add(const double *samples, std::size_t count);
 
-    double peak() const;
+    double peak() const { return m_peak; }
     double rms() const;  ///< 0 without samples
 
 private:
-    // Independent lanes, so that the compiler may use whole vectors without reordering any sum.
-    static constexpr std::size_t lanes = 8;
-
     template <typename Sample>
     void addAll(const Sample *samples, std::size_t count);
 
-    std::array<double, lanes> m_peaks{};
-    std::array<double, lanes> m_squares{};
+    double m_peak = 0.0;
+    double m_squares = 0.0;  // their sum
     std::uint64_t m_count = 0;
 };
 

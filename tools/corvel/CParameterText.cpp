@@ -13,8 +13,9 @@ namespace Tessitor::Tool {
 
 namespace {
 
-// Fine enough to meet every text that is not a number, and to part the branches of a law.
-constexpr int gridSteps = 1024;
+// Fine enough to meet every text that is not a number and to part the branches of a law. Tenths and
+// hundredths are on it: some pairs, such as "30:70", are shown at one such value alone.
+constexpr int gridSteps = 1000;
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
 
@@ -32,6 +33,25 @@ bool beginsNumber(std::string_view text) {
            (std::isdigit(static_cast<unsigned char>(text[sign])) != 0 || text[sign] == '.');
 }
 
+// Takes a number away from the text's beginning, if there is one.
+std::optional<double> takeNumber(std::string_view &text) {
+    for (const std::string_view silence : {"-oo", "-inf"})
+        if (text.starts_with(silence)) {
+            text.remove_prefix(silence.size());
+            return -infinity;
+        }
+    const std::size_t plus = text.starts_with('+') ? 1 : 0;
+    if (!beginsNumber(text.substr(plus)))
+        return std::nullopt;
+    double number = 0.0;
+    const auto [end, error] =
+        std::from_chars(text.data() + plus, text.data() + text.size(), number);
+    if (error != std::errc())
+        return std::nullopt;
+    text.remove_prefix(static_cast<std::size_t>(end - text.data()));
+    return number;
+}
+
 std::string quoted(std::string_view text) {
     return std::string("\"").append(text).append("\"");
 }
@@ -46,21 +66,18 @@ CParameterText::CParameterText(std::string unit, Display display)
 }
 
 CParameterText::SReading CParameterText::take(std::string_view text) {
-    SReading reading{std::nullopt, smallAndTight(text)};
-    std::string_view letters = reading.rest;
-    if (letters.starts_with('+'))
-        letters.remove_prefix(1);
-    for (const char *silence : {"-oo", "-inf"})
-        if (letters.starts_with(silence))
-            return {-infinity, std::string(letters.substr(std::string_view(silence).size()))};
-    if (!beginsNumber(letters))
-        return reading;
-    double number = 0.0;
-    const auto [end, error] =
-        std::from_chars(letters.data(), letters.data() + letters.size(), number);
-    if (error != std::errc())
-        return reading;
-    return {number, std::string(end, letters.data() + letters.size())};
+    const std::string tight = smallAndTight(text);
+    std::string_view left = tight;
+    SReading reading;
+    reading.number = takeNumber(left);
+    if (reading.number && left.starts_with(':')) {
+        std::string_view behind = left.substr(1);
+        reading.second = takeNumber(behind);
+        if (reading.second)
+            left = behind;
+    }
+    reading.rest = left;
+    return reading;
 }
 
 CParameterText::SPoint CParameterText::pointAt(float value) const {
@@ -71,7 +88,8 @@ float CParameterText::valueOf(std::string_view text) const {
     SReading asked = take(text);
     if (asked.number && !m_unit.empty() && asked.rest == m_unitAsRead) {
         asked.rest.clear();
-    } else if (asked.number && asked.rest.empty() && std::isfinite(*asked.number)) {
+    } else if (asked.number && !asked.second && asked.rest.empty() &&
+               std::isfinite(*asked.number)) {
         if (*asked.number >= 0.0 && *asked.number <= 1.0)
             return static_cast<float>(*asked.number);
         if (!m_unit.empty())
@@ -79,29 +97,14 @@ float CParameterText::valueOf(std::string_view text) const {
                              quoted(std::string(text) + m_unit) + " has");
     }
 
-    std::vector<SPoint> showing;
-    std::vector<SPoint> beside;
-    for (std::size_t step = 0; step <= gridSteps; ++step) {
-        if (m_grid[step].shown == asked)
-            showing.push_back(m_grid[step]);
-        if (step == gridSteps || !between(m_grid[step], m_grid[step + 1], asked))
-            continue;
-        const auto [low, high] = narrow(m_grid[step], m_grid[step + 1], asked);
-        if (low.shown == asked)
-            showing.push_back(low);
-        else if (std::isfinite(*low.shown.number) && std::isfinite(*high.shown.number))
-            beside.insert(beside.end(), {low, high});
-    }
-
+    std::vector<SPoint> showing = pointsShowing(asked);
     if (showing.empty()) {
+        const std::vector<SPoint> beside = pointsBeside(asked);
         if (beside.empty())
             refuse(text);
-        const auto distance = [&](const SPoint &point) {
-            return std::abs(*point.shown.number - *asked.number);
-        };
         showing.push_back(
             *std::min_element(beside.begin(), beside.end(), [&](const SPoint &a, const SPoint &b) {
-                return distance(a) < distance(b);
+                return distance(a.shown, asked) < distance(b.shown, asked);
             }));
     }
 
@@ -120,11 +123,56 @@ float CParameterText::valueOf(std::string_view text) const {
     return valueIn(widest, within);
 }
 
+/// One point at least for each stretch of values that show what is asked.
+std::vector<CParameterText::SPoint> CParameterText::pointsShowing(const SReading &asked) const {
+    std::vector<SPoint> points;
+    for (std::size_t step = 0; step <= gridSteps; ++step) {
+        if (m_grid[step].shown == asked)
+            points.push_back(m_grid[step]);
+        if (step == gridSteps || !between(m_grid[step], m_grid[step + 1], asked))
+            continue;
+        const SPoint nearest = narrow(m_grid[step], m_grid[step + 1], asked).first;
+        if (nearest.shown == asked)
+            points.push_back(nearest);
+    }
+    return points;
+}
+
+/// Where nothing shows what is asked: the points that come near it.
+std::vector<CParameterText::SPoint> CParameterText::pointsBeside(const SReading &asked) const {
+    constexpr double oneDigit = 1.0;  // a pair is cut to whole numbers that do not always add up
+    std::vector<SPoint> points;
+    for (std::size_t step = 0; step <= gridSteps; ++step) {
+        const SPoint &point = m_grid[step];
+        if (asked.second && isComparable(point.shown, asked) &&
+            distance(point.shown, asked) <= oneDigit)
+            points.push_back(point);
+        if (step == gridSteps || !between(point, m_grid[step + 1], asked))
+            continue;
+        const auto [low, high] = narrow(point, m_grid[step + 1], asked);
+        // Silence is near to nothing.
+        if (std::isfinite(*low.shown.number) && std::isfinite(*high.shown.number))
+            points.insert(points.end(), {low, high});
+    }
+    return points;
+}
+
+bool CParameterText::isComparable(const SReading &shown, const SReading &asked) {
+    return shown.number && asked.number && shown.second.has_value() == asked.second.has_value() &&
+           shown.rest == asked.rest;
+}
+
+double CParameterText::distance(const SReading &shown, const SReading &asked) {
+    const double first = std::abs(*shown.number - *asked.number);
+    return asked.second ? first + std::abs(*shown.second - *asked.second) : first;
+}
+
+/// @return true if a law without a jump would show what is asked somewhere between the two.
 bool CParameterText::between(const SPoint &low, const SPoint &high, const SReading &asked) {
-    const auto comparable = [&](const SReading &shown) {
-        return asked.number && shown.number && shown.rest == asked.rest && shown != asked;
+    const auto isUsable = [&](const SReading &shown) {
+        return isComparable(shown, asked) && shown.second == asked.second && shown != asked;
     };
-    return comparable(low.shown) && comparable(high.shown) &&
+    return isUsable(low.shown) && isUsable(high.shown) &&
            (*low.shown.number < *asked.number) != (*high.shown.number < *asked.number);
 }
 

@@ -28,10 +28,11 @@ public:
     float valueOf(std::string_view text) const;
 
 private:
-    /// A text taken apart: "3.0:1" is 3 and ":1", "Linked" has no number.
+    /// A text taken apart: "3.0:1" is 3 and 1, "Linked" has no number.
     struct SReading {
         std::optional<double> number;
-        std::string rest;  // small letters, no spaces
+        std::optional<double> second;
+        std::string rest;  // behind the numbers; small letters, no spaces
         bool operator==(const SReading &) const = default;
     };
     struct SPoint {
@@ -44,8 +45,12 @@ private:
     };
 
     static SReading take(std::string_view text);
+    static bool isComparable(const SReading &shown, const SReading &asked);
+    static double distance(const SReading &shown, const SReading &asked);
     static bool between(const SPoint &low, const SPoint &high, const SReading &asked);
     SPoint pointAt(float value) const;
+    std::vector<SPoint> pointsShowing(const SReading &asked) const;
+    std::vector<SPoint> pointsBeside(const SReading &asked) const;
     std::pair<SPoint, SPoint> narrow(SPoint low, SPoint high, const SReading &asked) const;
     SSpan spanAround(const SPoint &point) const;
     float valueIn(const SSpan &span, const SPoint &within) const;

@@ -1,0 +1,173 @@
+#include <gmock/gmock.h>
+#include <nlohmann/json.hpp>
+
+#include "corvel/CEffectInstance.h"
+#include "corvel/CParameterText.h"
+#include "tools/support/AudioFiles.h"
+#include "tools/support/CTemporaryFolder.h"
+#include "tools/support/Program.h"
+
+// The program and the effect of this build together.
+
+using namespace Tessitor::Tool;
+
+namespace {
+
+class ChannelStrip : public testing::Test {
+protected:
+    SSound render(const SSound &sound, std::vector<std::string> options) {
+        writeSound(folder / "in.wav", sound);
+        options.insert(options.begin(), {"render", folder / "in.wav", folder / "out.wav"});
+        const SProgramRun run = corvel(options);
+        EXPECT_EQ(run.status, 0) << run.errors;
+        return readSound(folder / "out.wav");
+    }
+
+    CTemporaryFolder folder;
+};
+
+}  // namespace
+
+TEST_F(ChannelStrip, StandsBesideTheProgram) {
+    const auto info = nlohmann::json::parse(corvel({"info", "--json"}).out);
+    EXPECT_EQ(std::filesystem::canonical(info["file"].get<std::string>()),
+              std::filesystem::canonical(CORVEL_EFFECT));
+    EXPECT_EQ(info["name"], "Corvel");
+    EXPECT_EQ(info["entries"], nlohmann::json({"VSTPluginMain", "main"}));
+    EXPECT_EQ(info["canDo"]["2in2out"], 1);
+    EXPECT_EQ(info["inputPins"][0]["label"], "Left input");
+}
+
+TEST_F(ChannelStrip, ListsItsProgramsWithTheirChains) {
+    const auto programs = nlohmann::json::parse(corvel({"programs", "--json"}).out);
+    ASSERT_EQ(programs.size(), 20u);
+    EXPECT_EQ(programs[0]["name"], "Lead Vocal");
+    EXPECT_EQ(programs[0]["chain"],
+              nlohmann::json({"Rumble Filter", "Compressor", "3Band", "Reverb"}));
+    EXPECT_EQ(programs[19]["name"], "Empty");
+    EXPECT_EQ(programs[19]["chain"], nlohmann::json::array());
+}
+
+TEST_F(ChannelStrip, ListsTheParametersOfAProgram) {
+    const auto parameters =
+        nlohmann::json::parse(corvel({"params", "--program", "Empty", "--json"}).out);
+    ASSERT_EQ(parameters.size(), 64u);
+    EXPECT_EQ(parameters[17], (nlohmann::json{{"parameter", 17},
+                                              {"name", "GateThrsh"},
+                                              {"value", 0.485},
+                                              {"display", "-30.90"},
+                                              {"unit", "dB"}}));
+}
+
+TEST_F(ChannelStrip, EveryTextItShowsCanBeSet) {
+    const CEffectLibrary library(CORVEL_EFFECT);
+    CEffectInstance effect(library);
+    for (std::int32_t index = 0; index < 62; ++index) {
+        const std::string unit = effect.text(effGetParamLabel, index);
+        const auto display = [&](float value) {
+            effect.setParameter(index, value);
+            return effect.text(effGetParamDisplay, index);
+        };
+        const CParameterText parameter(unit, display);
+        for (int step = 0; step <= 40; ++step) {
+            const std::string text = display(static_cast<float>(step) / 40.0f);
+            // Without a unit, a number from 0 to 1 is the normalised value.
+            if (text == "0" || text == "1")
+                continue;
+            EXPECT_EQ(display(parameter.valueOf(text + unit)), text)
+                << effect.text(effGetParamName, index);
+        }
+    }
+}
+
+TEST_F(ChannelStrip, TheEmptyProgramGivesAVoiceBackBitForBit) {
+    const SSound sound = voice(31, 100000);
+    EXPECT_EQ(render(sound, {"--program", "Empty"}).samples, sound.samples);
+    EXPECT_EQ(render(sound, {"--program", "Empty", "--double"}).samples, sound.samples);
+    EXPECT_EQ(render(sound, {"--chain", "none", "--set", "InMono=Stereo"}).samples, sound.samples);
+}
+
+TEST_F(ChannelStrip, TheEmptyProgramGivesIntegersBack) {
+    for (const int type : {SF_FORMAT_PCM_16, SF_FORMAT_PCM_24}) {
+        SSound sound = voice(31, 10000);
+        sound.samples[0] = -1.0;
+        sound.format = SF_FORMAT_WAV | type;
+        EXPECT_EQ(render(sound, {"--program", "Empty"}).samples, sound.samples);
+    }
+}
+
+TEST_F(ChannelStrip, AMonoFileFeedsBothChannels) {
+    const SSound sound = voice(31, 10000, 1);
+    const SSound stereo = render(sound, {"--program", "Empty"});
+    ASSERT_EQ(stereo.frames(), sound.frames());
+    for (std::size_t i = 0; i < sound.frames(); ++i) {
+        ASSERT_EQ(stereo.samples[2 * i], sound.samples[i]);
+        ASSERT_EQ(stereo.samples[2 * i + 1], sound.samples[i]);
+    }
+    const SSound mono = render(sound, {"--program", "Empty", "--mono"});
+    EXPECT_EQ(mono.channels, 1);
+    EXPECT_EQ(mono.samples, sound.samples);
+}
+
+TEST_F(ChannelStrip, TheMonoSumIsTheMeanOfBothChannels) {
+    const SSound sound = voice(31, 10000, 1);
+    const std::vector<std::string> settings = {"--program", "Empty", "--chain",
+                                               "Balance",   "--set", "Balance=100:40"};
+    std::vector<std::string> summed = settings;
+    summed.push_back("--mono");
+    const SSound stereo = render(sound, settings), mono = render(sound, summed);
+    for (std::size_t i = 0; i < sound.frames(); ++i)
+        ASSERT_EQ(static_cast<float>(mono.samples[i]),
+                  (static_cast<float>(stereo.samples[2 * i]) +
+                   static_cast<float>(stereo.samples[2 * i + 1])) *
+                      0.5f);
+}
+
+TEST_F(ChannelStrip, TheChainIsHeard) {
+    const SSound sound = voice(31, 20000);
+    const SSound dry = render(sound, {"--program", "Empty"});
+    const SSound wet = render(
+        sound, {"--program", "Empty", "--chain", "rumble filter,3Band", "--set", "3EQMid=6dB"});
+    EXPECT_NE(wet.samples, dry.samples);
+}
+
+TEST_F(ChannelStrip, AllSixteenModulesRunTogether) {
+    render(voice(31, 20000),
+           {"--chain", "Balance,Pan,Gain,3Band,Rumble Filter,HiPass,Presence,Parametric,Gate,"
+                       "Compressor,DeEsser,Modulator 1,Modulator 2,Warmer,Delay,Reverb"});
+}
+
+TEST_F(ChannelStrip, TheTempoSetsTheDelay) {
+    const SSound sound = voice(31, 44100);
+    const auto delayed = [&](const char *tempo) {
+        return render(sound, {"--program", "Empty", "--chain", "Delay", "--set", "DlySync=Crotchet",
+                              "--tempo", tempo})
+            .samples;
+    };
+    EXPECT_NE(delayed("120"), delayed("180"));
+    EXPECT_EQ(delayed("120"), delayed("120.0"));
+}
+
+TEST_F(ChannelStrip, BlockSizesDoNotChangeTheSound) {
+    const SSound sound = voice(31, 30000);
+    const SSound expected = render(sound, {"--program", "Pop Vocal"});
+    for (const char *size : {"1", "100", "16384"})
+        EXPECT_EQ(render(sound, {"--program", "Pop Vocal", "--block", size}).samples,
+                  expected.samples)
+            << size;
+}
+
+TEST_F(ChannelStrip, ABatchSoundsAsItsFilesOneByOne) {
+    std::vector<std::string> arguments = {"render"};
+    for (unsigned i = 0; i < 5; ++i) {
+        arguments.push_back(folder / (std::to_string(i) + ".wav"));
+        writeSound(arguments.back(), voice(i, 20000 + 1000 * i));
+    }
+    arguments.insert(arguments.end(), {folder / "batch", "--program", "Pop Vocal"});
+    ASSERT_EQ(corvel(arguments).status, 0);
+    for (unsigned i = 0; i < 5; ++i) {
+        const SSound alone = render(voice(i, 20000 + 1000 * i), {"--program", "Pop Vocal"});
+        EXPECT_EQ(readSound(folder / ("batch/" + std::to_string(i) + ".wav")).samples,
+                  alone.samples);
+    }
+}
