@@ -1,20 +1,23 @@
 #include "dspclasses/CDSPWarmer.h"
 
 #include "dspclasses/FrameGroups.h"
-
-namespace {
+#include "dspclasses/WideLoop.h"
 
 template <typename Sample>
-void bend(const Sample *__restrict from, Sample *__restrict to, int frames,
-          const TRelaxed<float> &curve) {
-    forEachGroup(frames, [from, to, &curve](int first, int count) {
-        const Sample k = curve.load();
-        for (int i = first; i < first + count; ++i)
-            to[i] = from[i] / ((from[i] - Sample{1}) * k + from[i]);
-    });
+static void bend(const Sample *__restrict from, Sample *__restrict to, int count, Sample k) {
+    for (int i = 0; i < count; ++i)
+        to[i] = from[i] / ((from[i] - Sample{1}) * k + from[i]);
 }
 
-}  // namespace
+/// One channel of a block.
+template <typename Sample>
+static void bend(const Sample *from, Sample *to, int frames, const TRelaxed<float> &curve) {
+    runWide([from, to, frames, &curve] {
+        forEachGroup(frames, [from, to, &curve](int first, int count) {
+            bend<Sample>(from + first, to + first, count, static_cast<Sample>(curve.load()));
+        });
+    });
+}
 
 void CDSPWarmer::setParameter(int /*index*/, float value) {
     if (value == warmth)
