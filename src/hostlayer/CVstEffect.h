@@ -13,8 +13,9 @@ namespace Tessitor::Vst {
 /// An effect with the library's host services: what the host can do, its transport, the MIDI of the
 /// coming block, and the lock. It makes no sound of its own.
 ///
-/// It takes no lock itself and serves one host call at a time beside the audio thread, which alone
-/// uses the tempo and, between the host's processEvents and the end of the block, the MIDI list.
+/// It takes no lock itself. The host sets rate and block size on any thread, one at a time; the
+/// audio thread alone uses the tempo and, from processEvents to the end of the block, the MIDI
+/// list.
 class CVstEffect : public AudioEffectX, public Basics::CCountedObject {
 public:
     /// Asks the host what it can do and who it is, this once; a later change is not noticed.
