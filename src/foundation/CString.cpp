@@ -61,6 +61,7 @@ CString::CString(const char *text) {
 }
 
 // The base is not copied: a copy is an object of its own, which nobody has referenced yet.
+// NOLINTNEXTLINE(bugprone-copy-constructor-init, readability-redundant-member-init)
 CString::CString(const CString &other) : CCountedObject() {
     fenced(StringFences::construction, [&] {
         CString::setString(other.getString());

@@ -114,7 +114,7 @@ void CSystemString::appendSeparator() {
 }
 
 void CSystemString::appendPath(const CString &path) {
-    const CString added(path);
+    const CString added(path.getString());
     if (characterAt(getNumberOfCharacters() - 2) != separator())
         appendSeparator();
     appendString(added);
@@ -139,9 +139,6 @@ std::int32_t CSystemString::getNumberOfPathSections() const {
 }
 
 CString *CSystemString::getPathSection(long index) const {
-    if (index < 1 && index >= getNumberOfPathSections())
-        return nullptr;
-
     CStringTokeniser sections(*this, separator());
     CString section;
     for (long i = 0; i < index; ++i) {

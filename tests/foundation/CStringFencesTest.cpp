@@ -130,7 +130,7 @@ void PrintTo(const SFailingOperation &operation, std::ostream *out) {
 }
 
 const SFailingOperation failingOperations[] = {
-    {"Copy", construction, [](CFailingString &s) { const CString copy(s); }},
+    {"Copy", construction, [](CFailingString &s) { static_cast<void>(CString(s)); }},
     {"AssignBool", assignment, [](CFailingString &s) { s.CString::operator=(true); }},
     {"AssignLong", assignment, [](CFailingString &s) { s.CString::operator=(7L); }},
     {"AssignInt", assignment, [](CFailingString &s) { s.CString::operator=(7); }},
@@ -215,7 +215,7 @@ const char *const blockText = " longer than what a string keeps within itself ";
 
 const SAllocatingOperation allocatingOperations[] = {
     {"Construct", construction, [](CString &) { const CString made("x"); }, blockText},
-    {"Copy", construction, [](CString &s) { const CString copy(s); }, blockText},
+    {"Copy", construction, [](CString &s) { static_cast<void>(CString(s)); }, blockText},
     {"AssignBool", assignment, [](CString &s) { s = true; }, "True"},
     {"AssignLong", assignment, [](CString &s) { s = 7L; }, "007"},
     {"AssignInt", assignment, [](CString &s) { s = 7; }, "007"},
@@ -302,7 +302,7 @@ TEST(CStringFences, AFailedConstructionLeavesTheRecordAsItWas) {
     reportWithoutMemory(
         0, [](CString &) { const CString made("x"); }, string);
     reportWithoutMemory(
-        0, [](CString &s) { const CString copy(s); }, string);
+        0, [](CString &s) { static_cast<void>(CString(s)); }, string);
     EXPECT_EQ(string.getClass().getInstanceCount(), instances);
 }
 

@@ -9,6 +9,7 @@
 #include <cmath>
 #include <cstring>
 #include <limits>
+#include <memory>
 #include <string>
 
 using Tessitor::Basics::CCountedObject;
@@ -61,7 +62,8 @@ TEST(CString, CountsEveryInstanceAndEachBaseCountsItself) {
     const auto instances = record.getInstanceCount();
     const auto bases = base.getInstanceCount();
     {
-        const CString two(one), three("three"), four = one.getSubString(0, 1);
+        const CString two("two"), three = one.getSubString(0, 1);
+        const auto copy = std::make_unique<CString>(one);
         EXPECT_EQ(record.getInstanceCount(), instances + 3);
         EXPECT_EQ(base.getInstanceCount(), bases + 3);
     }
@@ -192,11 +194,14 @@ TEST(CString, GivesABlankOutsideItself) {
 }
 
 TEST(CString, BecomesAPascalStringOf256Bytes) {
-    const CString string("text");
-    const CPascalString pascal = string;
-    EXPECT_EQ(pascal.getString()[0], 4);
-    EXPECT_EQ(std::memcmp(pascal.getString() + 1, "text", 5), 0);
-    EXPECT_EQ(pascal.getString()[255], 0);
+    const CPascalString small = CString("text");
+    EXPECT_EQ(small.getString()[0], 4);
+    EXPECT_EQ(std::memcmp(small.getString() + 1, "text", 5), 0);
+
+    const CPascalString cut = CString(std::string(300, 'x').c_str());
+    EXPECT_EQ(cut.getString()[0], 254);
+    EXPECT_EQ(cut.getString()[254], 'x');
+    EXPECT_EQ(cut.getString()[255], 0);
 }
 
 TEST(CString, StoresWhatAFormatWrites) {
