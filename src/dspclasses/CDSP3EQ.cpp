@@ -21,14 +21,17 @@ struct SThreeBandLanes {
 
 }  // namespace
 
-double CDSP3EQ::gainFromDb(float decibels) {
+/// Rounded to single precision half-way, and without a floor: -60 dB is not silence here.
+static double gainFromDb(float decibels) {
     constexpr float ln10 = 2.30258512f;
     return std::exp(double{ln10 * decibels} * 0.05);
 }
 
 // Kept: t is twice the cosine, so the factor is not the usual one and hardly follows the frequency.
 double CDSP3EQ::smoothingFactor(float crossover) const {
-    const float t = std::cos(crossover * 6.2831855f * invSampleRate) * 2.0f;
+    // Rounded from double precision: cosf is not the same in every library.
+    const double angle = crossover * 6.2831855f * invSampleRate;
+    const float t = static_cast<float>(std::cos(angle)) * 2.0f;
     return double{1.0f - (t - std::sqrt(t * t - 1.0f))};
 }
 

@@ -19,7 +19,6 @@ public:
     void reset() override;
 
 private:
-    static double gainFromDb(float decibels);
     double smoothingFactor(float crossover) const;
     void setGain(TRelaxed<float> &decibels, TRelaxed<double> &gain, float value);
     void setCrossover(TRelaxed<float> &crossover, TRelaxed<double> &coefficient, float value);

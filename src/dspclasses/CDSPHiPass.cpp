@@ -1,8 +1,7 @@
 #include "dspclasses/CDSPHiPass.h"
 
 #include "dspclasses/GuardedRecursion.h"
-
-#include <cmath>
+#include "dspclasses/SingleMath.h"
 
 namespace {
 
@@ -23,7 +22,7 @@ void CDSPHiPass::setParameter(int /*index*/, float value) {
     if (value == cutoff)
         return;
     cutoff = value;
-    pole = std::exp(value * -6.283185f * invSampleRate);
+    pole = expSingle(value * -6.283185f * invSampleRate);
     reset();
 }
 

@@ -52,7 +52,8 @@ private:
     }
 
     double coefficientOf(float frequency) const {
-        const float t = std::cos(frequency * 6.2831855f * invSampleRate) * 2.0f;
+        const float angle = frequency * 6.2831855f * invSampleRate;
+        const float t = static_cast<float>(std::cos(double{angle})) * 2.0f;
         const float coefficient = 1.0f - (t - std::sqrt(t * t - 1.0f));
         return coefficient;
     }

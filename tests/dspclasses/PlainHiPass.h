@@ -11,7 +11,8 @@ public:
         if (value == cutoff)
             return;
         cutoff = value;
-        pole = std::exp(value * -6.283185f * invSampleRate);
+        const float exponent = value * -6.283185f * invSampleRate;
+        pole = static_cast<float>(std::exp(double{exponent}));
         reset();
     }
     float getParameter(int) override { return cutoff; }
@@ -47,5 +48,5 @@ private:
 
     SState states[2];
     float cutoff = 60.0f;
-    float pole = std::exp(-0.00854855f);
+    float pole = static_cast<float>(std::exp(double{-0.00854855f}));
 };
