@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <bit>
 #include <cstring>
 #include <string>
 #include <vector>
@@ -43,10 +45,11 @@ protected:
         return into.setChunk(chunk.data(), static_cast<int>(chunk.size()), isPreset);
     }
 
-    static SProgram asProgram(const std::vector<char> &chunk, int index = 0) {
-        SProgram program;
-        std::memcpy(&program, chunk.data() + std::size_t(index) * sizeof program, sizeof program);
-        return program;
+    static SProgram asProgram(const std::vector<char> &chunk, std::size_t index = 0) {
+        std::array<char, sizeof(SProgram)> bytes;
+        for (std::size_t i = 0; i < bytes.size(); ++i)
+            bytes[i] = chunk.at(index * sizeof(SProgram) + i);
+        return std::bit_cast<SProgram>(bytes);
     }
 
     static std::vector<char> asChunk(const SProgram &program) {
