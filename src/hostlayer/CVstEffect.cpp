@@ -3,6 +3,7 @@
 #include "foundation/CApplicationInformation.h"
 
 #include <cstring>
+#include <memory>
 
 namespace Tessitor::Vst {
 
@@ -43,8 +44,11 @@ CVstEffect::CVstEffect(audioMasterCallback host, int parameters, int programs)
     m_blockSize = getBlockSize();
     m_sampleRate = getSampleRate();
     m_tempo.setEffect(this);
-    for (int note = 0; note < numberOfNotes; ++note)
-        m_notes.addElement(new NoteValues);
+    for (int note = 0; note < numberOfNotes; ++note) {
+        auto values = std::make_unique<NoteValues>();
+        m_notes.addElement(values.get());
+        values.release();  // the collection's now, and not before it had room for it
+    }
     m_midiEvents.setChannel(0);
     m_criticalSection = new Threading::CCriticalSection;
     m_criticalSection->reference();
