@@ -9,10 +9,10 @@ class CTemporaryFolder {
 public:
     CTemporaryFolder() {
         std::random_device random;
-        do
+        do {
             m_path =
                 std::filesystem::temp_directory_path() / ("corvel-" + std::to_string(random()));
-        while (!std::filesystem::create_directory(m_path));
+        } while (!std::filesystem::create_directory(m_path));
     }
     CTemporaryFolder(const CTemporaryFolder &) = delete;
     CTemporaryFolder &operator=(const CTemporaryFolder &) = delete;

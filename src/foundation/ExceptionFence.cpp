@@ -21,6 +21,7 @@ void rethrowThrough(const SFence &fence) {
         throw;
     } catch (const CException &thrown) {
         // Taken by value, as everywhere: the class record counts the copy's end.
+        // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
         const CException caught(thrown);
         throw CException(reasonBelow(fence.lead, caught), fence.function, true);
     } catch (...) {

@@ -15,7 +15,6 @@ class CApplicationInformationStore : public testing::Test {
 protected:
     ~CApplicationInformationStore() override {
         CApplicationInformation::destroyApplicationInformation();
-        CApplicationInformation::setMainWindow(nullptr);
     }
 
     static void set() {
@@ -88,6 +87,7 @@ TEST_F(CApplicationInformationStore, RemembersTheMainWindow) {
     auto *address = reinterpret_cast<Tessitor::GUI::Windowing::IWindow *>(&window);
     CApplicationInformation::setMainWindow(address);
     EXPECT_EQ(CApplicationInformation::getMainWindow(), address);
+    CApplicationInformation::setMainWindow(nullptr);
 }
 
 TEST_F(CApplicationInformationStore, QuittingEndsTheMessageLoopWithZero) {

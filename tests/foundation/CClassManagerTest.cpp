@@ -13,6 +13,8 @@ using Tessitor::IO::EStreamMode;
 
 namespace {
 
+constexpr std::size_t headLength = 540;  // six lines
+
 /// Records that only the test's own manager lists, whatever the program's one makes of them.
 class CClassManagerList : public testing::Test {
 protected:
@@ -145,7 +147,7 @@ TEST_F(CClassManagerList, ReportsTheClassesWithInstancesAndTheirSums) {
     gamma.incrementInstanceCount();
     gamma.decrementInstanceCount();
     EXPECT_EQ(
-        report().substr(6 * 90),
+        report().substr(headLength),
         "|                                                        TestBeta |        12|        "
         "12|\n"
         "|                                                       TestGamma |         1|         "

@@ -59,7 +59,7 @@ TEST(CCountedObject, ACopyTakesTheCountAndDrivesTheRecordDown) {
     const auto &record = original.getClass();
     const auto instances = record.getInstanceCount(), total = record.getTotalCount();
     {
-        const CCountedObject copy(original);
+        const CCountedObject copy = copyOf(original);
         EXPECT_EQ(copy.getReferenceCount(), 2);
         EXPECT_EQ(record.getInstanceCount(), instances);
     }

@@ -1,5 +1,7 @@
 #include "foundation/CException.h"
 
+#include "foundation/ObjectSamples.h"
+
 #include <gtest/gtest.h>
 
 using Tessitor::Exceptions::CException;
@@ -19,7 +21,7 @@ TEST(CException, TheFlagIsOneWhateverIsPassed) {
 
 TEST(CException, ACopyHasTheSameTexts) {
     const CException original("reason", "function", true);
-    const CException copy(original);
+    const CException copy = copyOf(original);
     EXPECT_STREQ(copy.getErrorReason().getString(), "reason");
     EXPECT_STREQ(copy.getFunctionName().getString(), "function");
     EXPECT_EQ(copy.getErrorFlag(), 1);
@@ -29,7 +31,7 @@ TEST(CException, ACopyDrivesTheRecordDown) {
     const CException original("reason", "function", true);
     const auto &record = original.getClass();
     const auto instances = record.getInstanceCount(), total = record.getTotalCount();
-    { const CException copy(original); }
+    copyOf(original);
     EXPECT_EQ(record.getInstanceCount(), instances - 1);
     EXPECT_EQ(record.getTotalCount(), total);
     original.getClass().incrementInstanceCount();  // undoes the asymmetry for the next test

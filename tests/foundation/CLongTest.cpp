@@ -78,7 +78,8 @@ TEST(CLong, EveryConstructorCounts) {
     EXPECT_TRUE(number.getClass() == "CLong");
     const auto instances = number.getClass().getInstanceCount();
     {
-        const CLong copy(number), another;
+        CLong copy(number), another;
+        copy += another;
         EXPECT_EQ(number.getClass().getInstanceCount(), instances + 2);
     }
     EXPECT_EQ(number.getClass().getInstanceCount(), instances);

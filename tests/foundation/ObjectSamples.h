@@ -20,3 +20,9 @@ private:
 
     bool &m_destroyed;
 };
+
+/// A copy, made by the copy constructor.
+template <typename Object>
+Object copyOf(const Object &object) {
+    return object;
+}
