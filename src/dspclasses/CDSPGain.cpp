@@ -1,15 +1,14 @@
 #include "dspclasses/CDSPGain.h"
 
 #include "dspclasses/ScaledCopy.h"
-
-#include <cmath>
+#include "dspclasses/SingleMath.h"
 
 void CDSPGain::setParameter(int /*index*/, float value) {
     if (value == decibels)
         return;
     decibels = value;
     constexpr float ln10 = 2.30258509f;
-    gain = value > -60.0f ? std::exp(ln10 * value * 0.05f) : 0.0f;
+    gain = value > -60.0f ? expSingle(ln10 * value * 0.05f) : 0.0f;
 }
 
 float CDSPGain::getParameter(int /*index*/) {

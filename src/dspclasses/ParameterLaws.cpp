@@ -1,15 +1,11 @@
 #include "dspclasses/ParameterLaws.h"
 
-#include <cmath>
+#include "dspclasses/SingleMath.h"
 
 namespace ParameterLaws {
 
-static float power(float base, float exponent) {
-    return static_cast<float>(std::pow(double{base}, double{exponent}));
-}
-
 static float twoTo(float exponent) {
-    return power(2.0f, exponent);
+    return powSingle(2.0f, exponent);
 }
 
 float raw(float v) {
@@ -42,7 +38,7 @@ float highCrossover(float v) {
 }
 
 float rumbleFrequency(float v) {
-    return power(5.0f, 3.0f * v);
+    return powSingle(5.0f, 3.0f * v);
 }
 
 float hiPassFrequency(float v) {

@@ -14,7 +14,7 @@ public:
             return;
         decibels = value;
         if (value > -60.0f)
-            gain = std::exp(2.30258509f * value * 0.05f);
+            gain = static_cast<float>(std::exp(double{2.30258509f * value * 0.05f}));
         else
             gain = 0.0f;
     }
