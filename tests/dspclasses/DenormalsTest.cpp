@@ -5,6 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include <bit>
+#include <cmath>
+#include <limits>
+
 namespace {
 
 template <typename Sample>
@@ -27,6 +31,12 @@ void expectEdges() {
     }
 }
 
+/// Zero, the least of a normal number, and that of infinities and NaNs.
+template <typename Sample>
+constexpr std::uint64_t exponentBits[3] = {0, 0x00800000u, 0x7f800000u};
+template <>
+constexpr std::uint64_t exponentBits<double>[3] = {0, 0x0010000000000000u, 0x7ff0000000000000u};
+
 }  // namespace
 
 TEST(Denormals, EndAsPositiveZeroAndNothingElseDoes) {
@@ -37,16 +47,25 @@ TEST(Denormals, EndAsPositiveZeroAndNothingElseDoes) {
 TEST(Denormals, EveryLaneIsFlushedLikeAScalar) {
     CRandom random(3);
     for (int number = 0; number < 1000; ++number) {
-        float four[4], flushed[4];
-        for (float &value : four)
-            value = std::bit_cast<float>(static_cast<std::uint32_t>(random.bits()) & 0x80ffffffu);
-        storeFour(flushed, flushDenormal(loadFour(four)));
-        for (int lane = 0; lane < 4; ++lane)
-            EXPECT_TRUE(sameBits(flushed[lane], flushDenormal(four[lane]))) << four[lane];
-
-        const double a = std::bit_cast<double>(random.bits() & 0x801fffffffffffffu);
-        const double b = random.real(-1.0, 1.0);
-        EXPECT_TRUE(sameBits(firstOf(flushDenormal(pair(a, b))), flushDenormal(a))) << a;
-        EXPECT_TRUE(sameBits(secondOf(flushDenormal(pair(b, a))), flushDenormal(a))) << a;
+        // Signs and low bits at random; the exponent is zero, the least, or that of infinity.
+        const std::uint64_t bits = random.bits();
+        const auto exponent = static_cast<std::uint64_t>(random.whole(0, 2));
+        const float single = std::bit_cast<float>(
+            static_cast<std::uint32_t>((bits & 0x807fffffu) | exponentBits<float>[exponent]));
+        const double twofold =
+            std::bit_cast<double>((bits & 0x800fffffffffffffu) | exponentBits<double>[exponent]);
+        for (int lane = 0; lane < 4; ++lane) {
+            float four[4] = {1.0f, 2.0f, 3.0f, 4.0f}, flushed[4];
+            four[lane] = single;
+            storeFour(flushed, flushDenormal(loadFour(four)));
+            for (int other = 0; other < 4; ++other)
+                EXPECT_TRUE(sameBits(flushed[other], flushDenormal(four[other]))) << four[other];
+        }
+        const SDoubles2 first = flushDenormal(pair(twofold, 1.0));
+        const SDoubles2 second = flushDenormal(pair(1.0, twofold));
+        EXPECT_TRUE(sameBits(firstOf(first), flushDenormal(twofold))) << twofold;
+        EXPECT_TRUE(sameBits(secondOf(second), flushDenormal(twofold))) << twofold;
+        EXPECT_EQ(secondOf(first), 1.0);
+        EXPECT_EQ(firstOf(second), 1.0);
     }
 }

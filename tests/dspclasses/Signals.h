@@ -170,13 +170,6 @@ bool operator==(const TStereo<Sample> &a, const TStereo<Sample> &b) {
     return true;
 }
 
-template <typename Sample>
-bool hasDenormal(const TStereo<Sample> &stereo) {
-    const auto denormal = [](Sample sample) { return std::fpclassify(sample) == FP_SUBNORMAL; };
-    return std::any_of(stereo.channels[0].begin(), stereo.channels[0].end(), denormal) ||
-           std::any_of(stereo.channels[1].begin(), stereo.channels[1].end(), denormal);
-}
-
 /// One call in the precision of the buffers.
 template <typename Module>
 void process(Module &module, float **in, float **out, int frames) {

@@ -1,0 +1,122 @@
+#include "dspclasses/GuardedRecursion.h"
+
+#include "dspclasses/Signals.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <vector>
+
+namespace {
+
+constexpr double denormal = 1e-310;
+constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
+
+/// @return whether a watch would have the values of one channel guarded, beside a steady other.
+bool isAlarmedBy(const std::vector<double> &values, double other = 0.5) {
+    CWatchingGuard left, right;
+    for (const double value : values) {
+        left.contain(left.flush(pair(value, other)));
+        right.contain(right.flush(pair(other, value)));
+    }
+    EXPECT_EQ(left.mightHaveActed(), right.mightHaveActed());
+    return left.mightHaveActed();
+}
+
+/// y = x + y1 / 2, contained.
+struct SHalving {
+    SDoubles2 y1 = both(0.0);
+
+    template <typename Guard>
+    SDoubles2 step(SDoubles2 x, Guard &guard) {
+        return y1 = guard.contain(guard.flush(x + both(0.5) * y1));
+    }
+};
+
+template <typename Sample>
+TStereo<Sample> halve(TStereo<Sample> input) {
+    TStereo<Sample> output(input.frames());
+    SHalving filter;
+    const auto in = input.pointers(), out = output.pointers();
+    runGuarded<EInput::Read>(filter, in.data(), out.data(), input.frames(), [](SHalving &) {});
+    return output;
+}
+
+}  // namespace
+
+TEST(CWatchingGuard, IsCalmWhileNothingNeedsAGuard) {
+    EXPECT_FALSE(isAlarmedBy({0.1, -0.2, 5.0, -5.0, std::numeric_limits<double>::min()}));
+    EXPECT_FALSE(isAlarmedBy({}));
+}
+
+TEST(CWatchingGuard, IsCalmInSilence) {
+    EXPECT_FALSE(isAlarmedBy({0.0, 0.0, 0.0}));
+    EXPECT_FALSE(isAlarmedBy({0.0, 0.0, 0.0}, 0.0));
+}
+
+TEST(CWatchingGuard, SeesWhatAGuardWouldChange) {
+    EXPECT_TRUE(isAlarmedBy({0.1, denormal, 0.1}));
+    EXPECT_TRUE(isAlarmedBy({0.1, -denormal, 0.1}));
+    EXPECT_TRUE(isAlarmedBy({std::numeric_limits<double>::denorm_min()}));
+    EXPECT_TRUE(isAlarmedBy({0.0, -0.0, 0.0}));
+    EXPECT_TRUE(isAlarmedBy({0.1, 5.1, 0.1}));
+    EXPECT_TRUE(isAlarmedBy({0.1, -5.1, 0.1}));
+    EXPECT_TRUE(isAlarmedBy({-std::numeric_limits<double>::infinity()}));
+}
+
+TEST(CWatchingGuard, IsNotBlindedByANaN) {
+    EXPECT_FALSE(isAlarmedBy({notANumber, 0.1}));
+    EXPECT_TRUE(isAlarmedBy({denormal, notANumber}));
+    EXPECT_TRUE(isAlarmedBy({notANumber, denormal}));
+    EXPECT_TRUE(isAlarmedBy({8.0, notANumber}));
+    EXPECT_TRUE(isAlarmedBy({notANumber, 8.0}));
+}
+
+TEST(SActingGuard, LetsANaNPass) {
+    SActingGuard guard;
+    EXPECT_TRUE(std::isnan(firstOf(guard.flush(both(notANumber)))));
+    EXPECT_TRUE(std::isnan(firstOf(guard.contain(both(notANumber)))));
+}
+
+TEST(SActingGuard, ReplacesARunawayByOneOfItsSign) {
+    SActingGuard guard;
+    const SDoubles2 replaced = guard.contain(pair(5.5, -5.5));
+    EXPECT_EQ(firstOf(replaced), 1.0);
+    EXPECT_EQ(secondOf(replaced), -1.0);
+    const SDoubles2 kept = guard.contain(pair(5.0, -5.0));
+    EXPECT_EQ(firstOf(kept), 5.0);
+    EXPECT_EQ(secondOf(kept), -5.0);
+}
+
+TEST(GuardedRecursion, GuardsAtEveryPlaceOfEveryBlock) {
+    for (const double trouble : {8.0, -8.0, denormal, -0.0}) {
+        for (const int frames : {1, 2, 3, 4, 5, 63, 64, 65, 67, 131}) {
+            for (int place = 0; place < frames; ++place) {
+                TStereo<double> input(frames), expected(frames);
+                input.right(place) = trouble;
+                double y = 0.0;
+                for (int i = 0; i < frames; ++i) {
+                    y = input.right(i) + 0.5 * y;
+                    if (y < -5.0 || y > 5.0)
+                        y = std::copysign(1.0, y);
+                    y = flushDenormal(y);
+                    expected.right(i) = y;
+                }
+                EXPECT_TRUE(halve(input) == expected)
+                    << trouble << " at frame " << place << " of " << frames;
+            }
+        }
+    }
+}
+
+TEST(GuardedRecursion, RefreshesBeforeEveryGroupAndNeverForNone) {
+    for (const auto &[frames, groups] : {std::pair{0, 0}, {1, 1}, {64, 1}, {65, 2}, {200, 4}}) {
+        TStereo<float> input(frames), output(frames);
+        SHalving filter;
+        int refreshed = 0;
+        const auto in = input.pointers(), out = output.pointers();
+        runGuarded<EInput::Read>(filter, in.data(), out.data(), frames,
+                                 [&](SHalving &) { ++refreshed; });
+        EXPECT_EQ(refreshed, groups) << frames;
+    }
+}
