@@ -327,10 +327,10 @@ TEST(CDSPDelay, KeepsToTheContractOfAModule) {
 TEST(CDSPDelay, EqualsThePlainReadingAtEveryTime) {
     expectSameBits([] { return std::make_unique<CDSPDelay>(); },
                    [] { return std::make_unique<CPlainDelay>(); },
-                   levelsAnd({{kTime, 0.0f, 40.0f}}), 1500);
+                   levelsAnd({{kTime, 0.0f, 40.0f}}), 1000);
     expectSameBits([] { return std::make_unique<CDSPDelay>(); },
                    [] { return std::make_unique<CPlainDelay>(); },
-                   levelsAnd({{kTime, 50.0f, 1500.0f}}), 500);
+                   levelsAnd({{kTime, 50.0f, 1500.0f}}), 300);
 }
 
 TEST(CDSPDelay, EqualsThePlainReadingInTempo) {
@@ -341,10 +341,10 @@ TEST(CDSPDelay, EqualsThePlainReadingInTempo) {
                               {kBeats, 1.0f, 12.0f},
                               {kTempo, 2000.0f, 80000.0f},
                               {kTime, 0.0f, 10.0f}}),
-                   1500);
+                   1000);
 }
 
 TEST(CDSPDelay, EqualsThePlainReadingAsTheLinesGoRound) {
     expectSameBits(makeNearTheWrap<CDSPDelay>, makeNearTheWrap<CPlainDelay>,
-                   levelsAnd({{kTime, 0.0f, 3000.0f}}), 500);
+                   levelsAnd({{kTime, 0.0f, 3000.0f}}), 200);
 }
