@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
 
+#include "corvel/Chain.h"
 #include "tools/support/AudioFiles.h"
 #include "tools/support/CTemporaryFolder.h"
 #include "tools/support/Program.h"
@@ -41,6 +42,8 @@ TEST(CommandLine, HelpTellsOfEveryCommandAndOption) {
     for (const char *option : {"--program", "--set", "--chain", "--tempo", "--block", "--double",
                                "--tail", "--format", "--resample", "--mono", "--json", "--plugin"})
         EXPECT_THAT(render.out, HasSubstr(option));
+    for (int slot = 2; slot < 18; ++slot)
+        EXPECT_THAT(render.out, HasSubstr(std::string(Tessitor::Tool::moduleLabel(slot))));
 }
 
 TEST(CommandLine, WrongCallsAreRefusedInOneLine) {

@@ -13,6 +13,8 @@ using testing::StartsWith;
 
 namespace {
 
+constexpr int blocksInKilobyte = 2;  // as the shell's ulimit counts them
+
 class RenderErrors : public testing::Test {
 protected:
     RenderErrors() {
@@ -108,20 +110,27 @@ TEST_F(RenderErrors, OutputThatIsADevice) {
                   {"render", folder / "in.wav", "/dev/null", "--plugin", testEffect("Whole")});
 }
 
-TEST_F(RenderErrors, FullDisk) {
-    SSound sound = voice(21, 200000);
-    writeSound(folder / "long.wav", sound);
-    expectFailure(
-        1, "out.wav: cannot be written",
-        {"render", folder / "long.wav", folder / "out.wav", "--plugin", testEffect("Whole")},
-        "trap '' XFSZ; ulimit -f 200;");
+class RenderToFullDisk : public RenderErrors, public testing::WithParamInterface<const char *> {};
+
+TEST_P(RenderToFullDisk, FailsWhereverTheDiskEnds) {
+    writeSound(folder / "long.wav", voice(21, 40000));
+    const std::vector<std::string> arguments = {
+        "render",   folder / "long.wav", folder / "out.wav", "--format",
+        GetParam(), "--plugin",          testEffect("Whole")};
+    // How long it would be.
+    std::vector<std::string> elsewhere = arguments;
+    elsewhere[2] = folder / "whole";
+    ASSERT_EQ(corvel(elsewhere).status, 0);
+    const std::uintmax_t kilobytes = std::filesystem::file_size(folder / "whole") / 1024;
+    std::filesystem::remove(folder / "whole");
+    ASSERT_GE(kilobytes, 4u);
+    for (const std::uintmax_t room : {std::uintmax_t(1), kilobytes / 2, kilobytes})
+        expectFailure(1, "out.wav: cannot be written (File too large)", arguments,
+                      "trap '' XFSZ; ulimit -f " + std::to_string(room * blocksInKilobyte) + ";");
 }
 
-TEST_F(RenderErrors, DiskThatIsFullAtTheLastByte) {
-    // 3000 frames of 16 bits are 12000 bytes; two blocks of 512 hold none of them.
-    expectFailure(1, "out.wav: cannot be written", renderTo("out.wav", {"--format", "wav:16"}),
-                  "trap '' XFSZ; ulimit -f 1;");
-}
+INSTANTIATE_TEST_SUITE_P(Formats, RenderToFullDisk,
+                         testing::Values("wav:float", "wav:16", "aiff:24", "flac:16", "ogg"));
 
 TEST_F(RenderErrors, FormatThatTheRateDoesNotAllow) {
     expectFailure(1, "out.wav: cannot be written", renderTo("out.wav", {"--format", "ogg:opus"}));

@@ -60,17 +60,42 @@ TEST_P(RenderIntegers, IntegerFilesComeBackUnchanged) {
     sound.samples[0] = -1.0;  // full scale has no room to spare
     sound.samples[1] = 32767.0 / 32768.0;
     sound.format = GetParam();
-    const SSound out = render(sound, {"--format", "wav"});
-    const int container = sound.format & SF_FORMAT_TYPEMASK;
-    EXPECT_EQ(out.format & SF_FORMAT_SUBMASK, sound.format & SF_FORMAT_SUBMASK);
-    EXPECT_EQ(out.samples, sound.samples) << container;
+    writeSound(folder / "same", sound);
+    const SSound out = render(sound);
+    EXPECT_EQ(out.format, GetParam());
+    EXPECT_EQ(out.samples, readSound(folder / "same").samples);
     EXPECT_EQ(run.errors, "");
 }
-INSTANTIATE_TEST_SUITE_P(
-    Formats, RenderIntegers,
-    testing::Values(SF_FORMAT_WAV | SF_FORMAT_PCM_16, SF_FORMAT_WAV | SF_FORMAT_PCM_24,
-                    SF_FORMAT_AIFF | SF_FORMAT_PCM_16, SF_FORMAT_AIFF | SF_FORMAT_PCM_24,
-                    SF_FORMAT_FLAC | SF_FORMAT_PCM_16, SF_FORMAT_FLAC | SF_FORMAT_PCM_24));
+INSTANTIATE_TEST_SUITE_P(Formats, RenderIntegers,
+                         testing::Values(SF_FORMAT_WAV | SF_FORMAT_PCM_16,
+                                         SF_FORMAT_WAV | SF_FORMAT_PCM_24,
+                                         SF_FORMAT_WAV | SF_FORMAT_PCM_U8,
+                                         SF_FORMAT_WAV | SF_FORMAT_ULAW));
+
+class RenderOtherIntegers : public Render, public testing::WithParamInterface<int> {};
+
+TEST_P(RenderOtherIntegers, TheContainerChangesAndTheIntegersDoNot) {
+    SSound sound = voice(11, 30000);
+    sound.samples[0] = -1.0;
+    sound.format = GetParam();
+    const SSound out = render(sound, {"--format", "wav"});
+    EXPECT_EQ(out.format, SF_FORMAT_WAV | (GetParam() & SF_FORMAT_SUBMASK));
+    EXPECT_EQ(out.samples, sound.samples);
+}
+INSTANTIATE_TEST_SUITE_P(Formats, RenderOtherIntegers,
+                         testing::Values(SF_FORMAT_AIFF | SF_FORMAT_PCM_16,
+                                         SF_FORMAT_AIFF | SF_FORMAT_PCM_24,
+                                         SF_FORMAT_FLAC | SF_FORMAT_PCM_16,
+                                         SF_FORMAT_FLAC | SF_FORMAT_PCM_24));
+
+TEST_F(Render, DoublePrecisionKeepsThirtyTwoBits) {
+    SSound sound = voice(11, 1000);
+    sound.format = SF_FORMAT_WAV | SF_FORMAT_PCM_32;
+    for (double &sample : sound.samples)
+        sample += 1.0 / 2147483648.0;
+    EXPECT_EQ(render(sound, {"--double"}).samples, sound.samples);
+    EXPECT_NE(render(sound).samples, sound.samples);
+}
 
 TEST_F(Render, TwentyFourBitsAreKeptToTheLast) {
     SSound sound = voice(11, 1000);

@@ -1,6 +1,8 @@
 #include "corvel/CAudioWriter.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <system_error>
 
 #include "corvel/Errors.h"
 #include "corvel/OutputFormat.h"
@@ -16,6 +18,13 @@ std::int64_t writeFrames(SNDFILE *file, const float *samples, std::int64_t frame
 
 std::int64_t writeFrames(SNDFILE *file, const double *samples, std::int64_t frames) {
     return sf_writef_double(file, samples, frames);
+}
+
+// @return -1 if it is no audio file or does not know its length.
+std::int64_t framesIn(const std::filesystem::path &file) {
+    SF_INFO info{};
+    const std::unique_ptr<SNDFILE, SSoundFileCloser> opened(sf_open(file.c_str(), SFM_READ, &info));
+    return opened != nullptr && info.frames != SF_COUNT_MAX ? info.frames : -1;
 }
 
 }  // namespace
@@ -45,6 +54,7 @@ void CAudioWriter::write(const double *samples, std::int64_t frames) {
 template <typename Sample>
 void CAudioWriter::writeAll(const Sample *samples, std::int64_t frames) {
     std::int64_t written = 0;
+    errno = 0;
     if (m_bits == 0) {
         written = writeFrames(m_file.get(), samples, frames);
     } else {
@@ -54,12 +64,18 @@ void CAudioWriter::writeAll(const Sample *samples, std::int64_t frames) {
         written = sf_writef_int(m_file.get(), m_integers.data(), frames);
     }
     if (written != frames)
-        fail(sf_strerror(m_file.get()));
+        fail(errno != 0 ? std::system_category().message(errno) : sf_strerror(m_file.get()));
+    m_frames += frames;
 }
 
 void CAudioWriter::finish() {
-    if (const int error = sf_close(m_file.release()))
-        fail(sf_error_number(error));
+    errno = 0;
+    sf_close(m_file.release());
+    const int systemError = errno;
+    // What goes wrong at the end of an encoder's work is not always reported.
+    if (framesIn(m_pending.path()) < m_frames)
+        fail(systemError != 0 ? std::system_category().message(systemError)
+                              : "it could not be completed");
     m_pending.commit();
 }
 

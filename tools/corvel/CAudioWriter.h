@@ -38,7 +38,8 @@ private:
 
     std::filesystem::path m_place;
     int m_channels;
-    int m_bits;  // of the integers, 0 for floating-point samples
+    int m_bits;                 // of the integers, 0 for floating-point samples
+    std::int64_t m_frames = 0;  // written
     std::uint64_t m_clipped = 0;
     std::vector<std::int32_t> m_integers;
     CPendingFile m_pending;  // outlives the handle

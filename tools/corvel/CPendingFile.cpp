@@ -2,8 +2,8 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
 #include <string>
+#include <system_error>
 
 #include "corvel/Errors.h"
 
@@ -35,7 +35,8 @@ fs::path makeFileBeside(const fs::path &place) {
         if (errno != EEXIST)
             break;
     }
-    throw CJobError(place.string() + ": cannot be written (" + std::strerror(errno) + ")");
+    throw CJobError(place.string() + ": cannot be written (" +
+                    std::system_category().message(errno) + ")");
 }
 
 }  // namespace
