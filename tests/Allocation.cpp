@@ -6,25 +6,34 @@
 // The nothrow forms of the library lead to these.
 
 static thread_local std::uint64_t allocations = 0;
-static thread_local std::int64_t untilFailure = -1;  // below 0: none fails
+static thread_local std::int64_t untilFailure = 0;  // allocations that still succeed
+static thread_local std::int64_t failuresLeft = 0;
 
 std::uint64_t allocationsOfThisThread() {
     return allocations;
 }
 
-CFailingAllocation::CFailingAllocation(std::int64_t index) {
+CFailingAllocation::CFailingAllocation(std::int64_t index, std::int64_t failures) {
     untilFailure = index;
+    failuresLeft = failures;
 }
 
 CFailingAllocation::~CFailingAllocation() {
-    untilFailure = -1;
+    failuresLeft = 0;
+}
+
+static bool isToFail() {
+    if (failuresLeft == 0 || untilFailure-- > 0)
+        return false;
+    --failuresLeft;
+    return true;
 }
 
 // Room to align by hand: the systems differ in what their malloc offers. The block that was really
 // allocated is remembered just before the aligned one.
 static void *allocate(std::size_t size, std::size_t alignment) {
     ++allocations;
-    if (untilFailure >= 0 && untilFailure-- == 0)
+    if (isToFail())
         throw std::bad_alloc();
     void *const block = std::malloc(size + alignment + sizeof(void *));
     if (block == nullptr)

@@ -52,8 +52,12 @@ CClass::CClass(const char *templateName, const std::type_info &argument,
              templateClassName(parentTemplateName, parentArgument).c_str()) {}
 
 CClass::~CClass() {
-    if (s_manager != nullptr)
-        s_manager->withdrawClass(this);
+    if (s_manager == nullptr)
+        return;
+    s_manager->withdrawClass(this);
+    // A library that was loaded and never used has nobody else to end the manager.
+    if (s_manager->isEmpty())
+        destroyClassManager(nullptr);
 }
 
 CClass &CClass::operator=(const CClass &other) {

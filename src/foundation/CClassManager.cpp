@@ -43,6 +43,13 @@ CClass *CClassManager::getClassWithName(const char *name) const {
     return nullptr;
 }
 
+bool CClassManager::isEmpty() const {
+    for (int i = 0; i < m_classes->getArraySize(); ++i)
+        if (m_classes->elementAtIndex(i) != nullptr)
+            return false;
+    return true;
+}
+
 void CClassManager::sortClasses() {
     m_classes->sortSlots(standsBefore);
 }

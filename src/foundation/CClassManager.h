@@ -25,6 +25,7 @@ public:
     void withdrawClass(const CClass *record);
     bool isClassRegistered(const CClass *record) const;  ///< by name; null is not
     CClass *getClassWithName(const char *name) const;    ///< null if there is none
+    bool isEmpty() const;
 
     /// Orders the slots by class name as unsigned bytes, the empty ones last.
     void sortClasses();

@@ -14,9 +14,21 @@ Basics::CString reasonBelow(const char *lead, const CException &caught) {
     return reason;
 }
 
+// A report's own strings may fail as well, for want of memory above all. Their fences then let it
+// through: a report of that would fail in the same way, without end.
+thread_local bool isReporting = false;
+
+struct SReporting {
+    SReporting() { isReporting = true; }
+    ~SReporting() { isReporting = false; }
+};
+
 }  // namespace
 
 void rethrowThrough(const SFence &fence) {
+    if (isReporting)
+        throw;
+    const SReporting reporting;
     try {
         throw;
     } catch (const CException &thrown) {

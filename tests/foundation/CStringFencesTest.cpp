@@ -1,8 +1,8 @@
 #include "foundation/CStringFences.h"
 
+#include "Allocation.h"
 #include "foundation/CException.h"
 #include "foundation/CString.h"
-#include "foundation/FailingAllocation.h"
 
 #include <gtest/gtest.h>
 

@@ -48,6 +48,16 @@ TEST(ClassShutdown, ALaterRecordMakesANewManager) {
     EXPECT_EQ(countManagers(), 1u);
 }
 
+TEST(ClassShutdown, TheLastRecordTakesTheManagerAlong) {
+    CClass::destroyClassManager(nullptr);
+    {
+        const CClass first("CFirst");
+        { const CClass second("CSecond"); }
+        EXPECT_EQ(countManagers(), 1u);
+    }
+    EXPECT_EQ(countManagers(), 0u);
+}
+
 TEST(ClassShutdown, ALaterNamelessRecordMakesOneAsWell) {
     CClass::destroyClassManager(nullptr);
     const CClass record;

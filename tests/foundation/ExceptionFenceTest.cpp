@@ -1,8 +1,10 @@
 #include "foundation/ExceptionFence.h"
 
+#include "Allocation.h"
 #include "foundation/CException.h"
 
 #include <gtest/gtest.h>
+#include <new>
 #include <stdexcept>
 #include <type_traits>
 
@@ -48,6 +50,17 @@ TEST(ExceptionFence, PutsTheLeadTextOnTopOfACaughtException) {
     EXPECT_EQ(report.reason, "Caught exception during opening, more below\n\n"
                              "The key is lost\n\nCPocket::find()");
     EXPECT_EQ(report.function, "CDoor::open()");
+}
+
+TEST(ExceptionFence, LetsThroughWhatItHasNoMemoryToReport) {
+    bool isOutOfMemory = false;
+    try {
+        const CFailingAllocation failing(0, 1'000'000);
+        fenced(outer, [] { fenced(inner, [] { throw std::bad_alloc(); }); });
+    } catch (const std::bad_alloc &) {
+        isOutOfMemory = true;
+    }
+    EXPECT_TRUE(isOutOfMemory);
 }
 
 TEST(ExceptionFence, AChainReadsFromTheOutermostDown) {
