@@ -3,8 +3,6 @@
 #include <cstdlib>
 #include <new>
 
-// The nothrow forms of the library lead to these.
-
 static thread_local std::uint64_t allocations = 0;
 static thread_local std::int64_t untilFailure = 0;  // allocations that still succeed
 static thread_local std::int64_t failuresLeft = 0;
@@ -44,12 +42,21 @@ static void *allocate(std::size_t size, std::size_t alignment) {
     return result;
 }
 
+static void *allocateOrNull(std::size_t size) noexcept {
+    try {
+        return allocate(size, __STDCPP_DEFAULT_NEW_ALIGNMENT__);
+    } catch (const std::bad_alloc &) {
+        return nullptr;
+    }
+}
+
 static void release(void *result) {
     if (result != nullptr)
         std::free(static_cast<void **>(result)[-1]);
 }
 
-// The array forms stand here too: a sanitizer has its own, which would not lead to the others.
+// All forms that the program uses stand here: a sanitizer has its own of each, which would not lead
+// to the others.
 void *operator new(std::size_t size) {
     return allocate(size, __STDCPP_DEFAULT_NEW_ALIGNMENT__);
 }
@@ -61,6 +68,12 @@ void *operator new(std::size_t size, std::align_val_t alignment) {
 }
 void *operator new[](std::size_t size, std::align_val_t alignment) {
     return allocate(size, static_cast<std::size_t>(alignment));
+}
+void *operator new(std::size_t size, const std::nothrow_t &) noexcept {
+    return allocateOrNull(size);
+}
+void *operator new[](std::size_t size, const std::nothrow_t &) noexcept {
+    return allocateOrNull(size);
 }
 
 void operator delete(void *result) noexcept {

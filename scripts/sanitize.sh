@@ -1,0 +1,11 @@
+#!/usr/bin/env bash
+# sanitize.sh: the whole test run under the address, undefined-behaviour and thread sanitizers. Takes
+# far longer than test.sh.
+set -euo pipefail
+cd "$(dirname "$(realpath "$0")")/.."
+
+scripts/setup.sh test
+for preset in asan tsan; do
+    scripts/build.sh "$preset"
+    ctest --preset "$preset"
+done
