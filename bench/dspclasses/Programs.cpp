@@ -2,34 +2,47 @@
 #include "dspclasses/PlainModules.h"
 #include "dspclasses/PlainStrip.h"
 #include "dspclasses/SSubject.h"
+#include "effect/FactoryPrograms.h"
 
-/// Parameters by the id and in the range that the host knows; both routings start out as stereo.
-static SSubject program(std::string name, const std::vector<int> &chain, const Settings &settings) {
-    const auto makeKernel = [=] {
-        auto strip = std::make_unique<CDSPMultiFX>();
-        strip->setStripParameter(1, 1.0f);
-        strip->setStripParameter(61, 1.0f);
-        for (const auto &[id, value] : settings)
-            strip->setStripParameter(id, value);
-        for (const int slot : chain)
-            strip->appendFX(slot);
-        return strip;
-    };
-    const auto makePlain = [=] {
-        auto strip = std::make_unique<CPlainStrip>(makePlainModules());
-        strip->setParameter(1, 1.0f);
-        strip->setParameter(61, 1.0f);
-        for (const auto &[id, value] : settings)
-            strip->setParameter(id, value);
-        strip->setChain(chain);
-        return strip;
-    };
-    return {std::move(name), makeKernel, makePlain};
+using Tessitor::Corvel::factoryPrograms;
+using Tessitor::Corvel::SProgram;
+
+/// As the effect sets up a strip at its start: a value of 0 is taken to be there already.
+template <typename Set>
+static void sendParameters(const SProgram &program, Set set) {
+    for (int id = 0; id < kStripParameters; ++id) {
+        const float value = program.parameters[static_cast<std::size_t>(id)];
+        if (value != 0.0f)
+            set(id, value);
+    }
+}
+
+static std::unique_ptr<CDSPBase> makeStrip(const SProgram &program) {
+    auto strip = std::make_unique<CDSPMultiFX>();
+    sendParameters(program, [&](int id, float value) { strip->setStripParameter(id, value); });
+    for (int slot = 0; slot < CChainOrder::slotCount; ++slot) {
+        const auto &link = program.order[static_cast<std::size_t>(slot)];
+        strip->setOrderEntry(slot, link.prev, link.next);
+    }
+    return strip;
+}
+
+static std::unique_ptr<CDSPBase> makePlainStrip(const SProgram &program) {
+    auto strip = std::make_unique<CPlainStrip>(makePlainModules());
+    sendParameters(program, [&](int id, float value) { strip->setParameter(id, value); });
+    std::vector<int> chain;
+    for (int slot = program.order[1].next; slot != -1;
+         slot = program.order[static_cast<std::size_t>(slot)].next)
+        chain.push_back(slot);
+    strip->setChain(chain);
+    return strip;
 }
 
 std::vector<SSubject> programsToMeasure() {
-    return {
-        program("Strip, empty", {}, {}),
-        program("Strip, gain and pan", {4, 3}, {{4, 0.4f}, {3, 0.3f}}),
-    };
+    std::vector<SSubject> subjects;
+    for (const SProgram &program : factoryPrograms)
+        subjects.push_back({std::string("Program: ") + program.name.data(),
+                            [&] { return makeStrip(program); },
+                            [&] { return makePlainStrip(program); }});
+    return subjects;
 }

@@ -91,38 +91,40 @@ void CDSPMultiFX::processDoubleReplacing(double **in, double **out, int frames) 
 }
 
 template <typename Sample>
+static void halveSum(const Sample *left, const Sample *right, Sample *out, int frames) {
+    for (int i = 0; i < frames; ++i)
+        out[i] = (left[i] + right[i]) * Sample(0.5);
+}
+
+template <typename Sample>
 void CDSPMultiFX::run(Sample **in, Sample **out, int frames, TStripBuffers<Sample> &buffers) {
     if (in == nullptr || out == nullptr)
         return;
+    const bool isMono = monoInput;
     std::copy_n(in[0], frames, buffers.DryBuf[0]);
-    std::copy_n(in[monoInput ? 0 : 1], frames, buffers.DryBuf[1]);
+    std::copy_n(in[isMono ? 0 : 1], frames, buffers.DryBuf[1]);
 
     Sample **cur = buffers.DryBuf, **alt = buffers.WetBuf;
     for (int slot = 0; slot >= 0; slot = order.nextOf(slot)) {
-        process(*modules[static_cast<std::size_t>(slot)], cur, alt, frames);
+        process(moduleIn(slot), cur, alt, frames);
         std::swap(cur, alt);
     }
     if (outMono->getMode() != CDSPMono::kStereo) {
         process(*outMono, cur, alt, frames);
         cur = alt;
     }
-    copyOut(cur, out, frames);
-}
 
-template <typename Sample>
-void CDSPMultiFX::copyOut(Sample *const *from, Sample **out, int frames) const {
-    if (out[1] == nullptr && monoInput) {
-        for (int i = 0; i < frames; ++i)
-            out[0][i] = (from[0][i] + from[1][i]) * Sample(0.5);
-        return;
+    if (out[1] == nullptr && isMono) {
+        halveSum(cur[0], cur[1], out[0], frames);
+    } else {
+        std::copy_n(cur[0], frames, out[0]);
+        std::copy_n(cur[1], frames, out[1]);
     }
-    std::copy_n(from[0], frames, out[0]);
-    std::copy_n(from[1], frames, out[1]);
 }
 
 void CDSPMultiFX::reset() {
     for (int slot = 0; slot >= 0; slot = order.nextOf(slot))
-        modules[static_cast<std::size_t>(slot)]->reset();
+        moduleIn(slot).reset();
 }
 
 void CDSPMultiFX::resetAllModules() {
@@ -134,7 +136,7 @@ void CDSPMultiFX::setTempo(float bpm) {
     if (bpm == tempo)
         return;
     tempo = bpm;
-    modules[delaySlot]->setParameter(delayTempo, bpm);
+    moduleIn(delaySlot).setParameter(delayTempo, bpm);
 }
 
 void CDSPMultiFX::setMonoInput(bool isMono) {
@@ -173,7 +175,7 @@ void CDSPMultiFX::insertFX(int target, int slot, bool before, bool resetModule) 
     else
         order.insertAfter(target, slot);
     if (resetModule)
-        modules[static_cast<std::size_t>(slot)]->reset();
+        moduleIn(slot).reset();
 }
 
 void CDSPMultiFX::replaceFX(int target, int slot) {
@@ -200,9 +202,7 @@ static const SParameter &parameterOf(int id) {
 }
 
 CDSPBase &CDSPMultiFX::moduleOf(const SParameter &parameter) {
-    if (parameter.slot == kOutMonoSlot)
-        return *outMono;
-    return *modules[static_cast<std::size_t>(parameter.slot)];
+    return parameter.slot == kOutMonoSlot ? *outMono : moduleIn(parameter.slot);
 }
 
 void CDSPMultiFX::readParameterCache() {

@@ -21,7 +21,7 @@ public:
     using Modules = std::array<std::unique_ptr<CDSPBase>, CChainOrder::slotCount>;
 
     CDSPMultiFX();
-    explicit CDSPMultiFX(Modules slots);  ///< over other modules, for whoever wants to look on
+    explicit CDSPMultiFX(Modules slots);  ///< over eighteen other modules, none of them null
     ~CDSPMultiFX() override;
 
     /// [audio thread] Allocates only for a block longer than any before. A null `in` or `out` does
@@ -32,7 +32,7 @@ public:
     void reset() override;   ///< the modules of the running order; not the output routing
     void resetAllModules();  ///< all eighteen, running or not; not the output routing
 
-    void setTempo(float bpm);        ///< [any thread] beats per minute
+    void setTempo(float bpm);  ///< beats per minute. [any thread]
     float getTempo() const { return tempo; }
     void setMonoInput(bool isMono);  ///< the left input feeds both channels. [any thread]
 
@@ -51,8 +51,9 @@ public:
     void moveFXBefore(int target, int slot);
     void getFXName(int slot, char *text) const;  ///< leaves `text` for a slot above 17
 
-    // The parameters that the host sees. Ids are trusted, from 0 to 63; where a text is asked for,
-    // an id above leaves it as it is, and the caller's buffer is trusted to have room.
+    // The parameters that the host sees. [any thread] Ids are trusted, from 0 to 63; where a text
+    // is asked for, an id above leaves it as it is, and the caller's buffer is trusted to have
+    // room.
 
     /// @param value  normalised, from 0 to 1, not clamped. One comparison if it is the last value.
     void setStripParameter(int id, float value);
@@ -64,8 +65,7 @@ public:
 private:
     template <typename Sample>
     void run(Sample **in, Sample **out, int frames, TStripBuffers<Sample> &buffers);
-    template <typename Sample>
-    void copyOut(Sample *const *from, Sample **out, int frames) const;
+    CDSPBase &moduleIn(int slot) { return *modules[static_cast<std::size_t>(slot)]; }
     CDSPBase &moduleOf(const SParameter &parameter);
     void readParameterCache();
 
