@@ -51,7 +51,9 @@ TEST(CEffectLibrary, RefusesWhatIsNoEffect) {
 TEST(CEffectLibrary, RefusesALibraryThatIsCutShortAnywhere) {
     const CTemporaryFolder folder;
     const std::size_t length = std::filesystem::file_size(testEffect("Whole"));
-    for (std::size_t bytes = 0; bytes < length * 9 / 10; bytes += 1 + bytes / 5) {
+    copyHead(testEffect("Whole"), folder / "short.so", length - 1);
+    EXPECT_THAT(refusal(folder / "short.so"), HasSubstr("short.so: cut short"));
+    for (std::size_t bytes = 0; bytes < length; bytes += 1 + bytes / 5) {
         copyHead(testEffect("Whole"), folder / "short.so", bytes);
         EXPECT_THAT(refusal(folder / "short.so"), HasSubstr("cannot be loaded as an effect"))
             << bytes;

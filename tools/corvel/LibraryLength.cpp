@@ -13,10 +13,14 @@ namespace {
 // The published layout of a 64-bit ELF file, as far as it says what is loaded.
 struct SFileHeader {
     std::array<char, 32> identityAndType;
-    std::uint64_t segmentTable;  // place in the file
-    std::array<char, 14> rest;
+    std::uint64_t segmentTable;  // places in the file
+    std::uint64_t sectionTable;  // the linker's view; the last thing in the file, 0 for none
+    std::array<char, 6> flags;
     std::uint16_t segmentSize;  // bytes of one entry
     std::uint16_t segmentCount;
+    std::uint16_t sectionSize;
+    std::uint16_t sectionCount;
+    std::uint16_t sectionNames;
 };
 static_assert(sizeof(SFileHeader) == 64 && offsetof(SFileHeader, segmentSize) == 54);
 
@@ -49,6 +53,9 @@ bool isLibraryCutShort(const std::filesystem::path &path) {
         !std::string_view(header.identityAndType.data(), header.identityAndType.size())
              .starts_with(identity))
         return false;
+    const std::uint64_t sections = std::uint64_t(header.sectionSize) * header.sectionCount;
+    if (header.sectionTable > fileBytes || sections > fileBytes - header.sectionTable)
+        return true;
     for (std::uint16_t i = 0; i < header.segmentCount; ++i) {
         file.seekg(static_cast<std::streamoff>(header.segmentTable + i * header.segmentSize));
         SSegment segment;

@@ -18,9 +18,6 @@ namespace {
 using Tessitor::Corvel::SProgram;
 
 // What a variant of this file is made of; each is one library.
-#ifndef TEST_EFFECT_MAGIC
-#define TEST_EFFECT_MAGIC kEffectMagic
-#endif
 #ifndef TEST_EFFECT_CHANNELS
 #define TEST_EFFECT_CHANNELS 2
 #endif
@@ -50,7 +47,7 @@ std::mutex logLock;
 class CTestEffect {
 public:
     explicit CTestEffect(audioMasterCallback host) : m_host(host), m_number(instancesMade++) {
-        m_record.magic = TEST_EFFECT_MAGIC;
+        m_record.magic = kEffectMagic;
         m_record.dispatcher = [](AEffect *effect, std::int32_t opcode, std::int32_t index,
                                  std::intptr_t value, void *ptr, float opt) {
             return self(effect).handle(opcode, index, value, ptr, opt);
