@@ -40,9 +40,11 @@ static std::unique_ptr<CDSPBase> makePlainStrip(const SProgram &program) {
 
 std::vector<SSubject> programsToMeasure() {
     std::vector<SSubject> subjects;
-    for (const SProgram &program : factoryPrograms)
+    subjects.reserve(factoryPrograms.size());
+    for (const SProgram &program : factoryPrograms) {
         subjects.push_back({std::string("Program: ") + program.name.data(),
                             [&] { return makeStrip(program); },
                             [&] { return makePlainStrip(program); }});
+    }
     return subjects;
 }

@@ -25,8 +25,8 @@ public:
     CChainOrder() { initialise(); }
     void initialise();  ///< the empty chain: 0 and 1
 
-    SOrderEntry &entry(int slot) { return order[static_cast<std::size_t>(slot + 1)]; }
-    int nextOf(int slot) const { return order[static_cast<std::size_t>(slot + 1)].next; }
+    SOrderEntry &entry(int slot) { return order[placeOf(slot)]; }
+    int nextOf(int slot) const { return order[placeOf(slot)].next; }
     int getCount() const { return fxCount; }  ///< nodes behind slot 1
 
     void recount();  ///< the count from the links; 0 if they hold a cycle
@@ -38,6 +38,10 @@ public:
     void moveBefore(int target, int slot);
 
 private:
+    static std::size_t placeOf(int slot) {
+        const int place = slot + 1;
+        return static_cast<std::size_t>(place);
+    }
     void link(int prev, int slot, int next);
 
     TRelaxed<std::int32_t> fxCount;

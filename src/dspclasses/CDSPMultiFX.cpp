@@ -16,8 +16,7 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <cstring>
-#include <string>
+#include <string_view>
 #include <utility>
 
 static constexpr int delaySlot = 16;
@@ -143,6 +142,11 @@ void CDSPMultiFX::setMonoInput(bool isMono) {
     monoInput = isMono;
 }
 
+/// Into a caller's buffer, which is trusted to have room.
+static void copyText(std::string_view from, char *to) {
+    to[from.copy(to, from.size())] = '\0';
+}
+
 // The running order
 
 void CDSPMultiFX::initOrder() {
@@ -192,7 +196,7 @@ void CDSPMultiFX::moveFXBefore(int target, int slot) {
 
 void CDSPMultiFX::getFXName(int slot, char *text) const {
     if (slot < CChainOrder::slotCount)
-        std::strcpy(text, slotLabels[static_cast<std::size_t>(slot)]);
+        copyText(slotLabels[static_cast<std::size_t>(slot)], text);
 }
 
 // The parameters
@@ -230,7 +234,7 @@ float CDSPMultiFX::getStripParameter(int id) const {
 
 void CDSPMultiFX::getParameterName(int id, char *text) const {
     if (id < kStripParameters)
-        std::strcpy(text, parameterOf(id).name);
+        copyText(parameterOf(id).name, text);
 }
 
 void CDSPMultiFX::getParameterDisplay(int id, char *text) {
@@ -239,10 +243,10 @@ void CDSPMultiFX::getParameterDisplay(int id, char *text) {
     const SParameter &parameter = parameterOf(id);
     const float value =
         parameter.slot == kNoSlot ? 0.0f : moduleOf(parameter).getParameter(parameter.index);
-    std::strcpy(text, parameter.text(value).c_str());
+    copyText(parameter.text(value), text);
 }
 
 void CDSPMultiFX::getParameterLabel(int id, char *text) const {
     if (id < kStripParameters)
-        std::strcpy(text, parameterOf(id).unit);
+        copyText(parameterOf(id).unit, text);
 }

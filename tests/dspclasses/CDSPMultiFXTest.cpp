@@ -551,9 +551,9 @@ static std::unique_ptr<Strip> setUp(std::unique_ptr<Strip> strip, std::uint64_t 
 
 TEST(CDSPMultiFX, EqualsThePlainReadingBitForBit) {
     std::uint64_t stripSeed = 0, plainSeed = 0;
-    std::vector<SParameterRange> ranges;
+    std::vector<SParameterRange> ranges(64);
     for (int id = 0; id < 64; ++id)
-        ranges.push_back({id, 0.0f, 1.0f});
+        ranges[static_cast<std::size_t>(id)] = {id, 0.0f, 1.0f};
     expectSameBits([&stripSeed] { return setUp(std::make_unique<CStripCase>(), ++stripSeed); },
                    [&plainSeed] {
                        return setUp(std::make_unique<CPlainStrip>(makePlainModules()), ++plainSeed);
