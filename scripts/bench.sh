@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# bench.sh [NAME]: builds for Linux and measures every module and some programs, or those whose name
+# bench.sh [NAME]: builds for Linux and measures every module and factory program, or those whose name
 # matches the regular expression NAME, each beside its plain reading. Prints one table. The input is
 # seeded noise in the shape of speech; every number is the least over the repetitions.
 set -euo pipefail
