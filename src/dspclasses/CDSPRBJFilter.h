@@ -11,6 +11,7 @@
 ///
 /// Denormal samples of the input become 0.0 in the input buffer as well. A filtered sample beyond
 /// -5 to 5 is replaced by -1 or 1, so that an unstable recursion cannot run away.
+/// Source: R. Bristow-Johnson, Cookbook formulae for audio EQ biquad filter coefficients.
 class CDSPRBJFilter : public CDSPBase {
 public:
     enum class EKind : std::int32_t {
@@ -41,7 +42,8 @@ public:
     void setGain(float db);
     /// @param value  octaves or Q, above 0; not checked. [any thread]
     void setBandwidth(float value);
-    /// Computes the coefficients anew and resets, also when the rate is 0 or the present one.
+    /// Computes the coefficients anew and resets, also when the rate is 0 or the present one. Not
+    /// beside another call; nothing in the strip changes the rate.
     void setSampleRate(float rate);
 
     SCoefficients getCoefficients() const { return {b0, b1, b2, a1, a2}; }

@@ -69,9 +69,6 @@ inline bool hasAnyBit(SDoubles2 a) {
     return _mm_movemask_epi8(clear) != 0xffff;
 }
 
-inline SFloats4 all(float value) {
-    return {_mm_set1_ps(value)};
-}
 inline SFloats4 loadFour(const float *from) {
     return {_mm_loadu_ps(from)};
 }
@@ -87,9 +84,6 @@ inline SFloats4 operator-(SFloats4 a, SFloats4 b) {
 }
 inline SFloats4 operator*(SFloats4 a, SFloats4 b) {
     return {_mm_mul_ps(a.lanes, b.lanes)};
-}
-inline SFloats4 operator/(SFloats4 a, SFloats4 b) {
-    return {_mm_div_ps(a.lanes, b.lanes)};
 }
 
 inline SDoubles2 magnitude(SDoubles2 a) {
