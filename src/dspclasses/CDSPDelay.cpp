@@ -87,6 +87,11 @@ void CDSPDelay::setBeat(float ms) {
     setDelay(syncMode == kHalfBeat ? whole >> 1 : whole);
 }
 
+static float wholeQuarters(std::int32_t beats) {
+    const std::int32_t quarters = beats / 4;
+    return static_cast<float>(quarters);
+}
+
 void CDSPDelay::setSync(std::int32_t mode) {
     if (mode == syncMode)
         return;
@@ -96,7 +101,7 @@ void CDSPDelay::setSync(std::int32_t mode) {
     if (mode == kFree)
         setDelay(freeDelayMs);
     else
-        setBeat(60000.0f / tempo * static_cast<float>(beatsPerBar / 4));
+        setBeat(60000.0f / tempo * wholeQuarters(beatsPerBar));
 }
 
 void CDSPDelay::setTempo(float bpm) {
@@ -104,7 +109,7 @@ void CDSPDelay::setTempo(float bpm) {
         return;
     tempo = bpm;
     if (syncMode != kFree)
-        setBeat(static_cast<float>(beatsPerBar / 4) * (60000.0f / bpm));
+        setBeat(wholeQuarters(beatsPerBar) * (60000.0f / bpm));
 }
 
 void CDSPDelay::setBeats(float beats) {

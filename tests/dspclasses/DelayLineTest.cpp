@@ -22,10 +22,10 @@ void count(Line &line, int to) {
 }
 
 std::vector<float> randomSamples(CRandom &random, int frames) {
-    std::vector<float> samples;
-    for (int i = 0; i < frames; ++i)
-        samples.push_back(random.chance(0.1) ? static_cast<float>(denormalSample(random))
-                                             : static_cast<float>(random.real(-1.0, 1.0)));
+    std::vector<float> samples(static_cast<std::size_t>(frames));
+    for (float &sample : samples)
+        sample = static_cast<float>(random.chance(0.1) ? denormalSample(random)
+                                                       : random.real(-1.0, 1.0));
     return samples;
 }
 
@@ -192,6 +192,7 @@ TEST(DelayLine, SweptRunsStayClearOfTheWritesOnBothSides) {
 }
 
 TEST(DelayLine, RunsEqualThePlainReadingFrameByFrame) {
+    int sweeps = 0;
     for (std::uint64_t seed = 1; seed <= 300; ++seed) {
         CRandom random(seed);
         const auto capacity = std::uint32_t{1} << random.whole(0, 9);
@@ -205,19 +206,20 @@ TEST(DelayLine, RunsEqualThePlainReadingFrameByFrame) {
             plain.setConstantOffset(std::min(offset, static_cast<float>(capacity - 1)));
             const int frames = random.whole(
                 1, std::min({200, line.getLongestRun(offset), line.getLongestConstantRun()}));
-            std::vector<float> swept;
-            for (int i = 0; i < frames; ++i)
-                swept.push_back(static_cast<float>(random.real(0.0, capacity)));
-            const auto size = static_cast<std::size_t>(frames);
-            std::vector<float> got(size), constant(size), gotSwept(size);
+            std::vector<float> swept(static_cast<std::size_t>(frames));
+            const double nearest = random.chance(0.7) ? frames : 0.0;
+            for (float &place : swept)
+                place = static_cast<float>(random.real(nearest, std::max(nearest, capacity - 3.0)));
+            std::vector<float> got(swept.size()), constant(swept.size()), gotSwept(swept.size());
             line.read(offset, got.data(), frames);
             line.readConstant(constant.data(), frames);
             const bool canSweep = line.canReadRun(swept.data(), frames);
+            sweeps += canSweep ? 1 : 0;
             if (canSweep)
                 line.readRun(swept.data(), gotSwept.data(), frames);
             const std::vector<float> fresh = randomSamples(random, frames);
             line.write(fresh.data(), frames);
-            for (std::size_t i = 0; i < size; ++i) {
+            for (std::size_t i = 0; i < swept.size(); ++i) {
                 ASSERT_TRUE(sameBits(got[i], plain.read(offset))) << "seed " << seed;
                 ASSERT_TRUE(sameBits(constant[i], plain.readConstant())) << "seed " << seed;
                 if (canSweep) {
@@ -227,6 +229,7 @@ TEST(DelayLine, RunsEqualThePlainReadingFrameByFrame) {
             }
         }
     }
+    EXPECT_GT(sweeps, 1000);
 }
 
 TEST(DelayLine, InterpolatesWithWhatIsNotFiniteAsEverywhere) {

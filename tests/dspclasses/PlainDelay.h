@@ -125,7 +125,8 @@ private:
         if (mode == 0) {
             setDelay(freeDelayMs);
         } else {
-            const float q = 60000.0f / tempo * static_cast<float>(beatsPerBar / 4);
+            const std::int32_t quarters = beatsPerBar / 4;
+            const float q = 60000.0f / tempo * static_cast<float>(quarters);
             setDelayInMode(wholeCount(q));
         }
     }
@@ -135,7 +136,8 @@ private:
             return;
         tempo = bpm;
         if (syncMode != 0) {
-            const float q = static_cast<float>(beatsPerBar / 4) * (60000.0f / bpm);
+            const std::int32_t quarters = beatsPerBar / 4;
+            const float q = static_cast<float>(quarters) * (60000.0f / bpm);
             setDelayInMode(wholeCount(q));
         }
     }

@@ -10,7 +10,7 @@
 #include <cstddef>
 
 /// The plain reading of the reverb: one frame after the other, every field read at each use.
-class CPlainReverb : public CDSPBase {
+class CPlainReverb final : public CDSPBase {
 public:
     CPlainReverb() {
         setParameter(2, 0.75f);
