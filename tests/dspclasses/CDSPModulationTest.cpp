@@ -333,15 +333,19 @@ TEST(CDSPModulation, NoChangeOfSpreadIsLostBesideARunningBlock) {
     CRamp ramp;
     ramp.through(*sweep, 1000);
     std::atomic<bool> done = false;
+    std::atomic<int> blocks = 0;
     std::thread user([&] {
-        for (int n = 0; n < 20000; ++n)
+        for (int n = 0; n < 1000; ++n) {
             sweep->setParameter(kSpread, n % 2 == 0 ? 0.9f : 0.1f);
+            for (const int seen = blocks; blocks == seen;)
+                std::this_thread::yield();
+        }
         sweep->setParameter(kSpread, 0.0f);
         done = true;
     });
-    const TStereo<float> silence(64);
-    while (!done)
-        render(*sweep, silence, 64);
+    const TStereo<float> silence(512);
+    for (; !done; ++blocks)
+        render(*sweep, silence, 512);
     user.join();
     CRamp later;
     later.through(*sweep, 22050);  // a phase below -1 has come back by then
