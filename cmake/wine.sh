@@ -1,7 +1,7 @@
 #!/bin/sh
 # wine.sh PREFIX PROGRAM [ARGUMENT...]: runs a 64-bit Windows program in a Wine prefix of its own,
-# which the first caller makes while the others wait. Without a display it gets one of its own: a
-# message box, say, waits for a desktop to be shown on.
+# which the first caller makes while the others wait. All of them share the prefix's desktop, so they
+# need one display, or none.
 set -eu
 export WINEPREFIX="$1" WINEARCH=win64 WINEDEBUG=-all
 shift
@@ -9,10 +9,10 @@ wine=$(command -v wine64 || echo /usr/lib/wine/wine64)
 mkdir -p "$WINEPREFIX"
 (
     flock 9
+    # The services that this starts outlive it: they must not keep the lock, and must have ended
+    # before a program counts on the prefix.
     [ -e "$WINEPREFIX/ready" ] ||
-        { WINEDLLOVERRIDES='mscoree,mshtml=' "$wine" wineboot --init >/dev/null 2>&1 && touch "$WINEPREFIX/ready"; }
+        { WINEDLLOVERRIDES='mscoree,mshtml=' "$wine" wineboot --init > /dev/null 2>&1 9>&- &&
+            wineserver -w 9>&- && touch "$WINEPREFIX/ready"; }
 ) 9> "$WINEPREFIX.lock"
-if [ -z "${DISPLAY:-}" ]; then
-    exec xvfb-run -a -s '-screen 0 1280x1024x24 -nolisten tcp' "$wine" "$@"
-fi
 exec "$wine" "$@"
