@@ -330,22 +330,26 @@ TEST(CDSPModulationDeathTest, StopsAtAnOffsetThatIsNoNumber) {
 
 TEST(CDSPModulation, NoChangeOfSpreadIsLostBesideARunningBlock) {
     auto sweep = makeSweep();
-    constexpr int changes = 1000;
+    constexpr int changes = 300, blockFrames = 2048;
     std::atomic<int> changed = 0, blocks = 0;
     std::thread user([&] {
+        CRandom random(1);
         for (int n = 1; n <= changes; ++n) {
             sweep->setParameter(kSpread, n % 2 == 0 ? 0.1f : 0.9f);
             changed = n;
             while (blocks < n)
                 std::this_thread::yield();
+            // Anywhere in the next block.
+            for (int looks = random.whole(0, 4000); looks > 0 && blocks == n; --looks)
+                continue;
         }
     });
     // A block ahead of the changes, so that the next change comes while a block runs.
-    const TStereo<float> silence(512);
+    const TStereo<float> silence(blockFrames);
     for (; blocks <= changes; ++blocks) {
         while (changed < blocks)
             std::this_thread::yield();
-        render(*sweep, silence, 512);
+        render(*sweep, silence, blockFrames);
     }
     user.join();
     sweep->setParameter(kSpread, 0.0f);
