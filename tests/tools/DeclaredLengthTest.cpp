@@ -44,6 +44,19 @@ INSTANTIATE_TEST_SUITE_P(Containers, DeclaredLengthContainers,
                          testing::Values(SF_FORMAT_WAV, SF_FORMAT_WAVEX, SF_FORMAT_AIFF,
                                          SF_FORMAT_WAV | SF_ENDIAN_BIG));
 
+TEST(DeclaredLength, ChunksBeginAtEvenPlaces) {
+    const CTemporaryFolder folder;
+    SSound sound = voice(1, 1000);
+    sound.format = SF_FORMAT_WAV | SF_FORMAT_PCM_16;
+    writeSound(folder / "sound", sound);
+    std::string bytes = readFile(folder / "sound");
+    bytes.insert(bytes.find("data"), std::string("note\3\0\0\0abc\0", 12));
+    writeFile(folder / "sound", bytes);
+    EXPECT_EQ(bytesMissing(folder / "sound"), 0u);
+    copyHead(folder / "sound", folder / "cut", bytes.size() - 10);
+    EXPECT_EQ(bytesMissing(folder / "cut"), 10u);
+}
+
 TEST(DeclaredLength, AWriterIntoAPipeDoesNotKnowTheLength) {
     const CTemporaryFolder folder;
     SSound sound = voice(1, 1000);

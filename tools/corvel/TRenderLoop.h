@@ -32,6 +32,9 @@ public:
 private:
     using Samples = std::span<const Sample>;  // interleaved
 
+    // Long enough to be worth a system call, short enough to stay in the cache on the whole road.
+    static constexpr std::size_t chunkFrames = 16384;
+
     void feed(Samples samples);
     void process(Samples samples);
     void processBlock(Samples samples, Sample *out);
@@ -59,16 +62,6 @@ private:
 
 // Definitions
 
-namespace RenderLoop {
-
-// Long enough to be worth a system call, short enough to stay in the cache on the whole road.
-inline constexpr std::size_t chunkFrames = 16384;
-
-// More than both rate converters together hold back, in frames of the file.
-inline constexpr std::size_t flushFrames = 4096;
-
-}  // namespace RenderLoop
-
 template <typename Sample>
 TRenderLoop<Sample>::TRenderLoop(const SRenderJob &job, const SRenderOptions &options,
                                  CAudioReader &reader, CEffectInstance &effect,
@@ -78,8 +71,7 @@ TRenderLoop<Sample>::TRenderLoop(const SRenderJob &job, const SRenderOptions &op
       m_channelsOut(static_cast<std::size_t>(writer.channels())),
       m_blockFrames(static_cast<std::size_t>(options.blockSize)),
       // Whole blocks, so that only the last one of a file is shorter.
-      m_chunkFrames(m_blockFrames *
-                    std::max<std::size_t>(1, RenderLoop::chunkFrames / m_blockFrames)),
+      m_chunkFrames(m_blockFrames * std::max<std::size_t>(1, chunkFrames / m_blockFrames)),
       m_tailFrames(tailFrames(options, reader.sampleRate())), m_chunk(m_chunkFrames * m_channelsIn),
       m_inLeft(m_blockFrames), m_inRight(m_blockFrames), m_outLeft(m_blockFrames),
       m_outRight(m_blockFrames),
@@ -105,8 +97,7 @@ void TRenderLoop<Sample>::run(SRenderResult &result, const RenderListener &liste
     m_framesWanted = result.framesIn + m_tailFrames;
     std::fill(m_chunk.begin(), m_chunk.end(), Sample(0));
     while (m_framesDelivered < m_framesWanted) {
-        const auto missing = static_cast<std::size_t>(m_framesWanted - m_framesDelivered) +
-                             (m_toStrip ? RenderLoop::flushFrames : 0);
+        const auto missing = static_cast<std::size_t>(m_framesWanted - m_framesDelivered);
         feed(Samples(m_chunk.data(), std::min(missing, m_chunkFrames) * m_channelsIn));
         stopIfInterrupted();
     }
