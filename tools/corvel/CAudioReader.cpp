@@ -51,10 +51,11 @@ std::int64_t CAudioReader::read(double *samples, std::int64_t frames) {
 
 std::int64_t CAudioReader::handleRead(std::int64_t frames, std::int64_t asked) {
     m_framesRead += frames;
-    if (frames < asked && knowsLength() && m_framesRead < m_info.frames)
+    if (frames < asked && knowsLength() && m_framesRead < m_info.frames) {
         throw CJobError(m_path.string() + ": cut short or damaged, ends after " +
                         std::to_string(m_framesRead) + " of " + std::to_string(m_info.frames) +
                         " frames");
+    }
     if (sf_error(m_file.get()) != SF_ERR_NO_ERROR)
         throw CJobError(m_path.string() + ": damaged (" + sf_strerror(m_file.get()) + ")");
     return frames;

@@ -35,11 +35,12 @@ bool beginsNumber(std::string_view text) {
 
 // Takes a number away from the text's beginning, if there is one.
 std::optional<double> takeNumber(std::string_view &text) {
-    for (const std::string_view silence : {"-oo", "-inf"})
+    for (const std::string_view silence : {"-oo", "-inf"}) {
         if (text.starts_with(silence)) {
             text.remove_prefix(silence.size());
             return -infinity;
         }
+    }
     const std::size_t plus = text.starts_with('+') ? 1 : 0;
     if (!beginsNumber(text.substr(plus)))
         return std::nullopt;

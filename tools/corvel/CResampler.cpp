@@ -14,10 +14,11 @@ CResampler::CResampler(std::string file, double fromRate, double toRate, int cha
     int error = 0;
     if (src_is_valid_ratio(m_ratio) != 0)
         m_state.reset(src_new(SRC_SINC_BEST_QUALITY, channels, &error));
-    if (m_state == nullptr)
+    if (m_state == nullptr) {
         throw CJobError(m_file + ": cannot be converted from " +
                         std::to_string(std::lround(fromRate)) + " to " +
                         std::to_string(std::lround(toRate)) + " Hz");
+    }
 }
 
 std::span<const float> CResampler::convert(std::span<const float> samples) {
@@ -25,13 +26,14 @@ std::span<const float> CResampler::convert(std::span<const float> samples) {
     constexpr double spareFrames = 1024.0;
     std::size_t used = 0, made = 0;
     while (used < samples.size()) {
-        const auto left = static_cast<double>((samples.size() - used) / m_channels);
-        const auto room = static_cast<std::size_t>(left * m_ratio + spareFrames) * m_channels;
+        const std::size_t left = (samples.size() - used) / m_channels;
+        const double converted = static_cast<double>(left) * m_ratio;
+        const auto room = static_cast<std::size_t>(converted + spareFrames) * m_channels;
         m_converted.resize(std::max(m_converted.size(), made + room));
 
         SRC_DATA data{};
         data.data_in = samples.data() + used;
-        data.input_frames = static_cast<long>((samples.size() - used) / m_channels);
+        data.input_frames = static_cast<long>(left);
         data.data_out = m_converted.data() + made;
         data.output_frames = static_cast<long>((m_converted.size() - made) / m_channels);
         data.src_ratio = m_ratio;

@@ -37,10 +37,11 @@ int slotFromLabel(std::string_view label) {
 SProgram programOf(CEffectInstance &effect) {
     const std::span<const std::byte> chunk = effect.programChunk();
     SProgram program;
-    if (chunk.size() != sizeof(program))
+    if (chunk.size() != sizeof(program)) {
         throw CJobError(effect.fileName() + ": the effect's state has " +
                         std::to_string(chunk.size()) + " bytes, not " +
                         std::to_string(sizeof(program)));
+    }
     std::memcpy(&program, chunk.data(), sizeof(program));
     return program;
 }

@@ -1,6 +1,6 @@
 #include "corvel/HostCallback.h"
 
-#include <cstring>
+#include <cstdio>
 #include <string_view>
 
 namespace Tessitor::Tool {
@@ -13,7 +13,7 @@ constexpr std::intptr_t english = 1;
 std::intptr_t giveText(void *ptr, const char *text) {
     if (ptr == nullptr)
         return 0;
-    std::strcpy(static_cast<char *>(ptr), text);
+    std::snprintf(static_cast<char *>(ptr), kVstMaxVendorStrLen, "%s", text);
     return 1;
 }
 
@@ -73,6 +73,7 @@ std::intptr_t hostCallback(AEffect *effect, std::int32_t opcode, std::int32_t in
     default:
         if (effect == nullptr || effect->resvd1 == 0)
             return 0;
+        // NOLINTNEXTLINE(performance-no-int-to-ptr): the field is published as a number
         return answerOfInstance(*reinterpret_cast<SHostState *>(effect->resvd1), opcode, index,
                                 value);
     }

@@ -57,7 +57,8 @@ bool isLibraryCutShort(const std::filesystem::path &path) {
     if (header.sectionTable > fileBytes || sections > fileBytes - header.sectionTable)
         return true;
     for (std::uint16_t i = 0; i < header.segmentCount; ++i) {
-        file.seekg(static_cast<std::streamoff>(header.segmentTable + i * header.segmentSize));
+        file.seekg(static_cast<std::streamoff>(header.segmentTable +
+                                               std::uint64_t(i) * header.segmentSize));
         SSegment segment;
         if (!read(file, segment))
             return true;

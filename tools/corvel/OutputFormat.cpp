@@ -76,11 +76,15 @@ int sampleTypeOf(int format) {
     return format & SF_FORMAT_SUBMASK;
 }
 
+template <typename Value>
+bool contains(const std::vector<Value> &values, const std::type_identity_t<Value> &value) {
+    return std::find(values.begin(), values.end(), value) != values.end();
+}
+
 const SContainer *findContainer(int format) {
     const int wanted = containerOf(format);
     for (const SContainer &container : containers)
-        if (container.format == wanted ||
-            std::find(container.kin.begin(), container.kin.end(), wanted) != container.kin.end())
+        if (container.format == wanted || contains(container.kin, wanted))
             return &container;
     return nullptr;
 }
@@ -98,16 +102,11 @@ std::string inSmallLetters(std::string text) {
     return text;
 }
 
-bool contains(const std::vector<int> &types, int type) {
-    return std::find(types.begin(), types.end(), type) != types.end();
-}
-
 // @return null if the extension is not that of a container.
 const SContainer *containerOfExtension(const std::filesystem::path &file) {
     const std::string extension = inSmallLetters(file.extension().string());
     for (const SContainer &container : containers)
-        if (std::find(container.extensions.begin(), container.extensions.end(), extension) !=
-            container.extensions.end())
+        if (contains(container.extensions, std::string_view(extension)))
             return &container;
     return nullptr;
 }
@@ -120,10 +119,9 @@ int nearestSampleType(const SContainer &container, int inputFormat) {
     const int bits = integerBits(inputFormat);
     if (bits == 0 && contains(container.sampleTypes, SF_FORMAT_FLOAT))
         return SF_FORMAT_FLOAT;
-    if (bits != 0)
-        for (const int candidate : container.sampleTypes)
-            if (integerBits(candidate) == bits)
-                return candidate;
+    for (const int candidate : container.sampleTypes)
+        if (bits != 0 && integerBits(candidate) == bits)
+            return candidate;
     return container.sampleTypes.front();
 }
 
@@ -172,7 +170,7 @@ int formatForLength(int format, std::int64_t frames, int channels,
     const int bits = integerBits(format);
     const int bytes = bits != 0 ? bits / 8 : sampleTypeOf(format) == SF_FORMAT_DOUBLE ? 8 : 4;
     constexpr std::int64_t limit = std::numeric_limits<std::uint32_t>::max() - 4096;
-    if (frames <= limit / (bytes * channels))
+    if (frames <= limit / bytes / channels)
         return format;
     if (containerOf(format) == SF_FORMAT_AIFF)
         throw CJobError(out.string() + ": too long for an AIFF file, which ends at 4 GiB");

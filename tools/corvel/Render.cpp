@@ -12,10 +12,11 @@ namespace {
 
 void requireStereoEffect(const CEffectInstance &effect) {
     const AEffect &record = effect.record();
-    if (record.numInputs != 2 || record.numOutputs != 2)
+    if (record.numInputs != 2 || record.numOutputs != 2) {
         throw CJobError(effect.fileName() + ": has " + std::to_string(record.numInputs) +
                         " inputs and " + std::to_string(record.numOutputs) +
                         " outputs; only a stereo effect can render");
+    }
     if (!effect.has(effFlagsCanReplacing) || record.processReplacing == nullptr)
         throw CJobError(effect.fileName() + ": cannot process (no processReplacing)");
 }

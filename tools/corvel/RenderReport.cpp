@@ -89,11 +89,12 @@ std::string describe(const SRenderOutcome &outcome, const CEffectSettings &setti
 std::vector<std::string> remarks(const SRenderOutcome &outcome, const SRenderOptions &options) {
     const SRenderResult &result = outcome.result;
     std::vector<std::string> lines;
-    if (result.sampleRate != stripRate && !options.resample)
+    if (result.sampleRate != stripRate && !options.resample) {
         lines.push_back("note: " + outcome.job.in.string() + ": " +
                         std::to_string(result.sampleRate) +
                         " Hz, while the strip's constants are those of 44100 Hz (--resample "
                         "converts)");
+    }
     if (result.clippedSamples > 0)
         lines.push_back("warning: " + outcome.job.out.string() + ": " +
                         std::to_string(result.clippedSamples) + " samples clipped");
