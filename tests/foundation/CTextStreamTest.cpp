@@ -177,7 +177,7 @@ TEST_F(CTextStreamFile, ALineOf2047BytesFits) {
 }
 
 TEST_F(CTextStreamFile, ALongerLineFailsTheStreamWhichRepeatsItself) {
-    write(std::string(2048, 'x') + "\nnext\n");
+    write(std::string(2048, 'x').append("\nnext\n"));
     CTextStream stream(path, EStreamMode::Read);
     EXPECT_EQ(line(stream), std::string(2047, 'x'));
     EXPECT_EQ(line(stream), std::string(2047, 'x'));
