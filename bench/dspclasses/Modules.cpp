@@ -1,7 +1,10 @@
 #include "dspclasses/CDSP3EQ.h"
 #include "dspclasses/CDSPBalance.h"
+#include "dspclasses/CDSPComp.h"
+#include "dspclasses/CDSPDeEsser.h"
 #include "dspclasses/CDSPDelay.h"
 #include "dspclasses/CDSPGain.h"
+#include "dspclasses/CDSPGate.h"
 #include "dspclasses/CDSPHiPass.h"
 #include "dspclasses/CDSPModulation.h"
 #include "dspclasses/CDSPMono.h"
@@ -11,7 +14,10 @@
 #include "dspclasses/CDSPReverb.h"
 #include "dspclasses/CDSPWarmer.h"
 #include "dspclasses/Plain3EQ.h"
+#include "dspclasses/PlainComp.h"
+#include "dspclasses/PlainDeEsser.h"
 #include "dspclasses/PlainDelay.h"
+#include "dspclasses/PlainGate.h"
 #include "dspclasses/PlainHiPass.h"
 #include "dspclasses/PlainLevels.h"
 #include "dspclasses/PlainModulation.h"
@@ -35,6 +41,14 @@ std::vector<SSubject> modulesToMeasure() {
         subject<CDSPPresence, CPlainPresence>("Presence", {{0, 4000.0f}, {1, 4.0f}}),
         subject<CDSPParametric, CPlainParametric>("Parametric",
                                                   {{0, 400.0f}, {1, 0.7f}, {2, -5.0f}}),
+        subject<CDSPGate, CPlainGate>("Gate", {{0, -20.0f}, {1, 10.0f}, {2, 100.0f}}),
+        subject<CDSPComp, CPlainComp>("Compressor, linked", {{0, -24.0f}, {3, 3.0f}, {4, 3.0f}}),
+        subject<CDSPComp, CPlainComp>("Compressor, separate",
+                                      {{0, -24.0f}, {3, 3.0f}, {4, 3.0f}, {5, 0.0f}}),
+        subject<CDSPDeEsser, CPlainDeEsser>("De-esser, wide",
+                                            {{0, -40.0f}, {2, 4.0f}, {3, 4000.0f}}),
+        subject<CDSPDeEsser, CPlainDeEsser>("De-esser, narrow",
+                                            {{0, -40.0f}, {2, 4.0f}, {3, 4000.0f}, {4, 1.0f}}),
         subject<CDSPModulation, CPlainModulation>("Vibrato", {{0, 0.0f}, {1, 22.5f}, {2, 0.25f}}),
         subject<CDSPModulation, CPlainModulation>("Double tracking",
                                                   {{0, 0.5f}, {1, 22.5f}, {2, 0.25f}}),

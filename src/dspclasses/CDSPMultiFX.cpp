@@ -3,15 +3,17 @@
 #include "dspclasses/Assertion.h"
 #include "dspclasses/CDSP3EQ.h"
 #include "dspclasses/CDSPBalance.h"
+#include "dspclasses/CDSPComp.h"
+#include "dspclasses/CDSPDeEsser.h"
 #include "dspclasses/CDSPDelay.h"
 #include "dspclasses/CDSPGain.h"
+#include "dspclasses/CDSPGate.h"
 #include "dspclasses/CDSPHiPass.h"
 #include "dspclasses/CDSPModulation.h"
 #include "dspclasses/CDSPPan.h"
 #include "dspclasses/CDSPParametric.h"
 #include "dspclasses/CDSPPresence.h"
 #include "dspclasses/CDSPReverb.h"
-#include "dspclasses/CDSPStandIn.h"
 #include "dspclasses/CDSPWarmer.h"
 
 #include <algorithm>
@@ -39,9 +41,9 @@ static CDSPMultiFX::Modules buildModules() {
         std::make_unique<CDSPHiPass>(),      // 7, high-pass
         std::make_unique<CDSPPresence>(),    // 8
         std::make_unique<CDSPParametric>(),  // 9
-        std::make_unique<CDSPStandIn>(),     // 10, gate
-        std::make_unique<CDSPStandIn>(),     // 11, compressor
-        std::make_unique<CDSPStandIn>(),     // 12, de-esser
+        std::make_unique<CDSPGate>(),        // 10, gate
+        std::make_unique<CDSPComp>(),        // 11, compressor
+        std::make_unique<CDSPDeEsser>(),     // 12, de-esser
         std::make_unique<CDSPModulation>(),  // 13, modulator 1
         std::make_unique<CDSPModulation>(),  // 14, modulator 2
         std::make_unique<CDSPWarmer>(),      // 15

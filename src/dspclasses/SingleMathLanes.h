@@ -35,9 +35,11 @@ template <int lanes>
     using Bits = typename TDoubles<lanes>::Bits;
     const Values x = exponent.values;
 
-    // x = k ln(2) + r; adding 1.5 * 2^52 rounds to the integer k and leaves it in the low bits.
-    const Values shifted = x * 0x1.71547652b82fep+0 + 0x1.8p52;
-    const Values k = shifted - 0x1.8p52;
+    // x = k ln(2) + r. Adding 1.5 * 2^52 rounds to the integer k and leaves it in the low bits;
+    // 1023 more, and these are the exponent bits of 2^k.
+    constexpr double rounding = 0x1.8p52 + 1023.0;
+    const Values shifted = x * 0x1.71547652b82fep+0 + rounding;
+    const Values k = shifted - rounding;
     const Values r = (x - k * ln2High) - k * ln2Low;
 
     // e^r = 1 + r + r^2 q(r), with the q of least relative error for |r| up to ln(2) / 2: 2^-57.9.
@@ -49,7 +51,7 @@ template <int lanes>
     const Values q89 = 0x1.28ad72bf7e407p-22 + r * 0x1.ad7f6b5dc2ef6p-26;
     const Values q = (q01 + r2 * q23) + r4 * ((q45 + r2 * q67) + r4 * q89);
 
-    const Bits twoToK = (reinterpret_cast<Bits>(shifted) << 52) + 0x3ff0000000000000u;
+    const Bits twoToK = reinterpret_cast<Bits>(shifted) << 52;
     return {(1.0 + (r + r2 * q)) * reinterpret_cast<Values>(twoToK)};
 }
 

@@ -1,8 +1,10 @@
 #pragma once
 
-#include "dspclasses/CDSPStandIn.h"
 #include "dspclasses/Plain3EQ.h"
+#include "dspclasses/PlainComp.h"
+#include "dspclasses/PlainDeEsser.h"
 #include "dspclasses/PlainDelay.h"
+#include "dspclasses/PlainGate.h"
 #include "dspclasses/PlainHiPass.h"
 #include "dspclasses/PlainLevels.h"
 #include "dspclasses/PlainModulation.h"
@@ -25,9 +27,9 @@ inline CPlainStrip::Modules makePlainModules() {
         std::make_unique<CPlainHiPass>(),      // 7, high-pass
         std::make_unique<CPlainPresence>(),    // 8
         std::make_unique<CPlainParametric>(),  // 9
-        std::make_unique<CDSPStandIn>(),       // 10, gate
-        std::make_unique<CDSPStandIn>(),       // 11, compressor
-        std::make_unique<CDSPStandIn>(),       // 12, de-esser
+        std::make_unique<CPlainGate>(),        // 10, gate
+        std::make_unique<CPlainComp>(),        // 11, compressor
+        std::make_unique<CPlainDeEsser>(),     // 12, de-esser
         std::make_unique<CPlainModulation>(),  // 13, modulator 1
         std::make_unique<CPlainModulation>(),  // 14, modulator 2
         std::make_unique<CPlainWarmer>(),      // 15

@@ -13,7 +13,6 @@ public:
         : frequency(hz), gainDb(db), bandwidth(width), useBandwidth(widthInOctaves),
           kind(filterKind) {
         computeCoefficients();
-        reset();
     }
 
     void setFrequency(float hz) {
@@ -168,7 +167,7 @@ private:
                 out[channel][i] = tick(states[channel], in[channel][i]);
     }
 
-    SState states[2];
+    SState states[2] = {};
     double frequency, gainDb, bandwidth;
     bool useBandwidth;
     int kind;

@@ -1,0 +1,189 @@
+#include "dspclasses/CDSPComp.h"
+
+#include "dspclasses/DynamicsMath.h"
+#include "dspclasses/TDetector.h"
+#include "dspclasses/WideLoop.h"
+
+#include <limits>
+
+/// The parameters as the audio thread works with them for a while.
+struct CDSPComp::SSettings {
+    float thresholdDb, thresholdLinear;
+    SFollower smoother;
+    SGainLaw law;
+};
+
+void CDSPComp::setParameter(int index, float value) {
+    if (index == 0 && storeIfNew(thresholdDb, value)) {
+        thresholdLinear = linearFromDecibels(value);
+    } else if (index == 1 && storeIfNew(attackMs, value)) {
+        attackCoef = smoothingCoefficient(value, sampleRate);
+    } else if (index == 2 && storeIfNew(releaseMs, value)) {
+        releaseCoef = smoothingCoefficient(value, sampleRate);
+    } else if (index == 3 && storeIfNew(ratio, value)) {
+        slope = 1.0f / value - 1.0f;
+    } else if (index == 4 && storeIfNew(makeUpDb, value)) {
+        makeUpLinear = linearFromDecibels(value);
+    } else if (index == 5) {
+        linked = value >= 0.5f;
+        reset();
+    }
+}
+
+float CDSPComp::getParameter(int index) {
+    switch (index) {
+    case 0:
+        return thresholdDb;
+    case 1:
+        return attackMs;
+    case 2:
+        return releaseMs;
+    case 3:
+        return ratio;
+    case 4:
+        return makeUpDb;
+    case 5:
+        return linked ? 1.0f : 0.0f;
+    default:
+        return 0.0f;
+    }
+}
+
+void CDSPComp::reset() {
+    resetRequest.ask();
+}
+
+void CDSPComp::clear() {
+    gainLeft = gainRight = 1.0f;
+    overLeft = overRight = 0.0f;
+    peakLeft = peakRight = 0.0f;
+    gainDbLeft = gainDbRight = 0.0f;
+}
+
+namespace {
+
+/// Reads the samples of a step. In single precision denormals become 0.0, in the input as well.
+[[gnu::always_inline]] inline TFour<float> read(const SStep &step, float *in) {
+    const Floats4 samples = step.load(in).values;
+    const Mask4 isDenormalOrZero =
+        magnitude(TFour<float>{samples}).values < std::numeric_limits<float>::min();
+    const TFour<float> flushed{isDenormalOrZero ? splat(0.0f) : samples};
+    step.store(in, flushed);
+    return flushed;
+}
+[[gnu::always_inline]] inline TFour<double> read(const SStep &step, const double *in) {
+    return step.load(in);
+}
+
+template <typename Sample>
+[[gnu::always_inline]] inline void apply(const SStep &step, const Floats4 &gains, const Sample *in,
+                                         Sample *out) {
+    const auto factors = __builtin_convertvector(gains, typename TFour<Sample>::Values);
+    step.store(out, TFour<Sample>{step.load(in).values * factors});
+}
+
+}  // namespace
+
+CDSPComp::SSettings CDSPComp::settings() const {
+    return {
+        thresholdDb, thresholdLinear, {attackCoef, releaseCoef}, {slope, makeUpDb, makeUpLinear}};
+}
+
+template <typename Sample>
+void CDSPComp::run(Sample *const *in, Sample *const *out, int frames) {
+    // The request before the mode: the state of the old mode does not outlive it by a whole block.
+    if (resetRequest.take())
+        clear();
+    if (frames <= 0)
+        return;
+    Sample *inL = in[0], *inR = in[1], *outL = out[0], *outR = out[1];
+    if (linked)
+        runWide([=, this] { runLinked(inL, inR, outL, outR, frames); });
+    else
+        runWide([=, this] {
+            runLeft(inL, outL, frames);
+            runRight(inR, outR, frames);
+        });
+}
+
+template <typename Sample>
+void CDSPComp::runLinked(Sample *inL, Sample *inR, Sample *outL, Sample *outR, int frames) {
+    const auto levels = [=](const SStep &step) {
+        return larger(magnitude(read(step, inL)), magnitude(read(step, inR)));
+    };
+    detectLeft<Sample>(frames, levels, [=](const SStep &step, const Floats4 &gains) {
+        apply(step, gains, inL, outL);
+        apply(step, gains, inR, outR);
+    });
+}
+
+template <typename Sample>
+void CDSPComp::runLeft(Sample *in, Sample *out, int frames) {
+    const auto levels = [=](const SStep &step) { return magnitude(read(step, in)); };
+    detectLeft<Sample>(frames, levels, [=](const SStep &step, const Floats4 &gains) {
+        apply(step, gains, in, out);
+    });
+}
+
+template <typename Sample, typename Levels, typename Apply>
+void CDSPComp::detectLeft(int frames, Levels levels, Apply applyGains) {
+    TDetector<Sample> detector;
+    float peak = peakLeft, over = overLeft;
+    const bool clearsPeak = isClearedBy<Sample>(peakRight);
+    const bool clearsOver = isClearedBy<Sample>(overRight);
+    SSettings now{};
+    Floats4 gains{};
+    runStaged(
+        frames, [&] { now = settings(); },
+        [&](const SStep &step) { detector.follow(step, levels(step), peak, clearsPeak); },
+        [&](const SStep &step) { detector.measure(step, now.thresholdDb, now.thresholdLinear); },
+        [&](const SStep &step) { detector.smooth(step, now.smoother, over, clearsOver); },
+        [&](const SStep &step) {
+            gains = now.law.gains(detector.isActive(step), detector.oversOf(step));
+            applyGains(step, gains);
+        });
+
+    const SStep last = SStep::last(frames);
+    peakLeft = peak;
+    overLeft = over;
+    gainDbLeft = now.law.decibels(last.lastOf(detector.isActive(last)), over);
+    gainLeft = last.lastOf(gains);
+}
+
+template <typename Sample>
+void CDSPComp::runRight(Sample *in, Sample *out, int frames) {
+    TDetector<Sample> detector;
+    float peak = peakRight, over = overRight;
+    const bool clearsPeak = isClearedBy<Sample>(gainDbLeft);
+    SSettings now{};
+    runStaged(
+        frames, [&] { now = settings(); },
+        [&](const SStep &step) {
+            detector.follow(step, magnitude(read(step, in)), peak, clearsPeak);
+        },
+        [&](const SStep &step) { detector.measure(step, now.thresholdDb, now.thresholdLinear); },
+        [&](const SStep &step) {
+            detector.smooth(step, now.smoother, over, isClearedBy<Sample>(now.thresholdDb));
+        },
+        [&](const SStep &step) {
+            // Kept: the right detector only decides whether the last gain of the left channel
+            // applies here, or the plain make-up.
+            const Mask4 isActive = detector.isActive(step);
+            apply(step, isActive ? splat(gainLeft) : splat(now.law.offsetLinear), in, out);
+        });
+
+    const SStep last = SStep::last(frames);
+    const bool isActive = last.lastOf(detector.isActive(last));
+    peakRight = peak;
+    overRight = over;
+    gainDbRight = now.law.decibels(isActive, overLeft);
+    gainRight = isActive ? gainLeft : now.law.offsetLinear;
+}
+
+void CDSPComp::processReplacing(float **in, float **out, int frames) {
+    run(in, out, frames);
+}
+
+void CDSPComp::processDoubleReplacing(double **in, double **out, int frames) {
+    run(in, out, frames);
+}

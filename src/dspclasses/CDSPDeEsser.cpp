@@ -1,0 +1,233 @@
+#include "dspclasses/CDSPDeEsser.h"
+
+#include "dspclasses/DynamicsMath.h"
+#include "dspclasses/TDetector.h"
+#include "dspclasses/WideLoop.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+
+/// The parameters as the audio thread works with them for a while.
+struct CDSPDeEsser::SSettings {
+    float thresholdDb, thresholdLinear;
+    SFollower smoother;
+    SGainLaw law;
+};
+
+CDSPDeEsser::SSettings CDSPDeEsser::settings() const {
+    return {thresholdDb, thresholdLinear, {attackCoef, releaseCoef}, {slope, 0.0f, 1.0f}};
+}
+
+void CDSPDeEsser::setParameter(int index, float value) {
+    if (index == 0 && storeIfNew(thresholdDb, value)) {
+        thresholdLinear = linearFromDecibels(value);
+    } else if (index == 1 && storeIfNew(speed, value)) {
+        attackMs = 2.0f + 48.0f * value;
+        releaseMs = 100.0f + 400.0f * value;
+        attackCoef = smoothingCoefficient(attackMs, sampleRate);
+        releaseCoef = smoothingCoefficient(releaseMs, sampleRate);
+    } else if (index == 2 && storeIfNew(ratio, value)) {
+        slope = 1.0f / value - 1.0f;
+    } else if (index == 3 && storeIfNew(frequency, value)) {
+        filter.setFrequency(value);
+    } else if (index == 4) {
+        narrow = value >= 0.5f;
+    } else if (index == 5) {
+        listen = value >= 0.5f;
+    }
+}
+
+float CDSPDeEsser::getParameter(int index) {
+    switch (index) {
+    case 0:
+        return thresholdDb;
+    case 1:
+        return speed;
+    case 2:
+        return ratio;
+    case 3:
+        return frequency;
+    case 4:
+        return narrow ? 1.0f : 0.0f;
+    case 5:
+        return listen ? 1.0f : 0.0f;
+    default:
+        return 0.0f;
+    }
+}
+
+void CDSPDeEsser::reset() {
+    resetRequest.ask();
+    filter.reset();
+}
+
+void CDSPDeEsser::clear() {
+    gain = 1.0f;
+    over = peak = gainDb = 0.0f;
+}
+
+template <typename Sample>
+void CDSPDeEsser::SSideChain<Sample>::grow(int frames) {
+    const auto needed = static_cast<std::size_t>(frames);
+    if (needed <= left.size())
+        return;
+    left.assign(needed, 0);
+    right.assign(needed, 0);
+}
+
+static void process(CDSPRBJFilter &filter, float **in, float **out, int frames) {
+    filter.processReplacing(in, out, frames);
+}
+static void process(CDSPRBJFilter &filter, double **in, double **out, int frames) {
+    filter.processDoubleReplacing(in, out, frames);
+}
+
+/// Runs the filter, and copies its output if that is what is listened to.
+/// @return whether it is.
+template <typename Sample>
+bool CDSPDeEsser::deriveSideChain(Sample **in, Sample **out, int frames,
+                                  SSideChain<Sample> &chain) {
+    if (resetRequest.take())
+        clear();
+    chain.grow(frames);
+    Sample *sides[] = {chain.left.data(), chain.right.data()};
+    process(filter, in, sides, frames);
+    if (!listen)
+        return false;
+    std::copy_n(sides[0], frames, out[0]);
+    std::copy_n(sides[1], frames, out[1]);
+    return true;
+}
+
+/// @param isNarrow  whether only what the filter passed is attenuated.
+[[gnu::always_inline]] static inline void apply(const SStep &step, bool isNarrow,
+                                                const Floats4 &gains, const float *in,
+                                                const float *side, float *out) {
+    const Floats4 x = step.load(in).values;
+    if (isNarrow) {
+        const Floats4 s = step.load(side).values;
+        step.store(out, TFour<float>{(x - s) + s * gains});
+    } else {
+        step.store(out, TFour<float>{x * gains});
+    }
+}
+
+void CDSPDeEsser::processReplacing(float **in, float **out, int frames) {
+    if (!deriveSideChain(in, out, frames, side) && frames > 0)
+        runWide([=, this] { detect(in, out, frames); });
+}
+
+void CDSPDeEsser::detect(const float *const *in, float *const *out, int frames) {
+    const float *inL = in[0], *inR = in[1], *sideL = side.left.data(), *sideR = side.right.data();
+    float *outL = out[0], *outR = out[1];
+    TDetector<float> detector;
+    float lastPeak = peak, lastOver = over;
+    const bool isNarrow = narrow;
+    SSettings now{};
+    Floats4 gains{};
+    runStaged(
+        frames, [&] { now = settings(); },
+        [&](const SStep &step) {
+            // Kept: in narrow mode the left side sample is compared with itself and never wins.
+            const TFour<float> right = magnitude(step.load(sideR));
+            detector.follow(step, isNarrow ? right : larger(magnitude(step.load(sideL)), right),
+                            lastPeak, false);
+        },
+        [&](const SStep &step) { detector.measure(step, now.thresholdDb, now.thresholdLinear); },
+        [&](const SStep &step) { detector.smooth(step, now.smoother, lastOver, false); },
+        [&](const SStep &step) {
+            gains = now.law.gains(detector.isActive(step), detector.oversOf(step));
+            apply(step, isNarrow, gains, inL, sideL, outL);
+            apply(step, isNarrow, gains, inR, sideR, outR);
+        });
+
+    const SStep last = SStep::last(frames);
+    peak = lastPeak;
+    over = lastOver;
+    gainDb = now.law.decibels(last.lastOf(detector.isActive(last)), over);
+    gain = last.lastOf(gains);
+}
+
+// Double precision
+
+/// Kept: the peak is cleared while the last gain is 0 dB, see isClearedBy, and only a peak can move
+/// the gain. So once the gain has come to 0 dB, the detector is asleep until single precision wakes
+/// it up.
+void CDSPDeEsser::processDoubleReplacing(double **in, double **out, int frames) {
+    if (deriveSideChain(in, out, frames, doubleSide))
+        return;
+    const SSettings now = settings();
+    const bool isNarrow = narrow;
+    int awake = 0;
+    for (; awake < frames && !isAsleep(now); ++awake) {
+        detectFrame(levelAt(awake, isNarrow), now);
+        write(in, out, awake, 1, isNarrow);
+    }
+    if (awake < frames) {
+        sleep(frames - awake, now);
+        write(in, out, awake, frames - awake, isNarrow);
+    }
+}
+
+double CDSPDeEsser::levelAt(int frame, bool isNarrow) const {
+    const auto i = static_cast<std::size_t>(frame);
+    const double sideL = std::abs(doubleSide.left[i]), sideR = std::abs(doubleSide.right[i]);
+    // Kept: in narrow mode the left candidate is what the last block in single precision left in
+    // its own buffer, of which there is nothing behind the end.
+    const float other = i < side.left.size() ? side.left[i] : 0.0f;
+    const double candidate = isNarrow ? double{std::abs(other)} : sideL;
+    return candidate > sideR ? sideL : sideR;
+}
+
+void CDSPDeEsser::detectFrame(double level, const SSettings &now) {
+    peak = isClearedBy<double>(gainDb) ? 0.0f : peakFollower.next(peak, level);
+    const bool isAbove = peak - now.thresholdLinear > 0.0f;
+    const double amount =
+        isAbove ? logDouble(level + double{smoothingBias}) * double{exponentPerDecibel} -
+                      double{now.thresholdDb}
+                : 0.0;
+    over = now.smoother.next(over + smoothingBias, amount) - smoothingBias;
+    if (isClearedBy<double>(now.thresholdDb))
+        over = 0.0f;
+    const bool isActive = isAbove || over > leastActiveOver;
+    gainDb = now.law.decibels(isActive, over);
+    gain = isActive ? linearFromDecibels(gainDb) : now.law.offsetLinear;
+}
+
+/// @return whether the detector stays inactive whatever the signal is.
+bool CDSPDeEsser::isAsleep(const SSettings &now) const {
+    const float release = now.smoother.releaseCoef;
+    return isClearedBy<double>(gainDb) && over >= -smoothingBias && over <= leastActiveOver &&
+           release >= 0.0f && release <= 1.0f;
+}
+
+/// What remains of detectFrame while asleep.
+void CDSPDeEsser::sleep(int frames, const SSettings &now) {
+    peak = 0.0f;
+    gainDb = now.law.offsetDb;
+    gain = now.law.offsetLinear;
+    if (isClearedBy<double>(now.thresholdDb)) {
+        over = 0.0f;
+        return;
+    }
+    for (int i = 0; i < frames; ++i) {
+        const float before = over;
+        over = (over + smoothingBias) * now.smoother.releaseCoef - smoothingBias;
+        if (over == before)
+            return;
+    }
+}
+
+/// Frames of one gain.
+void CDSPDeEsser::write(const double *const *in, double *const *out, int first, int count,
+                        bool isNarrow) const {
+    const double *sides[] = {doubleSide.left.data(), doubleSide.right.data()};
+    const double factor = gain;
+    for (int channel = 0; channel < 2; ++channel) {
+        const double *x = in[channel] + first, *s = sides[channel] + first;
+        double *y = out[channel] + first;
+        for (int i = 0; i < count; ++i)
+            y[i] = isNarrow ? (x[i] - s[i]) + s[i] * factor : x[i] * factor;
+    }
+}
