@@ -1,0 +1,44 @@
+#include "platform/NativeFile.h"
+
+#include <windows.h>
+
+namespace {
+
+std::uint64_t joined(DWORD high, DWORD low) {
+    return std::uint64_t{high} << 32 | low;
+}
+
+std::uint64_t ticks(const FILETIME &time) {
+    return joined(time.dwHighDateTime, time.dwLowDateTime);
+}
+
+}  // namespace
+
+std::optional<SNativeFile> nativeFile(const std::string &path) {
+    WIN32_FIND_DATAA found;
+    const HANDLE search = FindFirstFileA(path.c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE)
+        return {};
+    FindClose(search);
+    return SNativeFile{found.dwFileAttributes,
+                       ticks(found.ftCreationTime),
+                       ticks(found.ftLastAccessTime),
+                       ticks(found.ftLastWriteTime),
+                       joined(found.nFileSizeHigh, found.nFileSizeLow),
+                       found.cFileName,
+                       found.cAlternateFileName};
+}
+
+int nativeFileCount(const std::string &folder) {
+    WIN32_FIND_DATAA found;
+    const HANDLE search = FindFirstFileA((folder + "\\*").c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE)
+        return 0;
+    int count = 0;
+    do {
+        if ((found.dwFileAttributes & nativeFolderAttribute) == 0)
+            ++count;
+    } while (FindNextFileA(search, &found) != 0);
+    FindClose(search);
+    return count;
+}

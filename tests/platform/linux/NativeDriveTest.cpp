@@ -1,0 +1,31 @@
+#include "platform/NativeDrive.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(NativeDrive, GoesByTheDeepestMountThatHoldsThePath) {
+    EXPECT_EQ(nativeVolume("/proc").fileSystem, "proc");
+    EXPECT_EQ(nativeVolume("/proc/self").fileSystem, "proc");
+    EXPECT_NE(nativeVolume("/").fileSystem, "proc");
+}
+
+TEST(NativeDrive, FollowsSymbolicLinks) {
+    EXPECT_EQ(nativeVolume("/dev/fd").fileSystem, "proc");
+}
+
+TEST(NativeDrive, WhatHasNoLabelHasNoName) {
+    EXPECT_EQ(nativeVolume("/proc").name, "");
+}
+
+TEST(NativeDrive, WhereNothingIsThereIsNoDrive) {
+    EXPECT_EQ(nativeDriveType("/no such folder"), ENativeDriveType::NoRoot);
+    EXPECT_EQ(nativeVolume("/no such folder").fileSystem, "");
+}
+
+TEST(NativeDrive, KnowsTheKindsOfDrive) {
+    EXPECT_EQ(nativeDriveType("/proc"), ENativeDriveType::Fixed);
+    EXPECT_EQ(nativeDriveType("/dev/shm"), ENativeDriveType::RamDisk);
+}
+
+}  // namespace
