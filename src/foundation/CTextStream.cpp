@@ -1,5 +1,7 @@
 #include "foundation/CTextStream.h"
 
+#include "foundation/FileExists.h"
+
 #include <cstring>
 #include <locale>
 
@@ -32,7 +34,7 @@ bool CTextStream::open(const CSystemString &path, EStreamMode mode) {
     if (mode == EStreamMode::Write) {
         m_output.open(m_path.getString(), std::ios::binary | std::ios::trunc);
         m_isOpen = m_output.is_open();
-    } else {
+    } else if (!Host::folderExists(m_path)) {
         m_input.open(m_path.getString(), std::ios::binary);
         m_isOpen = m_input.is_open();
     }
@@ -51,6 +53,11 @@ bool CTextStream::isEndOfFile() const {
     if (isOpenForWriting())
         return false;
     return !isOpenForReading() || m_input.eof();
+}
+
+bool CTextStream::hasFailed() const {
+    return (isOpenForWriting() && m_output.fail()) ||
+           (isOpenForReading() && m_input.fail() && !m_input.eof());
 }
 
 void CTextStream::flush() {

@@ -21,12 +21,15 @@ public:
     Basics::CClass &getClass() const override { return s_class; }
 
     /// Closes what is open. Writing makes the file, or empties it.
-    /// @return false if the system refuses.
+    /// @return false if the system refuses, or if a folder is to be read.
     bool open(const Basics::CSystemString &path, EStreamMode mode);
     void close();
     bool isOpenForWriting() const { return m_isOpen && m_mode == EStreamMode::Write; }
     bool isOpenForReading() const { return m_isOpen && m_mode == EStreamMode::Read; }
     bool isEndOfFile() const;  ///< true if not open; false while writing
+    /// Whether what is open has met a line too long, a text that is no number, or the system's
+    /// refusal, a full disk for one, as far as it has been flushed. The end of the file is none.
+    bool hasFailed() const;
     void flush();
 
     CTextStream &operator<<(const char *text);  ///< flushes; null is ignored

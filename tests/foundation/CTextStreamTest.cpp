@@ -38,6 +38,7 @@ TEST(CTextStream, IsClosedAtFirst) {
     EXPECT_FALSE(stream.isOpenForWriting());
     EXPECT_FALSE(stream.isOpenForReading());
     EXPECT_TRUE(stream.isEndOfFile());
+    EXPECT_FALSE(stream.hasFailed());
     CString text("kept");
     int number = 7;
     stream << "ignored" << 5 << text;
@@ -67,6 +68,12 @@ TEST_F(CTextStreamFile, TellsWhenAFileCannotBeOpened) {
     EXPECT_FALSE(stream.open((folder / "none" / "text.txt").string().c_str(), EStreamMode::Write));
     EXPECT_FALSE(stream.isOpenForWriting());
     EXPECT_TRUE(stream.open(path, EStreamMode::Write));
+}
+
+TEST_F(CTextStreamFile, AFolderIsNoFile) {
+    CTextStream stream;
+    EXPECT_FALSE(stream.open(folder.path().string().c_str(), EStreamMode::Read));
+    EXPECT_FALSE(stream.open(folder.path().string().c_str(), EStreamMode::Write));
 }
 
 TEST_F(CTextStreamFile, OpeningClosesWhatIsOpen) {
@@ -158,6 +165,7 @@ TEST_F(CTextStreamFile, ReadsAnEmptyFileAsOneEmptyLine) {
     EXPECT_FALSE(stream.isEndOfFile());
     EXPECT_EQ(line(stream), "");
     EXPECT_TRUE(stream.isEndOfFile());
+    EXPECT_FALSE(stream.hasFailed());
 }
 
 TEST_F(CTextStreamFile, ReadsIntoAPath) {
@@ -174,18 +182,44 @@ TEST_F(CTextStreamFile, ALineOf2047BytesFits) {
     CTextStream stream(path, EStreamMode::Read);
     EXPECT_EQ(line(stream), longest);
     EXPECT_EQ(line(stream), "next");
+    EXPECT_FALSE(stream.hasFailed());
 }
 
-TEST_F(CTextStreamFile, ALongerLineFailsTheStreamWhichRepeatsItself) {
-    write(std::string(2048, 'x').append("\nnext\n"));
+TEST_F(CTextStreamFile, ALastLineOf2047BytesNeedsNoEnd) {
+    const std::string longest(2047, 'x');
+    write(longest);
+    CTextStream stream(path, EStreamMode::Read);
+    EXPECT_EQ(line(stream), longest);
+    EXPECT_TRUE(stream.isEndOfFile());
+    EXPECT_FALSE(stream.hasFailed());
+}
+
+TEST_F(CTextStreamFile, ACarriageReturnTakesAPlaceInTheLine) {
+    const std::string fits(2046, 'x'), tooLong(2047, 'x');
+    write(fits + "\r\nnext");
+    CTextStream stream(path, EStreamMode::Read);
+    EXPECT_EQ(line(stream), fits);
+    EXPECT_EQ(line(stream), "next");
+    write(tooLong + "\r\nnext");
+    stream.open(path, EStreamMode::Read);
+    EXPECT_EQ(line(stream), tooLong);
+    EXPECT_TRUE(stream.hasFailed());
+}
+
+class CTextStreamLongLine : public CTextStreamFile, public testing::WithParamInterface<int> {};
+
+TEST_P(CTextStreamLongLine, FailsTheStreamWhichRepeatsItself) {
+    write(std::string(std::size_t(GetParam()), 'x') + "\nnext\n");
     CTextStream stream(path, EStreamMode::Read);
     EXPECT_EQ(line(stream), std::string(2047, 'x'));
     EXPECT_EQ(line(stream), std::string(2047, 'x'));
+    EXPECT_TRUE(stream.hasFailed());
     EXPECT_FALSE(stream.isEndOfFile());
     int number = 7;
     stream >> number;
     EXPECT_EQ(number, 7);
 }
+INSTANTIATE_TEST_SUITE_P(Lengths, CTextStreamLongLine, testing::Values(2048, 2049, 5000));
 
 TEST_F(CTextStreamFile, AFailedStreamCanBeOpenedAgain) {
     write(std::string(3000, 'x'));
@@ -208,8 +242,10 @@ TEST_F(CTextStreamFile, ReadsNumbers) {
     EXPECT_EQ(large, 123456789);
     EXPECT_EQ(single, 1.5f);
     EXPECT_EQ(precise, 0.1);
+    EXPECT_FALSE(stream.hasFailed());
     stream >> whole;
     EXPECT_EQ(whole, 0);
+    EXPECT_TRUE(stream.hasFailed());
 }
 
 TEST_F(CTextStreamFile, NumbersIgnoreTheLocaleOfTheHost) {
