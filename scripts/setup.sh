@@ -14,7 +14,7 @@ run_packages=(
 test_packages=(
     git                                                 # tests of the source tree list its files
     g++-mingw-w64-x86-64-posix gcc-mingw-w64-x86-64-posix  # the Windows build
-    wine wine64                                         # and where its tests run
+    wine wine64 xvfb xauth                              # and where its tests run
 )
 
 packages=("${run_packages[@]}")

@@ -8,7 +8,7 @@ scripts/setup.sh test
 scripts/build.sh linux
 ctest --preset linux
 scripts/build.sh windows
-# Wine now and then leaves a process waiting for good; a test that fails does so three times.
-ctest --preset windows --timeout 120 --repeat until-pass:3
+# Message boxes want a display.
+xvfb-run -a ctest --preset windows
 scripts/build.sh tsan effect_tests
 ctest --preset tsan -R effect_tests

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include <latch>
+#include <atomic>
 #include <thread>
 
 // What ThreadSanitizer looks on at: the audio runs while another thread does what the editor and
@@ -49,13 +49,13 @@ template <typename Sample>
 static void runBeside(std::uint64_t seed) {
     constexpr int blocks = 600, edits = 6000, blockFrames = 48;
     CDSPMultiFX strip;
-    std::latch start(2);
+    std::atomic<bool> started = false;
 
     std::jthread audio([&] {
         TStereo<Sample> input = makeSignal<Sample>(ESignal::Noise, seed, blockFrames);
         TStereo<Sample> output(blockFrames);
         std::array<Sample *, 2> in = input.pointers(), out = output.pointers();
-        start.arrive_and_wait();
+        started = true;
         for (int block = 0; block < blocks; ++block) {
             strip.setTempo(static_cast<float>(60 + block % 100));
             process(strip, in.data(), out.data(), blockFrames);
@@ -65,7 +65,9 @@ static void runBeside(std::uint64_t seed) {
     CRandom random(seed);
     std::vector<int> chain;
     char text[32];
-    start.arrive_and_wait();
+    // No latch: in the run-time of the Windows build its wake-up can be lost.
+    while (!started)
+        std::this_thread::yield();
     for (int edit = 0; edit < edits; ++edit) {
         const int id = random.whole(0, 63);
         if (id != spreadId)
