@@ -1,6 +1,6 @@
 #include "hostlayer/CMidiEventList.h"
 
-#include "hostlayer/Description.h"
+#include "foundation/Description.h"
 
 #include <gtest/gtest.h>
 

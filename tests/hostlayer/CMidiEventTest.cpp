@@ -1,6 +1,6 @@
 #include "hostlayer/CMidiEvent.h"
 
-#include "hostlayer/Description.h"
+#include "foundation/Description.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>

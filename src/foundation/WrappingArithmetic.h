@@ -1,0 +1,16 @@
+#pragma once
+
+#include <cstdint>
+
+namespace Tessitor::MathTools {
+
+/// Coordinates never trap: they wrap at the ends of the range.
+constexpr std::int32_t wrappedSum(std::int32_t left, std::int32_t right) {
+    return static_cast<std::int32_t>(std::int64_t{left} + right);
+}
+
+constexpr std::int32_t wrappedDifference(std::int32_t left, std::int32_t right) {
+    return static_cast<std::int32_t>(std::int64_t{left} - right);
+}
+
+}  // namespace Tessitor::MathTools
