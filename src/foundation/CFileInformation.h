@@ -1,0 +1,46 @@
+#pragma once
+
+#include "foundation/CSystemString.h"
+#include "foundation/CTime.h"
+
+namespace Tessitor::Host {
+
+/// What the system knows of a file or a folder, copied when it is read. [one thread at a time]
+class CFileInformation : public Basics::CCountedObject {
+public:
+    CFileInformation();
+    explicit CFileInformation(const Basics::CSystemString &path);  ///< reads at once
+    CFileInformation(const CFileInformation &other);
+    ~CFileInformation() override { s_class.decrementInstanceCount(); }
+    Basics::CClass &getClass() const override { return s_class; }
+
+    virtual CFileInformation &operator=(const CFileInformation &other);
+
+    /// @return false, and nothing changed, if there is no such file or folder.
+    bool readInformation(const Basics::CSystemString &path);
+
+    /// Windows' bits, as SNativeFile tells them; 11 before anything is read.
+    std::uint32_t getAttributes() const { return m_attributes; }
+    bool isFolder() const;
+    // UTC, as file systems keep them; all zero where one does not.
+    const CTime &getCreationTime() const { return m_creationTime; }
+    const CTime &getLastAccessTime() const { return m_lastAccessTime; }
+    const CTime &getLastWriteTime() const { return m_lastWriteTime; }
+    std::uint64_t getFileSize() const { return m_fileSize; }  ///< bytes
+    /// The second name, of eight and three characters, that Windows may keep; else the name.
+    const Basics::CString &getShortName() const { return m_shortName; }
+    const Basics::CString &getExtension() const { return m_extension; }  ///< with its dot, or ""
+    const Basics::CString &getDisplayName() const { return m_displayName; }  ///< without the folder
+    const Basics::CSystemString &getFullPath() const { return m_fullPath; }  ///< as it was given
+
+private:
+    static Basics::TClassRecord<CFileInformation> s_class;
+
+    std::uint32_t m_attributes = 11;
+    CTime m_creationTime, m_lastAccessTime, m_lastWriteTime;
+    std::uint64_t m_fileSize = 0;
+    Basics::CString m_shortName, m_extension, m_displayName;
+    Basics::CSystemString m_fullPath;
+};
+
+}  // namespace Tessitor::Host

@@ -1,0 +1,80 @@
+#include "foundation/CDLLLoader.h"
+
+#include "CTemporaryFolder.h"
+#include "foundation/CException.h"
+
+#include <fstream>
+#include <gtest/gtest.h>
+#include <string>
+
+using Tessitor::Exceptions::CException;
+using Tessitor::Host::CDLLLoader;
+
+namespace {
+
+/// Whether the loader has the sample's function, and it runs.
+bool hasSample(const CDLLLoader &loader) {
+    const auto ask = reinterpret_cast<std::size_t (*)(char *, std::size_t)>(
+        loader.getFunction("sampleModulePath"));
+    char path[4096];
+    return ask != nullptr && ask(path, sizeof path) > 0;
+}
+
+TEST(CDLLLoader, FindsTheFunctionsOfALibrary) {
+    const CDLLLoader loader(SAMPLE_MODULE);
+    EXPECT_TRUE(hasSample(loader));
+    EXPECT_EQ(loader.getFunction("noFunction"), nullptr);
+}
+
+TEST(CDLLLoader, WithoutALibraryHasNoFunctions) {
+    EXPECT_EQ(CDLLLoader().getFunction("sampleModulePath"), nullptr);
+    EXPECT_EQ(CDLLLoader().getFunction("malloc"), nullptr);
+}
+
+TEST(CDLLLoader, TellsOfAFileThatDoesNotExist) {
+    CDLLLoader loader;
+    try {
+        loader.loadDll("none.dll");
+        FAIL() << "nothing thrown";
+    } catch (const CException &exception) {
+        EXPECT_STREQ(exception.getErrorReason().getString(), "none.dll doesnt exist");
+        EXPECT_STREQ(exception.getFunctionName().getString(),
+                     "CDLLLoader::loadDll(const CString &)");
+    }
+    EXPECT_THROW(CDLLLoader("none.dll"), CException);
+}
+
+TEST(CDLLLoader, KeepsTheLibraryWhenAnotherDoesNotExist) {
+    CDLLLoader loader(SAMPLE_MODULE);
+    EXPECT_THROW(loader.loadDll("none.dll"), CException);
+    EXPECT_TRUE(hasSample(loader));
+}
+
+TEST(CDLLLoader, LoadsAgain) {
+    CDLLLoader loader(SAMPLE_MODULE);
+    loader.loadDll(SAMPLE_MODULE);
+    EXPECT_TRUE(hasSample(loader));
+}
+
+TEST(CDLLLoader, AFileThatIsNoLibraryHasNoFunctions) {
+    const CTemporaryFolder folder;
+    const std::string path = (folder / "text.dll").string();
+    std::ofstream(path) << "no library";
+    CDLLLoader loader(SAMPLE_MODULE);
+    loader.loadDll(path.c_str());
+    EXPECT_EQ(loader.getFunction("sampleModulePath"), nullptr);
+}
+
+TEST(CDLLLoader, EveryConstructorCounts) {
+    const CDLLLoader loader;
+    EXPECT_TRUE(loader.getClass() == "CDLLLoader");
+    const auto instances = loader.getClass().getInstanceCount();
+    {
+        const CDLLLoader another(SAMPLE_MODULE);
+        EXPECT_EQ(loader.getClass().getInstanceCount(), instances + 1);
+    }
+    EXPECT_THROW(CDLLLoader("none.dll"), CException);
+    EXPECT_EQ(loader.getClass().getInstanceCount(), instances);
+}
+
+}  // namespace
