@@ -20,10 +20,7 @@ public:
         setTempo(120.0f);
         for (int id = 0; id < 62; ++id)
             paramCache[index(id)] = moduleOf(id).getParameter(rowOf(id).index);
-        for (auto &pair : order)
-            pair = {-1, -1};
-        order[0].next = 1;
-        order[1].prev = 0;
+        setChain({});
     }
 
     void setParameter(int id, float value) override {
@@ -50,6 +47,12 @@ public:
             modules[index(slot)]->reset();
     }
 
+    /// Of the modules outside the chain too.
+    void resetAllModules() {
+        for (auto &module : modules)
+            module->reset();
+    }
+
     void setTempo(float bpm) {
         if (bpm == tempo)
             return;
@@ -73,10 +76,12 @@ public:
         }
     }
 
-private:
     struct SPair {
         int prev, next;
     };
+    SPair &orderEntry(int slot) { return order[index(slot)]; }
+
+private:
     template <typename Sample>
     struct SBuffers {
         int capacity = 0;

@@ -1,0 +1,98 @@
+#pragma once
+
+#include "dspclasses/PlainModules.h"
+#include "dspclasses/PlainStrip.h"
+#include "effect/FactoryPrograms.h"
+
+#include <array>
+#include <cstring>
+#include <optional>
+#include <vector>
+
+/// The plain reading of the effect: the programs and what each host call does to them, over the
+/// plain strip. Parameter values start at 0, so that a 0 of the first program never reaches its
+/// module.
+class CPlainEffect {
+public:
+    using SProgram = Tessitor::Corvel::SProgram;
+    using Chunk = std::vector<char>;
+
+    CPlainEffect() { load(0); }
+
+    void setParameter(int id, float value) {
+        if (value == values[std::size_t(id)])
+            return;
+        strip.setParameter(id, value);
+        values[std::size_t(id)] = value;
+    }
+    const std::array<float, 64> &parameters() const { return values; }
+
+    void setProgram(int program) {
+        store();
+        if (program != current)
+            load(program);
+    }
+    int program() const { return current; }
+
+    Chunk chunk(bool isPreset) {
+        store();
+        Chunk bytes(length(isPreset));
+        std::memcpy(bytes.data(), target(isPreset), bytes.size());
+        return bytes;
+    }
+    void setChunk(const Chunk &bytes, bool isPreset) {
+        std::memcpy(target(isPreset), bytes.data(), length(isPreset));
+        apply(*target(isPreset));
+    }
+
+    /// Mains on.
+    void resume(bool isRightConnected) {
+        strip.resetAllModules();
+        strip.setMonoInput(!isRightConnected);
+    }
+
+    /// The next block meets a host that gives this tempo; none for one that keeps no time.
+    void setTempo(std::optional<double> bpm) {
+        if (bpm)
+            strip.setTempo(static_cast<float>(*bpm));
+    }
+
+    void processReplacing(float **in, float **out, int frames) {
+        strip.processReplacing(in, out, frames);
+    }
+    void processDoubleReplacing(double **in, double **out, int frames) {
+        strip.processDoubleReplacing(in, out, frames);
+    }
+
+private:
+    SProgram *target(bool isPreset) { return &programs[isPreset ? std::size_t(current) : 0]; }
+    static std::size_t length(bool isPreset) { return isPreset ? 424 : 8480; }
+
+    void store() {
+        SProgram &record = programs[std::size_t(current)];
+        record.parameters = values;
+        for (int slot = 0; slot < 18; ++slot) {
+            const CPlainStrip::SPair &pair = strip.orderEntry(slot);
+            record.order[std::size_t(slot)] = {pair.prev, pair.next};
+        }
+    }
+
+    void load(int program) {
+        current = program;
+        apply(programs[std::size_t(program)]);
+    }
+
+    void apply(const SProgram &record) {
+        for (int id = 0; id < 64; ++id)
+            setParameter(id, record.parameters[std::size_t(id)]);
+        for (int slot = 0; slot < 18; ++slot) {
+            const auto &link = record.order[std::size_t(slot)];
+            strip.orderEntry(slot) = {link.prev, link.next};
+        }
+    }
+
+    CPlainStrip strip{makePlainModules()};
+    std::array<SProgram, 20> programs = Tessitor::Corvel::factoryPrograms;
+    std::array<float, 64> values{};
+    int current = 0;
+};
