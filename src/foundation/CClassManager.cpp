@@ -63,7 +63,7 @@ void CClassManager::writeClassInformation(IO::CTextStream &stream) const {
     stream << rule
            << "| Tessitor class information                                      |          |      "
               "    |\n"
-           << rule << rule
+           << rule
            << "| Class Name                                                      | Instance |   "
               "Total  |\n"
            << rule;
