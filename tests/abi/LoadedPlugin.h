@@ -9,14 +9,16 @@
 #include <string>
 #include <vector>
 
-/// The built plug-in's file, loaded as a host loads it.
+/// A file with an effect in it, by default the built plug-in, loaded as a host loads it.
 class CPluginFile {
 public:
     using Entry = AEffect *(*)(audioMasterCallback);
 
-    CPluginFile() {
+    explicit CPluginFile(const char *path = CORVEL_PLUGIN_FILE,
+                         const char *entryName = "VSTPluginMain")
+        : m_entryName(entryName) {
         std::string reason;
-        m_library = openNativeLibrary(CORVEL_PLUGIN_FILE, reason);
+        m_library = openNativeLibrary(path, reason);
         if (m_library == nullptr)
             throw std::runtime_error(reason);
     }
@@ -25,9 +27,10 @@ public:
     CPluginFile &operator=(const CPluginFile &) = delete;
 
     void *symbol(const char *name) const { return nativeSymbol(m_library, name); }
-    Entry entry() const { return reinterpret_cast<Entry>(symbol("VSTPluginMain")); }
+    Entry entry() const { return reinterpret_cast<Entry>(symbol(m_entryName)); }
 
 private:
+    const char *m_entryName;
     void *m_library;
 };
 

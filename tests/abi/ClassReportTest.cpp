@@ -1,0 +1,102 @@
+#include "CTemporaryFolder.h"
+#include "abi/LoadedPlugin.h"
+#include "dspclasses/Signals.h"
+#include "foundation/ReadFile.h"
+#include "hostlayer/EventBlock.h"
+#include "hostlayer/FakeHost.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <regex>
+#include <stdexcept>
+#include <string>
+
+namespace {
+
+/// The effect in a library that also gives its class report, once each time that it is loaded.
+class CReportingFile : public CPluginFile {
+public:
+    CReportingFile() : CPluginFile(CORVEL_REPORTING_FILE, "openEffect") {}
+
+    /// Ends the class library. @return the instances of every class that still has some.
+    std::map<std::string, std::uint32_t> report() const {
+        const CTemporaryFolder folder;
+        const std::string path = (folder / "report.txt").string();
+        reinterpret_cast<void (*)(const char *)>(symbol("endWithReport"))(path.c_str());
+
+        const std::string text = readFile(path);
+        if (text.empty())
+            throw std::runtime_error("the class library has ended before");
+        const std::regex row(R"(\| +(\S.*) \| *(\d+)\| *\d+\|\n)");
+        std::map<std::string, std::uint32_t> instances;
+        for (std::sregex_iterator found(text.begin(), text.end(), row), end; found != end; ++found)
+            instances[found->str(1)] = static_cast<std::uint32_t>(std::stoul(found->str(2)));
+        return instances;
+    }
+};
+
+/// All that a host may ask of an effect short of closing it.
+void use(const CLoadedEffect &effect) {
+    effect.send(effSetSampleRate, 0, 0, nullptr, 96000.0f);
+    effect.send(effSetBlockSize, 0, 500);
+    effect.send(effMainsChanged, 0, 1);
+    for (int program = 0; program < 20; ++program) {
+        effect.send(effSetProgram, 0, program);
+        EventBlock events;
+        effect.send(effProcessEvents, 0, 0, events.midi(0x90, 60, 100).midi(0xB0, 7, 1).get());
+        TStereo<float> voice = makeSignal<float>(ESignal::Bursts, 1, 500), out(500);
+        effect.processReplacing(voice.pointers().data(), out.pointers().data(), 500);
+        TStereo<double> precise = makeSignal<double>(ESignal::Noise, 2, 500), result(500);
+        effect.processDoubleReplacing(precise.pointers().data(), result.pointers().data(), 500);
+    }
+    for (int id = 0; id < 64; ++id) {
+        effect.setParameter(id, 0.3f);
+        for (AEffectOpcode text : {effGetParamName, effGetParamDisplay, effGetParamLabel})
+            effect.text(text, id);
+    }
+    for (bool isPreset : {false, true})
+        effect.setChunk(effect.chunk(isPreset), isPreset);
+    for (AEffectOpcode text : {effGetEffectName, effGetVendorString, effGetProductString})
+        effect.text(text);
+    effect.send(effMainsChanged, 0, 0);
+}
+
+class ClassReport : public testing::Test {
+protected:
+    FakeHost host;
+    /// What stands in a report by itself: the stream that writes it, the manager that lists.
+    const std::map<std::string, std::uint32_t> withoutAnEffect = CReportingFile().report();
+};
+
+TEST_F(ClassReport, ListsItsOwnStreamWithoutAnEffect) {
+    EXPECT_EQ(withoutAnEffect.at("CTextStream"), 1u);
+    EXPECT_EQ(withoutAnEffect.count("CCorvel"), 0u);
+}
+
+TEST_F(ClassReport, ListsOnlyStaticDeletersAfterEffectsThatWereUsedAndClosed) {
+    const CReportingFile file;
+    {
+        const CLoadedEffect first(file, FakeHost::callback), second(file, FakeHost::callback);
+        use(first);
+        use(second);
+    }
+    // The deleters of the collections of notes are static: made for the first, there for all.
+    auto expected = withoutAnEffect;
+    for (const char *deleter : {"TObjectDeleter<CLong>", "TPointerDeleter<CLong>",
+                                "TObjectDeleter<CLong>>", "TPointerDeleter<CLong>>"})
+        expected[deleter] = 1;
+    expected["CCountedObject"] += 2;
+    EXPECT_EQ(file.report(), expected);
+}
+
+TEST_F(ClassReport, ListsAnEffectThatIsStillOpen) {
+    const CReportingFile file;
+    const CLoadedEffect open(file, FakeHost::callback);
+    { const CLoadedEffect closed(file, FakeHost::callback); }
+    const auto instances = file.report();
+    EXPECT_EQ(instances.at("CCorvel"), 1u);
+    EXPECT_EQ(instances.at("CCriticalSection"), 1u);
+}
+
+}  // namespace

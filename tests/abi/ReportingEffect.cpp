@@ -1,0 +1,16 @@
+#include "foundation/CApplicationInformation.h"
+#include "foundation/CClass.h"
+#include "hostlayer/VstInterface.h"
+
+extern "C" AEffect *VSTPluginMain(audioMasterCallback host);
+
+/// The effect's own entry point, in a library that can also be asked for its class report.
+extern "C" [[gnu::visibility("default")]] AEffect *openEffect(audioMasterCallback host) {
+    return VSTPluginMain(host);
+}
+
+/// What unloading does, but with a report.
+extern "C" [[gnu::visibility("default")]] void endWithReport(const char *path) {
+    Tessitor::Basics::CApplicationInformation::destroyApplicationInformation();
+    Tessitor::Basics::CClass::destroyClassManager(path);
+}
