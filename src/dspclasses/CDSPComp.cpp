@@ -4,15 +4,6 @@
 #include "dspclasses/TDetector.h"
 #include "dspclasses/WideLoop.h"
 
-#include <limits>
-
-/// The parameters as the audio thread works with them for a while.
-struct CDSPComp::SSettings {
-    float thresholdDb, thresholdLinear;
-    SFollower smoother;
-    SGainLaw law;
-};
-
 void CDSPComp::setParameter(int index, float value) {
     if (index == 0 && storeIfNew(thresholdDb, value)) {
         thresholdLinear = linearFromDecibels(value);
@@ -64,12 +55,9 @@ namespace {
 
 /// Reads the samples of a step. In single precision denormals become 0.0, in the input as well.
 [[gnu::always_inline]] inline TFour<float> read(const SStep &step, float *in) {
-    const Floats4 samples = step.load(in).values;
-    const Mask4 isDenormalOrZero =
-        magnitude(TFour<float>{samples}).values < std::numeric_limits<float>::min();
-    const TFour<float> flushed{isDenormalOrZero ? splat(0.0f) : samples};
-    step.store(in, flushed);
-    return flushed;
+    const TFour<float> samples = flushDenormal(step.load(in));
+    step.store(in, samples);
+    return samples;
 }
 [[gnu::always_inline]] inline TFour<double> read(const SStep &step, const double *in) {
     return step.load(in);
@@ -84,7 +72,7 @@ template <typename Sample>
 
 }  // namespace
 
-CDSPComp::SSettings CDSPComp::settings() const {
+SDetectorSettings CDSPComp::settings() const {
     return {
         thresholdDb, thresholdLinear, {attackCoef, releaseCoef}, {slope, makeUpDb, makeUpLinear}};
 }
@@ -127,57 +115,46 @@ void CDSPComp::runLeft(Sample *in, Sample *out, int frames) {
 
 template <typename Sample, typename Levels, typename Apply>
 void CDSPComp::detectLeft(int frames, Levels levels, Apply applyGains) {
+    SDetectorState state{.peak = peakLeft,
+                         .over = overLeft,
+                         .isPeakCleared = isClearedBy<Sample>(peakRight),
+                         .isOverCleared = isClearedBy<Sample>(overRight)};
     TDetector<Sample> detector;
-    float peak = peakLeft, over = overLeft;
-    const bool clearsPeak = isClearedBy<Sample>(peakRight);
-    const bool clearsOver = isClearedBy<Sample>(overRight);
-    SSettings now{};
-    Floats4 gains{};
-    runStaged(
-        frames, [&] { now = settings(); },
-        [&](const SStep &step) { detector.follow(step, levels(step), peak, clearsPeak); },
-        [&](const SStep &step) { detector.measure(step, now.thresholdDb, now.thresholdLinear); },
-        [&](const SStep &step) { detector.smooth(step, now.smoother, over, clearsOver); },
-        [&](const SStep &step) {
-            gains = now.law.gains(detector.isActive(step), detector.oversOf(step));
-            applyGains(step, gains);
-        });
+    const auto settingsNow = [this] { return settings(); };
+    detector.run(state, frames, settingsNow, levels,
+                 [=](const SStep &step, const SGainLaw &law, const Mask4 &isActive,
+                     const Floats4 &overs) { applyGains(step, law.linear(isActive, overs)); });
 
-    const SStep last = SStep::last(frames);
-    peakLeft = peak;
-    overLeft = over;
-    gainDbLeft = now.law.decibels(last.lastOf(detector.isActive(last)), over);
-    gainLeft = last.lastOf(gains);
+    const SGainLaw law = settings().law;
+    peakLeft = state.peak;
+    overLeft = state.over;
+    gainDbLeft = law.decibels(state.isActive, overLeft);
+    gainLeft = law.linear(state.isActive, gainDbLeft);
 }
 
 template <typename Sample>
 void CDSPComp::runRight(Sample *in, Sample *out, int frames) {
+    SDetectorState state{.peak = peakRight,
+                         .over = overRight,
+                         .isPeakCleared = isClearedBy<Sample>(gainDbLeft),
+                         .isOverCleared = isClearedBy<Sample>(thresholdDb)};
     TDetector<Sample> detector;
-    float peak = peakRight, over = overRight;
-    const bool clearsPeak = isClearedBy<Sample>(gainDbLeft);
-    SSettings now{};
-    runStaged(
-        frames, [&] { now = settings(); },
-        [&](const SStep &step) {
-            detector.follow(step, magnitude(read(step, in)), peak, clearsPeak);
-        },
-        [&](const SStep &step) { detector.measure(step, now.thresholdDb, now.thresholdLinear); },
-        [&](const SStep &step) {
-            detector.smooth(step, now.smoother, over, isClearedBy<Sample>(now.thresholdDb));
-        },
-        [&](const SStep &step) {
-            // Kept: the right detector only decides whether the last gain of the left channel
-            // applies here, or the plain make-up.
-            const Mask4 isActive = detector.isActive(step);
-            apply(step, isActive ? splat(gainLeft) : splat(now.law.offsetLinear), in, out);
-        });
+    const auto settingsNow = [this] { return settings(); };
+    const auto levels = [=](const SStep &step) { return magnitude(read(step, in)); };
+    // Kept: the right detector only decides whether the last gain of the left channel applies here,
+    // or the plain make-up.
+    const Floats4 leftGain = splat(gainLeft);
+    detector.run(state, frames, settingsNow, levels,
+                 [=](const SStep &step, const SGainLaw &law, const Mask4 &isActive,
+                     const Floats4 & /*overs*/) {
+                     apply(step, isActive ? leftGain : splat(law.offsetLinear), in, out);
+                 });
 
-    const SStep last = SStep::last(frames);
-    const bool isActive = last.lastOf(detector.isActive(last));
-    peakRight = peak;
-    overRight = over;
-    gainDbRight = now.law.decibels(isActive, overLeft);
-    gainRight = isActive ? gainLeft : now.law.offsetLinear;
+    const SGainLaw law = settings().law;
+    peakRight = state.peak;
+    overRight = state.over;
+    gainDbRight = law.decibels(state.isActive, overLeft);
+    gainRight = state.isActive ? gainLeft : law.offsetLinear;
 }
 
 void CDSPComp::processReplacing(float **in, float **out, int frames) {

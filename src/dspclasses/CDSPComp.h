@@ -4,6 +4,8 @@
 #include "dspclasses/CResetRequest.h"
 #include "dspclasses/TRelaxed.h"
 
+struct SDetectorSettings;
+
 /// Compressor with one detector for both channels (linked) or one for each (separate).
 ///
 /// Parameter 0: threshold, dB. 1: attack, ms. 2: release, ms. 3: ratio, above 0, not checked.
@@ -23,8 +25,7 @@ public:
     void reset() override;
 
 private:
-    struct SSettings;
-    SSettings settings() const;
+    SDetectorSettings settings() const;
     void clear();
 
     template <typename Sample>

@@ -8,17 +8,6 @@
 #include <cmath>
 #include <cstddef>
 
-/// The parameters as the audio thread works with them for a while.
-struct CDSPDeEsser::SSettings {
-    float thresholdDb, thresholdLinear;
-    SFollower smoother;
-    SGainLaw law;
-};
-
-CDSPDeEsser::SSettings CDSPDeEsser::settings() const {
-    return {thresholdDb, thresholdLinear, {attackCoef, releaseCoef}, {slope, 0.0f, 1.0f}};
-}
-
 void CDSPDeEsser::setParameter(int index, float value) {
     if (index == 0 && storeIfNew(thresholdDb, value)) {
         thresholdLinear = linearFromDecibels(value);
@@ -70,7 +59,7 @@ void CDSPDeEsser::clear() {
 template <typename Sample>
 void CDSPDeEsser::SSideChain<Sample>::grow(int frames) {
     const auto needed = static_cast<std::size_t>(frames);
-    if (needed <= left.size())
+    if (needed <= right.size())  // the last one to grow
         return;
     left.assign(needed, 0);
     right.assign(needed, 0);
@@ -83,81 +72,79 @@ static void process(CDSPRBJFilter &filter, double **in, double **out, int frames
     filter.processDoubleReplacing(in, out, frames);
 }
 
-/// Runs the filter, and copies its output if that is what is listened to.
-/// @return whether it is.
 template <typename Sample>
-bool CDSPDeEsser::deriveSideChain(Sample **in, Sample **out, int frames,
-                                  SSideChain<Sample> &chain) {
+void CDSPDeEsser::run(Sample **in, Sample **out, int frames, SSideChain<Sample> &chain) {
     if (resetRequest.take())
         clear();
+    if (frames <= 0)
+        return;
     chain.grow(frames);
     Sample *sides[] = {chain.left.data(), chain.right.data()};
     process(filter, in, sides, frames);
-    if (!listen)
-        return false;
-    std::copy_n(sides[0], frames, out[0]);
-    std::copy_n(sides[1], frames, out[1]);
-    return true;
-}
-
-/// @param isNarrow  whether only what the filter passed is attenuated.
-[[gnu::always_inline]] static inline void apply(const SStep &step, bool isNarrow,
-                                                const Floats4 &gains, const float *in,
-                                                const float *side, float *out) {
-    const Floats4 x = step.load(in).values;
-    if (isNarrow) {
-        const Floats4 s = step.load(side).values;
-        step.store(out, TFour<float>{(x - s) + s * gains});
+    if (listen) {
+        std::copy_n(sides[0], frames, out[0]);
+        std::copy_n(sides[1], frames, out[1]);
     } else {
-        step.store(out, TFour<float>{x * gains});
+        detect(in, out, frames);
     }
 }
 
 void CDSPDeEsser::processReplacing(float **in, float **out, int frames) {
-    if (!deriveSideChain(in, out, frames, side) && frames > 0)
-        runWide([=, this] { detect(in, out, frames); });
+    run(in, out, frames, side);
+}
+
+void CDSPDeEsser::processDoubleReplacing(double **in, double **out, int frames) {
+    run(in, out, frames, doubleSide);
+}
+
+SDetectorSettings CDSPDeEsser::settings() const {
+    return {thresholdDb, thresholdLinear, {attackCoef, releaseCoef}, {slope, floorDb, floorLinear}};
+}
+
+/// @param isNarrow  whether only what the filter passed is attenuated.
+/// @return what comes out for one sample or four.
+template <typename Samples>
+[[gnu::always_inline]] static inline Samples attenuated(const Samples &x, const Samples &s,
+                                                        const Samples &gain, bool isNarrow) {
+    return isNarrow ? (x - s) + s * gain : x * gain;
 }
 
 void CDSPDeEsser::detect(const float *const *in, float *const *out, int frames) {
     const float *inL = in[0], *inR = in[1], *sideL = side.left.data(), *sideR = side.right.data();
     float *outL = out[0], *outR = out[1];
-    TDetector<float> detector;
-    float lastPeak = peak, lastOver = over;
     const bool isNarrow = narrow;
-    SSettings now{};
-    Floats4 gains{};
-    runStaged(
-        frames, [&] { now = settings(); },
-        [&](const SStep &step) {
-            // Kept: in narrow mode the left side sample is compared with itself and never wins.
-            const TFour<float> right = magnitude(step.load(sideR));
-            detector.follow(step, isNarrow ? right : larger(magnitude(step.load(sideL)), right),
-                            lastPeak, false);
-        },
-        [&](const SStep &step) { detector.measure(step, now.thresholdDb, now.thresholdLinear); },
-        [&](const SStep &step) { detector.smooth(step, now.smoother, lastOver, false); },
-        [&](const SStep &step) {
-            gains = now.law.gains(detector.isActive(step), detector.oversOf(step));
-            apply(step, isNarrow, gains, inL, sideL, outL);
-            apply(step, isNarrow, gains, inR, sideR, outR);
-        });
+    const auto settingsNow = [this] { return settings(); };
+    const auto levels = [=](const SStep &step) {
+        // Kept: in narrow mode the left side sample is compared with itself and never wins.
+        const TFour<float> right = magnitude(step.load(sideR));
+        return isNarrow ? right : larger(magnitude(step.load(sideL)), right);
+    };
+    const auto apply = [=](const SStep &step, const SGainLaw &law, const Mask4 &isActive,
+                           const Floats4 &overs) {
+        const SFloats4 gains{law.linear(isActive, overs)};
+        step.store(outL, attenuated(step.load(inL), step.load(sideL), gains, isNarrow));
+        step.store(outR, attenuated(step.load(inR), step.load(sideR), gains, isNarrow));
+    };
+    SDetectorState state{.peak = peak, .over = over};
+    runWide([=, &state] {
+        TDetector<float> detector;
+        detector.run(state, frames, settingsNow, levels, apply);
+    });
 
-    const SStep last = SStep::last(frames);
-    peak = lastPeak;
-    over = lastOver;
-    gainDb = now.law.decibels(last.lastOf(detector.isActive(last)), over);
-    gain = last.lastOf(gains);
+    const SGainLaw law = settings().law;
+    peak = state.peak;
+    over = state.over;
+    gainDb = law.decibels(state.isActive, over);
+    gain = law.linear(state.isActive, gainDb);
 }
 
 // Double precision
 
 /// Kept: the peak is cleared while the last gain is 0 dB, see isClearedBy, and only a peak can move
-/// the gain. So once the gain has come to 0 dB, the detector is asleep until single precision wakes
-/// it up.
-void CDSPDeEsser::processDoubleReplacing(double **in, double **out, int frames) {
-    if (deriveSideChain(in, out, frames, doubleSide))
-        return;
-    const SSettings now = settings();
+/// the gain from there. So once the gain has come to rest, the detector is asleep until single
+/// precision wakes it up.
+void CDSPDeEsser::detect(const double *const *in, double *const *out, int frames) {
+    const SDetectorSettings now = settings();
     const bool isNarrow = narrow;
     int awake = 0;
     for (; awake < frames && !isAsleep(now); ++awake) {
@@ -180,7 +167,7 @@ double CDSPDeEsser::levelAt(int frame, bool isNarrow) const {
     return candidate > sideR ? sideL : sideR;
 }
 
-void CDSPDeEsser::detectFrame(double level, const SSettings &now) {
+void CDSPDeEsser::detectFrame(double level, const SDetectorSettings &now) {
     peak = isClearedBy<double>(gainDb) ? 0.0f : peakFollower.next(peak, level);
     const bool isAbove = peak - now.thresholdLinear > 0.0f;
     const double amount =
@@ -192,18 +179,18 @@ void CDSPDeEsser::detectFrame(double level, const SSettings &now) {
         over = 0.0f;
     const bool isActive = isAbove || over > leastActiveOver;
     gainDb = now.law.decibels(isActive, over);
-    gain = isActive ? linearFromDecibels(gainDb) : now.law.offsetLinear;
+    gain = now.law.linear(isActive, gainDb);
 }
 
 /// @return whether the detector stays inactive whatever the signal is.
-bool CDSPDeEsser::isAsleep(const SSettings &now) const {
+bool CDSPDeEsser::isAsleep(const SDetectorSettings &now) const {
     const float release = now.smoother.releaseCoef;
     return isClearedBy<double>(gainDb) && over >= -smoothingBias && over <= leastActiveOver &&
            release >= 0.0f && release <= 1.0f;
 }
 
 /// What remains of detectFrame while asleep.
-void CDSPDeEsser::sleep(int frames, const SSettings &now) {
+void CDSPDeEsser::sleep(int frames, const SDetectorSettings &now) {
     peak = 0.0f;
     gainDb = now.law.offsetDb;
     gain = now.law.offsetLinear;
@@ -211,10 +198,11 @@ void CDSPDeEsser::sleep(int frames, const SSettings &now) {
         over = 0.0f;
         return;
     }
+    const float release = now.smoother.releaseCoef;
     for (int i = 0; i < frames; ++i) {
         const float before = over;
-        over = (over + smoothingBias) * now.smoother.releaseCoef - smoothingBias;
-        if (over == before)
+        over = (over + smoothingBias) * release - smoothingBias;
+        if (over == before)  // at rest
             return;
     }
 }
@@ -228,6 +216,6 @@ void CDSPDeEsser::write(const double *const *in, double *const *out, int first, 
         const double *x = in[channel] + first, *s = sides[channel] + first;
         double *y = out[channel] + first;
         for (int i = 0; i < count; ++i)
-            y[i] = isNarrow ? (x[i] - s[i]) + s[i] * factor : x[i] * factor;
+            y[i] = attenuated(x[i], s[i], factor, isNarrow);
     }
 }

@@ -7,6 +7,8 @@
 
 #include <vector>
 
+struct SDetectorSettings;
+
 /// De-esser: a high-pass filter derives a side chain, and one detector on both of its channels
 /// attenuates the whole signal (wide) or only what the filter passes (narrow).
 ///
@@ -14,14 +16,15 @@
 /// 3: frequency, Hz. 4: band, from 0.5 narrow, below wide. 5: listen, from 0.5 the side chain is
 /// what comes out, and the detector stands still.
 ///
+/// Denormal input samples become 0.0 in the input buffers as well. A block that is longer than 512
+/// frames and than any before in its precision allocates.
+///
 /// The two precisions are deliberately not equivalent: in double precision the detector does not
 /// rise above the threshold, and the signal passes unchanged.
 class CDSPDeEsser : public CDSPBase {
 public:
     void setParameter(int index, float value) override;
     float getParameter(int index) override;
-    /// Denormal input samples become 0.0 in the input buffers as well. Allocates for a block that
-    /// is longer than 512 frames and than any before.
     void processReplacing(float **in, float **out, int frames) override;
     void processDoubleReplacing(double **in, double **out, int frames) override;
     void reset() override;
@@ -34,17 +37,17 @@ private:
 
         void grow(int frames);
     };
-    struct SSettings;
 
     void clear();
-    SSettings settings() const;
+    SDetectorSettings settings() const;
     template <typename Sample>
-    bool deriveSideChain(Sample **in, Sample **out, int frames, SSideChain<Sample> &chain);
+    void run(Sample **in, Sample **out, int frames, SSideChain<Sample> &chain);
     void detect(const float *const *in, float *const *out, int frames);
+    void detect(const double *const *in, double *const *out, int frames);
     double levelAt(int frame, bool isNarrow) const;
-    void detectFrame(double level, const SSettings &now);
-    bool isAsleep(const SSettings &now) const;
-    void sleep(int frames, const SSettings &now);
+    void detectFrame(double level, const SDetectorSettings &now);
+    bool isAsleep(const SDetectorSettings &now) const;
+    void sleep(int frames, const SDetectorSettings &now);
     void write(const double *const *in, double *const *out, int first, int count,
                bool isNarrow) const;
 
@@ -63,8 +66,10 @@ private:
     float gainDb = 0.0f;  // last gain
     float gain = 1.0f;
     TRelaxed<float> ratio = 1.0f;
+    float floorDb = 0.0f;  // of the gain law; no parameter sets it
     // Kept: not that of ratio 1. Until the ratio is first changed, the gain rises with the amount.
     TRelaxed<float> slope = 1.0f;
+    float floorLinear = 1.0f;
     TRelaxed<bool> narrow = false;
     TRelaxed<bool> listen = false;
     TRelaxed<float> frequency = 1000.0f;  // Hz

@@ -56,23 +56,26 @@ struct SMovingGain {
     float decibels;
     float exponent;
 
+    bool isBelowOne() const { return exponent < -0x1p-25f; }        // else it rounds to 1
+    bool isAboveZero() const { return exponent > -0x1.9fe36ap6f; }  // else it rounds to 0
+
     /// @return whether the frames of a step, one bit each, leave the gain where it is.
     bool rests(int openFrames, int allFrames) const {
         if (openFrames == allFrames)
-            return exponent == ofOne;
-        return openFrames == 0 && (exponent == ofZero || decibels == 0.0f);
+            return !isBelowOne();
+        return openFrames == 0 && (!isAboveZero() || decibels == 0.0f);
     }
 
     /// Moves on by one frame.
     void move(bool isOpen) {
-        if (isOpen && exponent < ofOne) {
+        if (isOpen && isBelowOne()) {
             decibels = attackFactor * decibels;
             exponent = decibels * exponentPerDecibel;
             if (decibels > openDb) {
                 decibels = restDb;
                 exponent = ofOne;
             }
-        } else if (!isOpen && exponent > ofZero) {
+        } else if (!isOpen && isAboveZero()) {
             decibels = releaseFactor * decibels;
             exponent = decibels * exponentPerDecibel;
             if (decibels < closedDb) {
@@ -87,7 +90,7 @@ struct SMovingGain {
     const Mask4 areOne = exponents == SMovingGain::ofOne;
     if (laneBits(areOne | (exponents == SMovingGain::ofZero)) == 0xf)
         return areOne ? splat(1.0f) : splat(0.0f);
-    return expSingle(SFloats4{exponents}).lanes;
+    return expSingle(SFloats4{exponents}).values;
 }
 
 /// Silence ends in a denormal that rounding keeps from falling further. It must stay: while the
@@ -115,52 +118,52 @@ void CDSPGate::run(const Sample *const *in, Sample *const *out, int frames) {
 template <typename Sample>
 void CDSPGate::runSteps(const Sample *inL, const Sample *inR, Sample *outL, Sample *outR,
                         int frames) {
+    TRing<Floats4> peaks;
     float lastPeak = peak;
-    Floats4 peaks[ringSteps];
     const auto followPeaks = [&](const SStep &step) {
         const TFour<Sample> levels = larger(magnitude(step.load(inL)), magnitude(step.load(inR)));
-        if (standsStill(lastPeak, levels))
-            peaks[step.slot] = splat(lastPeak);
-        else
-            peaks[step.slot] = followFour(peakFollower, lastPeak, levels);
-        if (!step.isWhole())
-            lastPeak = step.lastOf(peaks[step.slot]);
+        peaks[step] = standsStill(lastPeak, levels) ? splat(lastPeak)
+                                                    : followFour(peakFollower, lastPeak, levels);
     };
+
+    float threshold = 0.0f;
+    TRing<Mask4> isOpen;
+    const auto detect = [&](const SStep &step) { isOpen[step] = peaks[step] - threshold > 0.0f; };
 
     const float startExponent = gain == 0.0f   ? SMovingGain::ofZero
                                 : gain == 1.0f ? SMovingGain::ofOne
                                                : gainDb * exponentPerDecibel;
     SMovingGain moving{0.0f, 0.0f, restDb<Sample>, gainDb, startExponent};
-    Floats4 threshold{};
-    const auto refresh = [&] {
-        moving.attackFactor = attackFactor;
-        moving.releaseFactor = releaseFactor;
-        threshold = splat(thresholdLinear);
-    };
-    Floats4 exponents[ringSteps];
+    TRing<Floats4> exponents;
     const auto moveGain = [&](const SStep &step) {
         const int allFrames = (1 << step.count) - 1;
-        const Mask4 isOpen = peaks[step.slot] - threshold > 0.0f;
-        const int openFrames = laneBits(isOpen) & allFrames;
-        open = (openFrames >> (step.count - 1)) != 0;
-        exponents[step.slot] = splat(moving.exponent);
+        const int openFrames = laneBits(isOpen[step]) & allFrames;
+        exponents[step] = splat(moving.exponent);
         if (moving.rests(openFrames, allFrames))
             return;
         for (int i = 0; i < step.count; ++i) {
             moving.move((openFrames >> i & 1) != 0);
-            exponents[step.slot][i] = moving.exponent;
+            exponents[step][i] = moving.exponent;
         }
     };
 
     const auto applyGain = [&](const SStep &step) {
         const auto gains =
-            __builtin_convertvector(gainsOf(exponents[step.slot]), typename TFour<Sample>::Values);
+            __builtin_convertvector(gainsOf(exponents[step]), typename TFour<Sample>::Values);
         step.store(outL, TFour<Sample>{step.load(inL).values * gains});
         step.store(outR, TFour<Sample>{step.load(inR).values * gains});
     };
-    runStaged(frames, refresh, followPeaks, moveGain, applyGain);
 
-    peak = lastPeak;
+    const auto refresh = [&] {
+        moving.attackFactor = attackFactor;
+        moving.releaseFactor = releaseFactor;
+        threshold = thresholdLinear;
+    };
+    runStaged(frames, refresh, followPeaks, detect, moveGain, applyGain);
+
+    const SStep last = SStep::last(frames);
+    peak = last.lastOf(peaks[last]);
+    open = last.lastOf(isOpen[last]) != 0;
     gainDb = moving.decibels;
     gain = expSingle(moving.exponent);
 }

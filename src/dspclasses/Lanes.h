@@ -2,19 +2,16 @@
 
 #include <emmintrin.h>
 
+#include <cstdint>
 #include <limits>
+#include <type_traits>
 
-/// Thin names for the SSE2 registers that every x86-64 processor has. Each lane computes exactly
-/// what the scalar operation would, so a kernel on lanes gives the same bits as one without.
+/// Thin names for the registers of the processor. Each lane computes exactly what the scalar
+/// operation would, so a kernel on lanes gives the same bits as one without.
 
 /// Two doubles: in the recursive modules the left channel and the right.
 struct SDoubles2 {
     __m128d lanes;
-};
-
-/// Four floats: in the modules mostly four frames of one channel.
-struct SFloats4 {
-    __m128 lanes;
 };
 
 inline SDoubles2 pair(double first, double second) {
@@ -69,36 +66,85 @@ inline bool hasAnyBit(SDoubles2 a) {
     return _mm_movemask_epi8(clear) != 0xffff;
 }
 
-inline SFloats4 loadFour(const float *from) {
-    return {_mm_loadu_ps(from)};
-}
-inline void storeFour(float *to, SFloats4 a) {
-    _mm_storeu_ps(to, a.lanes);
-}
-
-inline SFloats4 operator+(SFloats4 a, SFloats4 b) {
-    return {_mm_add_ps(a.lanes, b.lanes)};
-}
-inline SFloats4 operator-(SFloats4 a, SFloats4 b) {
-    return {_mm_sub_ps(a.lanes, b.lanes)};
-}
-inline SFloats4 operator*(SFloats4 a, SFloats4 b) {
-    return {_mm_mul_ps(a.lanes, b.lanes)};
-}
-
 inline SDoubles2 magnitude(SDoubles2 a) {
     return {_mm_andnot_pd(_mm_set1_pd(-0.0), a.lanes)};
 }
-inline SFloats4 magnitude(SFloats4 a) {
-    return {_mm_andnot_ps(_mm_set1_ps(-0.0f), a.lanes)};
-}
-
 /// flushDenormal in every lane. "Not less than" and not "at least", so that a NaN stays.
 inline SDoubles2 flushDenormal(SDoubles2 a) {
     const __m128d smallest = _mm_set1_pd(std::numeric_limits<double>::min());
     return {_mm_and_pd(a.lanes, _mm_cmpnlt_pd(magnitude(a).lanes, smallest))};
 }
+
+/// Values as a vector of the compiler, which has the operators of its elements: comparisons give
+/// masks, and mask ? a : b selects. Four doubles are one register of AVX2 and two of SSE2, so
+/// functions take and return the structure, and those on four doubles are always in line.
+template <typename Value, int count>
+struct TLanes {
+    using Word = std::conditional_t<sizeof(Value) == 4, std::uint32_t, std::uint64_t>;
+    using Values [[gnu::vector_size(count * sizeof(Value))]] = Value;
+    using Bits [[gnu::vector_size(count * sizeof(Value))]] = Word;
+    /// The same anywhere in an array.
+    using InArray
+        [[gnu::vector_size(count * sizeof(Value)), gnu::aligned(sizeof(Value)), gnu::may_alias]] =
+            Value;
+    Values values;
+};
+
+/// In the modules mostly four frames of one channel.
+template <typename Value>
+using TFour = TLanes<Value, 4>;
+using SFloats4 = TFour<float>;
+
+/// The bare vector, and what a comparison of two of them gives.
+using Floats4 = SFloats4::Values;
+using Mask4 = decltype(Floats4{} > Floats4{});
+
+inline Floats4 splat(float value) {
+    return Floats4{value, value, value, value};
+}
+
+/// @return one bit per lane: those that are set.
+inline int laneBits(const Mask4 &mask) {
+    return _mm_movemask_ps(reinterpret_cast<__m128>(mask));
+}
+inline bool isAnySet(const Mask4 &mask) {
+    return laneBits(mask) != 0;
+}
+
+inline SFloats4 operator+(SFloats4 a, SFloats4 b) {
+    return {a.values + b.values};
+}
+inline SFloats4 operator-(SFloats4 a, SFloats4 b) {
+    return {a.values - b.values};
+}
+inline SFloats4 operator*(SFloats4 a, SFloats4 b) {
+    return {a.values * b.values};
+}
+
+template <typename Value>
+[[gnu::always_inline]] inline TFour<Value> loadFour(const Value *from) {
+    return {*reinterpret_cast<const typename TFour<Value>::InArray *>(from)};
+}
+template <typename Value>
+[[gnu::always_inline]] inline void storeFour(Value *to, const TFour<Value> &four) {
+    *reinterpret_cast<typename TFour<Value>::InArray *>(to) = four.values;
+}
+
+template <typename Value>
+[[gnu::always_inline]] inline TFour<Value> magnitude(const TFour<Value> &a) {
+    using Four = TFour<Value>;
+    constexpr auto allButSign = static_cast<typename Four::Word>(-1) >> 1;
+    const auto bits = reinterpret_cast<typename Four::Bits>(a.values) & allButSign;
+    return {reinterpret_cast<typename Four::Values>(bits)};
+}
+
+/// The larger of each lane; b's where they are equal or one is a NaN.
+template <typename Value>
+[[gnu::always_inline]] inline TFour<Value> larger(const TFour<Value> &a, const TFour<Value> &b) {
+    return {a.values > b.values ? a.values : b.values};
+}
+
+/// flushDenormal in every lane.
 inline SFloats4 flushDenormal(SFloats4 a) {
-    const __m128 smallest = _mm_set1_ps(std::numeric_limits<float>::min());
-    return {_mm_and_ps(a.lanes, _mm_cmpnlt_ps(magnitude(a).lanes, smallest))};
+    return {magnitude(a).values < std::numeric_limits<float>::min() ? splat(0.0f) : a.values};
 }

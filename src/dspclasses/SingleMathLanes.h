@@ -2,8 +2,6 @@
 
 #include "dspclasses/Lanes.h"
 
-#include <cstdint>
-
 /// SingleMath for one or for four lanes at a time. Four doubles are one register of AVX2, and two
 /// of SSE2 stand in for it elsewhere: call the forms of four inside runWide. All is inlined.
 ///
@@ -12,11 +10,7 @@
 /// polynomials that happens to none: a tool beside the tests runs through every float.
 
 template <int lanes>
-struct TDoubles {
-    using Values [[gnu::vector_size(8 * lanes)]] = double;
-    using Bits [[gnu::vector_size(8 * lanes)]] = std::uint64_t;
-    Values values;
-};
+using TDoubles = TLanes<double, lanes>;
 
 /// A result in double precision before its last rounding.
 template <int lanes>
@@ -96,10 +90,10 @@ template <int lanes>
 }
 
 [[gnu::always_inline]] inline TDoubles<4> widened(const SFloats4 &x) {
-    return {__builtin_convertvector(x.lanes, TDoubles<4>::Values)};
+    return {__builtin_convertvector(x.values, TDoubles<4>::Values)};
 }
 [[gnu::always_inline]] inline SFloats4 rounded(const TDoubles<4> &x) {
-    return {__builtin_convertvector(x.values, __m128)};
+    return {__builtin_convertvector(x.values, Floats4)};
 }
 
 /// What a float can be the exponent of: beyond, a float holds only 0 and infinity.
@@ -108,7 +102,7 @@ inline constexpr float lowestExponent = -110.0f, highestExponent = 100.0f;
 /// expSingle in every lane.
 [[gnu::always_inline]] inline SFloats4 expSingle(const SFloats4 &x) {
     // The second operand is the one that a NaN in it survives.
-    const __m128 capped = _mm_min_ps(_mm_set1_ps(highestExponent), x.lanes);
+    const __m128 capped = _mm_min_ps(_mm_set1_ps(highestExponent), x.values);
     return rounded(expDoubles(widened({_mm_max_ps(_mm_set1_ps(lowestExponent), capped)})));
 }
 

@@ -1,32 +1,27 @@
 #pragma once
 
-#include "dspclasses/FourFrames.h"
+#include "dspclasses/Lanes.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <cstring>
 
 /// Takes a block through stages, four frames at a step. A recursion spends most of its time waiting
-/// for its own last result. Here each stage works some steps behind the one before, on what that
-/// has long finished, so that the processor fills the waiting of one with the work of the others.
-
-/// How many steps a stage works behind the one before.
-inline constexpr int stageLag = 2;
-
-/// Stages hand their results on in rings, by SStep::slot.
-inline constexpr int ringSteps = 8;
+/// for its own last result. Here each stage works one step behind the one before, on what that has
+/// long finished, so that the processor fills the waiting of one with the work of the others. Stage
+/// by stage over longer stretches, or all stages on the same step, the compressor takes half as
+/// long again.
 
 /// Four frames, or the one to three that are left at the end of the block.
 struct SStep {
     int first;
     int count;
-    int slot;
 
-    SStep(int number, int frames)
-        : first(4 * number), count(std::min(4, frames - first)), slot(number & (ringSteps - 1)) {}
-    static SStep whole(int number) { return {number, 4 * number + 4}; }
     static int countIn(int frames) { return (frames + 3) / 4; }
-    static SStep last(int frames) { return {countIn(frames) - 1, frames}; }
+    static SStep at(int number, int frames) {
+        return {4 * number, std::min(4, frames - 4 * number)};
+    }
+    static SStep last(int frames) { return at(countIn(frames) - 1, frames); }
 
     bool isWhole() const { return count == 4; }
 
@@ -34,7 +29,7 @@ struct SStep {
     template <typename Sample>
     [[gnu::always_inline]] TFour<Sample> load(const Sample *block) const {
         if (isWhole()) [[likely]]
-            return {*reinterpret_cast<const typename TFour<Sample>::InArray *>(block + first)};
+            return loadFour(block + first);
         TFour<Sample> four{};
         std::memcpy(&four, block + first, static_cast<std::size_t>(count) * sizeof(Sample));
         return four;
@@ -43,7 +38,7 @@ struct SStep {
     template <typename Sample>
     [[gnu::always_inline]] void store(Sample *block, const TFour<Sample> &four) const {
         if (isWhole()) [[likely]]
-            *reinterpret_cast<typename TFour<Sample>::InArray *>(block + first) = four.values;
+            storeFour(block + first, four);
         else
             std::memcpy(block + first, &four, static_cast<std::size_t>(count) * sizeof(Sample));
     }
@@ -55,27 +50,38 @@ struct SStep {
     }
 };
 
-template <typename Stage>
-[[gnu::always_inline]] inline void runStage(Stage &stage, int number, int frames) {
-    if (number >= 0 && number < SStep::countIn(frames))
-        stage(SStep(number, frames));
-}
+/// What one stage leaves for those behind it, step by step.
+template <typename Result>
+class TRing {
+public:
+    static constexpr int steps = 4;
+
+    Result &operator[](const SStep &step) { return m_results[step.first / 4U % steps]; }
+    const Result &operator[](const SStep &step) const { return m_results[step.first / 4U % steps]; }
+
+private:
+    Result m_results[steps];
+};
 
 /// Calls every stage with every step of a block, in order.
 /// @param refresh  called every 64 frames: reads what another thread may have set.
-/// @param stages   called as stage(SStep); each reads what the one before it left in a ring.
+/// @param stages   called as stage(SStep); each reads what the others left in a TRing.
 template <typename Refresh, typename... Stages>
 [[gnu::always_inline]] inline void runStaged(int frames, Refresh refresh, Stages... stages) {
-    constexpr int lastLag = stageLag * (static_cast<int>(sizeof...(stages)) - 1);
-    static_assert(lastLag < ringSteps);
-    const int wholeSteps = frames / 4;
-    for (int leading = 0; leading < SStep::countIn(frames) + lastLag; ++leading) {
+    constexpr int lastLag = static_cast<int>(sizeof...(stages)) - 1;
+    static_assert(lastLag < TRing<int>::steps);
+    const int steps = SStep::countIn(frames), wholeSteps = frames / 4;
+    const auto runPart = [=](auto &stage, int number) {
+        if (number >= 0 && number < steps)
+            stage(SStep::at(number, frames));
+    };
+    for (int leading = 0; leading < steps + lastLag; ++leading) {
         if (leading % 16 == 0)
             refresh();
-        int number = leading + stageLag;
+        int number = leading;
         if (leading >= lastLag && leading < wholeSteps) [[likely]]
-            (stages(SStep::whole(number -= stageLag)), ...);
+            (stages(SStep{4 * number--, 4}), ...);
         else
-            (runStage(stages, number -= stageLag, frames), ...);
+            (runPart(stages, number--), ...);
     }
 }

@@ -27,51 +27,84 @@ inline constexpr float smoothingBias = 1e-20f;
 /// A smoothed amount over this keeps the detector active after the signal has fallen back.
 inline constexpr float leastActiveOver = 0.01f;
 
-/// The detector of the compressor and the de-esser, in three stages, see StagedLoop.h. A fast
-/// follower of peaks decides whether the signal is above the threshold; if so, the level at that
-/// moment gives the amount; a slower follower smooths the amount.
-///
-/// The running states are the caller's, so that they can stay in registers. Both keep single
-/// precision. isCleared: this clears the state at every frame, see isClearedBy.
+/// The gain that follows from the smoothed amount while the detector is active: it is above the
+/// threshold, or on its way back.
+struct SGainLaw {
+    float slope;
+    float offsetDb;
+    float offsetLinear;
+
+    /// @return in dB, of one frame.
+    float decibels(bool isActive, float over) const {
+        return isActive ? slope * over + offsetDb : offsetDb;
+    }
+    /// @return linear, from those decibels.
+    float linear(bool isActive, float gainDb) const {
+        return isActive ? linearFromDecibels(gainDb) : offsetLinear;
+    }
+
+    /// @return linear, of four frames. The exponential runs only where the detector is active.
+    [[gnu::always_inline]] Floats4 linear(const Mask4 &isActive, const Floats4 &overs) const {
+        if (!isAnySet(isActive))
+            return splat(offsetLinear);
+        const Floats4 exponents = (slope * overs + offsetDb) * exponentPerDecibel;
+        return isActive ? expSingle(SFloats4{exponents}).values : splat(offsetLinear);
+    }
+};
+
+/// The parameters as the audio thread works with them for a while.
+struct SDetectorSettings {
+    float thresholdDb, thresholdLinear;
+    SFollower smoother;
+    SGainLaw law;
+};
+
+/// What the detector knows between blocks, in single precision also where the samples are doubles.
+struct SDetectorState {
+    float peak;
+    float over;  // smoothed amount over the threshold
+    // Whether every frame clears the two, see isClearedBy.
+    bool isPeakCleared = false, isOverCleared = false;
+    // Whether the last frame of the block was active.
+    bool isActive = false;
+};
+
+/// The detector of the compressor and the de-esser. A fast follower of peaks decides whether the
+/// signal is above the threshold; if so, the level at that moment gives the amount; a slower
+/// follower smooths the amount.
 template <typename Sample>
 class TDetector {
 public:
     using Four = TFour<Sample>;
 
-    /// First stage.
-    /// @param peak  of the frame before; becomes that of the last frame.
-    [[gnu::always_inline]] void follow(const SStep &step, const Four &levels, float &peak,
-                                       bool isCleared) {
-        m_levels[step.slot] = levels;
-        m_peaks[step.slot] = isCleared ? cleared(peak) : followed(levels, peak);
-        if (!step.isWhole())
-            peak = step.lastOf(m_peaks[step.slot]);
-    }
+    /// Takes the state from before the block to after it.
+    /// @param frames    at least 1.
+    /// @param settings  () -> SDetectorSettings, called every 64 frames.
+    /// @param levels    (SStep) -> Four.
+    /// @param apply     (SStep, SGainLaw, whether each frame is active, its smoothed amount).
+    template <typename Settings, typename Levels, typename Apply>
+    [[gnu::always_inline]] void run(SDetectorState &state, int frames, Settings settings,
+                                    Levels levels, Apply apply) {
+        SDetectorSettings now{};
+        float peak = state.peak, over = state.over;
+        const bool isPeakCleared = state.isPeakCleared, isOverCleared = state.isOverCleared;
+        runStaged(
+            frames, [&] { now = settings(); },
+            [&](const SStep &step) {
+                m_levels[step] = levels(step);
+                m_peaks[step] = isPeakCleared ? cleared(peak) : followed(m_levels[step], peak);
+            },
+            [&](const SStep &step) { measure(step, now); },
+            [&](const SStep &step) {
+                m_overs[step] = isOverCleared ? cleared(over) : smoothed(step, now.smoother, over);
+            },
+            [&](const SStep &step) { apply(step, now.law, activeIn(step), m_overs[step]); });
 
-    /// Second stage. The logarithm runs only where the detector is above the threshold.
-    [[gnu::always_inline]] void measure(const SStep &step, float thresholdDb,
-                                        float thresholdLinear) {
-        const Mask4 above = m_peaks[step.slot] - splat(thresholdLinear) > 0.0f;
-        m_above[step.slot] = above;
-        m_amounts[step.slot] =
-            isAnySet(above) ? amountsWhere(above, m_levels[step.slot], thresholdDb) : Four{};
+        const SStep last = SStep::last(frames);
+        state.peak = last.lastOf(m_peaks[last]);
+        state.over = last.lastOf(m_overs[last]);
+        state.isActive = last.lastOf(activeIn(last)) != 0;
     }
-
-    /// Third stage.
-    /// @param over  the smoothed amount of the frame before; becomes that of the last frame.
-    [[gnu::always_inline]] void smooth(const SStep &step, const SFollower &smoother, float &over,
-                                       bool isCleared) {
-        m_overs[step.slot] = isCleared ? cleared(over) : smoothed(step, smoother, over);
-        if (!step.isWhole())
-            over = step.lastOf(m_overs[step.slot]);
-    }
-
-    /// @return the frames at which the detector decides on the gain: it is above the threshold, or
-    ///         on its way back.
-    Mask4 isActive(const SStep &step) const {
-        return m_above[step.slot] | (m_overs[step.slot] > leastActiveOver);
-    }
-    Floats4 oversOf(const SStep &step) const { return m_overs[step.slot]; }
 
 private:
     static constexpr bool isSingle = std::is_same_v<Sample, float>;
@@ -79,6 +112,18 @@ private:
     static constexpr float bias = smoothingBias;
     /// The bias changes no bit of a float of this magnitude.
     static constexpr float leastUnbiased = 0x1p-40f;
+
+    /// The logarithm runs only where the detector is above the threshold.
+    [[gnu::always_inline]] void measure(const SStep &step, const SDetectorSettings &now) {
+        const Mask4 above = m_peaks[step] - now.thresholdLinear > 0.0f;
+        m_above[step] = above;
+        m_amounts[step] =
+            isAnySet(above) ? amountsWhere(above, m_levels[step], now.thresholdDb) : Four{};
+    }
+
+    Mask4 activeIn(const SStep &step) const {
+        return m_above[step] | (m_overs[step] > leastActiveOver);
+    }
 
     static Floats4 cleared(float &state) {
         state = 0.0f;
@@ -109,28 +154,29 @@ private:
                                                     float thresholdDb) {
         constexpr Sample scale{exponentPerDecibel};
         if constexpr (isSingle) {
-            const Floats4 logs = logSingle(SFloats4{levels.values + bias}).lanes;
-            return {above ? logs * scale - splat(thresholdDb) : splat(0.0f)};
+            const Floats4 logs = logSingle({levels.values + bias}).values;
+            return {above ? logs * scale - thresholdDb : splat(0.0f)};
         } else {
-            const auto sum = logDoubles(TDoubles<4>{levels.values + double{bias}});
+            const auto sum = logDoubles(Four{levels.values + double{bias}});
             const auto amounts = (sum.high + sum.low) * scale - double{thresholdDb};
             const auto wide = __builtin_convertvector(above, decltype(amounts > amounts));
             return {wide ? amounts : typename Four::Values{}};
         }
     }
 
-    /// The usual steps leave out the part of the bias that changes nothing.
+    /// The plain form stands at the end. It cannot end in a denormal, so nothing is flushed here.
     [[gnu::always_inline]] Floats4 smoothed(const SStep &step, const SFollower &smoother,
                                             float &over) const {
-        const Four &amounts = m_amounts[step.slot];
+        const Four &amounts = m_amounts[step];
         const float before = over, release = smoother.releaseCoef;
-        if (before >= -bias && release >= 0.0f && !isAnySet(m_above[step.slot]))
+        // Below the threshold it only falls, towards -bias.
+        if (before >= -bias && release >= 0.0f && !isAnySet(m_above[step]))
             return recurFour(over, amounts, [release](float falling, Sample) {
                 return (falling + bias) * release - bias;
             });
         if (std::abs(before) >= leastUnbiased) [[likely]] {
             const Floats4 overs = followFour(smoother, over, amounts);
-            const Floats4 magnitudes = magnitude(TFour<float>{overs}).values;
+            const Floats4 magnitudes = magnitude(SFloats4{overs}).values;
             if (!isAnySet(magnitudes < leastUnbiased)) [[likely]]
                 return overs;
         }
@@ -146,29 +192,9 @@ private:
         });
     }
 
-    Four m_levels[ringSteps];
-    Floats4 m_peaks[ringSteps];
-    Mask4 m_above[ringSteps];
-    Four m_amounts[ringSteps];
-    Floats4 m_overs[ringSteps];
-};
-
-/// The gain that follows from the smoothed amount.
-struct SGainLaw {
-    float slope;
-    float offsetDb;
-    float offsetLinear;
-
-    /// @return in dB, of one frame.
-    float decibels(bool isActive, float over) const {
-        return isActive ? slope * over + offsetDb : offsetDb;
-    }
-
-    /// @return linear. The exponential runs only where the detector is active.
-    [[gnu::always_inline]] Floats4 gains(const Mask4 &isActive, const Floats4 &overs) const {
-        if (!isAnySet(isActive))
-            return splat(offsetLinear);
-        const Floats4 exponents = (slope * overs + offsetDb) * exponentPerDecibel;
-        return isActive ? expSingle(SFloats4{exponents}).lanes : splat(offsetLinear);
-    }
+    TRing<Four> m_levels;
+    TRing<Floats4> m_peaks;
+    TRing<Mask4> m_above;
+    TRing<Four> m_amounts;
+    TRing<Floats4> m_overs;
 };
