@@ -1,6 +1,7 @@
 // What the streams say of a file that takes nothing more.
 #include "foundation/CFileStream.h"
 #include "foundation/CTextStream.h"
+#include "foundation/CXMLDocument.h"
 
 #include <gtest/gtest.h>
 
@@ -39,6 +40,12 @@ TEST(FullDisk, RefusesMoreThanTheBufferHolds) {
     const std::string bytes(1 << 20, 'x');
     EXPECT_FALSE(stream.write(bytes.data(), bytes.size()));
     EXPECT_FALSE(stream.hasFailed());
+}
+
+TEST(FullDisk, FailsADocument) {
+    Tessitor::IO::CXMLDocument document;
+    document.setRootNode(new Tessitor::IO::CXMLNode("root", nullptr));
+    EXPECT_FALSE(document.writeFile(fullDisk));
 }
 
 }  // namespace

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "foundation/CString.h"
+
+namespace Tessitor::IO {
+
+/// A name and a value of a node. Numbers become text with "%f", "%li" and "%d" and are read as
+/// CString's functions read them, both with a point whatever the locale of the host; a bool is
+/// "True" or "False".
+class CXMLAttribute : public Basics::CCountedObject {
+public:
+    /// @param name  loses the white space at its ends, and has each blank replaced with "_". Of a
+    ///              single letter nothing is left, as CString::removeTrailingWhiteSpace() tells.
+    /// @param value  of any type that setValue() takes.
+    template <typename Value>
+    CXMLAttribute(const Basics::CString &name, const Value &value) : CXMLAttribute(name) {
+        setValue(value);
+    }
+    CXMLAttribute(const CXMLAttribute &) = delete;
+    CXMLAttribute &operator=(const CXMLAttribute &) = delete;
+    ~CXMLAttribute() override { s_class.decrementInstanceCount(); }
+    Basics::CClass &getClass() const override { return s_class; }
+
+    void setValue(const Basics::CString &value);
+    void setValue(const char *value);  ///< null is ignored
+    void setValue(bool value);
+    void setValue(double value);
+    void setValue(float value);
+    void setValue(long value);
+    void setValue(int value);
+
+    const Basics::CString &getName() const { return m_name; }
+    const Basics::CString &getValue() const { return m_value; }
+    double getValueAsDouble() const;
+    float getValueAsFloat() const;
+    long getValueAsLong() const;
+    int getValueAsInt() const;
+    bool getValueAsBool() const;  ///< true for "True" and for nothing else
+
+private:
+    explicit CXMLAttribute(const Basics::CString &name);
+
+    static Basics::TClassRecord<CXMLAttribute> s_class;
+
+    Basics::CString m_name;
+    Basics::CString m_value;
+};
+
+}  // namespace Tessitor::IO
