@@ -1,0 +1,17 @@
+#include "abi/GoldenSound.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+TEST(GoldenSound, OfEveryProgramIsWhatItWas) {
+    std::ifstream file(CORVEL_GOLDEN_FILE);
+    std::vector<std::string> expected;
+    for (std::string line; std::getline(file, line);) {
+        if (!line.starts_with('#'))
+            expected.push_back(line);
+    }
+    EXPECT_THAT(goldenSound(), testing::ElementsAreArray(expected))
+        << "scripts/golden.sh writes the table anew where the sound was changed on purpose";
+}
