@@ -10,8 +10,21 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <memory>
+#include <utility>
 
 static constexpr const char *sourceName = "dspclasses/DelayLine";
+
+/// Never changes but for its samples, so that a run finds a mask that fits.
+struct DelayLine::SBuffer {
+    explicit SBuffer(std::uint32_t samples)
+        : capacity(samples), memory(std::make_unique<float[]>(std::size_t{samples} + 1)) {}
+
+    std::uint32_t capacity;  // samples, a power of two
+    // memory[0] repeats the last sample, so that every one has its older neighbour beside it.
+    std::unique_ptr<float[]> memory;
+    SBuffer *older = nullptr;
+};
 
 /// The line as a run of frames finds it.
 struct DelayLine::SRing {
@@ -65,26 +78,40 @@ static std::uint32_t roundedUpToPowerOfTwo(std::uint32_t size) {
     return wholeCount(powSingle(2.0f, std::ceil(static_cast<float>(exponent))));
 }
 
-DelayLine::DelayLine(std::uint32_t size) {
-    resize(size);
+static std::uint32_t capacityFor(std::uint32_t size) {
+    return roundedUpToPowerOfTwo(size == 0 ? 2 : size);
+}
+
+DelayLine::DelayLine(std::uint32_t size) : buffer(new SBuffer(capacityFor(size))) {}
+
+DelayLine::~DelayLine() {
+    for (const SBuffer *newest = buffer; newest != nullptr;)
+        delete std::exchange(newest, newest->older);
 }
 
 void DelayLine::resize(std::uint32_t size) {
-    const std::uint32_t newCapacity = roundedUpToPowerOfTwo(size == 0 ? 2 : size);
-    if (newCapacity <= capacity)
+    const std::uint32_t capacity = capacityFor(size);
+    SBuffer *present = buffer.load(std::memory_order_acquire);
+    if (capacity <= present->capacity)
         return;
-    buffers.push_back(std::make_unique<float[]>(std::size_t{newCapacity} + 1));
-    // The buffer before its mask, and ring() takes them the other way round: an old mask fits the
-    // new buffer too.
-    buffer.store(buffers.back().get() + 1, std::memory_order_release);
-    mask.store(newCapacity - 1, std::memory_order_release);
-    capacity = newCapacity;
-    writeIndex = 0;
+    auto grown = std::make_unique<SBuffer>(capacity);
+    while (capacity > present->capacity) {
+        grown->older = present;
+        if (buffer.compare_exchange_weak(present, grown.get(), std::memory_order_acq_rel)) {
+            grown.release();
+            writeIndex = 0;
+            return;
+        }
+    }
+}
+
+std::uint32_t DelayLine::getCapacity() const {
+    return buffer.load(std::memory_order_acquire)->capacity;
 }
 
 DelayLine::SRing DelayLine::ring() const {
-    const std::uint32_t presentMask = mask.load(std::memory_order_acquire);
-    return {buffer.load(std::memory_order_acquire), presentMask, writeIndex};
+    const SBuffer &present = *buffer.load(std::memory_order_acquire);
+    return {present.memory.get() + 1, present.capacity - 1, writeIndex};
 }
 
 void DelayLine::write(float sample) {
@@ -106,7 +133,7 @@ void DelayLine::copyNewest(float *samples, int count) const {
 void DelayLine::setConstantOffset(float offset) {
     assertAlways(offset >= 0.0f, "newconstantoffset >= 0.0f", sourceName, 174);
     constantOffset = wholeCount(offset);
-    if (offset + 1.0f > static_cast<float>(capacity.load()))
+    if (offset + 1.0f > static_cast<float>(getCapacity()))
         resize(constantOffset + 1);
 }
 

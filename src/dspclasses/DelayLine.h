@@ -4,25 +4,24 @@
 
 #include <atomic>
 #include <cstdint>
-#include <memory>
-#include <vector>
 
 /// Ring buffer of samples, a power of two long. A read goes back by its offset from the sample that
 /// was written last: offset 0 is that sample itself. An offset beyond the line comes back as the
 /// remainder, so that a read never leaves the buffer.
 ///
 /// The samples and the write position belong to the audio thread. resize and setConstantOffset may
-/// run on one other thread beside it: a new offset lands between two reads, and a block that runs
-/// while the line grows may end in the old buffer, which is why that one is kept.
+/// run on any threads beside it: a new offset lands between two reads, and a block that runs while
+/// the line grows may end in the old buffer, which is why that one is kept.
 class DelayLine {
 public:
     explicit DelayLine(std::uint32_t size);
+    ~DelayLine();
 
     /// Grows the line to the next power of two, silent and from its beginning. A line never
     /// shrinks: a size that it has already changes nothing. Allocates. [any thread]
     /// @param size  samples; 0 counts as 2.
     void resize(std::uint32_t size);
-    std::uint32_t getCapacity() const { return capacity; }
+    std::uint32_t getCapacity() const;
 
     /// Stores the next sample, a denormal as 0.
     void write(float sample);
@@ -59,15 +58,12 @@ public:
     void readRun(const float *offsets, float *samples, int count) const;
 
 private:
+    struct SBuffer;
     struct SRing;
     SRing ring() const;
 
-    TRelaxed<std::uint32_t> capacity = 0;    // samples, a power of two
+    std::atomic<SBuffer *> buffer;           // the newest; each holds the one before it
     TRelaxed<std::uint32_t> writeIndex = 0;  // of the newest sample
-    std::atomic<std::uint32_t> mask = 0;     // capacity - 1
     TRelaxed<std::uint32_t> constantOffset = 0;
     float constantFraction = 0.0f;
-    // buffer[-1] repeats buffer[mask], so that every sample has its older neighbour beside it.
-    std::atomic<float *> buffer = nullptr;
-    std::vector<std::unique_ptr<float[]>> buffers;  // all there were, the present one last
 };

@@ -251,6 +251,26 @@ TEST(DelayLine, InterpolatesWithWhatIsNotFiniteAsEverywhere) {
     }
 }
 
+TEST(DelayLine, MayGrowFromTwoThreadsAtOnce) {
+    for (int round = 0; round < 200; ++round) {
+        DelayLine line(2);
+        std::atomic<int> ready = 0;
+        const auto grow = [&](std::uint32_t first) {
+            ++ready;
+            while (ready < 2)
+                std::this_thread::yield();
+            for (std::uint32_t size = first; size <= 4096; size *= 4)
+                line.resize(size);
+        };
+        std::thread other([&] { grow(8); });
+        grow(4);
+        other.join();
+        ASSERT_EQ(line.getCapacity(), 4096u);
+        count(line, 5000);
+        ASSERT_EQ(line.read(4095.0f), 905.0f);
+    }
+}
+
 TEST(DelayLine, MayGrowBesideARunningBlock) {
     // Each write goes round the line many times, in the buffer that it has found.
     DelayLine line(8);
