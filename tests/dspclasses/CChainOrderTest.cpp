@@ -13,7 +13,7 @@ static Links linksOf(CChainOrder &order, int slot) {
     return {order.entry(slot).prev, order.entry(slot).next};
 }
 
-static const Links free_{-1, -1};
+static const Links freeSlot{-1, -1};
 
 /// The slots as a run meets them, behind slot 1.
 static std::vector<int> chainOf(CChainOrder &order) {
@@ -37,7 +37,7 @@ TEST_F(CChainOrderTest, BeginsWithTheFixedHeadAndNothingBehind) {
     EXPECT_EQ(linksOf(order, 0), Links(-1, 1));
     EXPECT_EQ(linksOf(order, 1), Links(0, -1));
     for (int slot = 2; slot < CChainOrder::slotCount; ++slot)
-        EXPECT_EQ(linksOf(order, slot), free_) << slot;
+        EXPECT_EQ(linksOf(order, slot), freeSlot) << slot;
     EXPECT_EQ(order.getCount(), 0);
 }
 
@@ -45,8 +45,8 @@ TEST_F(CChainOrderTest, ComesBackToTheEmptyChain) {
     append({5, 9});
     order.initialise();
     EXPECT_TRUE(chainOf(order).empty());
-    EXPECT_EQ(linksOf(order, 5), free_);
-    EXPECT_EQ(linksOf(order, 9), free_);
+    EXPECT_EQ(linksOf(order, 5), freeSlot);
+    EXPECT_EQ(linksOf(order, 9), freeSlot);
     EXPECT_EQ(order.getCount(), 0);
 }
 
@@ -85,7 +85,7 @@ TEST_F(CChainOrderTest, RemovesFromTheMiddle) {
     order.remove(11);
     EXPECT_EQ(chainOf(order), (std::vector{6, 5}));
     EXPECT_EQ(linksOf(order, 5), Links(6, -1));
-    EXPECT_EQ(linksOf(order, 11), free_);
+    EXPECT_EQ(linksOf(order, 11), freeSlot);
     EXPECT_EQ(order.getCount(), 2);
 }
 
@@ -93,7 +93,7 @@ TEST_F(CChainOrderTest, EndsAtThePredecessorOfARemovedLastNode) {
     append({6, 11});
     order.remove(11);
     EXPECT_EQ(linksOf(order, 6), Links(1, -1));
-    EXPECT_EQ(linksOf(order, 11), free_);
+    EXPECT_EQ(linksOf(order, 11), freeSlot);
     EXPECT_EQ(order.getCount(), 1);
 }
 
@@ -133,7 +133,7 @@ TEST_F(CChainOrderTest, GoesAstrayWhenTheSuccessorOfAReplacementIsRemoved) {
     order.remove(5);
     // The removed slot is marked free and counted out, and yet it runs; what followed is lost.
     EXPECT_EQ(chainOf(order), (std::vector{6, 8, 5}));
-    EXPECT_EQ(linksOf(order, 5), free_);
+    EXPECT_EQ(linksOf(order, 5), freeSlot);
     EXPECT_EQ(linksOf(order, 11), Links(-1, 7));
     EXPECT_EQ(linksOf(order, 7), Links(11, -1));
     EXPECT_EQ(order.getCount(), 3);

@@ -305,11 +305,11 @@ TYPED_TEST(CDSPMultiFXRun, DoesNothingWithoutAnArrayOfChannels) {
 }
 
 TYPED_TEST(CDSPMultiFXRun, LosesNothingWhenABlockIsLongerThanAllBefore) {
-    TStereo<TypeParam> long_ = makeSignal<TypeParam>(ESignal::Noise, 4, 3000);
-    EXPECT_EQ(render(this->strip, long_, 7), long_);
-    EXPECT_EQ(render(this->strip, long_, 513), long_);
-    EXPECT_EQ(render(this->strip, long_, 3000), long_);
-    EXPECT_EQ(render(this->strip, long_, 1), long_);
+    TStereo<TypeParam> longer = makeSignal<TypeParam>(ESignal::Noise, 4, 3000);
+    EXPECT_EQ(render(this->strip, longer, 7), longer);
+    EXPECT_EQ(render(this->strip, longer, 513), longer);
+    EXPECT_EQ(render(this->strip, longer, 3000), longer);
+    EXPECT_EQ(render(this->strip, longer, 1), longer);
 }
 
 TYPED_TEST(CDSPMultiFXRun, WorksInTheHostsOwnBuffers) {
@@ -328,7 +328,9 @@ TYPED_TEST(CDSPMultiFXRun, TakesOneStageMoreForAnOutputRoutingThatIsNotStereo) {
     witnessed.appendFX(4);
     for (const float routing : {0.0f, 0.4f, 0.8f}) {
         witnessed.setStripParameter(outMono, routing);
-        render(witnessed, this->input, 64);
+        CPlainMono plain;
+        plain.setParameter(0, routing);
+        EXPECT_EQ(render(witnessed, this->input, 64), render(plain, this->input, 64)) << routing;
         witnessed.setStripParameter(outMono, stereo);
         EXPECT_EQ(render(witnessed, this->input, 64), this->input) << routing;
     }
@@ -494,6 +496,13 @@ TEST(CDSPMultiFX, ShowsTheLevelAndStereoModules) {
         EXPECT_EQ(displayAt(id, 0.999f), "AllRight");
         EXPECT_EQ(displayAt(id, 1.0f), "Stereo");
     }
+}
+
+TEST(CDSPMultiFX, ShowsTheEndsOfTheModulatorsAndTheDelay) {
+    EXPECT_EQ(displayAt(34, 1.0f), "50");  // a law that ends at 0.5, as a percentage
+    EXPECT_EQ(displayAt(48, 0.999f), "Quaver");
+    EXPECT_EQ(displayAt(51, 0.0f), "-oo");
+    EXPECT_EQ(displayAt(51, 1.0f), "0.0");
 }
 
 TEST(CDSPMultiFX, ShowsMinusZeroDecibelsOnTheWayBackToTheMiddle) {

@@ -57,8 +57,7 @@ TEST(CDSPPan, RemembersTheLastSpreadOfEachHalf) {
     EXPECT_NE(matrixAfter({0.75f, 0.25f, 0.8f}), identity);
 }
 
-TEST(CDSPPan, RecomputesNothingForThePresentPosition) {
-    EXPECT_EQ(matrixAfter({0.25f, 0.25f}), matrixAfter({0.25f}));
+TEST(CDSPPan, KeepsItsMatrixWhereASpreadComesBack) {
     EXPECT_EQ(matrixAfter({0.75f, 0.25f, 0.75f, 0.75f}), identity);
 }
 

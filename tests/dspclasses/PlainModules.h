@@ -27,11 +27,11 @@ inline CPlainStrip::Modules makePlainModules() {
         std::make_unique<CPlainHiPass>(),      // 7, high-pass
         std::make_unique<CPlainPresence>(),    // 8
         std::make_unique<CPlainParametric>(),  // 9
-        std::make_unique<CPlainGate>(),        // 10, gate
-        std::make_unique<CPlainComp>(),        // 11, compressor
-        std::make_unique<CPlainDeEsser>(),     // 12, de-esser
-        std::make_unique<CPlainModulation>(),  // 13, modulator 1
-        std::make_unique<CPlainModulation>(),  // 14, modulator 2
+        std::make_unique<CPlainGate>(),        // 10
+        std::make_unique<CPlainComp>(),        // 11
+        std::make_unique<CPlainDeEsser>(),     // 12
+        std::make_unique<CPlainModulation>(),  // 13
+        std::make_unique<CPlainModulation>(),  // 14
         std::make_unique<CPlainWarmer>(),      // 15
         std::make_unique<CPlainDelay>(),       // 16
         std::make_unique<CPlainReverb>(),      // 17

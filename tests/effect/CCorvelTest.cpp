@@ -141,16 +141,18 @@ TEST_F(CCorvelTest, TakesTheLeftInputForBothWithoutARightOne) {
 }
 
 TEST_F(CCorvelTest, SumsBothChannelsForAHostWithASingleOutput) {
+    constexpr int balance = 2;
     host.unconnectedInputs = {1};
     effect.setProgram(emptyProgram);
-    effect.setParameter(2, 0.25f);
+    effect.getStrip().appendFX(balance);
+    effect.setParameter(balance, 0.0f);  // all left, so that the channels differ
     effect.resume();
     TStereo<float> voice = makeSignal<float>(ESignal::Noise, 4, 64);
     TStereo<float> result(64);
     float *out[2] = {result.channels[0].data(), nullptr};
     effect.processReplacing(voice.pointers().data(), out, 64);
     for (int i = 0; i < 64; ++i)
-        EXPECT_EQ(result.left(i), (voice.left(i) + voice.left(i)) * 0.5f);
+        EXPECT_EQ(result.left(i), voice.left(i) * 0.5f);
 }
 
 TEST_F(CCorvelTest, IsStereoBeforeMainsAreEverSwitchedOn) {
@@ -159,6 +161,17 @@ TEST_F(CCorvelTest, IsStereoBeforeMainsAreEverSwitchedOn) {
     fresh.setProgram(emptyProgram);
     const TStereo<float> voice = makeSignal<float>(ESignal::Noise, 5, 64);
     EXPECT_EQ(render(fresh, voice, 64), voice);
+}
+
+TEST_F(CCorvelTest, ForgetsWhatItHasHeardWhenMainsGoOn) {
+    constexpr int delay = 16;
+    effect.getStrip().appendFX(delay);
+    effect.resume();
+    const TStereo<float> voice = makeSignal<float>(ESignal::Bursts, 12, 2000);
+    const TStereo<float> first = render(effect, voice, 500);
+    EXPECT_FALSE(render(effect, voice, 500) == first);
+    effect.resume();
+    EXPECT_EQ(render(effect, voice, 500), first);
 }
 
 TEST_F(CCorvelTest, DoesNotAskForEventsWhenMainsGoOn) {
@@ -239,6 +252,16 @@ TEST_F(CCorvelTest, NeverWritesTheInput) {
     }
 }
 
+namespace {
+
+class CListening : public CCorvel {
+public:
+    using CCorvel::CCorvel;
+    int heard() { return m_midiEvents.getCount(); }
+};
+
+}  // namespace
+
 TEST_F(CCorvelTest, DropsMidiAtTheEndOfTheBlockWithoutASound) {
     VstMidiEvent note{};
     note.type = kVstMidiType;
@@ -250,8 +273,18 @@ TEST_F(CCorvelTest, DropsMidiAtTheEndOfTheBlockWithoutASound) {
     events.numEvents = 1;
     events.events[0] = reinterpret_cast<VstEvent *>(&note);
 
-    CCorvel silent(FakeHost::callback);
+    CListening listening(FakeHost::callback);
+    const auto expectDropped = [&](auto play) {
+        EXPECT_EQ(listening.processEvents(&events), 1);
+        EXPECT_EQ(listening.heard(), 1);
+        play();
+        EXPECT_EQ(listening.heard(), 0);
+    };
     const TStereo<float> voice = makeSignal<float>(ESignal::Bursts, 11, 512);
-    EXPECT_EQ(effect.processEvents(&events), 1);
-    EXPECT_EQ(render(effect, voice, 512), render(silent, voice, 512));
+    expectDropped([&] { EXPECT_EQ(render(listening, voice, 512), render(effect, voice, 512)); });
+    expectDropped([&] { render(listening, TStereo<double>(16), 16); });
+    expectDropped([&] {
+        TStereo<float> in(16), out(16);
+        listening.process(in.pointers().data(), out.pointers().data(), 16L);
+    });
 }

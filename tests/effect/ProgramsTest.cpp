@@ -1,6 +1,7 @@
 #include "effect/CCorvel.h"
 #include "effect/FactoryPrograms.h"
 
+#include "dspclasses/Signals.h"
 #include "hostlayer/FakeHost.h"
 
 #include <gtest/gtest.h>
@@ -101,11 +102,13 @@ TEST_F(Programs, KeepWhatWasEditedWhenAnotherIsChosen) {
 }
 
 TEST_F(Programs, AreStoredAndNotRevertedWhenThePresentOneIsChosenAgain) {
+    void *record = nullptr;
+    effect.getChunk(&record, true);
+    const auto *stored = static_cast<const SProgram *>(record);
     effect.setParameter(20, 0.123f);
+    EXPECT_NE(stored->parameters[20], 0.123f);
     effect.setProgram(0);
-    EXPECT_EQ(effect.getParameter(20), 0.123f);
-    effect.setProgram(1);
-    effect.setProgram(0);
+    EXPECT_EQ(stored->parameters[20], 0.123f);
     EXPECT_EQ(effect.getParameter(20), 0.123f);
 }
 
@@ -205,6 +208,25 @@ TEST_F(Programs, HandOutTheEffectsOwnMemory) {
     void *again = nullptr;
     effect.getChunk(&again, false);
     EXPECT_EQ(again, bank);
+}
+
+TEST_F(Programs, MayBeHandedBackInTheirOwnMemory) {
+    void *bank = nullptr;
+    const int size = effect.getChunk(&bank, false);
+    const std::vector<char> before = chunkOf(effect, false);
+    EXPECT_EQ(effect.setChunk(bank, size, false), size);
+    EXPECT_EQ(chunkOf(effect, false), before);
+}
+
+TEST_F(Programs, LeaveTheModulesThatTheyPutInOrOutTheirState) {
+    CCorvel steady(FakeHost::callback);
+    const TStereo<float> voice = makeSignal<float>(ESignal::Bursts, 13, 2000);
+    EXPECT_EQ(render(effect, voice, 500), render(steady, voice, 500));
+    SProgram bare = factoryPrograms[0];
+    bare.order = factoryPrograms[19].order;
+    load(effect, asChunk(bare), true);
+    load(effect, asChunk(factoryPrograms[0]), true);
+    EXPECT_EQ(render(effect, voice, 500), render(steady, voice, 500));
 }
 
 TEST_F(Programs, MayHoldMoreThanSixModules) {
