@@ -1,8 +1,8 @@
 #include "dspclasses/CChainOrder.h"
 
 // The order of the writes matters where a slot is its own neighbour, which the stale links of
-// replace can bring about. The first write of the three that link a slot is one that the last
-// repeats: a run beside them must find its way through the new slot.
+// replace can bring about. Where a slot is linked, its way out is written before the way in, and
+// again with the pair: a run beside the edit should find its way through the new slot.
 
 void CChainOrder::initialise() {
     order.fill({});

@@ -16,8 +16,9 @@ struct SOrderEntry {
 /// The running order of the strip: a doubly linked list over the 18 module slots that begins with
 /// slots 0 and 1. Slots are trusted, from 0 to 17. None of the operations allocates or locks.
 ///
-/// The editor's thread edits it beside the audio, by design: a run follows `next` only, and may end
-/// early or meet a slot twice in the block during which its order changes.
+/// The editor's thread edits it beside the audio, by design: a run follows `next` only. In the
+/// block during which the order changes it may end early, or meet slots again until the edit is
+/// complete.
 class CChainOrder {
 public:
     static constexpr int slotCount = 18;

@@ -23,11 +23,12 @@ public:
     /// The same in double precision. [audio thread] The base does nothing.
     virtual void processDoubleReplacing(double **in, double **out, int frames);
 
-    /// Clears running state and keeps the parameters. The base does nothing.
+    /// Clears running state and keeps the parameters, at once or when the next block begins. The
+    /// base does nothing. [any thread]
     virtual void reset();
 
     /// Records a new rate in Hz; 0 and the present rate are ignored. Nothing in the strip calls it:
-    /// all constants are those of 44100 Hz whatever the host runs at.
+    /// all constants are those of 44100 Hz whatever the host runs at. [before any other call]
     void setSampleRate(float rate);
 
     float getSampleRate() const { return sampleRate; }

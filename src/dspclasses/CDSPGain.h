@@ -11,9 +11,6 @@ public:
     void processReplacing(float **in, float **out, int frames) override;
     void processDoubleReplacing(double **in, double **out, int frames) override;
 
-    /// The linear factor, which a caller may apply itself in place of a run. [any thread]
-    float getGain() const { return gain; }
-
 private:
     template <typename Sample>
     void run(const Sample *const *in, Sample *const *out, int frames) const;

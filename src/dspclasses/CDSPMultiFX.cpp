@@ -41,11 +41,11 @@ static CDSPMultiFX::Modules buildModules() {
         std::make_unique<CDSPHiPass>(),      // 7, high-pass
         std::make_unique<CDSPPresence>(),    // 8
         std::make_unique<CDSPParametric>(),  // 9
-        std::make_unique<CDSPGate>(),        // 10, gate
-        std::make_unique<CDSPComp>(),        // 11, compressor
-        std::make_unique<CDSPDeEsser>(),     // 12, de-esser
-        std::make_unique<CDSPModulation>(),  // 13, modulator 1
-        std::make_unique<CDSPModulation>(),  // 14, modulator 2
+        std::make_unique<CDSPGate>(),        // 10
+        std::make_unique<CDSPComp>(),        // 11
+        std::make_unique<CDSPDeEsser>(),     // 12
+        std::make_unique<CDSPModulation>(),  // 13
+        std::make_unique<CDSPModulation>(),  // 14
         std::make_unique<CDSPWarmer>(),      // 15
         std::make_unique<CDSPDelay>(),       // 16
         std::make_unique<CDSPReverb>(),      // 17

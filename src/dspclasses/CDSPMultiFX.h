@@ -15,16 +15,18 @@
 /// set to stereo. All eighteen modules live as long as the strip; the running order links them.
 ///
 /// The audio thread runs it while other threads set parameters and edit the order without a lock.
-/// One exception is the caller's: id 57 rebuilds buffers, so it must not meet a run.
+/// One exception is the caller's: id 57 takes away buffers that a run reads, so it must not meet
+/// one.
 class CDSPMultiFX : public CDSPBase {
 public:
     using Modules = std::array<std::unique_ptr<CDSPBase>, CChainOrder::slotCount>;
 
     CDSPMultiFX();
-    explicit CDSPMultiFX(Modules slots);  ///< over eighteen other modules, none of them null
+    explicit CDSPMultiFX(Modules slots);  ///< over eighteen modules of a test's own, none null
     ~CDSPMultiFX() override;
 
-    /// [audio thread] Allocates only for a block longer than any before. A null `in` or `out` does
+    /// [audio thread] The strip and its modules allocate only for a block longer than any they have
+    /// seen. A null `in` or `out` does
     /// nothing more; out[1] may be null with a mono input, and out[0] then carries half the sum.
     void processReplacing(float **in, float **out, int frames) override;
     void processDoubleReplacing(double **in, double **out, int frames) override;
@@ -32,7 +34,9 @@ public:
     void reset() override;   ///< the modules of the running order; not the output routing
     void resetAllModules();  ///< all eighteen, running or not; not the output routing
 
-    void setTempo(float bpm);  ///< beats per minute. [any thread]
+    /// In beats per minute. One so slow that a synchronised delay outgrows its lines allocates new
+    /// ones. [any thread]
+    void setTempo(float bpm);
     float getTempo() const { return tempo; }
     void setMonoInput(bool isMono);  ///< the left input feeds both channels. [any thread]
 

@@ -14,7 +14,7 @@ public:
     void processDoubleReplacing(double **in, double **out, int frames) override;
 
 private:
-    void spreadRightInput(float spread);
+    void spreadRightInput(float spread);  // with the position left of the middle
     void spreadLeftInput(float spread);
     template <typename Sample>
     void run(const Sample *const *in, Sample *const *out, int frames) const;

@@ -6,7 +6,7 @@ namespace ParameterLaws {
 
 float raw(float v);  ///< v itself
 
-/// dB: -60 to -20 below 0.25, on to 0 at 0.5 and +6 at 1. Falls at 0.25 from -15 to -20.
+/// dB: -60 to -15 below 0.25, there down to -20, on to 0 at 0.5 and +6 at 1.
 float gain(float v);
 float plusMinus12(float v);  ///< dB
 float threshold(float v);    ///< -60 to 0 dB

@@ -12,8 +12,9 @@ public:
     Sample *DryBuf[2] = {nullptr, nullptr};
     Sample *WetBuf[2] = {nullptr, nullptr};
 
-    /// Allocates if `frames` is more than ever before. @throw std::bad_alloc, all staying as it
-    /// was.
+    /// Allocates if `frames` is more than ever before, and silences: a routing outside its modes
+    /// writes nothing, and the next stage reads what stands here.
+    /// @throw std::bad_alloc, all staying as it was.
     void grow(int frames) {
         if (capacity >= frames)
             return;

@@ -13,7 +13,8 @@ namespace Tessitor::Corvel {
 
 namespace {
 
-constexpr int uniqueId = 'Q' | 'r' << 8 | 'M' << 16 | 'k' << 24;  // "QrMk" in memory
+static_assert(parameterCount == kStripParameters && slotCount == CChainOrder::slotCount);
+
 constexpr int reverbSpread = 57;
 
 struct SPin {
@@ -79,31 +80,28 @@ void CCorvel::readTempo() {
     m_dsp->setTempo(static_cast<float>(m_tempo.getInformation().tempo));
 }
 
+template <typename Run, typename Sample>
+void CCorvel::runStrip(Run operation, Sample **inputs, Sample **outputs, int sampleFrames) {
+    const std::lock_guard lock(*m_criticalSection);
+    ((*m_dsp).*operation)(inputs, outputs, sampleFrames);
+}
+
 void CCorvel::processReplacing(float **inputs, float **outputs, int sampleFrames) {
     readTempo();
-    {
-        const std::lock_guard lock(*m_criticalSection);
-        m_dsp->processReplacing(inputs, outputs, sampleFrames);
-    }
+    runStrip(&CDSPMultiFX::processReplacing, inputs, outputs, sampleFrames);
     CVstEffect::processReplacing(inputs, outputs, sampleFrames);
 }
 
 void CCorvel::processDoubleReplacing(double **inputs, double **outputs, int sampleFrames) {
     readTempo();
-    {
-        const std::lock_guard lock(*m_criticalSection);
-        m_dsp->processDoubleReplacing(inputs, outputs, sampleFrames);
-    }
+    runStrip(&CDSPMultiFX::processDoubleReplacing, inputs, outputs, sampleFrames);
     CVstEffect::processDoubleReplacing(inputs, outputs, sampleFrames);
 }
 
 // Not the host's accumulating entry, which ends in the base's empty operation: this one replaces.
 void CCorvel::process(float **inputs, float **outputs, long sampleFrames) {
     readTempo();
-    {
-        const std::lock_guard lock(*m_criticalSection);
-        m_dsp->processReplacing(inputs, outputs, static_cast<int>(sampleFrames));
-    }
+    runStrip(&CDSPMultiFX::processReplacing, inputs, outputs, static_cast<int>(sampleFrames));
     CVstEffect::process(inputs, outputs, sampleFrames);
 }
 
@@ -202,7 +200,7 @@ int CCorvel::getChunk(void **data, bool isPreset) {
 int CCorvel::setChunk(void *data, int /*byteSize*/, bool isPreset) {
     SProgram &target = m_programs[isPreset ? std::size_t(curProgram) : 0];
     const std::size_t size = sizeof(SProgram) * (isPreset ? 1 : programCount);
-    std::memcpy(&target, data, size);
+    std::memmove(&target, data, size);  // a host may hand back the effect's own records
     applyProgram(target);
     return static_cast<int>(size);
 }

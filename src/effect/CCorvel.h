@@ -64,6 +64,8 @@ public:
 
 private:
     void readTempo();
+    template <typename Run, typename Sample>
+    void runStrip(Run operation, Sample **inputs, Sample **outputs, int sampleFrames);
     void initialisePrograms();
     void storeCurrentProgram();
     void loadProgram(int program);

@@ -41,8 +41,8 @@ constexpr SProgram program(std::string_view name, std::initializer_list<int> cha
 
     record.order.fill({-1, -1});
     record.order[0].next = 1;
-    int last = 1;
     record.order[1].prev = 0;
+    int last = 1;
     for (int slot : chain) {
         record.order[std::size_t(last)].next = slot;
         record.order[std::size_t(slot)].prev = last;

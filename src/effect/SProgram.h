@@ -6,6 +6,7 @@
 
 namespace Tessitor::Corvel {
 
+inline constexpr std::int32_t uniqueId = 'Q' | 'r' << 8 | 'M' << 16 | 'k' << 24;  // of the effect
 inline constexpr int parameterCount = 64;
 inline constexpr int programCount = 20;
 inline constexpr int slotCount = 18;

@@ -14,8 +14,6 @@ namespace {
 using Corvel::slotCount;
 using Corvel::SProgram;
 
-constexpr std::int32_t channelStripId = 'Q' | 'r' << 8 | 'M' << 16 | 'k' << 24;
-
 // Slots 0 and 1, input gain and input routing, begin every chain.
 constexpr int lastHeadSlot = 1;
 constexpr int firstModuleSlot = 2;
@@ -90,7 +88,7 @@ void setChain(SProgram &program, const Chain &chain) {
 }
 
 bool hasChain(const CEffectInstance &effect) {
-    return effect.record().uniqueID == channelStripId && effect.has(effFlagsProgramChunks);
+    return effect.record().uniqueID == Corvel::uniqueId && effect.has(effFlagsProgramChunks);
 }
 
 Chain chainOf(CEffectInstance &effect) {
