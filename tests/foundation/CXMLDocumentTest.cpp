@@ -364,11 +364,11 @@ void addRandomNodes(std::mt19937 &random, CXMLNode *parent, int levels) {
 }
 
 TEST_F(CXMLDocumentFile, GeneratedDocumentsComeBack) {
-    for (unsigned seed = 0; seed < 200; ++seed) {
+    for (unsigned seed = 0; seed < 50; ++seed) {
         std::mt19937 random(seed);
         auto *root = new CXMLNode("root", nullptr);
         document.setRootNode(root);
-        addRandomNodes(random, root, 4);
+        addRandomNodes(random, root, 3);
         const std::string tree = sketch(root), bytes = written();
         CXMLDocument read;
         ASSERT_TRUE(read.readFile(path));
