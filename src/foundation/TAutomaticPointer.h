@@ -18,12 +18,14 @@ public:
     Basics::CClass &getClass() const override { return s_class; }
 
     TypeName *getPointer() const { return m_pointer; }  ///< null if empty
-    /// Lets the old one go, then takes the new one; null takes none, and the one that is held
-    /// already stays. A new one that only the old one keeps alive must have another owner.
+    /// Takes the new one and lets the old one go, which may destroy whoever holds this object; null
+    /// takes none, and the one that is held already stays.
     void setPointer(TypeName *pointer);
     void freePointer();
 
 private:
+    static void letGo(TypeName *pointer, TPointerDeleter<TypeName> *deleter);
+
     static Basics::TClassRecord<TAutomaticPointer> s_class;
 
     TypeName *m_pointer = nullptr;
@@ -52,23 +54,23 @@ template <typename TypeName>
 void TAutomaticPointer<TypeName>::setPointer(TypeName *pointer) {
     if (pointer == m_pointer)
         return;
-    freePointer();
-    // Nothing of this object is touched after the last one was let go: in a ring of references that
-    // may have destroyed this object as well.
-    if (pointer == nullptr)
-        return;
-    m_pointer = pointer;
-    if (m_deleter != nullptr)
+    if (pointer != nullptr && m_deleter != nullptr)
         m_deleter->pointerAdded(pointer);
+    letGo(std::exchange(m_pointer, pointer), m_deleter);
 }
 
 template <typename TypeName>
 void TAutomaticPointer<TypeName>::freePointer() {
-    TypeName *const pointer = std::exchange(m_pointer, nullptr);
+    letGo(std::exchange(m_pointer, nullptr), m_deleter);
+}
+
+// Touches nothing of the object: in a ring of references the last one may take it along.
+template <typename TypeName>
+void TAutomaticPointer<TypeName>::letGo(TypeName *pointer, TPointerDeleter<TypeName> *deleter) {
     if (pointer == nullptr)
         return;
-    if (m_deleter != nullptr)
-        m_deleter->deletePointer(pointer);
+    if (deleter != nullptr)
+        deleter->deletePointer(pointer);
     else
         delete pointer;
 }

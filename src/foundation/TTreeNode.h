@@ -6,8 +6,9 @@
 namespace Tessitor::Collections {
 
 /// A node of a tree: a value, the parent node and the children. A node holds references on its
-/// children and on its parent, so the two keep each other alive until one of them lets go: take the
-/// parent from the children, or clear the children, before the tree is given up.
+/// children and on its parent, so the two keep each other alive until one of them lets go: before
+/// the tree is given up, take the parent from the children, or clear the children of a parent that
+/// something else holds as well.
 template <typename TypeName>
 class TTreeNode : public Basics::CCountedObject {
 public:

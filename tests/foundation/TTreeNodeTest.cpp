@@ -79,6 +79,16 @@ TEST_F(TTreeNodeFamily, BothStayUntilOneLetsGo) {
     EXPECT_EQ(countNodes(), before);
 }
 
+TEST_F(TTreeNodeFamily, AChildMayChangeToAnotherParentAsTheLastHoldOnBoth) {
+    CNode *const other = makeNode();
+    other->reference();
+    child->setParent(other);
+    EXPECT_TRUE(childDestroyed);
+    EXPECT_EQ(other->getReferenceCount(), 1);
+    other->dereference();
+    EXPECT_EQ(countNodes(), before);
+}
+
 TEST_F(TTreeNodeFamily, ClearingTheChildrenLetsGoAsWell) {
     parent->reference();
     parent->getChildren().clearArray();
