@@ -1,36 +1,30 @@
 #include "hostlayer/CVstTempo.h"
 
 #include "foundation/CException.h"
+#include "foundation/Truncation.h"
 
 #include <algorithm>
-#include <limits>
+#include <cmath>
 
 namespace Tessitor::Vst {
 
-namespace {
+using MathTools::truncated;
 
-/// `value` without its fraction. What no 32-bit integer holds, as at a tempo of 0, gives the least
-/// integer: the processor's own conversion, where the language leaves it undefined.
-std::int32_t truncated(double value) {
-    constexpr double limit = 2147483648.0;
-    if (value > -limit - 1.0 && value < limit)
-        return static_cast<std::int32_t>(value);
-    return std::numeric_limits<std::int32_t>::min();
-}
+namespace {
 
 /// Beats from the position to the start of the next bar.
 double beatsToNextBar(const STempoInformation &information) {
     if (information.barStartPosition == information.ppqPosition)
         return 0.0;
     const double beatsInBar = information.timeSignature.getNumerator();
-    double beats = beatsInBar + information.barStartPosition - information.ppqPosition;
-    if (beatsInBar > 0.0) {  // a bar without beats would be stepped through for ever
-        while (beats < 0.0)
-            beats += beatsInBar;
-        while (beats > beatsInBar)
-            beats -= beatsInBar;
-    }
-    return beats;
+    const double beats = beatsInBar + information.barStartPosition - information.ppqPosition;
+    if (beatsInBar <= 0.0 || (beats >= 0.0 && beats <= beatsInBar))
+        return beats;
+    // To the bits of a bar added or taken away again and again, however far away the bar is.
+    const double rest = std::fmod(beats, beatsInBar);
+    if (beats < 0.0)
+        return rest < 0.0 ? rest + beatsInBar : 0.0;
+    return rest == 0.0 ? beatsInBar : rest;
 }
 
 }  // namespace

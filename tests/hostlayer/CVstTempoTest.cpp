@@ -183,6 +183,10 @@ const SBar bars[] = {
     {"ThreeBarsBehind", 4, 0.0, 13.0, 120.0, 72000},
     {"AheadOfThePosition", 4, 20.0, 2.0, 120.0, 48000},
     {"AWholeBarAhead", 4, 8.0, 4.0, 120.0, 96000},
+    {"AThousandMillionBarsBehind", 4, 0.0, 4e9 + 1.0, 120.0, 72000},
+    {"FartherBehindThanABeatCounts", 4, 0.0, 1e300, 120.0, 0},
+    {"FartherAheadThanABeatCounts", 4, 1e300, 0.0, 120.0, 96000},
+    {"EndlesslyFar", 4, 0.0, std::numeric_limits<double>::infinity(), 120.0, 0},
     {"InThree", 3, 9.0, 9.25, 90.0, 88000},
     {"WithAFraction", 4, 0.0, 1.0, 133.0, 64962},
     {"WithoutBeatsBehind", 0, 8.0, 9.5, 120.0, 0},
@@ -262,6 +266,10 @@ TEST(CVstTempo, CountsItsInstances) {
     const CVstTempo tempo;
     EXPECT_STREQ(tempo.getClass().getClassName(), "CVstTempo");
     const auto before = tempo.getClass().getInstanceCount();
+    {
+        const CVstTempo another;
+        EXPECT_EQ(tempo.getClass().getInstanceCount(), before + 1);
+    }
     EXPECT_THROW(CVstTempo(nullptr), CException);
     EXPECT_EQ(tempo.getClass().getInstanceCount(), before);
 }
