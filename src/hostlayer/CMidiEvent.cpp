@@ -9,7 +9,7 @@ namespace Tessitor::Midi {
 Basics::TClassRecord<CMidiEvent> CMidiEvent::s_class("CMidiEvent", "CCountedObject");
 
 CMidiEvent::CMidiEvent(const CMidiEvent &other)
-    : CCountedObject(other), m_status(other.m_status), m_value(other.m_value),
+    : CCountedObject(), m_status(other.m_status), m_value(other.m_value),
       m_subValue(other.m_subValue), m_channel(other.m_channel), m_delta(other.m_delta),
       m_pitchBend(other.m_pitchBend) {
     s_class.incrementInstanceCount();
@@ -23,16 +23,10 @@ void CMidiEvent::getObjectDescription(char *array, long size) const {
     const long status = m_status, value = m_value, subValue = m_subValue, channel = m_channel,
                delta = m_delta;
     char text[256];
-    if (isNoteOff()) {
-        std::snprintf(
-            text, sizeof text,
-            "[Note Off       : Note(%03li), Velocity(%03li), Channel(%03li), Delta(%03li)]", value,
-            subValue, channel, delta);
-    } else if (isNoteOn()) {
-        std::snprintf(
-            text, sizeof text,
-            "[Note On        : Note(%03li), Velocity(%03li), Channel(%03li), Delta(%03li)]", value,
-            subValue, channel, delta);
+    if (isNoteOff() || isNoteOn()) {
+        std::snprintf(text, sizeof text,
+                      "[Note %-10s: Note(%03li), Velocity(%03li), Channel(%03li), Delta(%03li)]",
+                      isNoteOff() ? "Off" : "On", value, subValue, channel, delta);
     } else if (isController()) {
         std::snprintf(text, sizeof text,
                       "[Control Change : CC(%03li), Value(%03li), Channel(%03li), Delta(%03li)]",

@@ -10,7 +10,7 @@ CTimeSignature::CTimeSignature(std::int32_t numerator, std::int32_t denominator)
 }
 
 CTimeSignature::CTimeSignature(const CTimeSignature &other)
-    : CCountedObject(other), m_numerator(other.m_numerator), m_denominator(other.m_denominator) {
+    : CCountedObject(), m_numerator(other.m_numerator), m_denominator(other.m_denominator) {
     s_class.incrementInstanceCount();
 }
 

@@ -108,13 +108,15 @@ TEST(CMidiEvent, CopiesEveryField) {
 }
 
 TEST(CMidiEvent, CountsItsInstances) {
-    const CMidiEvent first;
+    CMidiEvent first;
+    first.reference();
     auto &record = first.getClass();
     EXPECT_STREQ(record.getClassName(), "CMidiEvent");
     const auto before = record.getInstanceCount();
     {
         const CMidiEvent second;
         const auto third = std::make_unique<CMidiEvent>(first);
+        EXPECT_EQ(third->getReferenceCount(), 0);
         EXPECT_EQ(record.getInstanceCount(), before + 2);
     }
     EXPECT_EQ(record.getInstanceCount(), before);

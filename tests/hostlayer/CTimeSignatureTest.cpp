@@ -46,13 +46,15 @@ TEST(CTimeSignature, GivesTheWholePartOfItsBeats) {
 }
 
 TEST(CTimeSignature, CountsItsInstances) {
-    const CTimeSignature first(3, 4);
+    CTimeSignature first(3, 4);
+    first.reference();
     auto &record = first.getClass();
     EXPECT_STREQ(record.getClassName(), "CTimeSignature");
     const auto before = record.getInstanceCount();
     {
         const CTimeSignature second, third(6, 8);
         const auto fourth = std::make_unique<CTimeSignature>(first);
+        EXPECT_EQ(fourth->getReferenceCount(), 0);
         EXPECT_EQ(record.getInstanceCount(), before + 3);
     }
     EXPECT_EQ(record.getInstanceCount(), before);
