@@ -4,8 +4,7 @@
 #include "hostlayer/VstInterface.h"
 
 /// What a host looks for; the linker exports it under its older name, main, as well.
-/// @return null if the host has no version or the effect cannot be built, the latter with a
-/// message.
+/// @return null if the host has no version, or, with a message, if the effect cannot be built.
 ///
 /// The host is asked for its version and nothing else before there is an effect to name: some hosts
 /// end when they are asked for more without one.

@@ -23,7 +23,7 @@ constinit GUI::Windowing::IWindow *CApplicationInformation::s_mainWindow = nullp
 namespace {
 
 template <typename Text>
-Text &made(std::unique_ptr<Text> &text) {
+Text &createdOnDemand(std::unique_ptr<Text> &text) {
     if (text == nullptr)
         text = std::make_unique<Text>();
     return *text;
@@ -40,13 +40,14 @@ void CApplicationInformation::setApplicationInformation(
     const char *registryPath, const char *copyright, void *instanceHandle) {
     s_instanceHandle = instanceHandle;
     s_moduleHandle = instanceHandle;
-    made(s_companyName).setString(company);
-    made(s_applicationName).setString(application);
-    made(s_description).setString(description);
-    made(s_versionString).setString(version);
-    made(s_registryPath).setString(registryPath);
-    made(s_copyrightString).setString(copyright);
-    made(s_applicationPath).setString(folderOf(nativeModulePath(instanceHandle)).c_str());
+    createdOnDemand(s_companyName).setString(company);
+    createdOnDemand(s_applicationName).setString(application);
+    createdOnDemand(s_description).setString(description);
+    createdOnDemand(s_versionString).setString(version);
+    createdOnDemand(s_registryPath).setString(registryPath);
+    createdOnDemand(s_copyrightString).setString(copyright);
+    createdOnDemand(s_applicationPath)
+        .setString(folderOf(nativeModulePath(instanceHandle)).c_str());
     readProcessorFeatures();
 }
 
@@ -61,31 +62,31 @@ void CApplicationInformation::destroyApplicationInformation() {
 }
 
 const CString &CApplicationInformation::getCompanyName() {
-    return made(s_companyName);
+    return createdOnDemand(s_companyName);
 }
 
 const CString &CApplicationInformation::getApplicationName() {
-    return made(s_applicationName);
+    return createdOnDemand(s_applicationName);
 }
 
 const CString &CApplicationInformation::getDescription() {
-    return made(s_description);
+    return createdOnDemand(s_description);
 }
 
 const CString &CApplicationInformation::getVersionString() {
-    return made(s_versionString);
+    return createdOnDemand(s_versionString);
 }
 
 const CString &CApplicationInformation::getRegistryPath() {
-    return made(s_registryPath);
+    return createdOnDemand(s_registryPath);
 }
 
 const CString &CApplicationInformation::getCopyrightString() {
-    return made(s_copyrightString);
+    return createdOnDemand(s_copyrightString);
 }
 
 const CSystemString &CApplicationInformation::getApplicationPath() {
-    return made(s_applicationPath);
+    return createdOnDemand(s_applicationPath);
 }
 
 void CApplicationInformation::getApplicationFileName(CString &fileName) {

@@ -55,8 +55,7 @@ private:
     static std::unique_ptr<CString> s_description;
     static std::unique_ptr<CString> s_registryPath;
     static std::unique_ptr<CSystemString> s_applicationPath;
-    // Both are the module of the effect: what windows and resources belong to, and whose file it
-    // is.
+    // Both are the module of the effect: what windows belong to, and whose file it is.
     static void *s_instanceHandle;
     static void *s_moduleHandle;
     static GUI::Windowing::IWindow *s_mainWindow;  // not owned

@@ -10,29 +10,25 @@ namespace Tessitor::Threading {
 Basics::TClassRecord<CCriticalSection> CCriticalSection::s_class("CCriticalSection",
                                                                  "CCountedObject");
 
-CCriticalSection::CCriticalSection() : m_section(std::make_unique<std::recursive_mutex>()) {
+CCriticalSection::CCriticalSection() {
     s_class.incrementInstanceCount();
 }
 
 void CCriticalSection::lock() {
-    if (m_section != nullptr)
-        m_section->lock();
+    m_section.lock();
 }
 
 void CCriticalSection::unlock() {
-    if (m_section != nullptr)
-        m_section->unlock();
+    m_section.unlock();
 }
 
 bool CCriticalSection::tryLock(long milliseconds) {
-    if (m_section == nullptr)
-        return false;
     if (milliseconds < 1) {
-        m_section->lock();
+        m_section.lock();
         return true;
     }
     return pollUntil(
-        milliseconds, [this] { return m_section->try_lock(); },
+        milliseconds, [this] { return m_section.try_lock(); },
         [] { std::this_thread::sleep_for(std::chrono::milliseconds(pollingStepMs)); });
 }
 

@@ -2,7 +2,6 @@
 
 #include "foundation/CCountedObject.h"
 
-#include <memory>
 #include <mutex>
 
 namespace Tessitor::Threading {
@@ -19,15 +18,14 @@ public:
 
     void lock();
     void unlock();  ///< for the thread that holds the lock
-    /// @param milliseconds  below 1 waits without end; else tries every 5 ms until this time is
-    /// used
-    ///                      up. @return whether the lock was taken.
+    /// @param milliseconds  below 1 waits without end; else tries every 5 ms until it is used up.
+    /// @return whether the lock was taken.
     bool tryLock(long milliseconds);
 
 private:
     static Basics::TClassRecord<CCriticalSection> s_class;
 
-    std::unique_ptr<std::recursive_mutex> m_section;
+    std::recursive_mutex m_section;
 };
 
 }  // namespace Tessitor::Threading

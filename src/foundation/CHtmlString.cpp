@@ -28,9 +28,9 @@ bool CHtmlString::isWebAddress() const {
 }
 
 void CHtmlString::addProtocol(bool asWeb) {
-    const CString address(*this);
-    setString(asWeb ? "http://" : "file://");
-    appendString(address);
+    CString withProtocol(asWeb ? "http://" : "file://");
+    withProtocol.appendString(*this);
+    setString(withProtocol);
 }
 
 bool CHtmlString::openInBrowser(bool localFile) {

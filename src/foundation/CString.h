@@ -20,8 +20,9 @@ class CPascalString;
 ///
 /// Text arguments may point into the string itself, and are not null unless the operation says so.
 /// Bad indices give a blank or "", searches that fail give -1.
-/// Operations throw CException, and only when memory runs out; no string is left half changed, and
-/// the reason tells the operations that the failure passed through.
+/// Where memory runs out, or a text would pass 2 GiB, an operation throws CException, whose reason
+/// tells the operations that the failure passed through, or std::bad_alloc if that cannot be told.
+/// Every string stays whole; an operation of several steps may have taken some of them.
 ///
 /// A string belongs to one thread at a time.
 class CString : public CCountedObject {

@@ -65,7 +65,8 @@ char *CStringTokeniser::getNextToken() {
     std::copy(m_text + m_readPosition, m_text + end, token.get());
 
     // At the end of the text the position stays, and the count ends the reading.
-    m_readPosition = m_text[end] == '\0' ? m_readPosition : end + 1;
+    if (m_text[end] != '\0')
+        m_readPosition = end + 1;
     ++m_numberOfTokensRead;
     return token.release();
 }

@@ -8,8 +8,9 @@
 /// The published base class of every effect: owns the AEffect record, receives the host's calls and
 /// turns them into virtual operations. What a subclass leaves alone gives the published answer.
 ///
-/// The host is trusted: indices, pointers and lengths are not checked. Parameters, programs and
-/// settings come on [any thread]; several hosts send them on two at once, beside the audio thread.
+/// The host is trusted: indices, pointers and lengths are not checked. Parameters come on
+/// [any thread], in several hosts on two at once and beside the audio; programs and settings come
+/// on any thread too, but one at a time.
 class AudioEffect {
 public:
     /// 44100 Hz, blocks of 1024, program 0, processReplacing; usable as it stands, since hosts ask

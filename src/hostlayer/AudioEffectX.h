@@ -17,7 +17,7 @@ public:
     /// Asks for MIDI if the effect is a synth or says yes to "receiveVstMidiEvent".
     void resume() override;
 
-    /// Comes ahead of the process call that the events belong to. @return 1
+    /// Comes ahead of the process call that the events belong to. @return 1 if they were taken.
     virtual int processEvents(VstEvents * /*events*/) { return 0; }
 
     /// @param text  null asks whether the effect can read texts at all.
@@ -34,8 +34,8 @@ public:
     virtual int beginLoadBank(VstPatchChunkInfo *) { return 0; }
     virtual int beginLoadProgram(VstPatchChunkInfo *) { return 0; }
 
-    /// Fill with fillPinProperties, since some hosts' record is short. @return whether it was
-    /// filled.
+    /// Fill with fillPinProperties, since some hosts' record is short.
+    /// @return whether it was filled.
     virtual bool getInputProperties(int /*index*/, VstPinProperties *) { return false; }
     virtual bool getOutputProperties(int /*index*/, VstPinProperties *) { return false; }
     virtual bool setSpeakerArrangement(VstSpeakerArrangement * /*in*/,
@@ -80,8 +80,7 @@ public:
     VstTimeInfo *getTimeInfo(int filter);
     /// @return as the host gives it: 1 yes, 0 unknown, -1 no.
     int canHostDo(const char *text);
-    /// @param text  receives at most kVstMaxProductStrLen; untouched by some hosts, so zeroed
-    /// before.
+    /// @param text  receives at most kVstMaxProductStrLen. Some hosts leave it, so it is zeroed.
     bool getHostProductString(char *text);
     bool getHostVendorString(char *text);
     int getHostVendorVersion();

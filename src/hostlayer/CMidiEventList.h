@@ -26,11 +26,10 @@ public:
 
     /// Back to no events and position 0.
     void clear();
-    /// The event at the read position, which is what it was if the list is empty; null at -1.
+    /// The event at the read position, in an empty list a stale one; null at -1.
     const CMidiEvent *getCurrentEvent() const;
     const CMidiEvent *getEventAtIndex(std::int32_t index) const;  ///< null outside the events held
-    /// @return the new position before it wraps: the number of events, where the list is at 0
-    /// again.
+    /// @return the new position; the number of events where the list has gone back to 0.
     std::int32_t advance();
     bool hasNext() const { return m_position + 1 < m_count; }
     /// Frames between the event at the read position and the next; 0 if there is none.

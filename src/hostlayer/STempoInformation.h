@@ -4,7 +4,8 @@
 
 namespace Tessitor::Vst {
 
-/// What the host last said about tempo and transport. A value without its flag is 0, and 4/4.
+/// What the host last said about tempo and transport. A value whose flag it did not set is 0, the
+/// time signature 4/4; samplesToNextBar alone goes on as it was.
 struct STempoInformation {
     bool tempoValid = false;
     bool timeSignatureValid = false;

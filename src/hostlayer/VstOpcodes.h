@@ -78,8 +78,8 @@ enum AEffectOpcode : std::int32_t {
     effBeginSetProgram = 67,
     effEndSetProgram = 68,
 
-    effGetSpeakerArrangement =
-        69,                      ///< value, ptr = VstSpeakerArrangement ** in, out -> 1 if filled
+    /// value, ptr = VstSpeakerArrangement ** in, out -> 1 if filled
+    effGetSpeakerArrangement = 69,
     effShellGetNextPlugin = 70,  ///< ptr receives at most 64 -> unique id, 0 at the end
     effStartProcess = 71,
     effStopProcess = 72,
@@ -96,8 +96,8 @@ enum AEffectOpcode : std::int32_t {
 /// text may be left unwritten.
 enum AudioMasterOpcode : std::int32_t {
     audioMasterAutomate = 0,  ///< index, opt = value
-    audioMasterVersion =
-        1,  ///< -> the host's version; the only one to ask before there is an effect
+    /// -> the host's version; the only one to ask before there is an effect
+    audioMasterVersion = 1,
     audioMasterCurrentId = 2,  ///< -> the unique id to make, in a shell
     audioMasterIdle = 3,
     audioMasterPinConnected = 4,   ///< deprecated; index -> 0 if connected

@@ -1,6 +1,8 @@
 #include "foundation/CCriticalSection.h"
 
 #include <gtest/gtest.h>
+
+#include <atomic>
 #include <thread>
 
 using Tessitor::Threading::CCriticalSection;
@@ -55,26 +57,35 @@ TEST(CCriticalSection, TryingGivesUp) {
 
 class CCriticalSectionWait : public testing::TestWithParam<long> {};
 
-TEST_P(CCriticalSectionWait, TryingWithoutATimeWaitsUntilTheLockIsFree) {
+TEST_P(CCriticalSectionWait, TryingLongEnoughGetsALockThatIsFreedMeanwhile) {
     CCriticalSection section;
-    int steps = 0;  // written under the lock only
+    std::atomic<bool> trying = false, returned = false;
     section.lock();
     std::thread waiting([&] {
-        ASSERT_TRUE(section.tryLock(GetParam()));
-        EXPECT_EQ(steps, 1);
+        trying = true;
+        EXPECT_TRUE(section.tryLock(GetParam()));
+        returned = true;
         section.unlock();
     });
-    steps = 1;
+    while (!trying)
+        std::this_thread::yield();
+    for (int looks = 0; looks < 1000; ++looks) {
+        EXPECT_FALSE(returned);
+        std::this_thread::yield();
+    }
     section.unlock();
     waiting.join();
 }
-INSTANTIATE_TEST_SUITE_P(Times, CCriticalSectionWait, testing::Values(0, -1));
+INSTANTIATE_TEST_SUITE_P(Times, CCriticalSectionWait, testing::Values(0, -1, 600000));
 
 TEST(CCriticalSection, CountsItself) {
     const CCriticalSection section;
     EXPECT_TRUE(section.getClass() == "CCriticalSection");
     const auto instances = section.getClass().getInstanceCount();
-    { const CCriticalSection another; }
+    {
+        const CCriticalSection another;
+        EXPECT_EQ(section.getClass().getInstanceCount(), instances + 1);
+    }
     EXPECT_EQ(section.getClass().getInstanceCount(), instances);
 }
 

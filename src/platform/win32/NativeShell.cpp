@@ -6,6 +6,6 @@
 bool openNativeDocument(const std::string &document) {
     const HINSTANCE result =
         ShellExecuteA(nullptr, "open", document.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
-    return reinterpret_cast<std::intptr_t>(result) >
-           32;  // a code of its own below, no handle at all
+    constexpr std::intptr_t lastError = 32;  // what the call gives is a code and no handle
+    return reinterpret_cast<std::intptr_t>(result) > lastError;
 }
