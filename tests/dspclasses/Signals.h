@@ -152,6 +152,14 @@ TStereo<Sample> makeSignal(ESignal kind, std::uint64_t seed, int frames) {
     return stereo;
 }
 
+/// A level that stands still in each channel.
+template <typename Sample>
+TStereo<Sample> steady(int frames, Sample left, Sample right) {
+    TStereo<Sample> stereo(frames, left);
+    stereo.channels[1].assign(stereo.channels[1].size(), right);
+    return stereo;
+}
+
 /// Equal to the last bit, so that 0 and -0 differ. Any NaN equals any other: which of two NaNs an
 /// addition hands on is the processor's choice.
 template <typename Sample>
