@@ -1,13 +1,16 @@
 #include "foundation/CClassManager.h"
 
 #include "CTemporaryFolder.h"
+#include "foundation/CException.h"
 #include "foundation/CTextStream.h"
+#include "foundation/ObjectSamples.h"
 #include "foundation/ReadFile.h"
 
 #include <gtest/gtest.h>
 
 using Tessitor::Basics::CClass;
 using Tessitor::Basics::CClassManager;
+using Tessitor::Exceptions::CException;
 using Tessitor::IO::CTextStream;
 using Tessitor::IO::EStreamMode;
 
@@ -165,6 +168,18 @@ TEST_F(CClassManagerList, ReportsACountBelowZeroAsUnsigned) {
                             "|4294967295|         "
                             "0|\n"),
               std::string::npos);
+}
+
+TEST_F(CClassManagerList, ReportsAClassWhoseCopiesWereNotCounted) {
+    const CException exception("reason", "function", true);
+    CClass &record = exception.getClass();
+    manager.registerClass(&record);
+    while (static_cast<std::int32_t>(record.getInstanceCount()) >= 0)
+        copyOf(exception);
+    char columns[32];
+    std::snprintf(columns, sizeof columns, " CException |%10u|", record.getInstanceCount());
+    EXPECT_NE(report().find(columns), std::string::npos);
+    EXPECT_GT(record.getInstanceCount(), 4'000'000'000u);
 }
 
 TEST_F(CClassManagerList, ReportsANameThatIsWiderThanTheTable) {

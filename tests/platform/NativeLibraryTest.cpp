@@ -1,5 +1,6 @@
 #include "platform/NativeLibrary.h"
 
+#include <filesystem>
 #include <gtest/gtest.h>
 
 namespace {
@@ -11,6 +12,17 @@ TEST(NativeLibrary, FindsWhatALibraryExports) {
     EXPECT_EQ(reason, "");
     EXPECT_NE(nativeSymbol(library, "sampleModulePath"), nullptr);
     EXPECT_EQ(nativeSymbol(library, "noSuchFunction"), nullptr);
+    closeNativeLibrary(library);
+}
+
+TEST(NativeLibrary, OpensAFileOfTheCurrentFolder) {
+    namespace fs = std::filesystem;
+    const fs::path before = fs::current_path(), file = SAMPLE_MODULE;
+    fs::current_path(file.parent_path());
+    std::string reason;
+    void *library = openNativeLibrary(file.filename().string(), reason);
+    fs::current_path(before);
+    EXPECT_NE(library, nullptr) << reason;
     closeNativeLibrary(library);
 }
 

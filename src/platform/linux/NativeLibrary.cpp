@@ -3,7 +3,9 @@
 #include <dlfcn.h>
 
 void *openNativeLibrary(const std::string &path, std::string &reason) {
-    void *library = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
+    // A bare name would be looked for among the system's libraries only.
+    const std::string file = path.find('/') == std::string::npos ? "./" + path : path;
+    void *library = dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);
     if (library == nullptr)
         reason = dlerror();
     return library;
