@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# setup.sh [run|test]: installs through apt what the build and the run need, with "test" (the default)
-# also what the tests need. Quiet and quick when nothing is missing.
+# setup.sh [run|test|figures]: installs through apt what the build and the run need, with "test" (the
+# default) also what the tests need, with "figures" what draws the pictures of the documentation.
+# Quiet and quick when nothing is missing.
 set -euo pipefail
 
 run_packages=(
@@ -16,12 +17,14 @@ test_packages=(
     g++-mingw-w64-x86-64-posix gcc-mingw-w64-x86-64-posix  # the Windows build
     wine wine64 xvfb xauth                              # and where its tests run
 )
+figures_packages=(python3-matplotlib python3-soundfile)
 
 packages=("${run_packages[@]}")
 case "${1:-test}" in
 run) ;;
 test) packages+=("${test_packages[@]}") ;;
-*) echo "usage: setup.sh [run|test]" >&2; exit 2 ;;
+figures) packages+=("${figures_packages[@]}") ;;
+*) echo "usage: setup.sh [run|test|figures]" >&2; exit 2 ;;
 esac
 
 installed=$(dpkg-query -W -f '${db:Status-Status} ${Package}\n' "${packages[@]}" 2>/dev/null || true)
