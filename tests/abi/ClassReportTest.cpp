@@ -6,7 +6,6 @@
 #include "hostlayer/FakeHost.h"
 
 #include <gtest/gtest.h>
-
 #include <map>
 #include <regex>
 #include <stdexcept>

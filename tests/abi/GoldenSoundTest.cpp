@@ -1,9 +1,8 @@
 #include "abi/GoldenSound.h"
 
+#include <fstream>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <fstream>
 
 TEST(GoldenSound, OfEveryProgramIsWhatItWas) {
     std::ifstream file(CORVEL_GOLDEN_FILE);

@@ -3,7 +3,6 @@
 #include "hostlayer/FakeHost.h"
 
 #include <gtest/gtest.h>
-
 #include <thread>
 
 // The orders in which real hosts were seen to call: every one must end in the same state and sound.

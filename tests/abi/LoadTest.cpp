@@ -1,9 +1,8 @@
 #include "abi/LoadedPlugin.h"
 #include "hostlayer/FakeHost.h"
 
-#include <gtest/gtest.h>
-
 #include <cstring>
+#include <gtest/gtest.h>
 #include <set>
 #include <string>
 

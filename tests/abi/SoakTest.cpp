@@ -3,9 +3,8 @@
 #include "effect/PlainEffect.h"
 #include "hostlayer/FakeHost.h"
 
-#include <gtest/gtest.h>
-
 #include <cstdlib>
+#include <gtest/gtest.h>
 #include <numeric>
 #include <span>
 

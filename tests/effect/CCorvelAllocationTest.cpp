@@ -1,7 +1,6 @@
-#include "effect/CCorvel.h"
-
 #include "Allocation.h"
 #include "dspclasses/Signals.h"
+#include "effect/CCorvel.h"
 #include "hostlayer/FakeHost.h"
 
 #include <gtest/gtest.h>

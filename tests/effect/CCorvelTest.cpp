@@ -1,11 +1,10 @@
 #include "effect/CCorvel.h"
-#include "effect/FactoryPrograms.h"
 
 #include "dspclasses/Signals.h"
+#include "effect/FactoryPrograms.h"
 #include "hostlayer/FakeHost.h"
 
 #include <gtest/gtest.h>
-
 #include <string>
 
 using Tessitor::Corvel::CCorvel;

@@ -1,14 +1,12 @@
-#include "effect/CCorvel.h"
-
 #include "dspclasses/Signals.h"
+#include "effect/CCorvel.h"
 #include "hostlayer/FakeHost.h"
-
-#include <gtest/gtest.h>
 
 #include <array>
 #include <atomic>
 #include <cmath>
 #include <cstring>
+#include <gtest/gtest.h>
 #include <thread>
 
 using Tessitor::Corvel::CCorvel;

@@ -1,7 +1,6 @@
 #include "effect/FactoryPrograms.h"
 
 #include <gtest/gtest.h>
-
 #include <set>
 #include <string>
 #include <vector>

@@ -1,14 +1,12 @@
+#include "dspclasses/Signals.h"
 #include "effect/CCorvel.h"
 #include "effect/FactoryPrograms.h"
-
-#include "dspclasses/Signals.h"
 #include "hostlayer/FakeHost.h"
-
-#include <gtest/gtest.h>
 
 #include <array>
 #include <bit>
 #include <cstring>
+#include <gtest/gtest.h>
 #include <string>
 #include <vector>
 

@@ -2,7 +2,6 @@
 #include "hostlayer/FakeHost.h"
 
 #include <gtest/gtest.h>
-
 #include <string>
 
 extern "C" AEffect *VSTPluginMain(audioMasterCallback host);

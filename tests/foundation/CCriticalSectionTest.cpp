@@ -1,8 +1,7 @@
 #include "foundation/CCriticalSection.h"
 
-#include <gtest/gtest.h>
-
 #include <atomic>
+#include <gtest/gtest.h>
 #include <thread>
 
 using Tessitor::Threading::CCriticalSection;

@@ -3,7 +3,6 @@
 #include "platform/NativeShell.h"
 
 #include <gtest/gtest.h>
-
 #include <memory>
 #include <string>
 #include <vector>

@@ -1,7 +1,6 @@
 #include "foundation/CPascalString.h"
 
 #include <gtest/gtest.h>
-
 #include <string>
 
 using Tessitor::Basics::CPascalString;

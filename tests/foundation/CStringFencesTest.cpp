@@ -5,7 +5,6 @@
 #include "foundation/CString.h"
 
 #include <gtest/gtest.h>
-
 #include <ostream>
 #include <stdexcept>
 #include <string>

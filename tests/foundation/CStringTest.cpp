@@ -3,11 +3,10 @@
 #include "foundation/CPascalString.h"
 #include "foundation/CSystemString.h"
 
-#include <gtest/gtest.h>
-
 #include <climits>
 #include <cmath>
 #include <cstring>
+#include <gtest/gtest.h>
 #include <limits>
 #include <memory>
 #include <string>

@@ -1,7 +1,6 @@
 #include "foundation/CStringTokeniser.h"
 
 #include <gtest/gtest.h>
-
 #include <memory>
 #include <string>
 #include <vector>

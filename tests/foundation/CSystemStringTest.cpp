@@ -2,9 +2,8 @@
 
 #include "platform/NativePath.h"
 
-#include <gtest/gtest.h>
-
 #include <climits>
+#include <gtest/gtest.h>
 #include <memory>
 #include <string>
 

@@ -3,7 +3,6 @@
 // behind the name, and renaming that is how these were made.
 #include "foundation/CFileStream.h"
 #include "foundation/CXMLDocument.h"
-
 #include "foundation/ReadFile.h"
 
 #include <filesystem>

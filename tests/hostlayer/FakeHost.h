@@ -2,10 +2,9 @@
 
 #include "hostlayer/VstInterface.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cstddef>
+#include <gtest/gtest.h>
 #include <map>
 #include <mutex>
 #include <optional>
