@@ -10,8 +10,8 @@ root=$(realpath -m "${1:-$top/build/fresh}")
 command -v debootstrap > /dev/null || { echo "check-fresh.sh: needs debootstrap" >&2; exit 2; }
 
 release() {
-    for mount in proc dev/pts dev/shm dev; do
-        mountpoint -q "$root/$mount" && umount "$root/$mount"
+    for mount in /proc /dev/pts /dev/shm /dev ""; do
+        mountpoint -q "$root$mount" && umount "$root$mount"
     done
     return 0
 }
@@ -25,6 +25,7 @@ debootstrap --variant=minbase bookworm "$root" "$mirror" > "$top/build/debootstr
 rm -rf "$root/etc/apt/sources.list"
 cp -a /etc/apt/. "$root/etc/apt/"
 cp /etc/resolv.conf /etc/hosts "$root/etc/"
+mount --bind "$root" "$root"  # a root that is a mount, as on any machine
 mount -t proc proc "$root/proc"
 mount --bind /dev "$root/dev"
 mount -t devpts devpts "$root/dev/pts" 2> /dev/null || mount --bind /dev/pts "$root/dev/pts"
