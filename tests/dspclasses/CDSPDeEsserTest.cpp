@@ -315,6 +315,28 @@ TEST(CDSPDeEsser, InDoublePrecisionNarrowAsksTheSingleSideBufferWhichChannelToHe
     EXPECT_GT(gainBehind(0.0), 0.9);
 }
 
+TEST(CDSPDeEsser, InDoublePrecisionAThresholdOfZeroClearsTheAmountInItsSleep) {
+    CDSPDeEsser deEsser;
+    CPlainDeEsser plain;
+    const auto expectSame = [&](float threshold, const auto &input) {
+        for (CDSPBase *each : {static_cast<CDSPBase *>(&deEsser), static_cast<CDSPBase *>(&plain)})
+            each->setParameter(kThreshold, threshold);
+        const auto output = render(deEsser, input, 100);
+        EXPECT_TRUE(output == render(plain, input, 100));
+        return output;
+    };
+    deEsser.setParameter(kRatio, 2.0f);
+    plain.setParameter(kRatio, 2.0f);
+    const auto loud = sibilant<float>(settled, 0.5, 0.5);
+    expectSame(-30.0f, loud);
+    // The amount has just fallen below what keeps the detector active.
+    const auto quiet = vowel<float>(100, 0.01);
+    while (!(expectSame(-30.0f, quiet) == quiet)) {
+    }
+    expectSame(0.0f, TStereo<double>(10));
+    expectSame(-30.0f, loud);
+}
+
 TEST(CDSPDeEsser, KeepsToTheContractOfAModule) {
     for (const auto &make : {makeWide, makeNarrow}) {
         expectBlocksOfAnyLength(make);

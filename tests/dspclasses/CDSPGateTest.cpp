@@ -193,17 +193,42 @@ TEST(CDSPGate, InDoublePrecisionClosesAsLongAsItHasNotOpenedFully) {
 }
 
 TEST(CDSPGate, ResetClosesItAndKeepsTheParametersAndTheDisplay) {
-    auto gate = makeOpen<float>();
-    gate->setParameter(kAttack, 20.0f);
-    gate->reset();
-    EXPECT_TRUE(gate->isOpen());
-    EXPECT_EQ(gate->getParameter(kThreshold), -6.0206f);
-    EXPECT_EQ(gate->getParameter(kAttack), 20.0f);
+    for (const float threshold : {-20.0f, -6.0206f}) {
+        CDSPGate gate, fresh;
+        for (CDSPGate *each : {&gate, &fresh}) {
+            each->setParameter(kThreshold, threshold);
+            each->setParameter(kAttack, 20.0f);
+        }
+        const TStereo<float> loud = steady(6000, 1.0f, 1.0f);
+        const TStereo<float> first = render(gate, loud, 512);
+        EXPECT_TRUE(gate.isOpen());
+        gate.reset();
+        EXPECT_TRUE(gate.isOpen());
+        EXPECT_EQ(gate.getParameter(kThreshold), threshold);
+        EXPECT_EQ(gate.getParameter(kAttack), 20.0f);
+        EXPECT_TRUE(render(gate, loud, 512) == first);
+        EXPECT_TRUE(render(fresh, loud, 512) == first);
+    }
+}
 
-    auto fresh = makeAtHalf();
-    fresh->setParameter(kAttack, 20.0f);
-    const auto input = makeSignal<float>(ESignal::Bursts, 6, 3000);
-    EXPECT_TRUE(render(*gate, input, 64) == render(*fresh, input, 64));
+TEST(CDSPGate, AGainThatHasSunkToZeroBecauseOfANegativeAttackIsClosed) {
+    for (int loudFrames = 400; loudFrames < 600; loudFrames += 5) {
+        CDSPGate gate;
+        CPlainGate plain;
+        const auto expectSame = [&](float attack, const TStereo<float> &input) {
+            for (CDSPBase *each :
+                 {static_cast<CDSPBase *>(&gate), static_cast<CDSPBase *>(&plain)}) {
+                each->setParameter(kAttack, attack);
+                each->setParameter(kThreshold, -0.2f);
+            }
+            EXPECT_TRUE(render(gate, input, 4096) == render(plain, input, 4096)) << loudFrames;
+        };
+        TStereo<float> sinking = steady(loudFrames + 100, 1.0f, 1.0f);
+        for (auto &channel : sinking.channels)
+            std::fill(channel.begin() + loudFrames, channel.end(), 0.0f);
+        expectSame(-1.0f, sinking);
+        expectSame(10.0f, steady(3000, 1.0f, 1.0f));
+    }
 }
 
 TEST(CDSPGate, WritesNothingIntoItsInput) {
