@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# setup.sh [run|test|figures]: installs through apt what the build and the run need, with "test" (the
-# default) also what the tests need, with "figures" what draws the pictures of the documentation.
-# Quiet and quick when nothing is missing.
+# setup.sh [run|test|figures|fuzz]: installs through apt what the build and the run need, with "test"
+# (the default) also what the tests need, with "figures" what draws the pictures of the
+# documentation, with "fuzz" what the fuzzers need. Quiet and quick when nothing is missing.
 set -euo pipefail
 
 run_packages=(
@@ -18,13 +18,15 @@ test_packages=(
     wine wine64 xvfb xauth                              # and where its tests run
 )
 figures_packages=(python3-matplotlib python3-soundfile)
+fuzz_packages=(clang-14 libclang-rt-14-dev)  # libFuzzer and the sanitizers that go with it
 
 packages=("${run_packages[@]}")
 case "${1:-test}" in
 run) ;;
 test) packages+=("${test_packages[@]}") ;;
 figures) packages+=("${figures_packages[@]}") ;;
-*) echo "usage: setup.sh [run|test|figures]" >&2; exit 2 ;;
+fuzz) packages+=("${fuzz_packages[@]}") ;;
+*) echo "usage: setup.sh [run|test|figures|fuzz]" >&2; exit 2 ;;
 esac
 
 installed=$(dpkg-query -W -f '${db:Status-Status} ${Package}\n' "${packages[@]}" 2>/dev/null || true)

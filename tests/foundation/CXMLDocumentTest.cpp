@@ -62,6 +62,8 @@ protected:
     }
 
     std::string written() {
+        // Some file systems wait for the disk when an old file is emptied.
+        std::filesystem::remove(path.getString());
         EXPECT_TRUE(document.writeFile(path));
         return readFile(path.getString());
     }
@@ -373,8 +375,8 @@ TEST_F(CXMLDocumentFile, GeneratedDocumentsComeBack) {
         CXMLDocument read;
         ASSERT_TRUE(read.readFile(path));
         ASSERT_EQ(sketch(read.getRootNode()), tree) << "seed " << seed;
-        ASSERT_TRUE(read.writeFile(path));
-        EXPECT_EQ(readFile(path.getString()), bytes) << "seed " << seed;
+        document.setRootNode(read.getRootNode());
+        EXPECT_EQ(written(), bytes) << "seed " << seed;
     }
 }
 

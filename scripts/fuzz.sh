@@ -1,0 +1,20 @@
+#!/usr/bin/env bash
+# fuzz.sh TARGET SECONDS: fuzzes one of the targets of tests/fuzz with libFuzzer, from its committed
+# corpus. What it finds new stays in build/fuzz/found/TARGET, crashes among it as crash-*.
+set -euo pipefail
+cd "$(dirname "$(realpath "$0")")/.."
+
+corpus=tests/fuzz/corpus/${1:-}
+if [ $# -ne 2 ] || [ ! -d "$corpus" ] || [ -z "$1" ]; then
+    echo "usage: fuzz.sh {$(ls tests/fuzz/corpus | paste -sd'|')} SECONDS" >&2
+    exit 2
+fi
+
+scripts/setup.sh fuzz
+scripts/build.sh fuzz "fuzz_$1"
+found=build/fuzz/found/$1
+mkdir -p "$found"
+# Targets that read files write them where memory is the disk.
+[ ! -d /dev/shm ] || export TMPDIR=/dev/shm
+build/fuzz/bin/fuzz_"$1" -max_total_time="$2" -artifact_prefix="$found/" -max_len=9000 -timeout=20 \
+    -print_final_stats=1 "$found" "$corpus"

@@ -1,0 +1,72 @@
+// Runs a fuzz target without libFuzzer: every file of a folder, then seeded mutations of it.
+// Called with the folder; with a file and a seed it runs that one mutation.
+#include "Fuzz.h"
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <vector>
+
+namespace {
+
+constexpr unsigned mutationsPerFile = 300;
+
+std::string bytesOf(const std::filesystem::path &file) {
+    std::ifstream stream(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+void run(const std::string &bytes) {
+    // On the heap and of the very size, so that a sanitizer sees what runs past it.
+    const std::vector<std::uint8_t> input(bytes.begin(), bytes.end());
+    LLVMFuzzerTestOneInput(input.data(), input.size());
+}
+
+std::string mutated(std::string bytes, unsigned seed) {
+    std::mt19937 random(seed);
+    const auto below = [&](std::size_t limit) { return random() % limit; };
+    for (auto changes = 1 + below(8); changes > 0; --changes) {
+        const std::size_t place = below(bytes.size() + 1);
+        const std::size_t length = below(bytes.size() - place + 1);
+        switch (below(5)) {
+        case 0:
+            bytes.insert(place, 1, static_cast<char>(random()));
+            break;
+        case 1:
+            bytes.erase(place, 1 + length / 8);
+            break;
+        case 2:
+            bytes.insert(place, bytes.substr(place, length));
+            break;
+        case 3:
+            bytes.insert(place, 1 + below(3000), static_cast<char>(random()));
+            break;
+        default:
+            if (place < bytes.size())
+                bytes[place] = static_cast<char>(random());
+        }
+    }
+    return bytes;
+}
+
+}  // namespace
+
+int main(int count, char **arguments) {
+    if (count == 3) {
+        run(mutated(bytesOf(arguments[1]), static_cast<unsigned>(std::stoul(arguments[2]))));
+        return 0;
+    }
+    int files = 0;
+    for (const auto &entry : std::filesystem::directory_iterator(count == 2 ? arguments[1] : "")) {
+        const std::string bytes = bytesOf(entry.path());
+        std::printf("%s, seeds 0 to %u\n", entry.path().filename().string().c_str(),
+                    mutationsPerFile - 1);
+        std::fflush(stdout);
+        run(bytes);
+        for (unsigned seed = 0; seed < mutationsPerFile; ++seed)
+            run(mutated(bytes, seed));
+        ++files;
+    }
+    return files > 0 ? 0 : 1;
+}

@@ -1,0 +1,70 @@
+// A file read line by line, held against a plain splitting of it; then, with the first bytes as
+// orders, as a mixture of lines and numbers.
+#include "foundation/CTextStream.h"
+
+#include "Fuzz.h"
+
+using Tessitor::Basics::CString;
+using Tessitor::IO::CTextStream;
+using Tessitor::IO::EStreamMode;
+
+namespace {
+
+constexpr std::size_t longestLine = 2047;
+
+void requireLines(const std::string &path, const std::string &bytes) {
+    CTextStream stream(path.c_str(), EStreamMode::Read);
+    std::size_t position = 0;
+    while (!stream.isEndOfFile() && !stream.hasFailed()) {
+        CString line;
+        stream >> line;
+        const std::size_t end = std::min(bytes.find('\n', position), bytes.size());
+        const std::size_t length = std::min(end - position, longestLine);
+        std::string expected = bytes.substr(position, length).c_str();
+        if (expected.ends_with('\r'))
+            expected.pop_back();
+        require(line == expected.c_str(), "a line is what stands between two line feeds");
+        require(stream.hasFailed() == (end - position > longestLine), "only a long line fails");
+        require(stream.hasFailed() || stream.isEndOfFile() == (end == bytes.size()),
+                "the last line is the end");
+        position = std::min(end + 1, bytes.size());
+    }
+}
+
+void readMixture(const std::string &path, CInput orders) {
+    CTextStream stream(path.c_str(), EStreamMode::Read);
+    CString line;
+    int whole = 0;
+    long large = 0;
+    float single = 0;
+    double precise = 0;
+    for (int i = 0; i < 64 && !stream.isEndOfFile(); ++i) {
+        switch (orders.byte() % 5) {
+        case 0:
+            stream >> line;
+            break;
+        case 1:
+            stream >> whole;
+            break;
+        case 2:
+            stream >> large;
+            break;
+        case 3:
+            stream >> single;
+            break;
+        default:
+            stream >> precise;
+        }
+    }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
+    static CInputFile file;
+    const std::string bytes = CInput(data, size).rest();
+    const std::string path = file.write(bytes);
+    requireLines(path, bytes);
+    readMixture(path, CInput(data, size));
+    return 0;
+}

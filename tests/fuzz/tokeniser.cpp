@@ -1,0 +1,39 @@
+// A delimiter, then a text.
+#include "foundation/CStringTokeniser.h"
+
+#include "Fuzz.h"
+
+#include <memory>
+
+using Tessitor::Basics::CString;
+using Tessitor::Basics::CStringTokeniser;
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
+    CInput input(data, size);
+    const char delimiter = static_cast<char>(input.byte());
+    const std::string text = input.rest().c_str();
+    const std::string held = text.substr(0, 2047);
+
+    CStringTokeniser tokeniser(text.c_str(), delimiter);
+    const std::int32_t count = tokeniser.countTokens();
+    std::string joined;
+    std::int32_t read = 0;
+    while (const std::unique_ptr<char[]> token{tokeniser.getNextToken()}) {
+        require(std::string(token.get()).find(delimiter) == std::string::npos,
+                "no delimiter is in a token");
+        joined += (read > 0 ? std::string(1, delimiter) : "") + token.get();
+        ++read;
+    }
+    require(read == count, "as many tokens are read as are counted");
+    require(held.starts_with(joined), "the tokens are the text from its start");
+
+    CString token("kept");
+    require(!tokeniser.getNextToken(token) && token == "kept", "there are no more");
+    tokeniser.setDelimiter(',');
+    tokeniser.setText(text.c_str());
+    require(!tokeniser.hasMoreTokens(), "a new text is not counted");
+    tokeniser.countTokens();
+    while (tokeniser.getNextToken(token))
+        require(token.getNumberOfCharacters() <= 2048, "a token is no longer than the text");
+    return 0;
+}
