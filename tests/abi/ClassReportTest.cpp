@@ -5,9 +5,10 @@
 #include "hostlayer/EventBlock.h"
 #include "hostlayer/FakeHost.h"
 
+#include <cctype>
 #include <gtest/gtest.h>
 #include <map>
-#include <regex>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 
@@ -27,10 +28,20 @@ public:
         const std::string text = readFile(path);
         if (text.empty())
             throw std::runtime_error("the class library has ended before");
-        const std::regex row(R"(\| +(\S.*) \| *(\d+)\| *\d+\|\n)");
         std::map<std::string, std::uint32_t> instances;
-        for (std::sregex_iterator found(text.begin(), text.end(), row), end; found != end; ++found)
-            instances[found->str(1)] = static_cast<std::uint32_t>(std::stoul(found->str(2)));
+        std::istringstream lines(text);
+        for (std::string line; std::getline(lines, line);) {
+            std::istringstream columns(line);
+            std::string edge, name, count;
+            std::getline(columns, edge, '|');
+            std::getline(columns, name, '|');
+            std::getline(columns, count, '|');
+            // Only a class has both: a rule has no columns, a heading no number, the sums no name.
+            const std::size_t begin = name.find_first_not_of(' ');
+            if (begin != std::string::npos && std::isdigit(count.back()) != 0)
+                instances[name.substr(begin, name.size() - begin - 1)] =
+                    static_cast<std::uint32_t>(std::stoul(count));
+        }
         return instances;
     }
 };
