@@ -85,13 +85,14 @@ void CDSPComp::run(Sample *const *in, Sample *const *out, int frames) {
     if (frames <= 0)
         return;
     Sample *inL = in[0], *inR = in[1], *outL = out[0], *outR = out[1];
-    if (linked)
+    if (linked) {
         runWide([=, this] { runLinked(inL, inR, outL, outR, frames); });
-    else
+    } else {
         runWide([=, this] {
             runLeft(inL, outL, frames);
             runRight(inR, outR, frames);
         });
+    }
 }
 
 template <typename Sample>

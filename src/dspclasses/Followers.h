@@ -47,11 +47,12 @@ template <typename Sample>
     const Sample attack{follower.attackCoef}, release{follower.releaseCoef};
     // The release first: it is what counts if the other product is a NaN, 0 times an infinite
     // coefficient.
-    if (attack < release)
+    if (attack < release) {
         return recurFour(state, input, [=](float before, Sample level) {
             const Sample distance = Sample{before} - level;
             return static_cast<float>(std::max(distance * release, distance * attack) + level);
         });
+    }
     return recurFour(state, input, [=](float before, Sample level) {
         const Sample distance = Sample{before} - level;
         return static_cast<float>(std::min(distance * release, distance * attack) + level);

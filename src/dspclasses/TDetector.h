@@ -170,10 +170,11 @@ private:
         const Four &amounts = m_amounts[step];
         const float before = over, release = smoother.releaseCoef;
         // Below the threshold it only falls, towards -bias.
-        if (before >= -bias && release >= 0.0f && !isAnySet(m_above[step]))
+        if (before >= -bias && release >= 0.0f && !isAnySet(m_above[step])) {
             return recurFour(over, amounts, [release](float falling, Sample) {
                 return (falling + bias) * release - bias;
             });
+        }
         if (std::abs(before) >= leastUnbiased) [[likely]] {
             const Floats4 overs = followFour(smoother, over, amounts);
             const Floats4 magnitudes = magnitude(SFloats4{overs}).values;
