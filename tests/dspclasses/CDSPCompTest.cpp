@@ -69,22 +69,8 @@ TEST(CDSPComp, StartsWithItsConstructionValues) {
     EXPECT_EQ(comp.getParameter(kMode), 1.0f);
 }
 
-TEST(CDSPComp, ReturnsWhatWasSet) {
-    CDSPComp comp;
-    for (const SParameterRange &law : laws) {
-        comp.setParameter(law.index, law.low);
-        EXPECT_EQ(comp.getParameter(law.index), law.low);
-        comp.setParameter(law.index, law.high);
-        EXPECT_EQ(comp.getParameter(law.index), law.high);
-    }
-}
-
-TEST(CDSPComp, IgnoresAnUnknownIndex) {
-    CDSPComp comp, untouched;
-    comp.setParameter(6, 5.0f);
-    comp.setParameter(-1, 5.0f);
-    for (int index = -1; index <= 6; ++index)
-        EXPECT_EQ(comp.getParameter(index), untouched.getParameter(index));
+TEST(CDSPComp, ReturnsWhatWasSetAndIgnoresAnUnknownIndex) {
+    expectParametersReadAsSet(makeComp, laws);
 }
 
 TEST(CDSPComp, IsLinkedFromOneHalf) {

@@ -100,22 +100,8 @@ TEST(CDSPDeEsser, StartsWithItsConstructionValues) {
     EXPECT_EQ(deEsser.getParameter(kListen), 0.0f);
 }
 
-TEST(CDSPDeEsser, ReturnsWhatWasSet) {
-    CDSPDeEsser deEsser;
-    for (const SParameterRange &law : laws) {
-        deEsser.setParameter(law.index, law.low);
-        EXPECT_EQ(deEsser.getParameter(law.index), law.low);
-        deEsser.setParameter(law.index, law.high);
-        EXPECT_EQ(deEsser.getParameter(law.index), law.high);
-    }
-}
-
-TEST(CDSPDeEsser, IgnoresAnUnknownIndex) {
-    CDSPDeEsser deEsser, untouched;
-    deEsser.setParameter(6, 5.0f);
-    deEsser.setParameter(-1, 5.0f);
-    for (int index = -1; index <= 6; ++index)
-        EXPECT_EQ(deEsser.getParameter(index), untouched.getParameter(index));
+TEST(CDSPDeEsser, ReturnsWhatWasSetAndIgnoresAnUnknownIndex) {
+    expectParametersReadAsSet(makeDeEsser, laws);
 }
 
 TEST(CDSPDeEsser, IsNarrowAndListensFromOneHalf) {

@@ -15,6 +15,16 @@ enum EParameter { kThreshold, kAttack, kRelease };
 
 constexpr float K = 0.115129255f;
 
+const std::vector<SParameterRange> laws{
+    {kThreshold, -60.0f, 0.0f}, {kAttack, 1.0f, 500.0f}, {kRelease, 50.0f, 1000.0f}};
+
+std::unique_ptr<CDSPGate> makeGate() {
+    return std::make_unique<CDSPGate>();
+}
+std::unique_ptr<CPlainGate> makePlain() {
+    return std::make_unique<CPlainGate>();
+}
+
 float gainOf(float decibels) {
     return expSingle(decibels * K);
 }
@@ -49,12 +59,8 @@ TEST(CDSPGate, StartsWithItsConstructionValues) {
     EXPECT_FALSE(gate.isOpen());
 }
 
-TEST(CDSPGate, IgnoresAnUnknownIndex) {
-    CDSPGate gate, untouched;
-    gate.setParameter(3, 5.0f);
-    gate.setParameter(-1, 5.0f);
-    for (int index = -1; index <= 3; ++index)
-        EXPECT_EQ(gate.getParameter(index), untouched.getParameter(index));
+TEST(CDSPGate, ReturnsWhatWasSetAndIgnoresAnUnknownIndex) {
+    expectParametersReadAsSet(makeGate, laws);
 }
 
 TEST(CDSPGate, LetsNoSilenceBecomeAnythingElse) {
@@ -252,16 +258,12 @@ TEST(CDSPGate, KeepsToTheContractOfAModule) {
 }
 
 TEST(CDSPGate, EqualsThePlainReadingBitForBit) {
-    expectSameBits(
-        [] { return std::make_unique<CDSPGate>(); }, [] { return std::make_unique<CPlainGate>(); },
-        {{kThreshold, -60.0f, 0.0f}, {kAttack, 1.0f, 500.0f}, {kRelease, 50.0f, 1000.0f}});
+    expectSameBits(makeGate, makePlain, laws);
 }
 
 TEST(CDSPGate, EqualsThePlainReadingWithParametersThatNoKnobGives) {
-    expectSameBits([] { return std::make_unique<CDSPGate>(); },
-                   [] { return std::make_unique<CPlainGate>(); },
+    expectSameBits(makeGate, makePlain,
                    {{kThreshold, -200.0f, 30.0f}, {kAttack, -0.5f, 0.5f}, {kRelease, -0.5f, 0.5f}});
-    expectSameBits([] { return std::make_unique<CDSPGate>(); },
-                   [] { return std::make_unique<CPlainGate>(); },
+    expectSameBits(makeGate, makePlain,
                    {{kThreshold, -20.0f, 0.0f}, {kAttack, -9.0f, 1.0f}, {kRelease, -9.0f, 9.0f}});
 }

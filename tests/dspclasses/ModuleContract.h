@@ -62,3 +62,21 @@ void expectSilenceAfterABurst(Make make, int silentFrames) {
     EXPECT_EQ(output.left(output.frames() - 1), Sample{0});
     EXPECT_EQ(output.right(output.frames() - 1), Sample{0});
 }
+
+/// Each parameter reads as it was set, at both ends of its range, and no index beside them does
+/// anything. `ranges` holds every index from 0 on.
+template <typename Make, typename Ranges>
+void expectParametersReadAsSet(Make make, const Ranges &ranges) {
+    auto module = make(), untouched = make();
+    const int count = static_cast<int>(ranges.size());
+    module->setParameter(-1, 5.0f);
+    module->setParameter(count, 5.0f);
+    for (int index = -1; index <= count; ++index)
+        EXPECT_EQ(module->getParameter(index), untouched->getParameter(index)) << index;
+    for (const auto &range : ranges) {
+        for (const float value : {range.low, range.high}) {
+            module->setParameter(range.index, value);
+            EXPECT_EQ(module->getParameter(range.index), value) << range.index;
+        }
+    }
+}
