@@ -127,18 +127,20 @@ bool CXMLDocument::parseAttributes(const CString &text) {
     std::unique_ptr<CXMLAttribute> pending;
     bool isQuoted = false;
     const auto takeBuffer = [&] { return decodeEntities(std::exchange(buffer, {}).c_str()); };
+    const auto endValue = [&] {
+        const CString value = takeBuffer();
+        if (pending != nullptr && m_currentNode != nullptr) {
+            pending->setValue(value);
+            m_currentNode->addAttribute(pending.get());
+            static_cast<void>(pending.release());  // held by the node from here
+        }
+        pending.reset();
+    };
 
     for (const char *character = text.getString(); *character != '\0'; ++character) {
         if (*character == '"') {
-            if (isQuoted) {
-                const CString value = takeBuffer();
-                if (pending != nullptr && m_currentNode != nullptr) {
-                    pending->setValue(value);
-                    m_currentNode->addAttribute(pending.get());
-                    pending.release();
-                }
-                pending.reset();
-            }
+            if (isQuoted)
+                endValue();
             isQuoted = !isQuoted;
         } else if (*character == '=') {
             // Kept: inside quotes as well.

@@ -57,7 +57,9 @@ TEST(CBool, EveryConstructorCounts) {
     EXPECT_TRUE(value.getClass() == "CBool");
     const auto instances = value.getClass().getInstanceCount();
     {
-        const CBool copy(value), fromText("True"), fromString(CString("True"));
+        CBool copy(value);
+        copy = true;
+        const CBool fromText("True"), fromString(CString("True"));
         EXPECT_EQ(value.getClass().getInstanceCount(), instances + 3);
     }
     EXPECT_EQ(value.getClass().getInstanceCount(), instances);

@@ -9,7 +9,6 @@
 #include <random>
 #include <sstream>
 
-using Tessitor::Basics::CString;
 using Tessitor::Basics::CSystemString;
 using Tessitor::IO::CTextStream;
 using Tessitor::IO::CXMLAttribute;
@@ -298,7 +297,7 @@ TEST_F(CXMLDocumentFile, ALongerLineEndsTheReadingAndIsParsedAsFarAsItGoes) {
     const std::string start = "<tag gain=\"1\" pan=\"", filler(5000, 'x');
     for (const std::size_t length : {2048u, 2049u, 5000u}) {
         const std::string value = filler.substr(start.size() + 3 + filler.size() - length);
-        write("<?xml?>\n<root>\n" + start + value + "\"/>\n<last/>\n");
+        write(std::string("<?xml?>\n<root>\n").append(start).append(value) + "\"/>\n<last/>\n");
         EXPECT_FALSE(document.readFile(path));
         // Of the shorter ones only the end of the tag is missing, so that it stays open.
         EXPECT_EQ(sketch(document.getRootNode()),

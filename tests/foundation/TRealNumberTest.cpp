@@ -75,6 +75,7 @@ TYPED_TEST(TRealNumber, EveryConstructorCounts) {
     const auto instances = number.getClass().getInstanceCount();
     {
         TypeParam copy(number), another;
+        copy += number;
         another = copy + number;
         EXPECT_EQ(number.getClass().getInstanceCount(), instances + 2);
     }

@@ -6,7 +6,6 @@
 
 #include <gtest/gtest.h>
 
-using Tessitor::Basics::CCountedObject;
 using Tessitor::Basics::CLong;
 using Tessitor::Basics::CString;
 using Tessitor::Basics::CSystemString;

@@ -38,6 +38,11 @@ private:
     std::string m_path = (m_folder / "input").string();
 };
 
+/// What a function that takes a pointer to characters sees of the bytes.
+inline std::string untilZero(const std::string &bytes) {
+    return bytes.substr(0, bytes.find('\0'));
+}
+
 /// Takes an input apart, from its start; zeros and "" once it is used up.
 class CInput {
 public:
@@ -50,7 +55,7 @@ public:
     }
     /// Up to the next zero byte, which is skipped.
     std::string text() {
-        const std::string found = std::string(m_bytes, m_position).c_str();
+        std::string found = untilZero(m_bytes.substr(m_position));
         m_position = std::min(m_position + found.size() + 1, m_bytes.size());
         return found;
     }

@@ -2,9 +2,8 @@
 // bank, then the chunk. What the effect trusts its host to store is made so: values stay
 // normalised, since a delay line asserts that its offset is one and the longest delay would be
 // asked for gigabytes, and slots stay in the strip. An order without an end is loaded but not run.
-#include "effect/CCorvel.h"
-
 #include "Fuzz.h"
+#include "effect/CCorvel.h"
 
 #include <algorithm>
 #include <bit>

@@ -1,7 +1,6 @@
 // A path, then orders for it, each with a text of its own.
-#include "foundation/CHtmlString.h"
-
 #include "Fuzz.h"
+#include "foundation/CHtmlString.h"
 
 #include <cstring>
 #include <memory>

@@ -1,8 +1,7 @@
 // A file read line by line, held against a plain splitting of it; then, with the first bytes as
 // orders, as a mixture of lines and numbers.
-#include "foundation/CTextStream.h"
-
 #include "Fuzz.h"
+#include "foundation/CTextStream.h"
 
 using Tessitor::Basics::CString;
 using Tessitor::IO::CTextStream;
@@ -20,7 +19,7 @@ void requireLines(const std::string &path, const std::string &bytes) {
         stream >> line;
         const std::size_t end = std::min(bytes.find('\n', position), bytes.size());
         const std::size_t length = std::min(end - position, longestLine);
-        std::string expected = bytes.substr(position, length).c_str();
+        std::string expected = untilZero(bytes.substr(position, length));
         if (expected.ends_with('\r'))
             expected.pop_back();
         require(line == expected.c_str(), "a line is what stands between two line feeds");

@@ -1,7 +1,6 @@
 // A delimiter, then a text.
-#include "foundation/CStringTokeniser.h"
-
 #include "Fuzz.h"
+#include "foundation/CStringTokeniser.h"
 
 #include <memory>
 
@@ -11,7 +10,7 @@ using Tessitor::Basics::CStringTokeniser;
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
     CInput input(data, size);
     const char delimiter = static_cast<char>(input.byte());
-    const std::string text = input.rest().c_str();
+    const std::string text = untilZero(input.rest());
     const std::string held = text.substr(0, 2047);
 
     CStringTokeniser tokeniser(text.c_str(), delimiter);

@@ -1,9 +1,8 @@
 // A file, behind the declaration that a document must begin with: what is read is a tree, and what
 // that writes can be read again. It need not be the same: a root whose name was one letter is
 // written as "</>", which closes.
-#include "foundation/CXMLDocument.h"
-
 #include "Fuzz.h"
+#include "foundation/CXMLDocument.h"
 
 #include <vector>
 
