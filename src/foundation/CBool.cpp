@@ -10,7 +10,9 @@ CBool::CBool(bool value) : m_value(value) {
 
 CBool::CBool(const char *text) : CBool(CString(text)) {}
 
-CBool::CBool(const CString &text) : CBool(text == "True") {}
+CBool::CBool(const CString &text) : CBool() {
+    setValue(text);
+}
 
 CBool::CBool(const CBool &other) : CBool(other.m_value) {}
 

@@ -8,8 +8,8 @@ namespace Tessitor::Basics {
 class CBool : public CCountedObject {
 public:
     CBool(bool value = false);
-    explicit CBool(const char *text);     ///< as setValue() reads it
-    explicit CBool(const CString &text);  ///< the same
+    CBool(const char *text);     ///< as setValue() reads it
+    CBool(const CString &text);  ///< the same
     CBool(const CBool &other);
     ~CBool() override { s_class.decrementInstanceCount(); }
     CClass &getClass() const override { return s_class; }

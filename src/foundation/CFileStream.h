@@ -8,6 +8,7 @@
 #include <array>
 #include <bit>
 #include <concepts>
+#include <cstdint>
 #include <cstdio>
 
 namespace Tessitor::IO {
@@ -121,9 +122,11 @@ CFileStream &CFileStream::operator>>(Value &value) {
 
 template <std::same_as<bool> Flag>
 CFileStream &CFileStream::operator>>(Flag &value) {
-    std::uint8_t byte = value ? 1 : 0;
-    *this >> byte;
-    value = byte == 1;
+    char byte;
+    if (read(&byte, 1))
+        value = byte == 1;
+    else
+        m_failed = true;
     return *this;
 }
 

@@ -36,8 +36,8 @@ public:
     void setSecond(std::uint16_t second) { m_time.second = second; }
     void setMillisecond(std::uint16_t millisecond) { m_time.millisecond = millisecond; }
 
-    /// Windows' FILETIME as one number: steps of 100 ns since the beginning of 1601. Both are of
-    /// the same time zone.
+    /// Windows' FILETIME as one number: steps of 100 ns since the beginning of 1601. The time zone
+    /// stays: a local time gives a local number.
     /// @return 0 if there is no such time from 1601 to 30827; the day of the week is not looked at.
     std::uint64_t toFileTime() const;
     void fromFileTime(std::uint64_t fileTime);  ///< one above 2^63 - 1 is ignored

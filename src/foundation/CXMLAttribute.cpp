@@ -3,6 +3,7 @@
 #include "foundation/CBool.h"
 
 #include <charconv>
+#include <cmath>
 #include <cstring>
 #include <limits>
 #include <string>
@@ -21,15 +22,24 @@ CString textOf(double value) {
     return std::string(text, end).c_str();
 }
 
+/// Of what no double holds; the wider format tells too much from too little.
+double atTheEndOfTheRange(const char *begin, const char *end) {
+    long double value = 0;
+    std::from_chars(begin, end, value);
+    const double size = std::fabs(value) > 1 ? std::numeric_limits<double>::infinity() : 0.0;
+    return std::copysign(size, value < 0 ? -1.0 : 1.0);
+}
+
 double numberIn(const CString &text) {
     const char *begin = text.getString();
     while (CString::isWhiteSpace(*begin))
         ++begin;
     if (begin[0] == '+' && begin[1] != '-')
         ++begin;
+    const char *const end = begin + std::strlen(begin);
     double value = 0;
-    const auto [end, failed] = std::from_chars(begin, begin + std::strlen(begin), value);
-    return failed == std::errc::result_out_of_range ? CString::toDouble(text) : value;
+    const auto result = std::from_chars(begin, end, value);
+    return result.ec == std::errc::result_out_of_range ? atTheEndOfTheRange(begin, end) : value;
 }
 
 }  // namespace

@@ -5,8 +5,8 @@
 namespace Tessitor::IO {
 
 /// A name and a value of a node. Numbers become text with "%f", "%li" and "%d" and are read as
-/// CString's functions read them, both with a point whatever the locale of the host; a bool is
-/// "True" or "False".
+/// CString's functions read them, but decimal only, and both with a point whatever the locale of
+/// the host; a bool is "True" or "False".
 class CXMLAttribute : public Basics::CCountedObject {
 public:
     /// @param name  loses the white space at its ends, and has each blank replaced with "_". Of a

@@ -4,9 +4,9 @@
 
 namespace Tessitor::Host {
 
-// Both write a file that replaces one of the other; nothing is written, and nothing told, if it
-// cannot be made. @param path  the file; without an extension it is a folder, and becomes its
-// "CPUStats.txt".
+// Both take the file to write; without an extension it is a folder, and becomes its "CPUStats.txt".
+// A file that is there is replaced, so each of the two writes over the other's. If it cannot be
+// made nothing is written, and nothing told.
 
 /// Writes what is known of the drive that the path begins with.
 void writeDriveReport(Basics::CSystemString &path);

@@ -21,8 +21,8 @@ struct SNativeFile {
 
 inline constexpr std::uint32_t nativeFolderAttribute = 16;
 
-/// @param path  Windows takes the first match of a name with "*" or "?" in it; Linux follows
-///              symbolic links.
+/// @param path  without a separator at its end, behind which Windows finds no folder. Windows takes
+///              the first match of a name with "*" or "?" in it; Linux follows symbolic links.
 /// @return nothing if there is no such file.
 std::optional<SNativeFile> nativeFile(const std::string &path);
 

@@ -27,6 +27,8 @@ TEST(CBool, Compares) {
 TEST(CBool, ReadsOnlyTrueAsTrue) {
     EXPECT_TRUE(CBool("True").getValue());
     EXPECT_TRUE(CBool(CString("True")).getValue());
+    const CBool converted = "False";
+    EXPECT_FALSE(converted.getValue());
     for (const char *text : {"true", "TRUE", "True ", "1", "", "False"}) {
         EXPECT_FALSE(CBool(text).getValue()) << text;
         CBool value(true);

@@ -96,6 +96,7 @@ TEST(CRect, RectanglesThatShareAnEdgeIntersect) {
     EXPECT_TRUE(CRect::intersects(rect, CRect(20, 10, 5, 5)));
     EXPECT_TRUE(CRect::intersects(rect, CRect(10, 20, 5, 5)));
     EXPECT_TRUE(CRect::intersects(rect, CRect(5, 10, 5, 5)));
+    EXPECT_TRUE(CRect::intersects(rect, CRect(10, 5, 5, 5)));
     EXPECT_TRUE(CRect::intersects(rect, CRect(20, 20, 5, 5)));
     EXPECT_TRUE(CRect::intersects(rect, CRect(12, 12, 1, 1)));
 }
