@@ -102,7 +102,7 @@ TEST(CDSPComp, ReducesASignalOverTheThresholdNearlyAlikeWhateverItsLevel) {
 }
 
 TEST(CDSPComp, TakesAnySignalForLoudUntilTheThresholdIsFirstChanged) {
-    const auto gainOfAQuietSignal = [](std::vector<float> thresholds) {
+    const auto gainOfAQuietSignal = [](const std::vector<float> &thresholds) {
         CDSPComp comp;
         comp.setParameter(kRatio, 2.0f);
         for (const float threshold : thresholds)
@@ -115,7 +115,7 @@ TEST(CDSPComp, TakesAnySignalForLoudUntilTheThresholdIsFirstChanged) {
 }
 
 TEST(CDSPComp, RaisesTheGainUntilTheRatioIsFirstChanged) {
-    const auto gainWithRatios = [](std::vector<float> ratios) {
+    const auto gainWithRatios = [](const std::vector<float> &ratios) {
         CDSPComp comp;
         for (const float ratio : ratios)
             comp.setParameter(kRatio, ratio);

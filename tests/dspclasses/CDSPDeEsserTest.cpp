@@ -146,7 +146,7 @@ TEST(CDSPDeEsser, ItsDetectorStandsStillWhileListening) {
 }
 
 TEST(CDSPDeEsser, TakesAnySignalForLoudUntilTheThresholdIsFirstChanged) {
-    const auto gainOfAQuietSignal = [](std::vector<float> thresholds) {
+    const auto gainOfAQuietSignal = [](const std::vector<float> &thresholds) {
         CDSPDeEsser deEsser;
         deEsser.setParameter(kRatio, 2.0f);
         for (const float threshold : thresholds)
@@ -159,7 +159,7 @@ TEST(CDSPDeEsser, TakesAnySignalForLoudUntilTheThresholdIsFirstChanged) {
 }
 
 TEST(CDSPDeEsser, RaisesTheGainUntilTheRatioIsFirstChanged) {
-    const auto gainWithRatios = [](std::vector<float> ratios) {
+    const auto gainWithRatios = [](const std::vector<float> &ratios) {
         CDSPDeEsser deEsser;
         for (const float ratio : ratios)
             deEsser.setParameter(kRatio, ratio);

@@ -71,7 +71,7 @@ TEST(CDSPGate, LetsNoSilenceBecomeAnythingElse) {
 }
 
 TEST(CDSPGate, OpensForAnySignalUntilTheThresholdIsFirstChanged) {
-    const auto opensAt = [](float level, std::vector<float> thresholds) {
+    const auto opensAt = [](float level, const std::vector<float> &thresholds) {
         CDSPGate gate;
         for (const float threshold : thresholds)
             gate.setParameter(kThreshold, threshold);
