@@ -35,6 +35,9 @@ def main():
                 f"{name:{width}}  {precision:9}  {block:5}  {ns:8.2f}  {plain:8.2f}"
                 f"  {plain / ns:5.2f}  {speed:11.0f}"
             )
+    for (name, _, side, _), ns in least.items():
+        if side == "chain":
+            print(f"{name} that waits for the one before: {ns:.2f} ns")
 
 
 if __name__ == "__main__":

@@ -2,6 +2,7 @@
 #include "dspclasses/Speech.h"
 
 #include <benchmark/benchmark.h>
+#include <functional>
 
 static constexpr int longestBlock = 4096;
 static constexpr int inputFrames = 2 * longestBlock;  // no more, to stay in the caches
@@ -39,6 +40,20 @@ static void measure(benchmark::State &state, const SSubject::Make &make) {
     state.SetItemsProcessed(state.iterations() * block);
 }
 
+/// One operation that waits for the one before it, again and again: the measure of a recursion.
+/// Counts operations.
+template <typename Operation>
+static void measureChain(benchmark::State &state) {
+    double value = 1.0, operand = 1.0;
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(operand);
+        for (std::int64_t n = 0; n < state.range(0); ++n)
+            value = Operation()(value, operand);
+        benchmark::DoNotOptimize(value);
+    }
+    state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+
 template <typename Sample>
 static void add(const std::string &name, const SSubject::Make &make) {
     benchmark::RegisterBenchmark(name.c_str(), measure<Sample>, make)
@@ -57,6 +72,9 @@ int main(int argc, char **argv) {
         add<double>(subject.name + "/double/kernel", subject.makeKernel);
         add<double>(subject.name + "/double/plain", subject.makePlain);
     }
+    benchmark::RegisterBenchmark("Addition/double/chain", measureChain<std::plus<>>)->Arg(10000);
+    benchmark::RegisterBenchmark("Multiplication/double/chain", measureChain<std::multiplies<>>)
+        ->Arg(10000);
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 2;
