@@ -43,6 +43,7 @@ std::unique_ptr<CDSPDeEsser> makeNarrow() {
 template <typename Sample>
 std::vector<Sample> sine(double hertz, double level, int frames) {
     std::vector<Sample> samples;
+    samples.reserve(static_cast<std::size_t>(frames));
     for (int i = 0; i < frames; ++i)
         samples.push_back(
             static_cast<Sample>(level * std::sin(6.283185307179586 * hertz * i / 44100.0)));
@@ -307,7 +308,7 @@ TEST(CDSPDeEsser, InDoublePrecisionAThresholdOfZeroClearsTheAmountInItsSleep) {
     const auto expectSame = [&](float threshold, const auto &input) {
         for (CDSPBase *each : {static_cast<CDSPBase *>(&deEsser), static_cast<CDSPBase *>(&plain)})
             each->setParameter(kThreshold, threshold);
-        const auto output = render(deEsser, input, 100);
+        auto output = render(deEsser, input, 100);
         EXPECT_TRUE(output == render(plain, input, 100));
         return output;
     };
