@@ -76,7 +76,6 @@ bool CXMLDocument::readFile(const CSystemString &path) {
     setRootNode(nullptr);
     while (!stream.isEndOfFile() && !stream.hasFailed())
         parseLine(trimmedLine(stream));
-    m_currentNode = nullptr;
     return !stream.hasFailed();
 }
 

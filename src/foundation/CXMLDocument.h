@@ -58,7 +58,7 @@ private:
 
     static Basics::TClassRecord<CXMLDocument> s_class;
 
-    CXMLNode *m_currentNode = nullptr;  // while parsing, inside the root's tree
+    CXMLNode *m_currentNode = nullptr;  // inside the root's tree, while parsing
     CXMLNode *m_rootNode = nullptr;     // referenced
     std::int32_t m_indentLevel = 0;
 };

@@ -181,6 +181,7 @@ TEST_F(CFileStreamFile, OpenedForReadingItRejectsWritingAndFailsOnlyTheResult) {
     write("kept");
     CFileStream stream(path, EStreamMode::Read);
     EXPECT_FALSE(stream.write("lost", 4));
+    EXPECT_FALSE(stream.write("", 0));
     EXPECT_FALSE(stream.hasFailed());
     char bytes[4] = {};
     EXPECT_TRUE(stream.read(bytes, sizeof bytes));

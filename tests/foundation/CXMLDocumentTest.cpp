@@ -315,6 +315,7 @@ TEST_F(CXMLDocumentFile, EndsALineAtAZeroByte) {
 TEST_F(CXMLDocumentFile, DropsTheOldTreeAndItsPlace) {
     readTree("<root>\n<open>\n");
     EXPECT_EQ(readTree("<next>\n<child/>\n"), "next[child]");
+    EXPECT_EQ(document.getRootNode()->getParent(), nullptr);
 }
 
 TEST_F(CXMLDocumentFile, MayBeNestedDeeperThanTheStack) {
