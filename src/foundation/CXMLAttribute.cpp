@@ -2,8 +2,9 @@
 
 #include "foundation/CBool.h"
 
+#include <algorithm>
 #include <charconv>
-#include <cmath>
+#include <cstdint>
 #include <cstring>
 #include <limits>
 #include <string>
@@ -22,12 +23,28 @@ CString textOf(double value) {
     return std::string(text, end).c_str();
 }
 
-/// Of what no double holds; the wider format tells too much from too little.
+/// Of what no double holds: the place of its first digit and its exponent tell too much from too
+/// little.
 double atTheEndOfTheRange(const char *begin, const char *end) {
-    long double value = 0;
-    std::from_chars(begin, end, value);
-    const double size = std::fabs(value) > 1 ? std::numeric_limits<double>::infinity() : 0.0;
-    return std::copysign(size, value < 0 ? -1.0 : 1.0);
+    const bool isNegative = *begin == '-';
+    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+    const auto isExponent = [](char c) { return c == 'e' || c == 'E'; };
+    const auto isZero = [](char c) { return c == '0'; };
+
+    const char *const first = std::find_if_not(begin + (isNegative ? 1 : 0), end, isZero);
+    const char *const point = std::find_if_not(first, end, isDigit);
+    const auto whole = point - first;
+    const char *const fraction = std::min(point + 1, end);
+    const auto zerosBehindThePoint = std::find_if_not(fraction, end, isZero) - fraction;
+    const auto place = whole > 0 ? whole : -zerosBehindThePoint;
+
+    const char *exponentText = std::min(std::find_if(point, end, isExponent) + 1, end);
+    if (exponentText != end && *exponentText == '+')
+        ++exponentText;
+    std::int64_t exponent = 0;
+    std::from_chars(exponentText, end, exponent);
+    const double size = place + exponent > 0 ? std::numeric_limits<double>::infinity() : 0.0;
+    return isNegative ? -size : size;
 }
 
 double numberIn(const CString &text) {
