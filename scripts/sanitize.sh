@@ -7,5 +7,5 @@ cd "$(dirname "$(realpath "$0")")/.."
 scripts/setup.sh test
 for preset in asan tsan; do
     scripts/build.sh "$preset"
-    ctest --preset "$preset"
+    ctest --preset "$preset" --timeout 1800
 done
