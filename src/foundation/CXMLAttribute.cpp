@@ -42,7 +42,9 @@ double atTheEndOfTheRange(const char *begin, const char *end) {
     if (exponentText != end && *exponentText == '+')
         ++exponentText;
     std::int64_t exponent = 0;
-    std::from_chars(exponentText, end, exponent);
+    if (std::from_chars(exponentText, end, exponent).ec == std::errc::result_out_of_range)
+        exponent = *exponentText == '-' ? std::numeric_limits<std::int32_t>::min()
+                                        : std::numeric_limits<std::int32_t>::max();
     const double size = place + exponent > 0 ? std::numeric_limits<double>::infinity() : 0.0;
     return isNegative ? -size : size;
 }

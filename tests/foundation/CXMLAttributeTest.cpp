@@ -86,6 +86,9 @@ TEST(CXMLAttribute, ReadsNumbersAsFarAsTheyGo) {
     EXPECT_EQ(number(("0." + zeros + "2").c_str()), 0);
     EXPECT_EQ(number(("2" + zeros + "e-1").c_str()), std::numeric_limits<double>::infinity());
     EXPECT_EQ(number(("0." + zeros + "2e1").c_str()), 0);
+    const std::string nines(30, '9');
+    EXPECT_EQ(number(("1e" + nines).c_str()), std::numeric_limits<double>::infinity());
+    EXPECT_EQ(number(("1e-" + nines).c_str()), 0);
     EXPECT_EQ(CXMLAttribute("name", "99999999999").getValueAsInt(),
               std::numeric_limits<int>::max());
     EXPECT_EQ(CXMLAttribute("name", "12.9").getValueAsLong(), 12);

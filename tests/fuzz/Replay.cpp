@@ -1,5 +1,5 @@
-// Runs a fuzz target without libFuzzer: every file of a folder, then seeded mutations of it.
-// Called with the folder; with a file and a seed it runs that one mutation.
+// Runs a fuzz target without libFuzzer. With a folder and a number: every file of it and that many
+// mutations of each. With a file and a seed: that one mutation.
 #include "Fuzz.h"
 
 #include <filesystem>
@@ -9,8 +9,6 @@
 #include <vector>
 
 namespace {
-
-constexpr unsigned mutationsPerFile = 300;
 
 std::string bytesOf(const std::filesystem::path &file) {
     std::ifstream stream(file, std::ios::binary);
@@ -53,18 +51,21 @@ std::string mutated(std::string bytes, unsigned seed) {
 }  // namespace
 
 int main(int count, char **arguments) {
-    if (count == 3) {
-        run(mutated(bytesOf(arguments[1]), static_cast<unsigned>(std::stoul(arguments[2]))));
+    if (count != 3)
+        return 2;
+    const std::filesystem::path path = arguments[1];
+    const auto number = static_cast<unsigned>(std::stoul(arguments[2]));
+    if (!std::filesystem::is_directory(path)) {
+        run(mutated(bytesOf(path), number));
         return 0;
     }
     int files = 0;
-    for (const auto &entry : std::filesystem::directory_iterator(count == 2 ? arguments[1] : "")) {
+    for (const auto &entry : std::filesystem::directory_iterator(path)) {
         const std::string bytes = bytesOf(entry.path());
-        std::printf("%s, seeds 0 to %u\n", entry.path().filename().string().c_str(),
-                    mutationsPerFile - 1);
+        std::printf("%s, seeds below %u\n", entry.path().filename().string().c_str(), number);
         std::fflush(stdout);
         run(bytes);
-        for (unsigned seed = 0; seed < mutationsPerFile; ++seed)
+        for (unsigned seed = 0; seed < number; ++seed)
             run(mutated(bytes, seed));
         ++files;
     }
