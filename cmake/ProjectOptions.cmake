@@ -19,6 +19,13 @@ target_compile_options(project_options INTERFACE
     $<$<CXX_COMPILER_ID:GNU>:-Werror>)
 target_include_directories(project_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
 
+# Where a folder keeps what belongs to one system
+if(WIN32)
+    set(backend win32)
+else()
+    set(backend linux)
+endif()
+
 if(WIN32)
     # printf of the language standard, so that every display text is the same on both systems
     target_compile_definitions(project_options INTERFACE __USE_MINGW_ANSI_STDIO=1)

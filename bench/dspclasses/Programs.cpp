@@ -30,11 +30,10 @@ static std::unique_ptr<CDSPBase> makeStrip(const SProgram &program) {
 static std::unique_ptr<CDSPBase> makePlainStrip(const SProgram &program) {
     auto strip = std::make_unique<CPlainStrip>(makePlainModules());
     sendParameters(program, [&](int id, float value) { strip->setParameter(id, value); });
-    std::vector<int> chain;
-    for (int slot = program.order[1].next; slot != -1;
-         slot = program.order[static_cast<std::size_t>(slot)].next)
-        chain.push_back(slot);
-    strip->setChain(chain);
+    for (int slot = 0; slot < CChainOrder::slotCount; ++slot) {
+        const auto &link = program.order[static_cast<std::size_t>(slot)];
+        strip->orderEntry(slot) = {link.prev, link.next};
+    }
     return strip;
 }
 
