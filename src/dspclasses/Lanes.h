@@ -1,8 +1,7 @@
 #pragma once
 
-#include <emmintrin.h>
-
 #include <cstdint>
+#include <emmintrin.h>
 #include <limits>
 #include <type_traits>
 

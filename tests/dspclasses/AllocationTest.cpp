@@ -1,11 +1,10 @@
+#include "Allocation.h"
+
 #include "dspclasses/CDSPDeEsser.h"
 #include "dspclasses/CDSPMultiFX.h"
-
-#include "Allocation.h"
 #include "dspclasses/Signals.h"
 
 #include <gtest/gtest.h>
-
 #include <new>
 
 /// A module and the buffers of a host.

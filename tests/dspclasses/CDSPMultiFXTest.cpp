@@ -4,9 +4,8 @@
 #include "dspclasses/Oracle.h"
 #include "dspclasses/PlainModules.h"
 
-#include <gmock/gmock.h>
-
 #include <cstring>
+#include <gmock/gmock.h>
 
 using Calls = std::vector<std::string>;
 

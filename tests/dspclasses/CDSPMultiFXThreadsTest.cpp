@@ -1,10 +1,8 @@
 #include "dspclasses/CDSPMultiFX.h"
-
 #include "dspclasses/Signals.h"
 
-#include <gtest/gtest.h>
-
 #include <atomic>
+#include <gtest/gtest.h>
 #include <thread>
 
 // What ThreadSanitizer looks on at: the audio runs while another thread does what the editor and

@@ -3,10 +3,9 @@
 #include "dspclasses/Lanes.h"
 #include "dspclasses/Signals.h"
 
-#include <gtest/gtest.h>
-
 #include <bit>
 #include <cmath>
+#include <gtest/gtest.h>
 #include <limits>
 
 namespace {

@@ -3,7 +3,6 @@
 #include "dspclasses/Signals.h"
 
 #include <gtest/gtest.h>
-
 #include <limits>
 #include <vector>
 

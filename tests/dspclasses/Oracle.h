@@ -2,11 +2,10 @@
 
 #include "dspclasses/Signals.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <gtest/gtest.h>
 #include <iomanip>
 #include <limits>
 #include <sstream>

@@ -1,7 +1,6 @@
 #include "dspclasses/Oracle.h"
 
 #include <gtest/gtest-spi.h>
-
 #include <memory>
 
 namespace {

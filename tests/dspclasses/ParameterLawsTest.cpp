@@ -1,8 +1,7 @@
 #include "dspclasses/ParameterLaws.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
+#include <gtest/gtest.h>
 #include <vector>
 
 namespace Law = ParameterLaws;

@@ -2,10 +2,9 @@
 
 #include "dspclasses/Signals.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <cstdio>
+#include <gtest/gtest.h>
 
 // The table a second time, with every law as one expression and every text as printf makes it.
 

@@ -1,8 +1,7 @@
 #include "dspclasses/ParameterTexts.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
+#include <gtest/gtest.h>
 #include <limits>
 
 namespace Text = ParameterTexts;

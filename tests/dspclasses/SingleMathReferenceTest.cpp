@@ -1,12 +1,10 @@
-#include "dspclasses/SingleMath.h"
-
 #include "dspclasses/Signals.h"
+#include "dspclasses/SingleMath.h"
 #include "dspclasses/SingleReference.h"
-
-#include <gtest/gtest.h>
 
 #include <bit>
 #include <cstdint>
+#include <gtest/gtest.h>
 #include <ios>
 
 // A sample of what SingleMathSweep.cpp runs through in full.

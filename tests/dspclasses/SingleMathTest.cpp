@@ -4,12 +4,11 @@
 #include "dspclasses/SingleMathLanes.h"
 #include "dspclasses/WideLoop.h"
 
-#include <gtest/gtest.h>
-
 #include <bit>
 #include <cmath>
 #include <cstdint>
 #include <functional>
+#include <gtest/gtest.h>
 #include <limits>
 #include <vector>
 

@@ -1,8 +1,7 @@
 #pragma once
 
-#include <quadmath.h>
-
 #include <cmath>
+#include <quadmath.h>
 
 /// The true values of the functions of SingleMath, rounded to float. The 64 bits of the processor's
 /// long format settle all but the rare value next to the middle between two floats; those are

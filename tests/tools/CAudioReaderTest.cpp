@@ -1,10 +1,10 @@
 #include "corvel/CAudioReader.h"
 
-#include <gmock/gmock.h>
-
 #include "corvel/Errors.h"
 #include "tools/support/AudioFiles.h"
 #include "tools/support/CTemporaryFolder.h"
+
+#include <gmock/gmock.h>
 
 using namespace Tessitor::Tool;
 using testing::HasSubstr;

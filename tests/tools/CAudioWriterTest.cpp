@@ -1,10 +1,10 @@
 #include "corvel/CAudioWriter.h"
 
-#include <gtest/gtest.h>
-
 #include "corvel/Errors.h"
 #include "tools/support/AudioFiles.h"
 #include "tools/support/CTemporaryFolder.h"
+
+#include <gtest/gtest.h>
 
 using namespace Tessitor::Tool;
 

@@ -1,12 +1,12 @@
 #include "corvel/CEffectInstance.h"
 
-#include <gmock/gmock.h>
-#include <stdlib.h>
-
 #include "corvel/Errors.h"
 #include "corvel/Text.h"
 #include "tools/support/CTemporaryFolder.h"
 #include "tools/support/Program.h"
+
+#include <gmock/gmock.h>
+#include <stdlib.h>
 
 using namespace Tessitor::Tool;
 using testing::ElementsAre;

@@ -1,10 +1,10 @@
 #include "corvel/CEffectLibrary.h"
 
-#include <gmock/gmock.h>
-
 #include "corvel/Errors.h"
 #include "tools/support/CTemporaryFolder.h"
 #include "tools/support/Program.h"
+
+#include <gmock/gmock.h>
 
 using namespace Tessitor::Tool;
 using testing::HasSubstr;

@@ -1,9 +1,9 @@
 #include "corvel/CEffectSettings.h"
 
-#include <gmock/gmock.h>
-
 #include "corvel/Errors.h"
 #include "tools/support/Program.h"
+
+#include <gmock/gmock.h>
 
 using namespace Tessitor::Tool;
 using testing::HasSubstr;

@@ -1,10 +1,10 @@
 #include "corvel/CParameterText.h"
 
+#include "corvel/Errors.h"
+
 #include <cmath>
 #include <cstdio>
 #include <gmock/gmock.h>
-
-#include "corvel/Errors.h"
 
 using Tessitor::Tool::CCallError;
 using Tessitor::Tool::CParameterText;

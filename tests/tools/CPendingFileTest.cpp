@@ -1,9 +1,9 @@
 #include "corvel/CPendingFile.h"
 
-#include <gtest/gtest.h>
-
 #include "corvel/Errors.h"
 #include "tools/support/CTemporaryFolder.h"
+
+#include <gtest/gtest.h>
 
 using Tessitor::Tool::CJobError;
 using Tessitor::Tool::CPendingFile;

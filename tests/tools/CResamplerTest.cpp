@@ -1,11 +1,11 @@
 #include "corvel/CResampler.h"
 
+#include "corvel/Errors.h"
+
 #include <cmath>
 #include <gtest/gtest.h>
 #include <numbers>
 #include <vector>
-
-#include "corvel/Errors.h"
 
 using namespace Tessitor::Tool;
 

@@ -1,9 +1,9 @@
 #include "corvel/Chain.h"
 
-#include <gtest/gtest.h>
-
 #include "corvel/Errors.h"
 #include "dspclasses/CDSPMultiFX.h"
+
+#include <gtest/gtest.h>
 
 using namespace Tessitor::Tool;
 using Tessitor::Corvel::SProgram;

@@ -1,11 +1,11 @@
-#include <gmock/gmock.h>
-#include <nlohmann/json.hpp>
-
 #include "corvel/CEffectInstance.h"
 #include "corvel/CParameterText.h"
 #include "tools/support/AudioFiles.h"
 #include "tools/support/CTemporaryFolder.h"
 #include "tools/support/Program.h"
+
+#include <gmock/gmock.h>
+#include <nlohmann/json.hpp>
 
 // The program and the effect of this build together.
 

@@ -1,10 +1,10 @@
-#include <gmock/gmock.h>
-#include <nlohmann/json.hpp>
-
 #include "corvel/Chain.h"
 #include "tools/support/AudioFiles.h"
 #include "tools/support/CTemporaryFolder.h"
 #include "tools/support/Program.h"
+
+#include <gmock/gmock.h>
+#include <nlohmann/json.hpp>
 
 using testing::HasSubstr;
 

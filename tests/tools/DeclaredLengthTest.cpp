@@ -1,9 +1,9 @@
 #include "corvel/DeclaredLength.h"
 
-#include <gtest/gtest.h>
-
 #include "tools/support/AudioFiles.h"
 #include "tools/support/CTemporaryFolder.h"
+
+#include <gtest/gtest.h>
 
 using Tessitor::Tool::bytesMissing;
 

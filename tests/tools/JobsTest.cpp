@@ -1,10 +1,10 @@
 #include "corvel/Jobs.h"
 
-#include <gtest/gtest.h>
-#include <sndfile.h>
-
 #include "corvel/Errors.h"
 #include "tools/support/CTemporaryFolder.h"
+
+#include <gtest/gtest.h>
+#include <sndfile.h>
 
 using namespace Tessitor::Tool;
 

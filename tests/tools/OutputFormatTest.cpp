@@ -1,10 +1,10 @@
 #include "corvel/OutputFormat.h"
 
+#include "corvel/Errors.h"
+
 #include <gtest/gtest.h>
 #include <limits>
 #include <sndfile.h>
-
-#include "corvel/Errors.h"
 
 using namespace Tessitor::Tool;
 

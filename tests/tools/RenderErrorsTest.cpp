@@ -1,9 +1,9 @@
-#include <gmock/gmock.h>
-#include <nlohmann/json.hpp>
-
 #include "tools/support/AudioFiles.h"
 #include "tools/support/CTemporaryFolder.h"
 #include "tools/support/Program.h"
+
+#include <gmock/gmock.h>
+#include <nlohmann/json.hpp>
 
 // Each error of `corvel render`: one line that says which file and what is wrong, the exit status,
 // and an output that stays what it was.

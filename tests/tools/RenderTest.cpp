@@ -1,10 +1,10 @@
-#include <cmath>
-#include <gmock/gmock.h>
-#include <nlohmann/json.hpp>
-
 #include "tools/support/AudioFiles.h"
 #include "tools/support/CTemporaryFolder.h"
 #include "tools/support/Program.h"
+
+#include <cmath>
+#include <gmock/gmock.h>
+#include <nlohmann/json.hpp>
 
 // What `corvel render` does with sound, seen from outside, through an effect whose sound is known.
 

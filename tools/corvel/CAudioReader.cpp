@@ -1,10 +1,10 @@
 #include "corvel/CAudioReader.h"
 
-#include <string>
-
 #include "corvel/DeclaredLength.h"
 #include "corvel/Errors.h"
 #include "corvel/OutputFormat.h"
+
+#include <string>
 
 namespace fs = std::filesystem;
 

@@ -1,12 +1,12 @@
 #include "corvel/CAudioWriter.h"
 
-#include <algorithm>
-#include <cerrno>
-#include <system_error>
-
 #include "corvel/Errors.h"
 #include "corvel/OutputFormat.h"
 #include "corvel/Quantise.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <system_error>
 
 namespace Tessitor::Tool {
 

@@ -1,13 +1,13 @@
 #pragma once
 
+#include "corvel/CAudioReader.h"
+#include "corvel/CPendingFile.h"
+
 #include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
-
-#include "corvel/CAudioReader.h"
-#include "corvel/CPendingFile.h"
 
 namespace Tessitor::Tool {
 

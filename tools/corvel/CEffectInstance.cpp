@@ -1,8 +1,8 @@
 #include "corvel/CEffectInstance.h"
 
-#include <array>
-
 #include "corvel/Errors.h"
+
+#include <array>
 
 namespace Tessitor::Tool {
 

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "corvel/CEffectLibrary.h"
+#include "corvel/HostCallback.h"
+
 #include <cstddef>
 #include <memory>
 #include <span>
 #include <string>
-
-#include "corvel/CEffectLibrary.h"
-#include "corvel/HostCallback.h"
 
 namespace Tessitor::Tool {
 

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "hostlayer/VstInterface.h"
+
 #include <filesystem>
 #include <mutex>
 #include <optional>
 #include <string>
 #include <vector>
-
-#include "hostlayer/VstInterface.h"
 
 namespace Tessitor::Tool {
 

@@ -1,10 +1,10 @@
 #include "corvel/CEffectSettings.h"
 
-#include <charconv>
-
 #include "corvel/CParameterText.h"
 #include "corvel/Errors.h"
 #include "corvel/Text.h"
+
+#include <charconv>
 
 namespace Tessitor::Tool {
 

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "corvel/CEffectInstance.h"
+#include "corvel/Chain.h"
+
 #include <optional>
 #include <string>
 #include <utility>
 #include <vector>
-
-#include "corvel/CEffectInstance.h"
-#include "corvel/Chain.h"
 
 namespace Tessitor::Tool {
 

@@ -1,13 +1,13 @@
 #include "corvel/CParameterText.h"
 
+#include "corvel/Errors.h"
+
 #include <algorithm>
 #include <cctype>
 #include <charconv>
 #include <cmath>
 #include <limits>
 #include <utility>
-
-#include "corvel/Errors.h"
 
 namespace Tessitor::Tool {
 

@@ -1,11 +1,11 @@
 #include "corvel/CPendingFile.h"
 
+#include "corvel/Errors.h"
+
 #include <cerrno>
 #include <cstdio>
 #include <string>
 #include <system_error>
-
-#include "corvel/Errors.h"
 
 namespace fs = std::filesystem;
 

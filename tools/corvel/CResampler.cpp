@@ -1,10 +1,10 @@
 #include "corvel/CResampler.h"
 
+#include "corvel/Errors.h"
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
-
-#include "corvel/Errors.h"
 
 namespace Tessitor::Tool {
 

@@ -1,11 +1,11 @@
 #include "corvel/Chain.h"
 
+#include "corvel/Errors.h"
+#include "corvel/Text.h"
+
 #include <algorithm>
 #include <array>
 #include <cstring>
-
-#include "corvel/Errors.h"
-#include "corvel/Text.h"
 
 namespace Tessitor::Tool {
 

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "corvel/CEffectInstance.h"
+#include "effect/SProgram.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "corvel/CEffectInstance.h"
-#include "effect/SProgram.h"
 
 namespace Tessitor::Tool {
 

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "corvel/CEffectSettings.h"
+#include "corvel/Render.h"
+
 #include <optional>
 #include <string>
 #include <vector>
-
-#include "corvel/CEffectSettings.h"
-#include "corvel/Render.h"
 
 namespace Tessitor::Tool {
 

@@ -1,9 +1,9 @@
-#include <array>
-#include <cstdio>
-
 #include "corvel/Commands.h"
 #include "corvel/Print.h"
 #include "corvel/Text.h"
+
+#include <array>
+#include <cstdio>
 
 namespace Tessitor::Tool {
 

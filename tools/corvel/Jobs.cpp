@@ -1,8 +1,8 @@
 #include "corvel/Jobs.h"
 
-#include <set>
-
 #include "corvel/Errors.h"
+
+#include <set>
 
 namespace fs = std::filesystem;
 

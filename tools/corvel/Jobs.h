@@ -1,9 +1,9 @@
 #pragma once
 
+#include "corvel/Render.h"
+
 #include <string>
 #include <vector>
-
-#include "corvel/Render.h"
 
 namespace Tessitor::Tool {
 

@@ -1,13 +1,13 @@
 #include "corvel/OutputFormat.h"
 
+#include "corvel/Errors.h"
+
 #include <algorithm>
 #include <array>
 #include <cctype>
 #include <limits>
 #include <sndfile.h>
 #include <vector>
-
-#include "corvel/Errors.h"
 
 namespace Tessitor::Tool {
 

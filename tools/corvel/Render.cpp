@@ -1,10 +1,10 @@
 #include "corvel/Render.h"
 
-#include <chrono>
-#include <cmath>
-
 #include "corvel/Errors.h"
 #include "corvel/TRenderLoop.h"
+
+#include <chrono>
+#include <cmath>
 
 namespace Tessitor::Tool {
 

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <cstdint>
-#include <filesystem>
-#include <functional>
-
 #include "corvel/CEffectSettings.h"
 #include "corvel/CLevels.h"
 #include "corvel/OutputFormat.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <functional>
 
 namespace Tessitor::Tool {
 

@@ -1,7 +1,3 @@
-#include <algorithm>
-#include <mutex>
-#include <utility>
-
 #include "corvel/CProgressBar.h"
 #include "corvel/Commands.h"
 #include "corvel/Interrupt.h"
@@ -10,6 +6,10 @@
 #include "corvel/RenderReport.h"
 #include "corvel/Workers.h"
 #include "platform/Terminal.h"
+
+#include <algorithm>
+#include <mutex>
+#include <utility>
 
 namespace Tessitor::Tool {
 

@@ -1,8 +1,8 @@
 #include "corvel/RenderReport.h"
 
-#include <cmath>
-
 #include "corvel/Text.h"
+
+#include <cmath>
 
 namespace Tessitor::Tool {
 

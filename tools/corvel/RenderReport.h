@@ -1,11 +1,11 @@
 #pragma once
 
+#include "corvel/CEffectSettings.h"
+#include "corvel/Render.h"
+
 #include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
-
-#include "corvel/CEffectSettings.h"
-#include "corvel/Render.h"
 
 namespace Tessitor::Tool {
 

@@ -1,11 +1,5 @@
 #pragma once
 
-#include <algorithm>
-#include <limits>
-#include <optional>
-#include <span>
-#include <vector>
-
 #include "corvel/CAudioReader.h"
 #include "corvel/CAudioWriter.h"
 #include "corvel/CResampler.h"
@@ -13,6 +7,12 @@
 #include "corvel/Interleave.h"
 #include "corvel/Interrupt.h"
 #include "corvel/Render.h"
+
+#include <algorithm>
+#include <limits>
+#include <optional>
+#include <span>
+#include <vector>
 
 namespace Tessitor::Tool {
 

@@ -1,12 +1,12 @@
-#include <CLI/CLI.hpp>
-#include <exception>
-#include <functional>
-#include <string>
-
 #include "corvel/Commands.h"
 #include "corvel/Errors.h"
 #include "corvel/Print.h"
 #include "corvel/Text.h"
+
+#include <CLI/CLI.hpp>
+#include <exception>
+#include <functional>
+#include <string>
 
 using namespace Tessitor::Tool;
 

@@ -1,5 +1,7 @@
 #include "tools/effects/TestEffect.h"
 
+#include "effect/SProgram.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -10,8 +12,6 @@
 #include <mutex>
 #include <string>
 #include <vector>
-
-#include "effect/SProgram.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 #include "tools/support/Program.h"
 
+#include "tools/support/CTemporaryFolder.h"
+
 #include <cstdlib>
 #include <sys/wait.h>
-
-#include "tools/support/CTemporaryFolder.h"
 
 namespace {
 
