@@ -1,19 +1,13 @@
 // Runs a fuzz target without libFuzzer. With a folder and a number: every file of it and that many
 // mutations of each. With a file and a seed: that one mutation.
 #include "Fuzz.h"
+#include "foundation/ReadFile.h"
 
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <random>
 #include <vector>
 
 namespace {
-
-std::string bytesOf(const std::filesystem::path &file) {
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
 
 void run(const std::string &bytes) {
     // On the heap and of the very size, so that a sanitizer sees what runs past it.
@@ -56,12 +50,12 @@ int main(int count, char **arguments) {
     const std::filesystem::path path = arguments[1];
     const auto number = static_cast<unsigned>(std::stoul(arguments[2]));
     if (!std::filesystem::is_directory(path)) {
-        run(mutated(bytesOf(path), number));
+        run(mutated(readFile(path.string()), number));
         return 0;
     }
     int files = 0;
     for (const auto &entry : std::filesystem::directory_iterator(path)) {
-        const std::string bytes = bytesOf(entry.path());
+        const std::string bytes = readFile(entry.path().string());
         std::printf("%s, seeds below %u\n", entry.path().filename().string().c_str(), number);
         std::fflush(stdout);
         run(bytes);
