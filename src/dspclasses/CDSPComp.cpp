@@ -63,6 +63,24 @@ namespace {
     return step.load(in);
 }
 
+/// Kept: the right detector only decides whether the last gain of the left channel applies here, or
+/// the plain make-up.
+class CHeldGain {
+public:
+    explicit CHeldGain(float gain) : m_gain(splat(gain)) {}
+
+    void start(const SGainLaw & /*law*/, const SDetected &detected) {
+        m_areActive = detected.areActive;
+    }
+    Floats4 finish(const SGainLaw &law) const {
+        return m_areActive ? m_gain : splat(law.offsetLinear);
+    }
+
+private:
+    Floats4 m_gain;
+    Mask4 m_areActive{};
+};
+
 template <typename Sample>
 [[gnu::always_inline]] inline void apply(const SStep &step, const Floats4 &gains, const Sample *in,
                                          Sample *out) {
@@ -120,11 +138,8 @@ void CDSPComp::detectLeft(int frames, Levels levels, Apply applyGains) {
                          .over = overLeft,
                          .isPeakCleared = isClearedBy<Sample>(peakRight),
                          .isOverCleared = isClearedBy<Sample>(overRight)};
-    TDetector<Sample> detector;
-    const auto settingsNow = [this] { return settings(); };
-    detector.run(state, frames, settingsNow, levels,
-                 [=](const SStep &step, const SGainLaw &law, const Mask4 &isActive,
-                     const Floats4 &overs) { applyGains(step, law.linear(isActive, overs)); });
+    TDetector<Sample>::run(
+        state, frames, [this] { return settings(); }, levels, CGainsByLaw(), applyGains);
 
     const SGainLaw law = settings().law;
     peakLeft = state.peak;
@@ -139,17 +154,10 @@ void CDSPComp::runRight(Sample *in, Sample *out, int frames) {
                          .over = overRight,
                          .isPeakCleared = isClearedBy<Sample>(gainDbLeft),
                          .isOverCleared = isClearedBy<Sample>(thresholdDb)};
-    TDetector<Sample> detector;
-    const auto settingsNow = [this] { return settings(); };
     const auto levels = [=](const SStep &step) { return magnitude(read(step, in)); };
-    // Kept: the right detector only decides whether the last gain of the left channel applies here,
-    // or the plain make-up.
-    const Floats4 leftGain = splat(gainLeft);
-    detector.run(state, frames, settingsNow, levels,
-                 [=](const SStep &step, const SGainLaw &law, const Mask4 &isActive,
-                     const Floats4 & /*overs*/) {
-                     apply(step, isActive ? leftGain : splat(law.offsetLinear), in, out);
-                 });
+    TDetector<Sample>::run(
+        state, frames, [this] { return settings(); }, levels, CHeldGain(gainLeft),
+        [=](const SStep &step, const Floats4 &gains) { apply(step, gains, in, out); });
 
     const SGainLaw law = settings().law;
     peakRight = state.peak;

@@ -1,6 +1,8 @@
 #include "dspclasses/CDSPDeEsser.h"
 
+#include "dspclasses/BiquadLanes.h"
 #include "dspclasses/DynamicsMath.h"
+#include "dspclasses/GuardedRecursion.h"
 #include "dspclasses/TDetector.h"
 #include "dspclasses/WideLoop.h"
 
@@ -79,9 +81,9 @@ void CDSPDeEsser::run(Sample **in, Sample **out, int frames, SSideChain<Sample> 
     if (frames <= 0)
         return;
     chain.grow(frames);
-    Sample *sides[] = {chain.left.data(), chain.right.data()};
-    process(filter, in, sides, frames);
     if (listen) {
+        Sample *sides[] = {chain.left.data(), chain.right.data()};
+        process(filter, in, sides, frames);
         std::copy_n(sides[0], frames, out[0]);
         std::copy_n(sides[1], frames, out[1]);
     } else {
@@ -109,26 +111,32 @@ template <typename Samples>
     return isNarrow ? (x - s) + s * gain : x * gain;
 }
 
-void CDSPDeEsser::detect(const float *const *in, float *const *out, int frames) {
-    const float *inL = in[0], *inR = in[1], *sideL = side.left.data(), *sideR = side.right.data();
+/// The filter runs in the detector's loop: one recursion more in the time that they all wait.
+void CDSPDeEsser::detect(float **in, float **out, int frames) {
+    float *inL = in[0], *inR = in[1], *sideL = side.left.data(), *sideR = side.right.data();
     float *outL = out[0], *outR = out[1];
     const bool isNarrow = narrow;
-    const auto settingsNow = [this] { return settings(); };
-    const auto levels = [=](const SStep &step) {
-        // Kept: in narrow mode the left side sample is compared with itself and never wins.
-        const TFour<float> right = magnitude(step.load(sideR));
-        return isNarrow ? right : larger(magnitude(step.load(sideL)), right);
-    };
-    const auto apply = [=](const SStep &step, const SGainLaw &law, const Mask4 &isActive,
-                           const Floats4 &overs) {
-        const SFloats4 gains{law.linear(isActive, overs)};
-        step.store(outL, attenuated(step.load(inL), step.load(sideL), gains, isNarrow));
-        step.store(outR, attenuated(step.load(inR), step.load(sideR), gains, isNarrow));
-    };
     SDetectorState state{.peak = peak, .over = over};
-    runWide([=, &state] {
-        TDetector<float> detector;
-        detector.run(state, frames, settingsNow, levels, apply);
+    runWide([=, this, &state] {
+        SBiquadLanes lanes = filter.takeOut();
+        const auto refresh = [this, &lanes] {
+            filter.refresh(lanes);
+            return settings();
+        };
+        const auto levels = [=, &lanes](const SStep &step) {
+            const int i = step.first;
+            runUpToFour<EInput::Flush>(lanes, inL + i, inR + i, sideL + i, sideR + i, step.count);
+            // Kept: in narrow mode the left side sample is compared with itself and never wins.
+            const TFour<float> right = magnitude(step.load(sideR));
+            return isNarrow ? right : larger(magnitude(step.load(sideL)), right);
+        };
+        const auto apply = [=](const SStep &step, const Floats4 &linear) {
+            const SFloats4 gains{linear};
+            step.store(outL, attenuated(step.load(inL), step.load(sideL), gains, isNarrow));
+            step.store(outR, attenuated(step.load(inR), step.load(sideR), gains, isNarrow));
+        };
+        TDetector<float>::run(state, frames, refresh, levels, CGainsByLaw(), apply);
+        filter.putBack(lanes);
     });
 
     const SGainLaw law = settings().law;
@@ -143,7 +151,9 @@ void CDSPDeEsser::detect(const float *const *in, float *const *out, int frames) 
 /// Kept: the peak is cleared while the last gain is 0 dB, see isClearedBy, and only a peak can move
 /// the gain from there. So once the gain has come to rest, the detector is asleep until single
 /// precision wakes it up.
-void CDSPDeEsser::detect(const double *const *in, double *const *out, int frames) {
+void CDSPDeEsser::detect(double **in, double **out, int frames) {
+    double *sides[] = {doubleSide.left.data(), doubleSide.right.data()};
+    process(filter, in, sides, frames);
     const SDetectorSettings now = settings();
     const bool isNarrow = narrow;
     int awake = 0;

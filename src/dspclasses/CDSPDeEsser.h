@@ -42,8 +42,8 @@ private:
     SDetectorSettings settings() const;
     template <typename Sample>
     void run(Sample **in, Sample **out, int frames, SSideChain<Sample> &chain);
-    void detect(const float *const *in, float *const *out, int frames);
-    void detect(const double *const *in, double *const *out, int frames);
+    void detect(float **in, float **out, int frames);
+    void detect(double **in, double **out, int frames);
     double levelAt(int frame, bool isNarrow) const;
     void detectFrame(double level, const SDetectorSettings &now);
     bool isAsleep(const SDetectorSettings &now) const;

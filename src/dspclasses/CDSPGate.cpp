@@ -118,38 +118,38 @@ void CDSPGate::run(const Sample *const *in, Sample *const *out, int frames) {
 template <typename Sample>
 void CDSPGate::runSteps(const Sample *inL, const Sample *inR, Sample *outL, Sample *outR,
                         int frames) {
-    TRing<Floats4> peaks;
+    Floats4 peaks{};
     float lastPeak = peak;
     const auto followPeaks = [&](const SStep &step) {
         const TFour<Sample> levels = larger(magnitude(step.load(inL)), magnitude(step.load(inR)));
-        peaks[step] = standsStill(lastPeak, levels) ? splat(lastPeak)
-                                                    : followFour(peakFollower, lastPeak, levels);
+        peaks = standsStill(lastPeak, levels) ? splat(lastPeak)
+                                              : followFour(peakFollower, lastPeak, levels);
     };
 
     float threshold = 0.0f;
-    TRing<Mask4> isOpen;
-    const auto detect = [&](const SStep &step) { isOpen[step] = peaks[step] - threshold > 0.0f; };
+    Mask4 isOpen{};
+    const auto detect = [&](const SStep &) { isOpen = peaks - threshold > 0.0f; };
 
     const float startExponent = gain == 0.0f   ? SMovingGain::ofZero
                                 : gain == 1.0f ? SMovingGain::ofOne
                                                : gainDb * exponentPerDecibel;
     SMovingGain moving{0.0f, 0.0f, restDb<Sample>, gainDb, startExponent};
-    TRing<Floats4> exponents;
+    Floats4 exponents{};
     const auto moveGain = [&](const SStep &step) {
         const int allFrames = (1 << step.count) - 1;
-        const int openFrames = laneBits(isOpen[step]) & allFrames;
-        exponents[step] = splat(moving.exponent);
+        const int openFrames = laneBits(isOpen) & allFrames;
+        exponents = splat(moving.exponent);
         if (moving.rests(openFrames, allFrames))
             return;
         for (int i = 0; i < step.count; ++i) {
             moving.move((openFrames >> i & 1) != 0);
-            exponents[step][i] = moving.exponent;
+            exponents[i] = moving.exponent;
         }
     };
 
     const auto applyGain = [&](const SStep &step) {
         const auto gains =
-            __builtin_convertvector(gainsOf(exponents[step]), typename TFour<Sample>::Values);
+            __builtin_convertvector(gainsOf(exponents), typename TFour<Sample>::Values);
         step.store(outL, TFour<Sample>{step.load(inL).values * gains});
         step.store(outR, TFour<Sample>{step.load(inR).values * gains});
     };
@@ -162,8 +162,8 @@ void CDSPGate::runSteps(const Sample *inL, const Sample *inR, Sample *outL, Samp
     runStaged(frames, refresh, followPeaks, detect, moveGain, applyGain);
 
     const SStep last = SStep::last(frames);
-    peak = last.lastOf(peaks[last]);
-    open = last.lastOf(isOpen[last]) != 0;
+    peak = last.lastOf(peaks);
+    open = last.lastOf(isOpen) != 0;
     gainDb = moving.decibels;
     gain = expSingle(moving.exponent);
 }

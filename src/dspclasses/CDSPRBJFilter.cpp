@@ -86,22 +86,6 @@ SRawCoefficients gainCoefficients(EKind kind, const SDesign &d, double gainDb) {
     }
 }
 
-struct SBiquadLanes {
-    SDoubles2 b0, b1, b2, a1, a2;
-    SDoubles2 x1, x2, y1, y2;
-
-    template <typename Guard>
-    SDoubles2 step(SDoubles2 x, Guard &guard) {
-        SDoubles2 y = b0 * x + b1 * x1 + b2 * x2 - a1 * y1 - a2 * y2;
-        x2 = x1;
-        x1 = x;
-        y = guard.contain(guard.flush(y));
-        y2 = y1;
-        y1 = y;
-        return y;
-    }
-};
-
 }  // namespace
 
 CDSPRBJFilter::CDSPRBJFilter() {
@@ -157,22 +141,10 @@ void CDSPRBJFilter::updateCoefficients() {
 
 template <typename Sample>
 void CDSPRBJFilter::run(Sample *const *in, Sample *const *out, int frames) {
-    SBiquadLanes lanes;
-    lanes.x1 = pair(left.x1, right.x1);
-    lanes.x2 = pair(left.x2, right.x2);
-    lanes.y1 = pair(left.y1, right.y1);
-    lanes.y2 = pair(left.y2, right.y2);
-    runGuarded<EInput::Flush>(lanes, in, out, frames, [this](SBiquadLanes &filter) {
-        filter.b0 = both(b0);
-        filter.b1 = both(b1);
-        filter.b2 = both(b2);
-        filter.a1 = both(a1);
-        filter.a2 = both(a2);
-        if (resetRequest.take())
-            filter.x1 = filter.x2 = filter.y1 = filter.y2 = both(0.0);
-    });
-    left = {firstOf(lanes.y1), firstOf(lanes.y2), firstOf(lanes.x1), firstOf(lanes.x2)};
-    right = {secondOf(lanes.y1), secondOf(lanes.y2), secondOf(lanes.x1), secondOf(lanes.x2)};
+    SBiquadLanes lanes = takeOut();
+    runGuarded<EInput::Flush>(lanes, in, out, frames,
+                              [this](SBiquadLanes &filter) { refresh(filter); });
+    putBack(lanes);
 }
 
 void CDSPRBJFilter::processReplacing(float **in, float **out, int frames) {

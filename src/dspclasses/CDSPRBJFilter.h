@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dspclasses/BiquadLanes.h"
 #include "dspclasses/CDSPBase.h"
 #include "dspclasses/CResetRequest.h"
 #include "dspclasses/TRelaxed.h"
@@ -51,6 +52,35 @@ public:
     void processReplacing(float **in, float **out, int frames) override;
     void processDoubleReplacing(double **in, double **out, int frames) override;
     void reset() override;
+
+    // For a loop that does more than filter. [audio thread]
+
+    /// @return the state, the coefficients not yet among it.
+    SBiquadLanes takeOut() const {
+        SBiquadLanes lanes{};
+        lanes.x1 = pair(left.x1, right.x1);
+        lanes.x2 = pair(left.x2, right.x2);
+        lanes.y1 = pair(left.y1, right.y1);
+        lanes.y2 = pair(left.y2, right.y2);
+        return lanes;
+    }
+
+    /// To be called every 64 frames: the coefficients as they are now, and a reset if one was asked
+    /// for.
+    void refresh(SBiquadLanes &lanes) {
+        lanes.b0 = both(b0);
+        lanes.b1 = both(b1);
+        lanes.b2 = both(b2);
+        lanes.a1 = both(a1);
+        lanes.a2 = both(a2);
+        if (resetRequest.take())
+            lanes.x1 = lanes.x2 = lanes.y1 = lanes.y2 = both(0.0);
+    }
+
+    void putBack(const SBiquadLanes &lanes) {
+        left = {firstOf(lanes.y1), firstOf(lanes.y2), firstOf(lanes.x1), firstOf(lanes.x2)};
+        right = {secondOf(lanes.y1), secondOf(lanes.y2), secondOf(lanes.x1), secondOf(lanes.x2)};
+    }
 
 private:
     void updateCoefficients();

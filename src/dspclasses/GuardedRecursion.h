@@ -3,6 +3,8 @@
 #include "dspclasses/FrameGroups.h"
 #include "dspclasses/StereoFrames.h"
 
+#include <bit>
+#include <cstdint>
 #include <limits>
 
 /// The loop of the recursive filters. A guard inside a recursion (a denormal becomes zero, a
@@ -57,8 +59,8 @@ enum class EInput {
 };
 
 template <EInput input, typename Filter, typename Guard, typename Sample>
-void runFrames(Filter &filter, Guard &guard, Sample *inL, Sample *inR, Sample *outL, Sample *outR,
-               int count) {
+[[gnu::always_inline]] inline void runFrames(Filter &filter, Guard &guard, Sample *inL, Sample *inR,
+                                             Sample *outL, Sample *outR, int count) {
     int i = 0;
     for (; i + 4 <= count; i += 4) {
         if constexpr (input == EInput::Flush) {
@@ -79,6 +81,58 @@ void runFrames(Filter &filter, Guard &guard, Sample *inL, Sample *inR, Sample *o
     }
 }
 
+/// The guards in place. Out of line, and by value: so the filter stays in registers elsewhere.
+template <EInput input, typename Filter, typename Sample>
+[[gnu::noinline]] Filter ranWithGuards(Filter filter, Sample *inL, Sample *inR, Sample *outL,
+                                       Sample *outR, int count) {
+    SActingGuard guard;
+    runFrames<input>(filter, guard, inL, inR, outL, outR, count);
+    return filter;
+}
+
+struct SNoGuard {
+    SDoubles2 flush(SDoubles2 value) { return value; }
+    SDoubles2 contain(SDoubles2 value) { return value; }
+};
+
+/// @param history  every bit that is set anywhere in the state of the channel.
+/// @return whether the guards might have acted in four frames of a channel, going by what came out.
+/// Zeros are what a silent filter makes of silence, and else what became of the smallest values.
+[[gnu::noinline]] inline bool mightNeedGuards(double history, const float *in,
+                                                   const SFloats4 &out) {
+    const Floats4 magnitudes = magnitude(out).values;
+    if (isAnySet(magnitudes >= static_cast<float>(runawayLimit)))
+        return true;
+    const bool isSilent =
+        std::bit_cast<std::uint64_t>(history) == 0 && !isAnySet(loadFour(in).values != 0.0f);
+    return isAnySet(magnitudes == 0.0f) && !isSilent;
+}
+
+/// Takes up to four frames through a filter whose guards see nothing but what it puts out, so that
+/// its output tells whether one might have acted. For a loop that does more than filter.
+/// @param filter  as in runGuarded; its history() is every bit that is set in the state.
+template <EInput input, typename Filter>
+[[gnu::always_inline]] inline void runUpToFour(Filter &filter, float *inL, float *inR, float *outL,
+                                               float *outR, int count) {
+    if (count == 4) [[likely]] {
+        Filter next = filter;
+        SNoGuard none;
+        runFrames<input>(next, none, inL, inR, outL, outR, 4);
+        const SFloats4 left = loadFour(outL), right = loadFour(outR);
+        const Floats4 loudest = larger(magnitude(left), magnitude(right)).values;
+        const Floats4 quietest = smaller(magnitude(left), magnitude(right)).values;
+        const Mask4 isSuspect = (quietest == 0.0f) | (loudest >= static_cast<float>(runawayLimit));
+        if (!isAnySet(isSuspect) || !(mightNeedGuards(firstOf(filter.history()), inL, left) ||
+                                      mightNeedGuards(secondOf(filter.history()), inR, right)))
+            [[likely]] {
+            filter = next;
+            return;
+        }
+    }
+    const Filter guarded = ranWithGuards<input>(filter, inL, inR, outL, outR, count);
+    filter = guarded;
+}
+
 /// Runs a filter over both channels of a block.
 /// @param filter   coefficients and state in registers, with a template step(frame, guard) that
 ///                 takes one frame on. Ends in the state after the last frame.
@@ -89,18 +143,14 @@ void runGuarded(Filter &filter, Sample *const *in, Sample *const *out, int frame
                 Refresh refresh) {
     Sample *inL = in[0], *inR = in[1], *outL = out[0], *outR = out[1];
     forEachGroup(frames, [&](int first, int count) {
-        const auto runGroup = [&](Filter &state, auto &guard) {
-            runFrames<input>(state, guard, inL + first, inR + first, outL + first, outR + first,
-                             count);
-        };
         refresh(filter);
         Filter next = filter;
         CWatchingGuard watch;
-        runGroup(next, watch);
+        runFrames<input>(next, watch, inL + first, inR + first, outL + first, outR + first, count);
         if (watch.mightHaveActed()) [[unlikely]] {
-            next = filter;
-            SActingGuard guard;
-            runGroup(next, guard);
+            const Filter guarded = ranWithGuards<input>(filter, inL + first, inR + first,
+                                                        outL + first, outR + first, count);
+            next = guarded;
         }
         filter = next;
     });

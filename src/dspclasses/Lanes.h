@@ -143,6 +143,12 @@ template <typename Value>
     return {a.values > b.values ? a.values : b.values};
 }
 
+/// The smaller of each lane; b's where they are equal or one is a NaN.
+template <typename Value>
+[[gnu::always_inline]] inline TFour<Value> smaller(const TFour<Value> &a, const TFour<Value> &b) {
+    return {a.values < b.values ? a.values : b.values};
+}
+
 /// flushDenormal in every lane.
 inline SFloats4 flushDenormal(SFloats4 a) {
     return {magnitude(a).values < std::numeric_limits<float>::min() ? splat(0.0f) : a.values};

@@ -42,14 +42,34 @@ struct SGainLaw {
     float linear(bool isActive, float gainDb) const {
         return isActive ? linearFromDecibels(gainDb) : offsetLinear;
     }
+};
 
-    /// @return linear, of four frames. The exponential runs only where the detector is active.
-    [[gnu::always_inline]] Floats4 linear(const Mask4 &isActive, const Floats4 &overs) const {
-        if (!isAnySet(isActive))
-            return splat(offsetLinear);
-        const Floats4 exponents = (slope * overs + offsetDb) * exponentPerDecibel;
-        return isActive ? expSingle(SFloats4{exponents}).values : splat(offsetLinear);
+/// What the detector makes of four frames.
+struct SDetected {
+    Mask4 areActive;
+    Floats4 overs;  // smoothed amounts over the threshold
+};
+
+/// The gains by the law, in two stages. The exponential runs only where the detector is active.
+class CGainsByLaw {
+public:
+    [[gnu::always_inline]] void start(const SGainLaw &law, const SDetected &detected) {
+        m_areActive = detected.areActive;
+        if (isAnySet(m_areActive)) {
+            const Floats4 decibels = law.slope * detected.overs + law.offsetDb;
+            m_parts = startExp(withinFloat({decibels * exponentPerDecibel}));
+        }
     }
+    [[gnu::always_inline]] Floats4 finish(const SGainLaw &law) const {
+        const Floats4 offset = splat(law.offsetLinear);
+        if (!isAnySet(m_areActive))
+            return offset;
+        return m_areActive ? rounded(finishExp(m_parts)).values : offset;
+    }
+
+private:
+    Mask4 m_areActive{};
+    TExpParts<4> m_parts{};
 };
 
 /// The parameters as the audio thread works with them for a while.
@@ -80,30 +100,40 @@ public:
     /// Takes the state from before the block to after it.
     /// @param frames    at least 1.
     /// @param settings  () -> SDetectorSettings, called every 64 frames.
-    /// @param levels    (SStep) -> Four.
-    /// @param apply     (SStep, SGainLaw, whether each frame is active, its smoothed amount).
-    template <typename Settings, typename Levels, typename Apply>
-    [[gnu::always_inline]] void run(SDetectorState &state, int frames, Settings settings,
-                                    Levels levels, Apply apply) {
+    /// @param read      (SStep) -> Four: the levels.
+    /// @param gains     start(SGainLaw, SDetected) and, a step later, finish(SGainLaw) -> gains.
+    /// @param apply     (SStep, what finish returned).
+    template <typename Settings, typename Read, typename Gains, typename Apply>
+    [[gnu::always_inline]] static void run(SDetectorState &state, int frames, Settings settings,
+                                           Read read, Gains gains, Apply apply) {
         SDetectorSettings now{};
         float peak = state.peak, over = state.over;
-        const bool isPeakCleared = state.isPeakCleared, isOverCleared = state.isOverCleared;
+        const bool isPeakCleared = !isSingle && state.isPeakCleared;
+        const bool isOverCleared = !isSingle && state.isOverCleared;
+        Four levels{};
+        SFollowed followed{};
+        SLogarithm logarithm{};
+        SMeasured measured{};
+        SDetected detected{};
         runStaged(
-            frames, [&] { now = settings(); },
-            [&](const SStep &step) {
-                m_levels[step] = levels(step);
-                m_peaks[step] = isPeakCleared ? cleared(peak) : followed(m_levels[step], peak);
+            frames, [&] { now = settings(); }, [&](const SStep &step) { levels = read(step); },
+            [&](const SStep &) {
+                followed = {levels, isPeakCleared ? cleared(peak) : follow(levels, peak)};
             },
-            [&](const SStep &step) { measure(step, now); },
-            [&](const SStep &step) {
-                m_overs[step] = isOverCleared ? cleared(over) : smoothed(step, now.smoother, over);
+            [&](const SStep &) { logarithm = startLogarithm(followed, now.thresholdLinear); },
+            [&](const SStep &) { measured = measure(logarithm, now.thresholdDb); },
+            [&](const SStep &) {
+                detected.overs =
+                    isOverCleared ? cleared(over) : smooth(measured, now.smoother, over);
+                detected.areActive = measured.areAbove | (detected.overs > leastActiveOver);
             },
-            [&](const SStep &step) { apply(step, now.law, activeIn(step), m_overs[step]); });
+            [&](const SStep &) { gains.start(now.law, detected); },
+            [&](const SStep &step) { apply(step, gains.finish(now.law)); });
 
         const SStep last = SStep::last(frames);
-        state.peak = last.lastOf(m_peaks[last]);
-        state.over = last.lastOf(m_overs[last]);
-        state.isActive = last.lastOf(activeIn(last)) != 0;
+        state.peak = last.lastOf(followed.peaks);
+        state.over = last.lastOf(detected.overs);
+        state.isActive = last.lastOf(detected.areActive) != 0;
     }
 
 private:
@@ -113,33 +143,34 @@ private:
     /// The bias changes no bit of a float of this magnitude.
     static constexpr float leastUnbiased = 0x1p-40f;
 
-    /// The logarithm runs only where the detector is above the threshold.
-    [[gnu::always_inline]] void measure(const SStep &step, const SDetectorSettings &now) {
-        const Mask4 above = m_peaks[step] - now.thresholdLinear > 0.0f;
-        m_above[step] = above;
-        m_amounts[step] =
-            isAnySet(above) ? amountsWhere(above, m_levels[step], now.thresholdDb) : Four{};
-    }
-
-    Mask4 activeIn(const SStep &step) const {
-        return m_above[step] | (m_overs[step] > leastActiveOver);
-    }
+    struct SFollowed {
+        Four levels;
+        Floats4 peaks;
+    };
+    struct SLogarithm {
+        Mask4 areAbove;
+        TLogParts<4> parts;
+    };
+    struct SMeasured {
+        Mask4 areAbove;
+        Four amounts;
+    };
 
     static Floats4 cleared(float &state) {
         state = 0.0f;
         return splat(0.0f);
     }
 
-    [[gnu::always_inline]] static Floats4 followed(const Four &levels, float &peak) {
-        const float before = peak;
-        const Floats4 peaks = followFour(peakFollower, peak, levels);
-        constexpr float least = std::numeric_limits<float>::min();
-        if (isSingle && isAnySet((peaks > 0.0f) & (peaks < least))) [[unlikely]] {
-            const Floats4 flushed = followedAndFlushed(levels, before);
+    /// Four frames leave more than nine tenths of a peak, so one of this size leads to no denormal.
+    static constexpr float leastNormalPeak = 2.0f * std::numeric_limits<float>::min();
+
+    [[gnu::always_inline]] static Floats4 follow(const Four &levels, float &peak) {
+        if (isSingle && peak < leastNormalPeak) [[unlikely]] {
+            const Floats4 flushed = followedAndFlushed(levels, peak);
             peak = flushed[3];
             return flushed;
         }
-        return peaks;
+        return followFour(peakFollower, peak, levels);
     }
 
     [[gnu::noinline]] static Floats4 followedAndFlushed(const Four &levels, float peak) {
@@ -148,29 +179,50 @@ private:
         });
     }
 
+    /// The logarithm runs only where the detector is above the threshold.
+    [[gnu::always_inline]] static SLogarithm startLogarithm(const SFollowed &followed,
+                                                            float thresholdLinear) {
+        const Mask4 areAbove = followed.peaks > thresholdLinear;
+        if (!isAnySet(areAbove))
+            return {areAbove, TLogParts<4>()};
+        return {areAbove, startLog(biased(followed.levels))};
+    }
+
+    static TDoubles<4> biased(const SFloats4 &levels) { return widened({levels.values + bias}); }
+    static TDoubles<4> biased(const TFour<double> &levels) {
+        return {levels.values + double{bias}};
+    }
+
+    [[gnu::always_inline]] static SMeasured measure(const SLogarithm &logarithm,
+                                                    float thresholdDb) {
+        const Mask4 &areAbove = logarithm.areAbove;
+        if (!isAnySet(areAbove))
+            return {areAbove, Four{}};
+        return {areAbove, amountsWhere(areAbove, finishLog(logarithm.parts), thresholdDb)};
+    }
+
     /// Kept: the logarithm is scaled by what turns decibels into an exponent, where its reciprocal
     /// would give decibels. So the amount is nearly the same however far the signal is over.
-    [[gnu::always_inline]] static Four amountsWhere(const Mask4 &above, const Four &levels,
-                                                    float thresholdDb) {
+    [[gnu::always_inline]] static Four amountsWhere(const Mask4 &areAbove,
+                                                    const TDoubleSums<4> &logs, float thresholdDb) {
         constexpr Sample scale{exponentPerDecibel};
         if constexpr (isSingle) {
-            const Floats4 logs = logSingle({levels.values + bias}).values;
-            return {above ? logs * scale - thresholdDb : splat(0.0f)};
+            const Floats4 amounts = rounded(logs).values * scale - thresholdDb;
+            return {areAbove ? amounts : splat(0.0f)};
         } else {
-            const auto sum = logDoubles(Four{levels.values + double{bias}});
-            const auto amounts = (sum.high + sum.low) * scale - double{thresholdDb};
-            const auto wide = __builtin_convertvector(above, decltype(amounts > amounts));
+            const auto amounts = (logs.high + logs.low) * scale - double{thresholdDb};
+            const auto wide = __builtin_convertvector(areAbove, decltype(amounts > amounts));
             return {wide ? amounts : typename Four::Values{}};
         }
     }
 
     /// The plain form stands at the end. It cannot end in a denormal, so nothing is flushed here.
-    [[gnu::always_inline]] Floats4 smoothed(const SStep &step, const SFollower &smoother,
-                                            float &over) const {
-        const Four &amounts = m_amounts[step];
+    [[gnu::always_inline]] static Floats4 smooth(const SMeasured &measured,
+                                                 const SFollower &smoother, float &over) {
+        const Four &amounts = measured.amounts;
         const float before = over, release = smoother.releaseCoef;
         // Below the threshold it only falls, towards -bias.
-        if (before >= -bias && release >= 0.0f && !isAnySet(m_above[step])) {
+        if (before >= -bias && release >= 0.0f && !isAnySet(measured.areAbove)) {
             return recurFour(over, amounts, [release](float falling, Sample) {
                 return (falling + bias) * release - bias;
             });
@@ -192,10 +244,4 @@ private:
             return smoother.next(before + bias, amount) - bias;
         });
     }
-
-    TRing<Four> m_levels;
-    TRing<Floats4> m_peaks;
-    TRing<Mask4> m_above;
-    TRing<Four> m_amounts;
-    TRing<Floats4> m_overs;
 };

@@ -2,6 +2,7 @@
 
 #include "dspclasses/Signals.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <limits>
 #include <vector>
@@ -30,7 +31,19 @@ struct SHalving {
     SDoubles2 step(SDoubles2 x, Guard &guard) {
         return y1 = guard.contain(guard.flush(x + both(0.5) * y1));
     }
+
+    SDoubles2 history() const { return y1; }
 };
+
+/// Four frames at a time.
+TStereo<float> halveInSteps(SHalving &filter, TStereo<float> input) {
+    TStereo<float> output(input.frames());
+    const auto in = input.pointers(), out = output.pointers();
+    for (int i = 0; i < input.frames(); i += 4)
+        runUpToFour<EInput::Read>(filter, in[0] + i, in[1] + i, out[0] + i, out[1] + i,
+                                  std::min(4, input.frames() - i));
+    return output;
+}
 
 template <typename Sample>
 TStereo<Sample> halve(TStereo<Sample> input) {
@@ -106,6 +119,37 @@ TEST(GuardedRecursion, GuardsAtEveryPlaceOfEveryBlock) {
             }
         }
     }
+}
+
+TEST(GuardedRecursion, GuardsAtEveryPlaceOfEveryStep) {
+    for (const float trouble : {8.0f, -8.0f, 6.0f, -0.0f, 1e-30f}) {
+        for (const int frames : {1, 2, 3, 4, 5, 8, 11, 1100}) {
+            for (int place = 0; place < std::min(frames, 12); ++place) {
+                TStereo<float> input(frames);
+                for (int i = 0; i < frames; ++i)
+                    input.left(i) = i % 3 == 0 ? 0.0f : 0.25f;
+                input.right(place) = trouble;
+                SHalving filter;
+                EXPECT_TRUE(halveInSteps(filter, input) == halve(input))
+                    << trouble << " at frame " << place << " of " << frames;
+                // Even 1e-30 has been halved to a denormal by then, and become 0.
+                if (frames == 1100) {
+                    EXPECT_EQ(secondOf(filter.y1), 0.0);
+                }
+            }
+        }
+    }
+}
+
+TEST(GuardedRecursion, TakesAQuietChannelForWhatItIs) {
+    const TStereo<float> silence(4);
+    SHalving filter;
+    filter.y1 = pair(0.0, std::numeric_limits<double>::min());
+    EXPECT_TRUE(halveInSteps(filter, silence) == silence);
+    EXPECT_EQ(secondOf(filter.y1), 0.0) << "half of the smallest normal number is a denormal";
+    filter.y1 = pair(0.0, 1e-100);
+    EXPECT_TRUE(halveInSteps(filter, silence) == silence);
+    EXPECT_EQ(secondOf(filter.y1), 1e-100 / 16.0) << "below every float, yet no denormal";
 }
 
 TEST(GuardedRecursion, RefreshesBeforeEveryGroupAndNeverForNone) {

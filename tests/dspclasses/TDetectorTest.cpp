@@ -29,8 +29,7 @@ void expectSameState(const SPlainDetector &plain, SDetectorState &state,
             plain.smooth(over, neighbour, isAbove, level);
     }
 
-    TDetector<Sample> detector;
-    detector.run(
+    TDetector<Sample>::run(
         state, static_cast<int>(levels.size()),
         [&plain] {
             return SDetectorSettings{plain.thresholdDb,
@@ -38,8 +37,8 @@ void expectSameState(const SPlainDetector &plain, SDetectorState &state,
                                      {plain.attackCoef, plain.releaseCoef},
                                      anyLaw};
         },
-        [&levels](const SStep &step) { return step.load(levels.data()); },
-        [](const SStep &, const SGainLaw &, const Mask4 &, const Floats4 &) {});
+        [&levels](const SStep &step) { return step.load(levels.data()); }, CGainsByLaw(),
+        [](const SStep &, const Floats4 &) {});
     EXPECT_TRUE(sameBits(state.peak, peak)) << state.peak << ' ' << peak;
     EXPECT_TRUE(sameBits(state.over, over)) << state.over << ' ' << over;
     EXPECT_EQ(state.isActive, isAbove || over > 0.01f);
