@@ -219,6 +219,7 @@ def dynamics():
     for speed in ("0.0", "0.5", "1.0"):
         draw_steps(step, "DeEsser", f"DeSSpeed {speed}", (-60, -12, -60), 0.7, DeSSpeed=speed, DeSFreq="2000 Hz")
     name_axes(step, "ms", "gain, dB")
+    by_frequency.set_ylim(top=15)
     by_frequency.legend(fontsize=8, loc="upper left")
     step.legend(fontsize=8, loc="lower left")
     save(figure, "de-esser")
