@@ -99,7 +99,7 @@ struct SNoGuard {
 /// @return whether the guards might have acted in four frames of a channel, going by what came out.
 /// Zeros are what a silent filter makes of silence, and else what became of the smallest values.
 [[gnu::noinline]] inline bool mightNeedGuards(double history, const float *in,
-                                                   const SFloats4 &out) {
+                                              const SFloats4 &out) {
     const Floats4 magnitudes = magnitude(out).values;
     if (isAnySet(magnitudes >= static_cast<float>(runawayLimit)))
         return true;
@@ -121,7 +121,8 @@ template <EInput input, typename Filter>
         const SFloats4 left = loadFour(outL), right = loadFour(outR);
         const Floats4 loudest = larger(magnitude(left), magnitude(right)).values;
         const Floats4 quietest = smaller(magnitude(left), magnitude(right)).values;
-        const Mask4 isSuspect = (quietest == 0.0f) | (loudest >= static_cast<float>(runawayLimit));
+        // A NaN on the right stands in both, and is suspect too: it may hide the left.
+        const Mask4 isSuspect = (quietest == 0.0f) | ~(loudest < static_cast<float>(runawayLimit));
         if (!isAnySet(isSuspect) || !(mightNeedGuards(firstOf(filter.history()), inL, left) ||
                                       mightNeedGuards(secondOf(filter.history()), inR, right)))
             [[likely]] {

@@ -46,12 +46,16 @@ TStereo<float> halveInSteps(SHalving &filter, TStereo<float> input) {
 }
 
 template <typename Sample>
-TStereo<Sample> halve(TStereo<Sample> input) {
+TStereo<Sample> halve(SHalving &filter, TStereo<Sample> input) {
     TStereo<Sample> output(input.frames());
-    SHalving filter;
     const auto in = input.pointers(), out = output.pointers();
     runGuarded<EInput::Read>(filter, in.data(), out.data(), input.frames(), [](SHalving &) {});
     return output;
+}
+template <typename Sample>
+TStereo<Sample> halve(const TStereo<Sample> &input) {
+    SHalving filter;
+    return halve(filter, input);
 }
 
 }  // namespace
@@ -137,6 +141,24 @@ TEST(GuardedRecursion, GuardsAtEveryPlaceOfEveryStep) {
                     EXPECT_EQ(secondOf(filter.y1), 0.0);
                 }
             }
+        }
+    }
+}
+
+TEST(GuardedRecursion, GuardsAChannelBesideANaN) {
+    for (const float trouble : {8.0f, -8.0f, 0.0f, -0.0f}) {
+        for (const bool isRight : {false, true}) {
+            TStereo<float> input(8);
+            for (int i = 0; i < input.frames(); ++i) {
+                input.channels[isRight ? 1 : 0][static_cast<std::size_t>(i)] = trouble;
+                input.channels[isRight ? 0 : 1][static_cast<std::size_t>(i)] = NAN;
+            }
+            SHalving inSteps, inGroups;
+            inSteps.y1 = inGroups.y1 = both(std::numeric_limits<double>::min());
+            SCOPED_TRACE(testing::Message() << trouble << (isRight ? " right" : " left"));
+            EXPECT_TRUE(halveInSteps(inSteps, input) == halve(inGroups, input));
+            EXPECT_TRUE(sameBits(firstOf(inSteps.y1), firstOf(inGroups.y1)));
+            EXPECT_TRUE(sameBits(secondOf(inSteps.y1), secondOf(inGroups.y1)));
         }
     }
 }
