@@ -88,7 +88,7 @@ struct SMovingGain {
 
 [[gnu::always_inline]] inline Floats4 gainsOf(const Floats4 &exponents) {
     const Mask4 areOne = exponents == SMovingGain::ofOne;
-    if (laneBits(areOne | (exponents == SMovingGain::ofZero)) == 0xf)
+    if (areAllSet(areOne | (exponents == SMovingGain::ofZero)))
         return areOne ? splat(1.0f) : splat(0.0f);
     return expSingle(SFloats4{exponents}).values;
 }

@@ -77,6 +77,7 @@ public:
             lanes.x1 = lanes.x2 = lanes.y1 = lanes.y2 = both(0.0);
     }
 
+    /// @param lanes  what takeOut gave, after the block. The coefficients are not read.
     void putBack(const SBiquadLanes &lanes) {
         left = {firstOf(lanes.y1), firstOf(lanes.y2), firstOf(lanes.x1), firstOf(lanes.x2)};
         right = {secondOf(lanes.y1), secondOf(lanes.y2), secondOf(lanes.x1), secondOf(lanes.x2)};

@@ -13,7 +13,7 @@
 /// would have acted; only then the group runs again with the guards in place. The bits are those
 /// of guarding every sample.
 
-/// A sample beyond this is a recursion that has run away.
+/// A sample beyond this is a recursion that has run away. Whole, so that it is the same as a float.
 inline constexpr double runawayLimit = 5.0;
 
 /// Guards in place.
@@ -81,7 +81,9 @@ template <EInput input, typename Filter, typename Guard, typename Sample>
     }
 }
 
-/// The guards in place. Out of line, and by value: so the filter stays in registers elsewhere.
+/// Takes a filter over some frames with the guards in place. Out of line and by value, and the
+/// result goes into a variable of its own: a filter whose address is taken would not stay in
+/// registers elsewhere.
 template <EInput input, typename Filter, typename Sample>
 [[gnu::noinline]] Filter ranWithGuards(Filter filter, Sample *inL, Sample *inR, Sample *outL,
                                        Sample *outR, int count) {
@@ -95,21 +97,25 @@ struct SNoGuard {
     SDoubles2 contain(SDoubles2 value) { return value; }
 };
 
+inline constexpr auto runawayFloat = static_cast<float>(runawayLimit);
+
 /// @param history  every bit that is set anywhere in the state of the channel.
 /// @return whether the guards might have acted in four frames of a channel, going by what came out.
 /// Zeros are what a silent filter makes of silence, and else what became of the smallest values.
 [[gnu::noinline]] inline bool mightNeedGuards(double history, const float *in,
                                               const SFloats4 &out) {
     const Floats4 magnitudes = magnitude(out).values;
-    if (isAnySet(magnitudes >= static_cast<float>(runawayLimit)))
+    if (isAnySet(magnitudes >= runawayFloat))
         return true;
-    const bool isSilent =
-        std::bit_cast<std::uint64_t>(history) == 0 && !isAnySet(loadFour(in).values != 0.0f);
+    const bool isSilent = std::bit_cast<std::uint64_t>(history) == 0 &&
+                          !isAnySet(loadFour(in).values != 0.0f) &&
+                          !isAnySet(reinterpret_cast<Mask4>(out.values));  // no -0.0
     return isAnySet(magnitudes == 0.0f) && !isSilent;
 }
 
 /// Takes up to four frames through a filter whose guards see nothing but what it puts out, so that
-/// its output tells whether one might have acted. For a loop that does more than filter.
+/// its output tells whether one might have acted: as floats, what has run away is at least the
+/// limit, and what is a denormal as a double is 0. For a loop that does more than filter.
 /// @param filter  as in runGuarded; its history() is every bit that is set in the state.
 template <EInput input, typename Filter>
 [[gnu::always_inline]] inline void runUpToFour(Filter &filter, float *inL, float *inR, float *outL,
@@ -121,10 +127,10 @@ template <EInput input, typename Filter>
         const SFloats4 left = loadFour(outL), right = loadFour(outR);
         const Floats4 loudest = larger(magnitude(left), magnitude(right)).values;
         const Floats4 quietest = smaller(magnitude(left), magnitude(right)).values;
-        // A NaN on the right stands in both, and is suspect too: it may hide the left.
-        const Mask4 isSuspect = (quietest == 0.0f) | ~(loudest < static_cast<float>(runawayLimit));
-        if (!isAnySet(isSuspect) || !(mightNeedGuards(firstOf(filter.history()), inL, left) ||
-                                      mightNeedGuards(secondOf(filter.history()), inR, right)))
+        // A NaN on the right stands in both, and is not calm: it may hide the left.
+        const Mask4 isCalm = (quietest > 0.0f) & (loudest < runawayFloat);
+        if (areAllSet(isCalm) || !(mightNeedGuards(firstOf(filter.history()), inL, left) ||
+                                   mightNeedGuards(secondOf(filter.history()), inR, right)))
             [[likely]] {
             filter = next;
             return;

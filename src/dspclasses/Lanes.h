@@ -109,6 +109,9 @@ inline int laneBits(const Mask4 &mask) {
 inline bool isAnySet(const Mask4 &mask) {
     return laneBits(mask) != 0;
 }
+inline bool areAllSet(const Mask4 &mask) {
+    return laneBits(mask) == 0xf;
+}
 
 inline SFloats4 operator+(SFloats4 a, SFloats4 b) {
     return {a.values + b.values};

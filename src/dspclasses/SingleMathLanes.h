@@ -138,8 +138,8 @@ template <int lanes>
 }
 
 /// The float nearest to each sum. The sum as a double is off by less than one place; where both of
-/// its neighbours come to the same float, so does the exact sum. One time in 2^28 all lanes take
-/// the long way.
+/// its neighbours come to the same float, so does the exact sum. Once in some 2^26 calls all
+/// lanes take the long way.
 [[gnu::always_inline]] inline SFloats4 rounded(const TDoubleSums<4> &sum) {
     const TDoubles<4>::Values total = sum.high + sum.low;
     const SFloats4 inner = rounded(TDoubles<4>{total * (1.0 - 0x1p-52)});

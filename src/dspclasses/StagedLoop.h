@@ -60,7 +60,8 @@ template <typename Run, typename Stage, typename... Later>
 }
 
 /// Calls every stage with every step of a block, in order.
-/// @param refresh  called every 64 frames: reads what another thread may have set.
+/// @param refresh  called at least every 64 frames: reads what another thread may have set. That
+///                 reaches the stages a step apart.
 /// @param stages   called as stage(SStep). Between two calls of one lies one call of each other, so
 ///                 it leaves its result for the next in a plain variable.
 template <typename Refresh, typename... Stages>

@@ -3,6 +3,7 @@
 #include "dspclasses/Denormals.h"
 #include "dspclasses/DynamicsMath.h"
 #include "dspclasses/Followers.h"
+#include "dspclasses/GainLaw.h"
 #include "dspclasses/SingleMathLanes.h"
 #include "dspclasses/StagedLoop.h"
 
@@ -26,51 +27,6 @@ inline constexpr float smoothingBias = 1e-20f;
 
 /// A smoothed amount over this keeps the detector active after the signal has fallen back.
 inline constexpr float leastActiveOver = 0.01f;
-
-/// The gain that follows from the smoothed amount while the detector is active: it is above the
-/// threshold, or on its way back.
-struct SGainLaw {
-    float slope;
-    float offsetDb;
-    float offsetLinear;
-
-    /// @return in dB, of one frame.
-    float decibels(bool isActive, float over) const {
-        return isActive ? slope * over + offsetDb : offsetDb;
-    }
-    /// @return linear, from those decibels.
-    float linear(bool isActive, float gainDb) const {
-        return isActive ? linearFromDecibels(gainDb) : offsetLinear;
-    }
-};
-
-/// What the detector makes of four frames.
-struct SDetected {
-    Mask4 areActive;
-    Floats4 overs;  // smoothed amounts over the threshold
-};
-
-/// The gains by the law, in two stages. The exponential runs only where the detector is active.
-class CGainsByLaw {
-public:
-    [[gnu::always_inline]] void start(const SGainLaw &law, const SDetected &detected) {
-        m_areActive = detected.areActive;
-        if (isAnySet(m_areActive)) {
-            const Floats4 decibels = law.slope * detected.overs + law.offsetDb;
-            m_parts = startExp(withinFloat({decibels * exponentPerDecibel}));
-        }
-    }
-    [[gnu::always_inline]] Floats4 finish(const SGainLaw &law) const {
-        const Floats4 offset = splat(law.offsetLinear);
-        if (!isAnySet(m_areActive))
-            return offset;
-        return m_areActive ? rounded(finishExp(m_parts)).values : offset;
-    }
-
-private:
-    Mask4 m_areActive{};
-    TExpParts<4> m_parts{};
-};
 
 /// The parameters as the audio thread works with them for a while.
 struct SDetectorSettings {
@@ -99,15 +55,16 @@ public:
 
     /// Takes the state from before the block to after it.
     /// @param frames    at least 1.
-    /// @param settings  () -> SDetectorSettings, called every 64 frames.
+    /// @param settings  () -> SDetectorSettings, called at least every 64 frames.
     /// @param read      (SStep) -> Four: the levels.
     /// @param gains     start(SGainLaw, SDetected) and, a step later, finish(SGainLaw) -> gains.
     /// @param apply     (SStep, what finish returned).
     template <typename Settings, typename Read, typename Gains, typename Apply>
     [[gnu::always_inline]] static void run(SDetectorState &state, int frames, Settings settings,
-                                           Read read, Gains gains, Apply apply) {
+                                           Read read, Gains &&gains, Apply apply) {
         SDetectorSettings now{};
         float peak = state.peak, over = state.over;
+        // Never in single precision, which the compiler cannot know from the state.
         const bool isPeakCleared = !isSingle && state.isPeakCleared;
         const bool isOverCleared = !isSingle && state.isOverCleared;
         Four levels{};

@@ -3,6 +3,7 @@
 #include "dspclasses/Signals.h"
 
 #include <algorithm>
+#include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
 #include <vector>
@@ -33,6 +34,21 @@ struct SHalving {
     }
 
     SDoubles2 history() const { return y1; }
+};
+
+/// y = factor x, and what all that came out adds up to.
+struct SScaling {
+    double factor;
+    SDoubles2 sum = both(0.0);
+
+    template <typename Guard>
+    SDoubles2 step(SDoubles2 x, Guard &guard) {
+        const SDoubles2 y = guard.contain(guard.flush(both(factor) * x));
+        sum = sum + y;
+        return y;
+    }
+
+    SDoubles2 history() const { return both(0.0); }
 };
 
 /// Four frames at a time.
@@ -143,6 +159,34 @@ TEST(GuardedRecursion, GuardsAtEveryPlaceOfEveryStep) {
             }
         }
     }
+}
+
+TEST(GuardedRecursion, GuardsWhatIsBeyondTheLimitAsADoubleAlone) {
+    TStereo<float> input(4);
+    input.left(0) = input.right(2) = 5.0f;
+    SHalving filter;
+    filter.y1 = pair(2e-9, 2e-8);
+    const TStereo<float> output = halveInSteps(filter, input);
+    EXPECT_EQ(output.channels[0][0], 1.0f);
+    EXPECT_EQ(output.channels[1][2], 1.0f);
+}
+
+TEST(GuardedRecursion, TakesNoInputForSilenceThatComesToNothing) {
+    TStereo<float> input(4), output(4);
+    input.right(1) = 1e-20f;
+    const auto in = input.pointers(), out = output.pointers();
+    SScaling filter{1e-300};
+    runUpToFour<EInput::Read>(filter, in[0], in[1], out[0], out[1], 4);
+    EXPECT_EQ(secondOf(filter.sum), 0.0) << "1e-320 is a denormal";
+}
+
+TEST(GuardedRecursion, MakesNoNegativeZeroOfSilence) {
+    const TStereo<float> silence(4);
+    TStereo<float> input(4), output(4, 1.0f);
+    const auto in = input.pointers(), out = output.pointers();
+    SScaling filter{-1.0};
+    runUpToFour<EInput::Read>(filter, in[0], in[1], out[0], out[1], 4);
+    EXPECT_TRUE(output == silence);
 }
 
 TEST(GuardedRecursion, GuardsAChannelBesideANaN) {

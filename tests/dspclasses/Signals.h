@@ -46,8 +46,9 @@ enum class ESignal {
     Denormals,  // below the normal range of float or of double, and negative zeros
     Loud,       // noise up to +24 dBFS
     Mixed,      // any of the above, changing every few dozen frames
+    Wild,       // what no voice holds: huge samples, infinities, NaNs among noise
 };
-inline constexpr int signalCount = static_cast<int>(ESignal::Mixed) + 1;
+inline constexpr int signalCount = static_cast<int>(ESignal::Wild) + 1;
 
 inline double linearFromDb(double decibels) {
     return std::pow(10.0, decibels / 20.0);
@@ -64,6 +65,14 @@ inline double denormalSample(CRandom &random) {
     default:
         return sign * 0.0;
     }
+}
+
+inline double wildSample(CRandom &random) {
+    const double magnitudes[] = {5.0, 1e10, double{std::numeric_limits<float>::max()},
+                                 std::numeric_limits<double>::infinity(),
+                                 std::numeric_limits<double>::quiet_NaN()};
+    const double sign = random.chance(0.5) ? 1.0 : -1.0;
+    return sign * magnitudes[random.whole(0, 4)];
 }
 
 /// @return one channel; the same seed gives the same samples.
@@ -114,11 +123,16 @@ inline std::vector<double> makeChannel(ESignal kind, std::uint64_t seed, int fra
     case ESignal::Mixed:
         for (int done = 0; done < frames;) {
             const int count = std::min(frames - done, random.whole(1, 60));
-            const auto other = static_cast<ESignal>(random.whole(0, signalCount - 2));
+            const auto other =
+                static_cast<ESignal>(random.whole(0, static_cast<int>(ESignal::Mixed) - 1));
             const std::vector<double> piece = makeChannel(other, random.bits(), count);
             std::copy(piece.begin(), piece.end(), samples.begin() + done);
             done += count;
         }
+        break;
+    case ESignal::Wild:
+        for (double &sample : samples)
+            sample = random.chance(0.01) ? wildSample(random) : random.real(-1.0, 1.0);
         break;
     }
     return samples;

@@ -3,7 +3,10 @@
 #include "dspclasses/PlainDetector.h"
 #include "dspclasses/Signals.h"
 
+#include <cmath>
 #include <gtest/gtest.h>
+#include <limits>
+#include <vector>
 
 namespace {
 
@@ -76,6 +79,24 @@ TYPED_TEST(TDetectorState, EqualsThePlainReadingFromTheSmallestAmountsOn) {
                              .over = static_cast<float>(random.chance(0.5) ? tiny : -tiny)};
         for (int block = 0; block < 3; ++block)
             expectSameState(plain, state, levelsAboutOne<TypeParam>(random, random.whole(1, 40)));
+        ASSERT_FALSE(this->HasFailure());
+    }
+}
+
+TYPED_TEST(TDetectorState, EqualsThePlainReadingAboutTheLeastNormalPeak) {
+    constexpr double least{std::numeric_limits<float>::min()};
+    const SPlainDetector plain{.attackCoef = 0.9f, .releaseCoef = 0.9f};
+    for (std::uint64_t seed = 1; seed < 20000; ++seed) {
+        SCOPED_TRACE(seed);
+        CRandom random(seed);
+        SDetectorState state{.peak = static_cast<float>(random.real(0.9, 4.5) * least),
+                             .over = 0.0f};
+        std::vector<TypeParam> levels;
+        for (int i = random.whole(1, 12); i > 0; --i)
+            levels.push_back(random.chance(0.5)
+                                 ? TypeParam{0}
+                                 : static_cast<TypeParam>(random.real(0.0, 3.0) * least));
+        expectSameState(plain, state, levels);
         ASSERT_FALSE(this->HasFailure());
     }
 }
