@@ -128,10 +128,9 @@ template <EInput input, typename Filter>
         const Floats4 loudest = larger(magnitude(left), magnitude(right)).values;
         const Floats4 quietest = smaller(magnitude(left), magnitude(right)).values;
         // A NaN on the right stands in both, and is not calm: it may hide the left.
-        const Mask4 isCalm = (quietest > 0.0f) & (loudest < runawayFloat);
-        if (areAllSet(isCalm) || !(mightNeedGuards(firstOf(filter.history()), inL, left) ||
-                                   mightNeedGuards(secondOf(filter.history()), inR, right)))
-            [[likely]] {
+        const bool isCalm = areAllSet((quietest > 0.0f) & (loudest < runawayFloat));
+        if (isCalm || !(mightNeedGuards(firstOf(filter.history()), inL, left) ||
+                        mightNeedGuards(secondOf(filter.history()), inR, right))) [[likely]] {
             filter = next;
             return;
         }
