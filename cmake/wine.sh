@@ -1,7 +1,7 @@
 #!/bin/sh
 # wine.sh PREFIX PROGRAM [ARGUMENT...]: runs a 64-bit Windows program in a Wine prefix of its own,
 # which the first caller makes while the others wait. All of them share the prefix's desktop, so they
-# need one display, or none.
+# need one display.
 set -eu
 export WINEPREFIX="$1" WINEARCH=win64 WINEDEBUG=-all
 shift

@@ -8,7 +8,7 @@ run_packages=(
     g++ cmake ninja-build pkgconf  # the build
     libxcb1-dev                    # talks to the X server
     libsndfile1-dev libsamplerate0-dev libcli11-dev nlohmann-json3-dev  # the command-line host
-    googletest                     # configured with every build
+    googletest locales             # the tests, part of every whole build
     libbenchmark-dev python3       # the benchmarks, and the table that they print
     alsa-utils                     # its speaker test ships recorded human speech
 )
