@@ -1,19 +1,37 @@
 # cmake -D SOURCE=<repository> -P CheckFloors.cmake
-# Every folder is a floor: its files include their own folder and those below, never one above. No
-# file outside src/platform includes a header of a system or asks which system it is built for, and
-# the headers of src/platform show nothing of one.
+# Every folder is a floor: its files include their own folder and those that its row in the table of
+# docs/architecture.md names, and a row names only rows above it. No file outside src/platform
+# includes a system header or asks which system it is built for, and the headers of src/platform show
+# nothing of one.
 cmake_minimum_required(VERSION 3.25)
 
-# Folder: what it may include of ours. A new folder of src/ needs a line here.
-set(floor_platform platform)
-set(floor_dspclasses dspclasses)
-set(floor_foundation foundation platform)
-set(floor_hostlayer hostlayer foundation platform)
-set(floor_toolkit toolkit foundation platform)
-set(floor_effect effect editor hostlayer toolkit dspclasses foundation platform)
-set(floor_editor ${floor_effect})
-# The command-line host reaches the effect through its binary interface.
-set(floor_corvel corvel effect hostlayer platform)
+# Sets floors, and floor_<folder> to the folders that it may include.
+set(floors "")
+set(wrong "")
+file(STRINGS ${SOURCE}/docs/architecture.md rows REGEX "^\\| `(src|tools)/")
+foreach(row IN LISTS rows)
+    string(REGEX MATCH "^\\| `(src|tools)/([^`]+)` \\|[^|]*\\|([^|]*)\\|$" cells "${row}")
+    set(folder ${CMAKE_MATCH_2})
+    string(REGEX MATCHALL "[a-z0-9/]+" lower "${CMAKE_MATCH_3}")
+    foreach(other IN LISTS lower)
+        if(NOT other IN_LIST floors)
+            string(APPEND wrong "docs/architecture.md: ${folder} may not name ${other}, which is not above it\n")
+        endif()
+    endforeach()
+    list(APPEND floors ${folder})
+    set(floor_${folder} ${folder} ${lower})
+endforeach()
+
+# Sets result to the floor that a path below src/ or tools/ belongs to, or to "".
+function(find_floor path result)
+    set(${result} "" PARENT_SCOPE)
+    foreach(floor IN LISTS floors)
+        string(FIND ${path} ${floor}/ position)
+        if(position EQUAL 0)
+            set(${result} ${floor} PARENT_SCOPE)
+        endif()
+    endforeach()
+endfunction()
 
 set(standard
     algorithm any array atomic barrier bit bitset cctype cerrno cfenv cfloat charconv chrono cinttypes
@@ -32,15 +50,16 @@ set(libraries_corvel CLI/CLI.hpp nlohmann/json.hpp samplerate.h sndfile.h)
 file(GLOB_RECURSE files RELATIVE ${SOURCE} ${SOURCE}/src/*.h ${SOURCE}/src/*.cpp ${SOURCE}/tools/*.h
     ${SOURCE}/tools/*.cpp)
 list(LENGTH files count)
-if(count LESS 100)
-    message(FATAL_ERROR "only ${count} files found in ${SOURCE}")
+if(count LESS 100 OR NOT floors)
+    message(FATAL_ERROR "only ${count} files in ${SOURCE}, on the floors ${floors}")
 endif()
 
-set(wrong "")
 foreach(file IN LISTS files)
-    string(REGEX REPLACE "^(src|tools)/([^/]+)/.*" "\\2" folder ${file})
-    if(NOT DEFINED floor_${folder})
+    string(REGEX REPLACE "^(src|tools)/" "" path ${file})
+    find_floor(${path} floor)
+    if(floor STREQUAL "")
         string(APPEND wrong "${file}: its folder is on no floor\n")
+        continue()
     endif()
     set(is_backend NO)
     if(file MATCHES "^src/platform/(linux|win32)/")
@@ -49,13 +68,15 @@ foreach(file IN LISTS files)
 
     file(STRINGS ${SOURCE}/${file} includes REGEX "^[ \t]*#[ \t]*include")
     foreach(line IN LISTS includes)
-        if(line MATCHES "\"(([^/\"]+)/[^\"]+)\"")
-            if(NOT CMAKE_MATCH_2 IN_LIST floor_${folder})
-                string(APPEND wrong "${file}: must not include ${CMAKE_MATCH_1}\n")
+        if(line MATCHES "\"([^\"]+/[^\"]+)\"")
+            set(header ${CMAKE_MATCH_1})
+            find_floor(${header} target)
+            if(NOT target IN_LIST floor_${floor})
+                string(APPEND wrong "${file}: must not include ${header}\n")
             endif()
         elseif(line MATCHES "<([^>]+)>")
             if(NOT is_backend AND NOT CMAKE_MATCH_1 IN_LIST standard AND NOT CMAKE_MATCH_1 IN_LIST compiler
-                AND NOT CMAKE_MATCH_1 IN_LIST libraries_${folder})
+                AND NOT CMAKE_MATCH_1 IN_LIST libraries_${floor})
                 string(APPEND wrong "${file}: ${CMAKE_MATCH_1} is no standard header\n")
             endif()
         else()

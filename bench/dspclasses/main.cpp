@@ -1,5 +1,5 @@
-#include "dspclasses/SSubject.h"
-#include "dspclasses/Speech.h"
+#include "dspclasses/support/SSubject.h"
+#include "dspclasses/support/Speech.h"
 
 #include <benchmark/benchmark.h>
 #include <functional>

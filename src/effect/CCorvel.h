@@ -1,11 +1,11 @@
 #pragma once
 
-#include "dspclasses/CDSPMultiFX.h"
-#include "dspclasses/TRelaxed.h"
+#include "dspclasses/strip/CDSPMultiFX.h"
 #include "effect/SProgram.h"
 #include "foundation/CString.h"
 #include "foundation/TClassRecord.h"
 #include "hostlayer/CVstEffect.h"
+#include "values/TRelaxed.h"
 
 #include <array>
 #include <memory>

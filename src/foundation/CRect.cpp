@@ -2,8 +2,8 @@
 
 #include "foundation/CStringTokeniser.h"
 #include "foundation/CopyText.h"
-#include "foundation/Truncation.h"
 #include "foundation/WrappingArithmetic.h"
+#include "values/Truncation.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #include "foundation/NormalisedInteger.h"
 
-#include "foundation/Truncation.h"
+#include "values/Truncation.h"
 
 #include <cmath>
 

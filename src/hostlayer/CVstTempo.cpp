@@ -1,14 +1,12 @@
 #include "hostlayer/CVstTempo.h"
 
 #include "foundation/CException.h"
-#include "foundation/Truncation.h"
+#include "values/Truncation.h"
 
 #include <algorithm>
 #include <cmath>
 
 namespace Tessitor::Vst {
-
-using MathTools::truncated;
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "CTemporaryFolder.h"
 #include "abi/LoadedPlugin.h"
-#include "dspclasses/Signals.h"
+#include "dspclasses/support/Signals.h"
 #include "foundation/ReadFile.h"
 #include "hostlayer/EventBlock.h"
 #include "hostlayer/FakeHost.h"

@@ -1,7 +1,7 @@
 #include "abi/GoldenSound.h"
 
 #include "abi/LoadedPlugin.h"
-#include "dspclasses/Signals.h"
+#include "dspclasses/support/Signals.h"
 #include "hostlayer/FakeHost.h"
 
 #include <bit>

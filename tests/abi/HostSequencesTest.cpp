@@ -1,5 +1,5 @@
 #include "abi/LoadedPlugin.h"
-#include "dspclasses/Signals.h"
+#include "dspclasses/support/Signals.h"
 #include "hostlayer/FakeHost.h"
 
 #include <gtest/gtest.h>

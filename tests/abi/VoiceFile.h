@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dspclasses/Signals.h"
+#include "dspclasses/support/Signals.h"
 
 #include <cstdint>
 #include <cstring>

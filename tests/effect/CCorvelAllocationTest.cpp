@@ -1,5 +1,5 @@
 #include "Allocation.h"
-#include "dspclasses/Signals.h"
+#include "dspclasses/support/Signals.h"
 #include "effect/CCorvel.h"
 #include "hostlayer/FakeHost.h"
 

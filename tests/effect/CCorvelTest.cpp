@@ -1,6 +1,6 @@
 #include "effect/CCorvel.h"
 
-#include "dspclasses/Signals.h"
+#include "dspclasses/support/Signals.h"
 #include "effect/FactoryPrograms.h"
 #include "hostlayer/FakeHost.h"
 

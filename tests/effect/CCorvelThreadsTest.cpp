@@ -1,4 +1,4 @@
-#include "dspclasses/Signals.h"
+#include "dspclasses/support/Signals.h"
 #include "effect/CCorvel.h"
 #include "hostlayer/FakeHost.h"
 

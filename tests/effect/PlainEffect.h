@@ -1,7 +1,7 @@
 #pragma once
 
-#include "dspclasses/PlainModules.h"
-#include "dspclasses/PlainStrip.h"
+#include "dspclasses/modules/PlainModules.h"
+#include "dspclasses/strip/PlainStrip.h"
 #include "effect/FactoryPrograms.h"
 
 #include <array>

@@ -1,4 +1,4 @@
-#include "dspclasses/Signals.h"
+#include "dspclasses/support/Signals.h"
 #include "effect/CCorvel.h"
 #include "effect/FactoryPrograms.h"
 #include "hostlayer/FakeHost.h"

@@ -1,7 +1,5 @@
 #include "foundation/NormalisedInteger.h"
 
-#include "foundation/Truncation.h"
-
 #include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
@@ -46,16 +44,6 @@ TEST(NormalisedInteger, AnEmptyRangeGivesNoFiniteNumber) {
     EXPECT_TRUE(std::isnan(integerToNormalised(3, 3, 3)));
     EXPECT_TRUE(std::isinf(integerToNormalised(3, 3, 4)));
     EXPECT_EQ(normalisedToInteger(3, 3, 0.7), 3);
-}
-
-TEST(Truncation, CutsTheFractionOff) {
-    EXPECT_EQ(truncated(2.9), 2);
-    EXPECT_EQ(truncated(-2.9), -2);
-    EXPECT_EQ(truncated(2147483647.9), greatest);
-    EXPECT_EQ(truncated(-2147483648.9), least);
-    EXPECT_EQ(truncated(2147483648.0), least);
-    EXPECT_EQ(truncated(-2147483649.0), least);
-    EXPECT_EQ(truncated(std::numeric_limits<double>::infinity()), least);
 }
 
 }  // namespace

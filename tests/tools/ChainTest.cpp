@@ -1,7 +1,7 @@
 #include "corvel/Chain.h"
 
 #include "corvel/Errors.h"
-#include "dspclasses/CDSPMultiFX.h"
+#include "dspclasses/strip/CDSPMultiFX.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,0 @@
-#include "dspclasses/WideLoop.h"
-
-bool processorHasWideLanes() {
-    return __builtin_cpu_supports("avx2");
-}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "dspclasses/kernels/Lanes.h"
+
+/// A biquad over both channels at once, in direct form I, with its coefficients and its history in
+/// registers. For the loops of GuardedRecursion.h.
+struct SBiquadLanes {
+    SDoubles2 b0, b1, b2, a1, a2;
+    SDoubles2 x1, x2, y1, y2;
+
+    template <typename Guard>
+    SDoubles2 step(SDoubles2 x, Guard &guard) {
+        SDoubles2 y = b0 * x + b1 * x1 + b2 * x2 - a1 * y1 - a2 * y2;
+        x2 = x1;
+        x1 = x;
+        y = guard.contain(guard.flush(y));
+        y2 = y1;
+        y1 = y;
+        return y;
+    }
+
+    SDoubles2 history() const { return x1 | x2 | y1 | y2; }
+};

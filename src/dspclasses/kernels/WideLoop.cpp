@@ -1,0 +1,5 @@
+#include "dspclasses/kernels/WideLoop.h"
+
+bool processorHasWideLanes() {
+    return __builtin_cpu_supports("avx2");
+}

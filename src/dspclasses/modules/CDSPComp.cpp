@@ -1,0 +1,175 @@
+#include "dspclasses/modules/CDSPComp.h"
+
+#include "dspclasses/blocks/DynamicsMath.h"
+#include "dspclasses/blocks/TDetector.h"
+#include "dspclasses/kernels/WideLoop.h"
+
+void CDSPComp::setParameter(int index, float value) {
+    if (index == 0 && storeIfNew(thresholdDb, value)) {
+        thresholdLinear = linearFromDecibels(value);
+    } else if (index == 1 && storeIfNew(attackMs, value)) {
+        attackCoef = smoothingCoefficient(value, sampleRate);
+    } else if (index == 2 && storeIfNew(releaseMs, value)) {
+        releaseCoef = smoothingCoefficient(value, sampleRate);
+    } else if (index == 3 && storeIfNew(ratio, value)) {
+        slope = 1.0f / value - 1.0f;
+    } else if (index == 4 && storeIfNew(makeUpDb, value)) {
+        makeUpLinear = linearFromDecibels(value);
+    } else if (index == 5) {
+        linked = value >= 0.5f;
+        reset();
+    }
+}
+
+float CDSPComp::getParameter(int index) {
+    switch (index) {
+    case 0:
+        return thresholdDb;
+    case 1:
+        return attackMs;
+    case 2:
+        return releaseMs;
+    case 3:
+        return ratio;
+    case 4:
+        return makeUpDb;
+    case 5:
+        return linked ? 1.0f : 0.0f;
+    default:
+        return 0.0f;
+    }
+}
+
+void CDSPComp::reset() {
+    resetRequest.ask();
+}
+
+void CDSPComp::clear() {
+    gainLeft = gainRight = 1.0f;
+    overLeft = overRight = 0.0f;
+    peakLeft = peakRight = 0.0f;
+    gainDbLeft = gainDbRight = 0.0f;
+}
+
+namespace {
+
+/// Reads the samples of a step. In single precision denormals become 0.0, in the input as well.
+[[gnu::always_inline]] inline TFour<float> read(const SStep &step, float *in) {
+    const TFour<float> samples = flushDenormal(step.load(in));
+    step.store(in, samples);
+    return samples;
+}
+[[gnu::always_inline]] inline TFour<double> read(const SStep &step, const double *in) {
+    return step.load(in);
+}
+
+/// Kept: the right detector only decides whether the last gain of the left channel applies here, or
+/// the plain make-up.
+class CHeldGain {
+public:
+    explicit CHeldGain(float gain) : m_gain(splat(gain)) {}
+
+    void start(const SGainLaw & /*law*/, const SDetected &detected) {
+        m_areActive = detected.areActive;
+    }
+    Floats4 finish(const SGainLaw &law) const {
+        return m_areActive ? m_gain : splat(law.offsetLinear);
+    }
+
+private:
+    Floats4 m_gain;
+    Mask4 m_areActive{};
+};
+
+template <typename Sample>
+[[gnu::always_inline]] inline void apply(const SStep &step, const Floats4 &gains, const Sample *in,
+                                         Sample *out) {
+    const auto factors = __builtin_convertvector(gains, typename TFour<Sample>::Values);
+    step.store(out, TFour<Sample>{step.load(in).values * factors});
+}
+
+}  // namespace
+
+SDetectorSettings CDSPComp::settings() const {
+    return {
+        thresholdDb, thresholdLinear, {attackCoef, releaseCoef}, {slope, makeUpDb, makeUpLinear}};
+}
+
+template <typename Sample>
+void CDSPComp::run(Sample *const *in, Sample *const *out, int frames) {
+    // The request before the mode: the state of the old mode does not outlive it by a whole block.
+    if (resetRequest.take())
+        clear();
+    if (frames <= 0)
+        return;
+    Sample *inL = in[0], *inR = in[1], *outL = out[0], *outR = out[1];
+    if (linked) {
+        runWide([=, this] { runLinked(inL, inR, outL, outR, frames); });
+    } else {
+        runWide([=, this] {
+            runLeft(inL, outL, frames);
+            runRight(inR, outR, frames);
+        });
+    }
+}
+
+template <typename Sample>
+void CDSPComp::runLinked(Sample *inL, Sample *inR, Sample *outL, Sample *outR, int frames) {
+    const auto levels = [=](const SStep &step) {
+        return larger(magnitude(read(step, inL)), magnitude(read(step, inR)));
+    };
+    detectLeft<Sample>(frames, levels, [=](const SStep &step, const Floats4 &gains) {
+        apply(step, gains, inL, outL);
+        apply(step, gains, inR, outR);
+    });
+}
+
+template <typename Sample>
+void CDSPComp::runLeft(Sample *in, Sample *out, int frames) {
+    const auto levels = [=](const SStep &step) { return magnitude(read(step, in)); };
+    detectLeft<Sample>(frames, levels, [=](const SStep &step, const Floats4 &gains) {
+        apply(step, gains, in, out);
+    });
+}
+
+template <typename Sample, typename Levels, typename Apply>
+void CDSPComp::detectLeft(int frames, Levels levels, Apply applyGains) {
+    SDetectorState state{.peak = peakLeft,
+                         .over = overLeft,
+                         .isPeakCleared = isClearedBy<Sample>(peakRight),
+                         .isOverCleared = isClearedBy<Sample>(overRight)};
+    TDetector<Sample>::run(
+        state, frames, [this] { return settings(); }, levels, CGainsByLaw(), applyGains);
+
+    const SGainLaw law = settings().law;
+    peakLeft = state.peak;
+    overLeft = state.over;
+    gainDbLeft = law.decibels(state.isActive, overLeft);
+    gainLeft = law.linear(state.isActive, gainDbLeft);
+}
+
+template <typename Sample>
+void CDSPComp::runRight(Sample *in, Sample *out, int frames) {
+    SDetectorState state{.peak = peakRight,
+                         .over = overRight,
+                         .isPeakCleared = isClearedBy<Sample>(gainDbLeft),
+                         .isOverCleared = isClearedBy<Sample>(thresholdDb)};
+    const auto levels = [=](const SStep &step) { return magnitude(read(step, in)); };
+    TDetector<Sample>::run(
+        state, frames, [this] { return settings(); }, levels, CHeldGain(gainLeft),
+        [=](const SStep &step, const Floats4 &gains) { apply(step, gains, in, out); });
+
+    const SGainLaw law = settings().law;
+    peakRight = state.peak;
+    overRight = state.over;
+    gainDbRight = law.decibels(state.isActive, overLeft);
+    gainRight = state.isActive ? gainLeft : law.offsetLinear;
+}
+
+void CDSPComp::processReplacing(float **in, float **out, int frames) {
+    run(in, out, frames);
+}
+
+void CDSPComp::processDoubleReplacing(double **in, double **out, int frames) {
+    run(in, out, frames);
+}

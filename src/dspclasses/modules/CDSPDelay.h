@@ -1,0 +1,55 @@
+#pragma once
+
+#include "dspclasses/blocks/CResetRequest.h"
+#include "dspclasses/blocks/DelayLine.h"
+#include "dspclasses/modules/CDSPBase.h"
+#include "values/TRelaxed.h"
+
+#include <cstdint>
+
+/// Stereo feedback delay, of a free time or of a half or a whole beat of the host's tempo. In
+/// ping-pong mode the echo of each channel feeds the other one.
+///
+/// Parameter 0: time, ms. 1: sync, half the ESync. 2: feedback. 3: ping-pong, on from 0.5.
+/// 4: dry level. 5: wet level. 6: tempo, beats per minute. 7: beats of a bar.
+///
+/// A change of time keeps what is in the lines: the read point jumps, which can be heard.
+/// Parameters 0, 1, 6 and 7 allocate when they lead to a time of more than 2972 ms, which only a
+/// slow tempo does; the lines then start anew. Two such changes must not run at once.
+class CDSPDelay : public CDSPBase {
+public:
+    CDSPDelay();
+    void setParameter(int index, float value) override;
+    float getParameter(int index) override;
+    void processReplacing(float **in, float **out, int frames) override;
+    void processDoubleReplacing(double **in, double **out, int frames) override;
+    void reset() override;
+
+    /// What parameter 1 is cut to; any other number acts as kWholeBeat.
+    enum ESync : std::int32_t { kFree, kHalfBeat, kWholeBeat };
+
+private:
+    void setDelay(std::uint32_t ms);
+    void setBeat(float ms);
+    void setSync(std::int32_t mode);
+    void setTempo(float bpm);
+    void setBeats(float beats);
+
+    template <typename Sample>
+    void run(const Sample *const *in, Sample *const *out, int frames);
+
+    TRelaxed<std::uint32_t> delayMs = 0;            // in force, whole ms
+    TRelaxed<std::uint32_t> freeDelayMs = 1000;     // the free time, while synchronised
+    TRelaxed<std::uint32_t> lineCapacity = 131072;  // samples
+    TRelaxed<float> delaySamples = 0.0f;            // from delayMs
+    TRelaxed<float> feedback = 0.5f;
+    TRelaxed<float> dryLevel = 1.0f;
+    TRelaxed<float> wetLevel = 0.70710677f;
+    TRelaxed<float> tempo = 120.0f;  // beats per minute
+    TRelaxed<bool> pingPong = false;
+    TRelaxed<std::int32_t> beatsPerBar = 4;
+    TRelaxed<std::int32_t> syncMode = kFree;
+    DelayLine leftLine{lineCapacity};
+    DelayLine rightLine{lineCapacity};
+    CResetRequest resetRequest;
+};

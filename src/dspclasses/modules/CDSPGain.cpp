@@ -1,0 +1,30 @@
+#include "dspclasses/modules/CDSPGain.h"
+
+#include "dspclasses/kernels/ScaledCopy.h"
+#include "dspclasses/kernels/SingleMath.h"
+
+void CDSPGain::setParameter(int /*index*/, float value) {
+    if (value == decibels)
+        return;
+    decibels = value;
+    constexpr float ln10 = 2.30258509f;
+    gain = value > -60.0f ? expSingle(ln10 * value * 0.05f) : 0.0f;
+}
+
+float CDSPGain::getParameter(int /*index*/) {
+    return decibels;
+}
+
+template <typename Sample>
+void CDSPGain::run(const Sample *const *in, Sample *const *out, int frames) const {
+    copyScaled(in[0], out[0], frames, gain);
+    copyScaled(in[1], out[1], frames, gain);
+}
+
+void CDSPGain::processReplacing(float **in, float **out, int frames) {
+    run<float>(in, out, frames);
+}
+
+void CDSPGain::processDoubleReplacing(double **in, double **out, int frames) {
+    run<double>(in, out, frames);
+}

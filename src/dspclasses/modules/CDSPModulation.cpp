@@ -1,0 +1,253 @@
+#include "dspclasses/modules/CDSPModulation.h"
+
+#include "dspclasses/blocks/WholeCount.h"
+#include "dspclasses/kernels/WideLoop.h"
+#include "values/Truncation.h"
+
+#include <algorithm>
+#include <cmath>
+
+static constexpr int groupFrames = 64;
+
+CDSPModulation::CDSPModulation() {
+    leftLine.resize(4096);
+    rightLine.resize(4096);
+}
+
+void CDSPModulation::setParameter(int index, float value) {
+    switch (index) {
+    case 0:
+        return setType(value);
+    case 1:
+        return setWidth(value);
+    case 2:
+        return setDepth(value);
+    case 3:
+        return setSpeed(value);
+    case 4:
+        return setSpread(value);
+    case 5:
+        return setFeedback(value);
+    case 6:
+        return setMix(value);
+    default:
+        return;
+    }
+}
+
+float CDSPModulation::getParameter(int index) {
+    switch (index) {
+    case 0:
+        return static_cast<float>(type.load()) * 0.5f;
+    case 1:
+        return widthMs;
+    case 2:
+        return depth;
+    case 3:
+        return speedHz;
+    case 4:
+        return spread;
+    case 5:
+        return feedback;
+    case 6:
+        return mix;
+    default:
+        return 0.0f;
+    }
+}
+
+static CDSPModulation::EType typeAt(float value) {
+    const std::int32_t tenths = truncated(value * 10.0f);
+    if (tenths < 0 || tenths > 6)
+        return CDSPModulation::kPhaser;
+    return tenths < 4 ? CDSPModulation::kVibrato : CDSPModulation::kAdt;
+}
+
+void CDSPModulation::setType(float value) {
+    const EType newType = typeAt(value);
+    if (newType == type)
+        return;
+    type = newType;
+    delayedGain = 1.0f;
+    directGain = newType == kPhaser ? -feedback : 0.0f;
+    feedbackGain = newType == kVibrato ? 0.0f : feedback.load();
+}
+
+void CDSPModulation::setWidth(float ms) {
+    if (ms == widthMs)
+        return;
+    widthMs = ms;
+    const std::uint32_t samples = wholeCount(ms * 0.001f * sampleRate);
+    widthSamples = samples;
+    if (samples > 4096) {
+        leftLine.resize(samples);
+        rightLine.resize(samples);
+    }
+    applyDepth();
+}
+
+void CDSPModulation::setDepth(float share) {
+    if (share == depth)
+        return;
+    depth = share;
+    applyDepth();
+}
+
+void CDSPModulation::applyDepth() {
+    depthSamples = wholeCount(static_cast<float>(widthSamples.load()) * depth);
+    baseSamples = widthSamples - depthSamples;
+}
+
+void CDSPModulation::setSpeed(float hz) {
+    if (hz == speedHz)
+        return;
+    speedHz = hz;
+    lfoIncrement = hz * invSampleRate * 2.0f;
+}
+
+/// Moves the right oscillator from wherever it stands. Kept: no wrap at -1, below which the wave
+/// rises above 1 until the oscillator has come back.
+static float movedPhase(float phase, float change) {
+    phase += change * 0.5f;
+    return phase > 1.0f ? phase - 2.0f : phase;
+}
+
+void CDSPModulation::setSpread(float value) {
+    if (value == spread)
+        return;
+    const float change = value - spread;
+    float phase = phaseRight;
+    while (!phaseRight.compare_exchange_weak(phase, movedPhase(phase, change)))
+        ;
+    spread = value;
+}
+
+void CDSPModulation::setFeedback(float value) {
+    if (value == feedback)
+        return;
+    feedback = value;
+    if (type == kVibrato)
+        return;
+    if (type == kPhaser)
+        directGain = -value;
+    feedbackGain = value;
+}
+
+void CDSPModulation::setMix(float value) {
+    if (value == mix)
+        return;
+    mix = value;
+    dryGain = std::sqrt(0.5f - (value - 0.5f));
+    wetGain = std::sqrt(value - 0.5f + 0.5f);
+}
+
+void CDSPModulation::reset() {
+    resetRequest.ask();
+}
+
+/// What the setters give, read once per group of frames.
+struct CDSPModulation::SSettings {
+    float direct, delayed, feedback, dry, wet;
+    float increment;
+    std::uint32_t depth, base;
+};
+
+/// Of each frame the phase of the oscillator, then how far back to read.
+struct CDSPModulation::SSweep {
+    float left[groupFrames];
+    float right[groupFrames];
+};
+
+static float nextPhase(float phase, float increment) {
+    phase += increment;
+    // A branch, which is never mispredicted but once a cycle: the next phase need not wait for it.
+    if (phase > 1.0f) [[unlikely]]
+        phase -= 2.0f;
+    return phase;
+}
+
+/// The only recursion from frame to frame, that of both channels side by side.
+void CDSPModulation::advanceOscillators(SSweep &sweep, int frames, float increment) {
+    float left, right, rightBefore = phaseRight;
+    do {
+        left = phaseLeft;
+        right = rightBefore;
+        for (int i = 0; i < frames; ++i) {
+            sweep.left[i] = left = nextPhase(left, increment);
+            sweep.right[i] = right = nextPhase(right, increment);
+        }
+        // Again from the start if a change of spread has moved the phase meanwhile.
+    } while (!phaseRight.compare_exchange_strong(rightBefore, right));
+    phaseLeft = left;
+}
+
+/// Turns phases into offsets. The wave is a parabola from 0 to 1; the double run sweeps in double
+/// precision.
+template <typename Sample>
+static void sweepOffsets(float *sweep, int frames, Sample depth, Sample base) {
+    runWide([=] {
+        for (int i = 0; i < frames; ++i) {
+            const float phase = sweep[i];
+            const float wave = (1.0f - std::fabs(phase)) * phase * 2.0f + 0.5f;
+            sweep[i] = static_cast<float>(wave * depth + base);
+        }
+    });
+}
+
+template <typename Sample>
+void CDSPModulation::mixChannel(const Sample *x, const float *delayed, Sample *out, float *fresh,
+                                int frames, const SSettings &settings) {
+    runWide([=] {
+        for (int i = 0; i < frames; ++i) {
+            const float d = delayed[i] * settings.delayed;
+            const Sample y = d + x[i] * settings.direct;
+            out[i] = settings.dry * x[i] + settings.wet * y;
+            fresh[i] = static_cast<float>(y * settings.feedback + x[i]);
+        }
+    });
+}
+
+template <typename Sample>
+void CDSPModulation::runChannel(const Sample *in, Sample *out, int frames,
+                                const SSettings &settings, float *sweep, DelayLine &line) {
+    sweepOffsets(sweep, frames, static_cast<Sample>(settings.depth),
+                 static_cast<Sample>(settings.base));
+    float delayed[groupFrames], fresh[groupFrames];
+    if (line.canReadRun(sweep, frames)) {
+        line.readRun(sweep, delayed, frames);
+        mixChannel(in, delayed, out, fresh, frames, settings);
+        line.write(fresh, frames);
+        return;
+    }
+    // The sweep comes too near: what one frame writes another one of the group reads.
+    for (int i = 0; i < frames; ++i) {
+        line.read(sweep[i], delayed, 1);
+        mixChannel(in + i, delayed, out + i, fresh, 1, settings);
+        line.write(fresh, 1);
+    }
+}
+
+template <typename Sample>
+void CDSPModulation::run(const Sample *const *in, Sample *const *out, int frames) {
+    for (int first = 0; first < frames; first += groupFrames) {
+        if (resetRequest.take()) {
+            leftLine.clear();
+            rightLine.clear();
+        }
+        const SSettings settings{directGain, delayedGain,  feedbackGain, dryGain,
+                                 wetGain,    lfoIncrement, depthSamples, baseSamples};
+        const int count = std::min(groupFrames, frames - first);
+        SSweep sweep;
+        advanceOscillators(sweep, count, settings.increment);
+        runChannel(in[0] + first, out[0] + first, count, settings, sweep.left, leftLine);
+        runChannel(in[1] + first, out[1] + first, count, settings, sweep.right, rightLine);
+    }
+}
+
+void CDSPModulation::processReplacing(float **in, float **out, int frames) {
+    run<float>(in, out, frames);
+}
+
+void CDSPModulation::processDoubleReplacing(double **in, double **out, int frames) {
+    run<double>(in, out, frames);
+}

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "dspclasses/blocks/CResetRequest.h"
+#include "dspclasses/blocks/DelayLine.h"
+#include "dspclasses/modules/CDSPBase.h"
+#include "values/TRelaxed.h"
+
+#include <atomic>
+#include <cstdint>
+
+/// Vibrato, automatic double tracking and phaser: a delay per channel, swept by an oscillator, with
+/// three gains that make it plain, fed back or an all-pass.
+///
+/// Parameter 0: type, 0 to 1. 1: width, the longest delay, ms. 2: depth of the sweep, share of the
+/// width. 3: speed, Hz. 4: spread, stereo offset of the oscillator, 0 to 1. 5: feedback. 6: mix.
+///
+/// Parameter 1 allocates for a width of more than 4096 samples, 92 ms; the lines then start anew.
+/// The oscillators run on across a reset.
+class CDSPModulation : public CDSPBase {
+public:
+    enum EType : std::int32_t { kVibrato, kAdt, kPhaser };
+
+    CDSPModulation();
+    void setParameter(int index, float value) override;
+    float getParameter(int index) override;  ///< a half of the type for index 0, which leads to it
+    void processReplacing(float **in, float **out, int frames) override;
+    void processDoubleReplacing(double **in, double **out, int frames) override;
+    void reset() override;
+
+private:
+    void setType(float value);
+    void setWidth(float ms);
+    void setDepth(float share);
+    void applyDepth();
+    void setSpeed(float hz);
+    void setSpread(float value);
+    void setFeedback(float value);
+    void setMix(float value);
+
+    struct SSettings;
+    struct SSweep;
+    void advanceOscillators(SSweep &sweep, int frames, float increment);
+    template <typename Sample>
+    static void mixChannel(const Sample *x, const float *delayed, Sample *out, float *fresh,
+                           int frames, const SSettings &settings);
+    template <typename Sample>
+    static void runChannel(const Sample *in, Sample *out, int frames, const SSettings &settings,
+                           float *sweep, DelayLine &line);
+    template <typename Sample>
+    void run(const Sample *const *in, Sample *const *out, int frames);
+
+    TRelaxed<float> directGain = 0.0f;    // of the input in the wet sum
+    TRelaxed<float> delayedGain = 1.0f;   // of the delayed signal in the wet sum
+    TRelaxed<float> feedbackGain = 0.5f;  // of the wet sum back into the line
+    TRelaxed<float> widthMs = 20.0f;
+    TRelaxed<float> speedHz = 1.0f;
+    TRelaxed<float> depth = 0.5f;
+    TRelaxed<float> feedback = 0.5f;  // as set
+    TRelaxed<float> mix = 0.5f;
+    TRelaxed<float> spread = 0.5f;
+    TRelaxed<float> dryGain = 0.70710677f;
+    TRelaxed<float> wetGain = 0.70710677f;
+    TRelaxed<float> lfoIncrement = 1.0f * invSampleRate * 2.0f;  // phase per sample
+    float phaseLeft = 0.5f;                                      // -1 to 1 is a whole cycle
+    std::atomic<float> phaseRight = 0.75f;
+    TRelaxed<std::int32_t> type = kAdt;
+    TRelaxed<std::uint32_t> widthSamples = 882;
+    TRelaxed<std::uint32_t> depthSamples = 441;  // how far the sweep goes
+    TRelaxed<std::uint32_t> baseSamples = 441;   // where it begins
+    DelayLine leftLine{4};
+    DelayLine rightLine{4};
+    CResetRequest resetRequest;
+};

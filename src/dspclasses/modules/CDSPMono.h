@@ -1,0 +1,32 @@
+#pragma once
+
+#include "dspclasses/modules/CDSPBase.h"
+#include "values/TRelaxed.h"
+
+#include <cstdint>
+
+/// Routing of two channels. Its one parameter, from 0 to 1, turns into a mode by truncation of its
+/// triple: only 1 itself is stereo. The index is ignored.
+class CDSPMono : public CDSPBase {
+public:
+    /// A value outside 0 to 1 gives a mode that has no name here and writes no output.
+    enum EMode : std::int32_t {
+        kCombine,   // both outputs carry the sum, 3 dB down
+        kAllLeft,   // both carry the left input
+        kAllRight,  // both carry the right input
+        kStereo,
+    };
+
+    void setParameter(int index, float value) override;
+    float getParameter(int index) override;  ///< a third of the mode, which leads back to it
+    void processReplacing(float **in, float **out, int frames) override;
+    void processDoubleReplacing(double **in, double **out, int frames) override;
+
+    std::int32_t getMode() const { return mode; }  ///< an EMode or any other number
+
+private:
+    template <typename Sample>
+    void run(const Sample *const *in, Sample *const *out, int frames) const;
+
+    TRelaxed<std::int32_t> mode = kCombine;
+};

@@ -1,0 +1,69 @@
+#include "dspclasses/modules/CDSPPan.h"
+
+#include "dspclasses/blocks/SquareRootLaw.h"
+#include "dspclasses/kernels/FrameGroups.h"
+
+// Kept: each half remembers its own last spread and stops there, but by then two gains of the other
+// half are overwritten, so the matrix depends on the road by which a position was reached. Kept as
+// well: the halves don't meet in the middle.
+void CDSPPan::setParameter(int /*index*/, float value) {
+    if (value == pan)
+        return;
+    pan = value;
+    if (value < 0.5f) {
+        leftToLeft = 1.0f;
+        leftToRight = 0.0f;
+        spreadRightInput(1.0f - value * 2.0f);
+    } else {
+        rightToRight = 1.0f;
+        rightToLeft = 0.0f;
+        spreadLeftInput(value * 2.0f - 1.0f);
+    }
+}
+
+void CDSPPan::spreadRightInput(float spread) {
+    if (spread == leftHalfSpread)
+        return;
+    leftHalfSpread = spread;
+    rightToLeft = squareRootLaw(spread * 0.5f + 0.5f);
+    rightToRight = squareRootLaw(0.5f - spread * 0.5f);
+}
+
+void CDSPPan::spreadLeftInput(float spread) {
+    if (spread == rightHalfSpread)
+        return;
+    rightHalfSpread = spread;
+    leftToLeft = squareRootLaw(0.5f - spread * 0.5f);
+    leftToRight = squareRootLaw(spread * 0.5f + 0.5f);
+}
+
+float CDSPPan::getParameter(int /*index*/) {
+    return pan;
+}
+
+// A function of its own, since only parameters keep their word that nothing overlaps.
+template <typename Sample>
+static void mix(const Sample *__restrict inL, const Sample *__restrict inR, Sample *__restrict outL,
+                Sample *__restrict outR, int frames, Sample ll, Sample lr, Sample rl, Sample rr) {
+    for (int i = 0; i < frames; ++i) {
+        outL[i] = inL[i] * ll + inR[i] * rl;
+        outR[i] = inL[i] * lr + inR[i] * rr;
+    }
+}
+
+template <typename Sample>
+void CDSPPan::run(const Sample *const *in, Sample *const *out, int frames) const {
+    forEachGroup(frames, [&](int first, int count) {
+        const Sample ll = leftToLeft.load(), lr = leftToRight.load();
+        const Sample rl = rightToLeft.load(), rr = rightToRight.load();
+        mix(in[0] + first, in[1] + first, out[0] + first, out[1] + first, count, ll, lr, rl, rr);
+    });
+}
+
+void CDSPPan::processReplacing(float **in, float **out, int frames) {
+    run<float>(in, out, frames);
+}
+
+void CDSPPan::processDoubleReplacing(double **in, double **out, int frames) {
+    run<double>(in, out, frames);
+}

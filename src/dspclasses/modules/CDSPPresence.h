@@ -1,0 +1,18 @@
+#pragma once
+
+#include "dspclasses/modules/CDSPRBJFilter.h"
+
+/// A peaking band of half an octave. Parameter 0: frequency, Hz. Parameter 1: gain, dB.
+class CDSPPresence : public CDSPBase {
+public:
+    void setParameter(int index, float value) override;
+    float getParameter(int index) override;
+    void processReplacing(float **in, float **out, int frames) override;
+    void processDoubleReplacing(double **in, double **out, int frames) override;
+    void reset() override;
+
+private:
+    TRelaxed<float> frequency = 2000.0f;  // as set, Hz
+    TRelaxed<float> gainDb = 0.0f;        // as set, dB
+    CDSPRBJFilter filter{CDSPRBJFilter::EKind::Peaking, 2000.0f, 0.0f, 0.5f, true};
+};

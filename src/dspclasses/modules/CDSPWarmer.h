@@ -1,0 +1,24 @@
+#pragma once
+
+#include "dspclasses/modules/CDSPBase.h"
+#include "values/TRelaxed.h"
+
+/// Waveshaper after Schlick's bias curve, from the identity at 0 to a strong bend at 1. One
+/// parameter, whatever the index: the warmth, from 0 to 1.
+///
+/// The curve is applied to the signed sample: both half-waves bend differently, which gives the
+/// even harmonics. It has a pole among the negative samples (-0.75 at full warmth), and nothing
+/// guards it.
+/// Source: C. Schlick, Fast alternatives to Perlin's bias and gain functions, Graphics Gems IV.
+class CDSPWarmer : public CDSPBase {
+public:
+    void setParameter(int index, float value) override;
+    float getParameter(int index) override;
+    void processReplacing(float **in, float **out, int frames) override;
+    void processDoubleReplacing(double **in, double **out, int frames) override;
+
+private:
+    TRelaxed<float> curve = -1.0f;  // 1 - 1 / bias
+    TRelaxed<float> bias = 0.5f;    // 0.5 to 0.7, from warmth
+    TRelaxed<float> warmth = 0.0f;
+};

@@ -1,0 +1,254 @@
+#include "dspclasses/strip/CDSPMultiFX.h"
+
+#include "dspclasses/blocks/Assertion.h"
+#include "dspclasses/modules/CDSP3EQ.h"
+#include "dspclasses/modules/CDSPBalance.h"
+#include "dspclasses/modules/CDSPComp.h"
+#include "dspclasses/modules/CDSPDeEsser.h"
+#include "dspclasses/modules/CDSPDelay.h"
+#include "dspclasses/modules/CDSPGain.h"
+#include "dspclasses/modules/CDSPGate.h"
+#include "dspclasses/modules/CDSPHiPass.h"
+#include "dspclasses/modules/CDSPModulation.h"
+#include "dspclasses/modules/CDSPPan.h"
+#include "dspclasses/modules/CDSPParametric.h"
+#include "dspclasses/modules/CDSPPresence.h"
+#include "dspclasses/modules/CDSPReverb.h"
+#include "dspclasses/modules/CDSPWarmer.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <string_view>
+#include <utility>
+
+static constexpr int delaySlot = 16;
+static constexpr int delayTempo = 6;  // a parameter of the delay that has no id
+
+static constexpr std::array<const char *, CChainOrder::slotCount> slotLabels{
+    "InGain",        "MonoType",    "Balance",     "Pan",        "Gain",  "3Band",
+    "Rumble Filter", "HiPass",      "Presence",    "Parametric", "Gate",  "Compressor",
+    "DeEsser",       "Modulator 1", "Modulator 2", "Warmer",     "Delay", "Reverb"};
+
+static CDSPMultiFX::Modules buildModules() {
+    return {
+        std::make_unique<CDSPGain>(),        // 0, fixed head
+        std::make_unique<CDSPMono>(),        // 1, fixed head
+        std::make_unique<CDSPBalance>(),     // 2
+        std::make_unique<CDSPPan>(),         // 3
+        std::make_unique<CDSPGain>(),        // 4
+        std::make_unique<CDSP3EQ>(),         // 5
+        std::make_unique<CDSPHiPass>(),      // 6, rumble filter
+        std::make_unique<CDSPHiPass>(),      // 7, high-pass
+        std::make_unique<CDSPPresence>(),    // 8
+        std::make_unique<CDSPParametric>(),  // 9
+        std::make_unique<CDSPGate>(),        // 10
+        std::make_unique<CDSPComp>(),        // 11
+        std::make_unique<CDSPDeEsser>(),     // 12
+        std::make_unique<CDSPModulation>(),  // 13
+        std::make_unique<CDSPModulation>(),  // 14
+        std::make_unique<CDSPWarmer>(),      // 15
+        std::make_unique<CDSPDelay>(),       // 16
+        std::make_unique<CDSPReverb>(),      // 17
+    };
+}
+
+CDSPMultiFX::CDSPMultiFX() : CDSPMultiFX(buildModules()) {}
+
+CDSPMultiFX::CDSPMultiFX(Modules slots) : modules(std::move(slots)) {
+    setTempo(120.0f);
+    outMono = std::make_unique<CDSPMono>();
+    readParameterCache();
+    initOrder();
+}
+
+CDSPMultiFX::~CDSPMultiFX() {
+    // An array would destroy its last element first.
+    for (auto &module : modules)
+        module.reset();
+}
+
+// The run
+
+static void process(CDSPBase &module, float **in, float **out, int frames) {
+    module.processReplacing(in, out, frames);
+}
+
+static void process(CDSPBase &module, double **in, double **out, int frames) {
+    module.processDoubleReplacing(in, out, frames);
+}
+
+void CDSPMultiFX::processReplacing(float **in, float **out, int frames) {
+    floatBuffers.grow(frames);
+    const float *dry = floatBuffers.DryBuf[0];
+    assertAlways(reinterpret_cast<std::uintptr_t>(dry) != 0xcdcdcdcd,
+                 "DryBuf[0]!=(float *)0xcdcdcdcd", "DSPMultiFX", 502);
+    assertAlways(dry != nullptr, "DryBuf[0]!=(float *)0", "DSPMultiFX", 503);
+    run(in, out, frames, floatBuffers);
+}
+
+void CDSPMultiFX::processDoubleReplacing(double **in, double **out, int frames) {
+    doubleBuffers.grow(frames);
+    run(in, out, frames, doubleBuffers);
+}
+
+template <typename Sample>
+static void halveSum(const Sample *left, const Sample *right, Sample *out, int frames) {
+    for (int i = 0; i < frames; ++i)
+        out[i] = (left[i] + right[i]) * Sample(0.5);
+}
+
+template <typename Sample>
+void CDSPMultiFX::run(Sample **in, Sample **out, int frames, TStripBuffers<Sample> &buffers) {
+    if (in == nullptr || out == nullptr)
+        return;
+    const bool isMono = monoInput;
+    std::copy_n(in[0], frames, buffers.DryBuf[0]);
+    std::copy_n(in[isMono ? 0 : 1], frames, buffers.DryBuf[1]);
+
+    Sample **cur = buffers.DryBuf, **alt = buffers.WetBuf;
+    for (int slot = 0; slot >= 0; slot = order.nextOf(slot)) {
+        process(moduleIn(slot), cur, alt, frames);
+        std::swap(cur, alt);
+    }
+    if (outMono->getMode() != CDSPMono::kStereo) {
+        process(*outMono, cur, alt, frames);
+        cur = alt;
+    }
+
+    if (out[1] == nullptr && isMono) {
+        halveSum(cur[0], cur[1], out[0], frames);
+    } else {
+        std::copy_n(cur[0], frames, out[0]);
+        std::copy_n(cur[1], frames, out[1]);
+    }
+}
+
+void CDSPMultiFX::reset() {
+    for (int slot = 0; slot >= 0; slot = order.nextOf(slot))
+        moduleIn(slot).reset();
+}
+
+void CDSPMultiFX::resetAllModules() {
+    for (auto &module : modules)
+        module->reset();
+}
+
+void CDSPMultiFX::setTempo(float bpm) {
+    if (bpm == tempo)
+        return;
+    tempo = bpm;
+    moduleIn(delaySlot).setParameter(delayTempo, bpm);
+}
+
+void CDSPMultiFX::setMonoInput(bool isMono) {
+    monoInput = isMono;
+}
+
+/// Into a caller's buffer, which is trusted to have room.
+static void copyText(std::string_view from, char *to) {
+    to[from.copy(to, from.size())] = '\0';
+}
+
+// The running order
+
+void CDSPMultiFX::initOrder() {
+    order.initialise();
+}
+
+SOrderEntry &CDSPMultiFX::orderEntry(int slot) {
+    return order.entry(slot);
+}
+
+void CDSPMultiFX::setOrderEntry(int slot, int prev, int next) {
+    order.entry(slot) = {prev, next};
+}
+
+void CDSPMultiFX::recountFX() {
+    order.recount();
+}
+
+int CDSPMultiFX::getFXCount() const {
+    return order.getCount();
+}
+
+void CDSPMultiFX::appendFX(int slot) {
+    order.append(slot);
+}
+
+void CDSPMultiFX::insertFX(int target, int slot, bool before, bool resetModule) {
+    if (before)
+        order.insertBefore(target, slot);
+    else
+        order.insertAfter(target, slot);
+    if (resetModule)
+        moduleIn(slot).reset();
+}
+
+void CDSPMultiFX::replaceFX(int target, int slot) {
+    order.replace(target, slot);
+}
+
+void CDSPMultiFX::removeFX(int slot) {
+    order.remove(slot);
+}
+
+void CDSPMultiFX::moveFXBefore(int target, int slot) {
+    order.moveBefore(target, slot);
+}
+
+void CDSPMultiFX::getFXName(int slot, char *text) const {
+    if (slot < CChainOrder::slotCount)
+        copyText(slotLabels[static_cast<std::size_t>(slot)], text);
+}
+
+// The parameters
+
+static const SParameter &parameterOf(int id) {
+    return parameterTable[static_cast<std::size_t>(id)];
+}
+
+CDSPBase &CDSPMultiFX::moduleOf(const SParameter &parameter) {
+    return parameter.slot == kOutMonoSlot ? *outMono : moduleIn(parameter.slot);
+}
+
+void CDSPMultiFX::readParameterCache() {
+    for (int id = 0; id < kStripParameters; ++id) {
+        const SParameter &parameter = parameterOf(id);
+        if (parameter.slot != kNoSlot)
+            paramCache[static_cast<std::size_t>(id)] =
+                moduleOf(parameter).getParameter(parameter.index);
+    }
+}
+
+void CDSPMultiFX::setStripParameter(int id, float value) {
+    TRelaxed<float> &last = paramCache[static_cast<std::size_t>(id)];
+    if (value == last)
+        return;
+    last = value;
+    const SParameter &parameter = parameterOf(id);
+    if (parameter.slot != kNoSlot)
+        moduleOf(parameter).setParameter(parameter.index, parameter.law(value));
+}
+
+float CDSPMultiFX::getStripParameter(int id) const {
+    return id < kStripParameters ? paramCache[static_cast<std::size_t>(id)].load() : 0.0f;
+}
+
+void CDSPMultiFX::getParameterName(int id, char *text) const {
+    if (id < kStripParameters)
+        copyText(parameterOf(id).name, text);
+}
+
+void CDSPMultiFX::getParameterDisplay(int id, char *text) {
+    if (id >= kStripParameters)
+        return;
+    const SParameter &parameter = parameterOf(id);
+    const float value =
+        parameter.slot == kNoSlot ? 0.0f : moduleOf(parameter).getParameter(parameter.index);
+    copyText(parameter.text(value), text);
+}
+
+void CDSPMultiFX::getParameterLabel(int id, char *text) const {
+    if (id < kStripParameters)
+        copyText(parameterOf(id).unit, text);
+}

@@ -1,0 +1,124 @@
+/// Runs SingleMath through every float there is: the logarithm of each above 0, the exponential of
+/// each, and the powers of 2 and of 5 (the bases of the parameter laws) for each exponent. Takes
+/// some minutes, so it is a program of its own: singlemath_sweep [exp|log|pow2|pow5]...
+
+#include "dspclasses/kernels/SingleMath.h"
+#include "dspclasses/kernels/SingleMathLanes.h"
+#include "dspclasses/kernels/SingleReference.h"
+#include "dspclasses/kernels/WideLoop.h"
+
+#include <array>
+#include <bit>
+#include <cmath>
+#include <cstdint>
+#include <cstdio>
+#include <cstring>
+#include <functional>
+#include <limits>
+
+namespace {
+
+using Chunk = std::array<float, 4096>;
+
+struct SFunction {
+    const char *name;
+    std::function<bool(float)> isArgument;
+    std::function<float(float)> reference;
+    std::function<void(const Chunk &, Chunk &)> scalar;
+    std::function<void(const Chunk &, Chunk &)> lanes;  // may be empty
+};
+
+template <typename One>
+std::function<void(const Chunk &, Chunk &)> oneByOne(One one) {
+    return [one](const Chunk &x, Chunk &y) {
+        for (std::size_t i = 0; i < x.size(); ++i)
+            y[i] = one(x[i]);
+    };
+}
+
+template <typename Four>
+std::function<void(const Chunk &, Chunk &)> fourByFour(Four four) {
+    return [four](const Chunk &x, Chunk &y) {
+        const float *from = x.data();
+        float *to = y.data();
+        runWide([=] {
+            for (std::size_t i = 0; i < std::tuple_size_v<Chunk>; i += 4)
+                storeFour(to + i, four(loadFour(from + i)));
+        });
+    };
+}
+
+bool same(float a, float b) {
+    return std::bit_cast<std::uint32_t>(a) == std::bit_cast<std::uint32_t>(b) ||
+           (std::isnan(a) && std::isnan(b));
+}
+
+/// @return how many results are wrong.
+long sweep(const SFunction &function) {
+    long arguments = 0, wrong = 0;
+    const auto check = [&](const char *form, float x, float got, float expected) {
+        if (!same(got, expected) && ++wrong <= 20)
+            std::printf("%s, %s: of %a got %a, nearest is %a\n", function.name, form,
+                        static_cast<double>(x), static_cast<double>(got),
+                        static_cast<double>(expected));
+    };
+    Chunk x, scalar, lanes;
+    for (std::uint64_t first = 0; first < 0x100000000u; first += x.size()) {
+        for (std::size_t i = 0; i < x.size(); ++i) {
+            const auto value = std::bit_cast<float>(static_cast<std::uint32_t>(first + i));
+            x[i] = function.isArgument(value) ? value : 1.0f;
+        }
+        function.scalar(x, scalar);
+        if (function.lanes)
+            function.lanes(x, lanes);
+        for (std::size_t i = 0; i < x.size(); ++i) {
+            const float expected = function.reference(x[i]);
+            check("scalar", x[i], scalar[i], expected);
+            if (function.lanes)
+                check("four lanes", x[i], lanes[i], expected);
+        }
+        arguments += static_cast<long>(x.size());
+    }
+    std::printf("%s: %ld arguments, %ld wrong\n", function.name, arguments, wrong);
+    return wrong;
+}
+
+bool anyFloat(float) {
+    return true;
+}
+
+bool positiveFinite(float x) {
+    return x > 0.0f && x <= std::numeric_limits<float>::max();
+}
+
+SFunction powersOf(const char *name, float base) {
+    return {name,
+            anyFloat,
+            [base](float x) { return SingleReference::power(base, x); },
+            oneByOne([base](float x) { return powSingle(base, x); }),
+            {}};
+}
+
+}  // namespace
+
+int main(int argc, char **argv) {
+    const SFunction functions[] = {
+        {"exp", anyFloat, SingleReference::exponential,
+         oneByOne([](float x) { return expSingle(x); }),
+         fourByFour([](SFloats4 x) { return expSingle(x); })},
+        {"log", positiveFinite, SingleReference::logarithm,
+         oneByOne([](float x) { return logSingle(x); }),
+         fourByFour([](SFloats4 x) { return logSingle(x); })},
+        powersOf("pow2", 2.0f),
+        powersOf("pow5", 5.0f),
+    };
+    long wrong = 0;
+    for (const SFunction &function : functions) {
+        bool wanted = argc == 1;
+        for (int i = 1; i < argc; ++i)
+            wanted = wanted || std::strcmp(argv[i], function.name) == 0;
+        if (wanted)
+            wrong += sweep(function);
+    }
+    return wrong == 0 ? 0 : 1;
+}

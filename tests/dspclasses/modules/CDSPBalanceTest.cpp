@@ -1,0 +1,59 @@
+#include "dspclasses/modules/CDSPBalance.h"
+
+#include "dspclasses/modules/PlainLevels.h"
+#include "dspclasses/support/Matrix.h"
+#include "dspclasses/support/Oracle.h"
+
+#include <memory>
+
+static SMatrix matrixAt(float position) {
+    CDSPBalance balance;
+    balance.setParameter(0, position);
+    return matrixOf(balance);
+}
+
+TEST(CDSPBalance, LetsBothSidesThroughInTheMiddle) {
+    CDSPBalance balance;
+    EXPECT_EQ(balance.getParameter(0), 0.5f);
+    EXPECT_EQ(matrixOf(balance), (SMatrix{1.0, 0.0, 0.0, 1.0}));
+    balance.setParameter(0, 0.2f);
+    balance.setParameter(0, 0.5f);
+    EXPECT_EQ(matrixOf(balance), (SMatrix{1.0, 0.0, 0.0, 1.0}));
+}
+
+TEST(CDSPBalance, SilencesTheOtherSideAtTheEnds) {
+    EXPECT_EQ(matrixAt(0.0f), (SMatrix{1.0, 0.0, 0.0, 0.0}));
+    EXPECT_EQ(matrixAt(1.0f), (SMatrix{0.0, 0.0, 0.0, 1.0}));
+}
+
+TEST(CDSPBalance, TurnsOneSideDownByASquareRootAndLeavesTheOther) {
+    EXPECT_EQ(matrixAt(0.125f), (SMatrix{1.0, 0.0, 0.0, 0.5}));
+    EXPECT_EQ(matrixAt(0.875f), (SMatrix{0.5, 0.0, 0.0, 1.0}));
+}
+
+TEST(CDSPBalance, GivesWhatTheArithmeticGivesOutsideItsRange) {
+    const SMatrix below = matrixAt(-1.0f), above = matrixAt(1.5f);
+    EXPECT_EQ(below.leftToLeft, 1.0);
+    EXPECT_TRUE(std::isnan(below.rightToRight));
+    EXPECT_TRUE(std::isnan(above.leftToLeft));
+    EXPECT_EQ(above.rightToRight, 1.0);
+}
+
+TEST(CDSPBalance, TakesMinusZeroForTheZeroThatItHolds) {
+    CDSPBalance balance;
+    balance.setParameter(0, 0.0f);
+    balance.setParameter(0, -0.0f);
+    EXPECT_FALSE(std::signbit(balance.getParameter(0)));
+}
+
+TEST(CDSPBalance, IgnoresTheIndex) {
+    CDSPBalance balance;
+    balance.setParameter(4, 0.125f);
+    EXPECT_EQ(balance.getParameter(2), 0.125f);
+    EXPECT_EQ(matrixOf(balance), (SMatrix{1.0, 0.0, 0.0, 0.5}));
+}
+
+TEST(CDSPBalance, EqualsThePlainReadingBitForBit) {
+    expectSameBits([] { return std::make_unique<CDSPBalance>(); },
+                   [] { return std::make_unique<CPlainBalance>(); }, {{0, 0.0f, 1.0f}});
+}

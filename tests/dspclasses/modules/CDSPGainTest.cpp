@@ -1,0 +1,70 @@
+#include "dspclasses/modules/CDSPGain.h"
+
+#include "dspclasses/modules/PlainLevels.h"
+#include "dspclasses/support/Matrix.h"
+#include "dspclasses/support/Oracle.h"
+
+#include <memory>
+
+static double factorOf(CDSPGain &gain) {
+    return matrixOf(gain).leftToLeft;
+}
+
+TEST(CDSPGain, StartsAtUnity) {
+    CDSPGain gain;
+    EXPECT_EQ(gain.getParameter(0), 0.0f);
+    EXPECT_EQ(matrixOf(gain), (SMatrix{1.0, 0.0, 0.0, 1.0}));
+}
+
+TEST(CDSPGain, IsSilentAtMinusSixtyAndBelow) {
+    CDSPGain gain;
+    for (const float decibels : {-60.0f, -60.1f, -1000.0f}) {
+        gain.setParameter(0, decibels);
+        EXPECT_EQ(factorOf(gain), 0.0) << decibels;
+        EXPECT_EQ(gain.getParameter(0), decibels);
+        gain.setParameter(0, 0.0f);
+    }
+}
+
+TEST(CDSPGain, IsSoftButNotSilentJustAboveMinusSixty) {
+    CDSPGain gain;
+    gain.setParameter(0, -59.9f);
+    EXPECT_NEAR(factorOf(gain), 0.0010116, 1e-6);
+}
+
+TEST(CDSPGain, TurnsDecibelsIntoAFactor) {
+    CDSPGain gain;
+    for (const float decibels : {-40.0f, -20.0f, -6.0f, 6.0f, 20.0f}) {
+        gain.setParameter(0, decibels);
+        EXPECT_NEAR(factorOf(gain) / std::pow(10.0, decibels / 20.0), 1.0, 1e-6) << decibels;
+    }
+}
+
+TEST(CDSPGain, IgnoresTheIndex) {
+    CDSPGain gain;
+    gain.setParameter(5, -6.0f);
+    EXPECT_EQ(gain.getParameter(9), -6.0f);
+}
+
+TEST(CDSPGain, TakesMinusZeroForTheZeroThatItHolds) {
+    CDSPGain gain;
+    gain.setParameter(0, -0.0f);
+    EXPECT_FALSE(std::signbit(gain.getParameter(0)));
+    gain.setParameter(0, -6.0f);
+    gain.setParameter(0, -0.0f);
+    EXPECT_TRUE(std::signbit(gain.getParameter(0)));
+    EXPECT_EQ(factorOf(gain), 1.0);
+}
+
+TEST(CDSPGain, HasNothingToReset) {
+    CDSPGain gain;
+    gain.setParameter(0, -6.0f);
+    const double before = factorOf(gain);
+    gain.reset();
+    EXPECT_EQ(factorOf(gain), before);
+}
+
+TEST(CDSPGain, EqualsThePlainReadingBitForBit) {
+    expectSameBits([] { return std::make_unique<CDSPGain>(); },
+                   [] { return std::make_unique<CPlainGain>(); }, {{0, -60.0f, 6.0f}});
+}

@@ -1,0 +1,55 @@
+#include "dspclasses/modules/ReverbGeometry.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+
+using Lengths = std::array<int, 4>;
+using Floats = std::array<float, 4>;
+
+TEST(ReverbGeometry, GivesTheLengthsOfTheRoomThatAReverbStartsWith) {
+    const SReverbRoom room = reverbRoom(100.0f, 44100.0f);
+    EXPECT_NEAR(room.delayBase, 12965.4f, 0.001f);
+    EXPECT_EQ(room.tailLengths, (Floats{12965.0f, 10586.0f, 9167.0f, 8199.0f}));
+    EXPECT_EQ(room.tapOffsets, (Floats{5320.0f, 3894.0f, 2014.0f, 5.0f}));
+}
+
+TEST(ReverbGeometry, GivesTheLengthsOfTheSmallestRoom) {
+    const SReverbRoom room = reverbRoom(1.0f, 44100.0f);
+    EXPECT_EQ(room.tailLengths, (Floats{129.0f, 105.0f, 91.0f, 81.0f}));
+    EXPECT_EQ(room.tapOffsets, (Floats{58.0f, 43.0f, 25.0f, 5.0f}));
+}
+
+TEST(ReverbGeometry, WithoutSpreadBothSidesHaveTheBaseLengths) {
+    const SDiffuserLengths lengths = diffuserLengths(0.0f, 1341.0f);
+    EXPECT_EQ(lengths.left, (Lengths{210, 159, 562, 410}));
+    EXPECT_EQ(lengths.right, lengths.left);
+}
+
+TEST(ReverbGeometry, SpreadDetunesTheSides) {
+    // At 1: -6, 931 + 128, 28 and 19.
+    const SDiffuserLengths lengths = diffuserLengths(1.0f, 1341.0f);
+    EXPECT_EQ(lengths.left, (Lengths{210, 165, 1059 - 375, 1341 - 1059}));
+    EXPECT_EQ(lengths.right, (Lengths{210, 131, 912 - 341, 429}));
+}
+
+TEST(ReverbGeometry, TheRoomScalesTheDiffusers) {
+    const SDiffuserLengths lengths = diffuserLengths(0.0f, 2682.0f);
+    EXPECT_EQ(lengths.left, (Lengths{420, 318, 1124, 820}));
+    const SDiffuserLengths cut = diffuserLengths(0.0f, 81.0f);
+    EXPECT_EQ(cut.left, (Lengths{12, 9, 33, 24}));
+}
+
+TEST(ReverbGeometry, LengthsStayPositiveInTheSmallestRoom) {
+    for (int step = 0; step <= 1000; ++step) {
+        const SDiffuserLengths lengths = diffuserLengths(static_cast<float>(step) * 0.001f, 81.0f);
+        for (const Lengths &side : {lengths.left, lengths.right})
+            for (const int length : side)
+                ASSERT_GT(length, 0) << step;
+    }
+}
+
+TEST(ReverbGeometry, IsDefinedForASpreadThatIsNoNumber) {
+    const SDiffuserLengths lengths = diffuserLengths(NAN, 1341.0f);
+    EXPECT_EQ(lengths.left[0], 210);
+    EXPECT_EQ(diffuserLengths(INFINITY, 1341.0f).left[0], 210);
+}

@@ -1,0 +1,570 @@
+#include "dspclasses/strip/CDSPMultiFX.h"
+
+#include "dspclasses/modules/PlainModules.h"
+#include "dspclasses/support/CWitness.h"
+#include "dspclasses/support/Oracle.h"
+
+#include <cstring>
+#include <gmock/gmock.h>
+
+using Calls = std::vector<std::string>;
+
+static const float stereo = 1.0f;
+static constexpr int inGain = 0, inMono = 1, outMono = 61;
+
+// Construction and destruction
+
+TEST(CDSPMultiFX, StartsWithTheEmptyChain) {
+    CDSPMultiFX strip;
+    EXPECT_EQ(strip.orderEntry(0).prev, -1);
+    EXPECT_EQ(strip.orderEntry(0).next, 1);
+    EXPECT_EQ(strip.orderEntry(1).prev, 0);
+    EXPECT_EQ(strip.orderEntry(1).next, -1);
+    for (int slot = 2; slot < 18; ++slot) {
+        EXPECT_EQ(strip.orderEntry(slot).prev, -1) << slot;
+        EXPECT_EQ(strip.orderEntry(slot).next, -1) << slot;
+    }
+    EXPECT_EQ(strip.getFXCount(), 0);
+}
+
+TEST(CDSPMultiFX, TellsTheDelayOfATempoOf120AndNobodyOfAnythingElse) {
+    SWitnessLog log;
+    CDSPMultiFX strip(makeWitnesses(log));
+    EXPECT_EQ(log.take(), (Calls{"16 set 6 120.000000"}));
+}
+
+TEST(CDSPMultiFX, DestroysItsModulesInSlotOrder) {
+    SWitnessLog log;
+    { CDSPMultiFX strip(makeWitnesses(log)); }
+    Calls expected{"16 set 6 120.000000"};
+    for (int slot = 0; slot < 18; ++slot)
+        expected.push_back(std::to_string(slot) + " destroy");
+    EXPECT_EQ(log.take(), expected);
+}
+
+TEST(CDSPMultiFX, HasALabelForEverySlot) {
+    const CDSPMultiFX strip;
+    const char *const labels[] = {
+        "InGain",        "MonoType",    "Balance",     "Pan",        "Gain",  "3Band",
+        "Rumble Filter", "HiPass",      "Presence",    "Parametric", "Gate",  "Compressor",
+        "DeEsser",       "Modulator 1", "Modulator 2", "Warmer",     "Delay", "Reverb"};
+    for (int slot = 0; slot < 18; ++slot) {
+        char text[32] = "untouched";
+        strip.getFXName(slot, text);
+        EXPECT_STREQ(text, labels[slot]);
+    }
+    char text[32] = "untouched";
+    strip.getFXName(18, text);
+    EXPECT_STREQ(text, "untouched");
+}
+
+// Tempo and resets
+
+TEST(CDSPMultiFX, PassesOnlyAChangeOfTempoToTheDelay) {
+    SWitnessLog log;
+    CDSPMultiFX strip(makeWitnesses(log));
+    log.take();
+    strip.setTempo(120.0f);
+    EXPECT_TRUE(log.calls.empty());
+    strip.setTempo(95.5f);
+    strip.setTempo(95.5f);
+    strip.setTempo(0.0f);
+    EXPECT_EQ(log.take(), (Calls{"16 set 6 95.500000", "16 set 6 0.000000"}));
+}
+
+TEST(CDSPMultiFX, ResetsTheModulesOfTheChainOnly) {
+    SWitnessLog log;
+    CDSPMultiFX strip(makeWitnesses(log));
+    strip.appendFX(9);
+    strip.appendFX(4);
+    log.take();
+    strip.reset();
+    EXPECT_EQ(log.take(), (Calls{"0 reset", "1 reset", "9 reset", "4 reset"}));
+}
+
+TEST(CDSPMultiFX, ResetsAllModulesInSlotOrder) {
+    SWitnessLog log;
+    CDSPMultiFX strip(makeWitnesses(log));
+    strip.appendFX(9);
+    log.take();
+    strip.resetAllModules();
+    Calls expected;
+    for (int slot = 0; slot < 18; ++slot)
+        expected.push_back(std::to_string(slot) + " reset");
+    EXPECT_EQ(log.take(), expected);
+}
+
+TEST(CDSPMultiFX, ResetsAModuleOnlyWhereTheInsertionAsksForIt) {
+    SWitnessLog log;
+    CDSPMultiFX strip(makeWitnesses(log));
+    log.take();
+    strip.appendFX(9);
+    strip.insertFX(9, 4, true, false);
+    strip.replaceFX(4, 5);
+    strip.moveFXBefore(5, 9);
+    EXPECT_TRUE(log.calls.empty());
+    strip.insertFX(9, 6, true, true);
+    EXPECT_EQ(log.take(), (Calls{"6 reset"}));
+}
+
+// The run
+
+static Calls slotsOfARun(CDSPMultiFX &strip, SWitnessLog &log) {
+    log.take();
+    log.buffers.clear();
+    TStereo<float> input(1);
+    render(strip, input, 1);
+    Calls slots;
+    for (const std::string &call : log.take())
+        slots.push_back(call.substr(0, call.find(' ')));
+    return slots;
+}
+
+TEST(CDSPMultiFX, RunsTheHeadAndThenTheChainInItsOrder) {
+    SWitnessLog log;
+    CDSPMultiFX strip(makeWitnesses(log));
+    EXPECT_EQ(slotsOfARun(strip, log), (Calls{"0", "1"}));
+    for (const int slot : {6, 11, 5, 17})
+        strip.appendFX(slot);
+    EXPECT_EQ(slotsOfARun(strip, log), (Calls{"0", "1", "6", "11", "5", "17"}));
+    strip.removeFX(17);
+    EXPECT_EQ(slotsOfARun(strip, log), (Calls{"0", "1", "6", "11", "5"}));
+    strip.insertFX(5, 3, true, true);
+    strip.insertFX(6, 2, false, false);
+    EXPECT_EQ(slotsOfARun(strip, log), (Calls{"0", "1", "6", "2", "11", "3", "5"}));
+    strip.moveFXBefore(6, 5);
+    EXPECT_EQ(slotsOfARun(strip, log), (Calls{"0", "1", "5", "6", "2", "11", "3"}));
+    EXPECT_EQ(strip.getFXCount(), 5);
+    strip.initOrder();
+    EXPECT_EQ(slotsOfARun(strip, log), (Calls{"0", "1"}));
+}
+
+TEST(CDSPMultiFX, RunsARemovedSuccessorOfAReplacementOnAndLosesWhatFollowed) {
+    SWitnessLog log;
+    CDSPMultiFX strip(makeWitnesses(log));
+    for (const int slot : {6, 11, 5, 7})
+        strip.appendFX(slot);
+    strip.replaceFX(11, 8);
+    EXPECT_EQ(slotsOfARun(strip, log), (Calls{"0", "1", "6", "8", "5", "7"}));
+    strip.removeFX(5);
+    EXPECT_EQ(slotsOfARun(strip, log), (Calls{"0", "1", "6", "8", "5"}));
+    EXPECT_EQ(strip.orderEntry(5).prev, -1);
+    EXPECT_EQ(strip.getFXCount(), 3);
+}
+
+TEST(CDSPMultiFX, RunsAnOrderThatWasWrittenEntryByEntry) {
+    SWitnessLog log;
+    CDSPMultiFX strip(makeWitnesses(log));
+    strip.setOrderEntry(1, 0, 13);
+    strip.setOrderEntry(13, 1, 2);
+    strip.setOrderEntry(2, 13, -1);
+    EXPECT_EQ(strip.getFXCount(), 0);
+    strip.recountFX();
+    EXPECT_EQ(strip.getFXCount(), 2);
+    EXPECT_EQ(strip.orderEntry(2).prev, 13);
+    EXPECT_EQ(slotsOfARun(strip, log), (Calls{"0", "1", "13", "2"}));
+}
+
+TEST(CDSPMultiFX, RunsAllSixteenModules) {
+    SWitnessLog log;
+    CDSPMultiFX strip(makeWitnesses(log));
+    for (int slot = 2; slot < 18; ++slot)
+        strip.appendFX(slot);
+    EXPECT_EQ(slotsOfARun(strip, log).size(), 18u);
+}
+
+TEST(CDSPMultiFX, OnlySwapsThePairsBetweenModules) {
+    SWitnessLog log;
+    CDSPMultiFX strip(makeWitnesses(log));
+    for (const int slot : {6, 11})
+        strip.appendFX(slot);
+    slotsOfARun(strip, log);
+    ASSERT_EQ(log.buffers.size(), 16u);
+    const Calls::size_type in = 0, out = 2;
+    for (Calls::size_type run = 0; run < 4; ++run) {
+        for (Calls::size_type channel = 0; channel < 2; ++channel) {
+            EXPECT_EQ(log.buffers[4 * run + in + channel],
+                      log.buffers[(run % 2 == 0 ? in : out) + channel]);
+            EXPECT_EQ(log.buffers[4 * run + out + channel],
+                      log.buffers[(run % 2 == 0 ? out : in) + channel]);
+        }
+    }
+}
+
+TEST(CDSPMultiFX, HandsEveryModuleTheLengthOfTheBlock) {
+    SWitnessLog log;
+    CDSPMultiFX strip(makeWitnesses(log));
+    log.take();
+    TStereo<float> input(100);
+    render(strip, input, 37);
+    EXPECT_EQ(log.take(),
+              (Calls{"0 run 37", "1 run 37", "0 run 37", "1 run 37", "0 run 26", "1 run 26"}));
+}
+
+TEST(CDSPMultiFX, RunsBothPrecisionsThroughTheSameModules) {
+    SWitnessLog log;
+    CDSPMultiFX strip(makeWitnesses(log));
+    log.take();
+    TStereo<double> input(3);
+    render(strip, input, 3);
+    EXPECT_EQ(log.take(), (Calls{"0 run 3", "1 run 3"}));
+}
+
+template <typename Sample>
+class CDSPMultiFXRun : public testing::Test {
+protected:
+    CDSPMultiFXRun() {
+        strip.setStripParameter(inMono, stereo);
+        strip.setStripParameter(outMono, stereo);
+    }
+    TStereo<Sample> input = makeSignal<Sample>(ESignal::Noise, 3, 64);
+    CDSPMultiFX strip;
+};
+using Precisions = testing::Types<float, double>;
+TYPED_TEST_SUITE(CDSPMultiFXRun, Precisions);
+
+TYPED_TEST(CDSPMultiFXRun, LetsTheSignalThroughAnEmptyChain) {
+    EXPECT_EQ(render(this->strip, this->input, 64), this->input);
+}
+
+TYPED_TEST(CDSPMultiFXRun, AppliesTheInputGain) {
+    this->strip.setStripParameter(inGain, 1.0f);
+    TStereo<TypeParam> louder = render(this->strip, this->input, 64);
+    EXPECT_NEAR(static_cast<double>(louder.left(5) / this->input.left(5)), 1.9952623, 1e-6);
+    EXPECT_NEAR(static_cast<double>(louder.right(9) / this->input.right(9)), 1.9952623, 1e-6);
+    this->strip.setStripParameter(inGain, 0.0f);
+    TStereo<TypeParam> silence = render(this->strip, this->input, 64);
+    EXPECT_EQ(silence.left(5), 0);
+    EXPECT_EQ(silence.right(9), 0);
+}
+
+TYPED_TEST(CDSPMultiFXRun, RoutesTheInputAndTheOutput) {
+    for (const int id : {inMono, outMono}) {
+        this->strip.setStripParameter(id, 0.4f);  // all left
+        TStereo<TypeParam> left = render(this->strip, this->input, 64);
+        EXPECT_EQ(left.channels[0], this->input.channels[0]) << id;
+        EXPECT_EQ(left.channels[1], this->input.channels[0]) << id;
+        this->strip.setStripParameter(id, 0.8f);  // all right
+        TStereo<TypeParam> right = render(this->strip, this->input, 64);
+        EXPECT_EQ(right.channels[0], this->input.channels[1]) << id;
+        EXPECT_EQ(right.channels[1], this->input.channels[1]) << id;
+        this->strip.setStripParameter(id, 0.0f);  // combine
+        TStereo<TypeParam> sum = render(this->strip, this->input, 64);
+        const TypeParam rootHalf = 0.70710677f;
+        EXPECT_EQ(sum.left(7), (this->input.left(7) + this->input.right(7)) * rootHalf) << id;
+        EXPECT_EQ(sum.channels[1], sum.channels[0]) << id;
+        this->strip.setStripParameter(id, stereo);
+    }
+}
+
+TYPED_TEST(CDSPMultiFXRun, StartsWithBothRoutingsAtCombine) {
+    CDSPMultiFX fresh;
+    TStereo<TypeParam> sum = render(fresh, this->input, 64);
+    const TypeParam rootHalf = 0.70710677f;
+    const TypeParam once = (this->input.left(7) + this->input.right(7)) * rootHalf;
+    EXPECT_EQ(sum.left(7), (once + once) * rootHalf);
+}
+
+TYPED_TEST(CDSPMultiFXRun, FeedsBothChannelsFromTheLeftOfAMonoInput) {
+    this->strip.setMonoInput(true);
+    TStereo<TypeParam> output(64);
+    TypeParam *in[] = {this->input.channels[0].data(), nullptr};
+    process(this->strip, in, output.pointers().data(), 64);
+    EXPECT_EQ(output.channels[0], this->input.channels[0]);
+    EXPECT_EQ(output.channels[1], this->input.channels[0]);
+    this->strip.setMonoInput(false);
+    EXPECT_EQ(render(this->strip, this->input, 64), this->input);
+}
+
+TYPED_TEST(CDSPMultiFXRun, GivesHalfTheSumForAMonoInputWithoutASecondOutput) {
+    this->strip.setMonoInput(true);
+    this->strip.setStripParameter(2, 0.125f);  // the balance halves the right channel
+    this->strip.appendFX(2);
+    TStereo<TypeParam> output(65, 7);
+    TypeParam *out[] = {output.channels[0].data(), nullptr};
+    process(this->strip, this->input.pointers().data(), out, 64);
+    for (int i = 0; i < 64; ++i) {
+        const TypeParam left = this->input.left(i);
+        const TypeParam sum = left + left * static_cast<TypeParam>(0.5);
+        ASSERT_EQ(output.left(i), sum * static_cast<TypeParam>(0.5)) << i;
+    }
+    EXPECT_EQ(output.left(64), 7);
+}
+
+TYPED_TEST(CDSPMultiFXRun, DoesNothingWithoutAnArrayOfChannels) {
+    TStereo<TypeParam> output(64, 7);
+    TypeParam **none = nullptr;
+    process(this->strip, none, output.pointers().data(), 64);
+    EXPECT_EQ(output, TStereo<TypeParam>(64, 7));
+    process(this->strip, this->input.pointers().data(), none, 64);
+    process(this->strip, none, none, 64);
+    // The buffers have grown all the same, so a block of no frames finds some.
+    process(this->strip, this->input.pointers().data(), output.pointers().data(), 0);
+    EXPECT_EQ(output, TStereo<TypeParam>(64, 7));
+}
+
+TYPED_TEST(CDSPMultiFXRun, LosesNothingWhenABlockIsLongerThanAllBefore) {
+    TStereo<TypeParam> longer = makeSignal<TypeParam>(ESignal::Noise, 4, 3000);
+    EXPECT_EQ(render(this->strip, longer, 7), longer);
+    EXPECT_EQ(render(this->strip, longer, 513), longer);
+    EXPECT_EQ(render(this->strip, longer, 3000), longer);
+    EXPECT_EQ(render(this->strip, longer, 1), longer);
+}
+
+TYPED_TEST(CDSPMultiFXRun, WorksInTheHostsOwnBuffers) {
+    this->strip.appendFX(4);
+    this->strip.setStripParameter(4, 1.0f);
+    this->strip.setStripParameter(outMono, 0.0f);
+    TStereo<TypeParam> expected = render(this->strip, this->input, 64);
+    std::array<TypeParam *, 2> both = this->input.pointers();
+    process(this->strip, both.data(), both.data(), 64);
+    EXPECT_EQ(this->input, expected);
+}
+
+TYPED_TEST(CDSPMultiFXRun, TakesOneStageMoreForAnOutputRoutingThatIsNotStereo) {
+    SWitnessLog log;
+    CDSPMultiFX witnessed(makeWitnesses(log));
+    witnessed.appendFX(4);
+    for (const float routing : {0.0f, 0.4f, 0.8f}) {
+        witnessed.setStripParameter(outMono, routing);
+        CPlainMono plain;
+        plain.setParameter(0, routing);
+        EXPECT_EQ(render(witnessed, this->input, 64), render(plain, this->input, 64)) << routing;
+        witnessed.setStripParameter(outMono, stereo);
+        EXPECT_EQ(render(witnessed, this->input, 64), this->input) << routing;
+    }
+}
+
+// The assertions
+
+static void processNoFrames() {
+    CDSPMultiFX strip;
+    TStereo<float> input(1), output(1);
+    strip.processReplacing(input.pointers().data(), output.pointers().data(), 0);
+}
+
+TEST(CDSPMultiFXDeathTest, StopsAtAFirstBlockOfNoFrames) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    EXPECT_DEATH(processNoFrames(),
+                 testing::HasSubstr("DryBuf[0]!=(float *)0, file DSPMultiFX, line 503"));
+}
+
+TEST(CDSPMultiFX, TakesAFirstBlockOfNoFramesInDoublePrecision) {
+    CDSPMultiFX strip;
+    TStereo<double> input(1, 3.0), output(1, 7.0);
+    strip.processDoubleReplacing(input.pointers().data(), output.pointers().data(), 0);
+    EXPECT_EQ(output, TStereo<double>(1, 7.0));
+}
+
+// Parameters
+
+TEST(CDSPMultiFX, FillsItsCacheFromTheModules) {
+    SWitnessLog log;
+    const CDSPMultiFX strip(makeWitnesses(log));
+    for (int id = 0; id < 61; ++id) {
+        const SParameter &row = parameterTable[static_cast<std::size_t>(id)];
+        EXPECT_EQ(strip.getStripParameter(id),
+                  static_cast<float>(100 * (row.slot + 1) + row.index));
+    }
+    EXPECT_EQ(strip.getStripParameter(outMono), 0.0f);
+    EXPECT_EQ(strip.getStripParameter(62), 0.0f);
+    EXPECT_EQ(strip.getStripParameter(63), 0.0f);
+    EXPECT_EQ(strip.getStripParameter(64), 0.0f);
+}
+
+TEST(CDSPMultiFX, SendsEveryIdToItsModuleByItsLaw) {
+    SWitnessLog log;
+    CDSPMultiFX strip(makeWitnesses(log));
+    log.take();
+    for (int id = 0; id < 61; ++id) {
+        const SParameter &row = parameterTable[static_cast<std::size_t>(id)];
+        strip.setStripParameter(id, 0.3f);
+        EXPECT_EQ(log.take(),
+                  (Calls{std::to_string(row.slot) + " set " + std::to_string(row.index) + " " +
+                         std::to_string(row.law(0.3f))}))
+            << id;
+        EXPECT_EQ(strip.getStripParameter(id), 0.3f);
+    }
+}
+
+TEST(CDSPMultiFX, SendsNothingForTheValueThatItHasSeenLast) {
+    SWitnessLog log;
+    CDSPMultiFX strip(makeWitnesses(log));
+    strip.setStripParameter(5, 0.3f);
+    log.take();
+    strip.setStripParameter(5, 0.3f);
+    EXPECT_TRUE(log.calls.empty());
+    strip.setStripParameter(5, 0.31f);
+    EXPECT_EQ(log.calls.size(), 1u);
+}
+
+TEST(CDSPMultiFX, DropsAFirstValueThatEqualsWhatTheModuleWasBuiltWith) {
+    CDSPMultiFX strip;
+    char text[32];
+    strip.setStripParameter(4, 0.0f);  // the gain was built with 0 dB
+    strip.getParameterDisplay(4, text);
+    EXPECT_STREQ(text, "0.00");
+    strip.setStripParameter(4, 0.5f);
+    strip.setStripParameter(4, 0.0f);
+    strip.getParameterDisplay(4, text);
+    EXPECT_STREQ(text, "-oo");
+}
+
+TEST(CDSPMultiFX, KeepsTheTwoIdsThatDriveNothing) {
+    SWitnessLog log;
+    CDSPMultiFX strip(makeWitnesses(log));
+    log.take();
+    for (const int id : {62, 63}) {
+        strip.setStripParameter(id, 0.7f);
+        EXPECT_EQ(strip.getStripParameter(id), 0.7f);
+        char text[8] = "full";
+        strip.getParameterName(id, text);
+        EXPECT_STREQ(text, "");
+        std::strcpy(text, "full");
+        strip.getParameterDisplay(id, text);
+        EXPECT_STREQ(text, "");
+        std::strcpy(text, "full");
+        strip.getParameterLabel(id, text);
+        EXPECT_STREQ(text, "");
+    }
+    EXPECT_TRUE(log.calls.empty());
+}
+
+TEST(CDSPMultiFX, LeavesATextForAnIdBeyondTheLast) {
+    CDSPMultiFX strip;
+    for (const int id : {64, 1000}) {
+        char text[16] = "untouched";
+        strip.getParameterName(id, text);
+        strip.getParameterDisplay(id, text);
+        strip.getParameterLabel(id, text);
+        EXPECT_STREQ(text, "untouched");
+    }
+}
+
+TEST(CDSPMultiFX, WritesNamesAndUnitsWhole) {
+    const CDSPMultiFX strip;
+    for (int id = 0; id < 64; ++id) {
+        const SParameter &row = parameterTable[static_cast<std::size_t>(id)];
+        char name[16] = "untouched", unit[16] = "untouched";
+        strip.getParameterName(id, name);
+        strip.getParameterLabel(id, unit);
+        EXPECT_STREQ(name, row.name);
+        EXPECT_STREQ(unit, row.unit);
+    }
+    char name[16];
+    strip.getParameterName(17, name);
+    EXPECT_STREQ(name, "GateThrsh");
+}
+
+TEST(CDSPMultiFX, ShowsWhatTheModuleHolds) {
+    SWitnessLog log;
+    CDSPMultiFX strip(makeWitnesses(log));
+    for (int id = 0; id < 61; ++id) {
+        const SParameter &row = parameterTable[static_cast<std::size_t>(id)];
+        for (const float v : {0.0f, 0.2f, 0.37f, 0.5f, 0.81f, 1.0f}) {
+            strip.setStripParameter(id, v);
+            char text[32] = "untouched";
+            strip.getParameterDisplay(id, text);
+            EXPECT_EQ(text, row.text(row.law(v))) << id << " at " << v;
+        }
+    }
+}
+
+static std::string displayAt(int id, float value) {
+    CDSPMultiFX strip;
+    // A first value of any other kind, since one that equals the module's own would be dropped.
+    strip.setStripParameter(id, value < 0.5f ? 0.9f : 0.1f);
+    strip.setStripParameter(id, value);
+    char text[32];
+    strip.getParameterDisplay(id, text);
+    return text;
+}
+
+TEST(CDSPMultiFX, ShowsTheLevelAndStereoModules) {
+    EXPECT_EQ(displayAt(0, 0.0f), "-oo");
+    EXPECT_EQ(displayAt(0, 0.2f), "-24.00");
+    EXPECT_EQ(displayAt(0, 0.24f), "-16.80");
+    EXPECT_EQ(displayAt(0, 0.25f), "-20.00");
+    EXPECT_EQ(displayAt(0, 1.0f), "6.00");
+    EXPECT_EQ(displayAt(2, 0.0f), "100:0");
+    EXPECT_EQ(displayAt(2, 1.0f), "0:100");
+    EXPECT_EQ(displayAt(3, 0.5f), "100:100");
+    for (const int id : {inMono, outMono}) {
+        EXPECT_EQ(displayAt(id, 0.0f), "Combine");
+        EXPECT_EQ(displayAt(id, 0.4f), "AllLeft");
+        EXPECT_EQ(displayAt(id, 0.999f), "AllRight");
+        EXPECT_EQ(displayAt(id, 1.0f), "Stereo");
+    }
+}
+
+TEST(CDSPMultiFX, ShowsTheEndsOfTheModulatorsAndTheDelay) {
+    EXPECT_EQ(displayAt(34, 1.0f), "50");  // a law that ends at 0.5, as a percentage
+    EXPECT_EQ(displayAt(48, 0.999f), "Quaver");
+    EXPECT_EQ(displayAt(51, 0.0f), "-oo");
+    EXPECT_EQ(displayAt(51, 1.0f), "0.0");
+}
+
+TEST(CDSPMultiFX, ShowsMinusZeroDecibelsOnTheWayBackToTheMiddle) {
+    EXPECT_EQ(displayAt(0, 0.5f), "-0.00");
+}
+
+// Against the plain reading
+
+/// A strip as an oracle case takes it.
+class CStripCase {
+public:
+    void setParameter(int id, float value) { strip.setStripParameter(id, value); }
+    float getParameter(int id) const { return strip.getStripParameter(id); }
+    void processReplacing(float **in, float **out, int frames) {
+        strip.processReplacing(in, out, frames);
+    }
+    void processDoubleReplacing(double **in, double **out, int frames) {
+        strip.processDoubleReplacing(in, out, frames);
+    }
+    void reset() { strip.reset(); }
+    void setTempo(float bpm) { strip.setTempo(bpm); }
+    void setMonoInput(bool isMono) { strip.setMonoInput(isMono); }
+    void setChain(const std::vector<int> &chain) {
+        strip.initOrder();
+        for (const int slot : chain)
+            strip.appendFX(slot);
+    }
+
+private:
+    CDSPMultiFX strip;
+};
+
+static std::vector<int> drawChain(CRandom &random) {
+    std::vector<int> chain;
+    while (chain.size() < 6 && random.chance(0.8)) {
+        const int slot = random.whole(2, 17);
+        if (std::find(chain.begin(), chain.end(), slot) == chain.end())
+            chain.push_back(slot);
+    }
+    return chain;
+}
+
+/// The next case of a series: a chain, a kind of input and a tempo that both sides are given alike.
+template <typename Strip>
+static std::unique_ptr<Strip> setUp(std::unique_ptr<Strip> strip, std::uint64_t seed) {
+    CRandom random(seed);
+    strip->setChain(drawChain(random));
+    strip->setMonoInput(random.chance(0.2));
+    strip->setTempo(static_cast<float>(random.real(40.0, 200.0)));
+    // The oracle may begin with a block of no frames, which a fresh strip doesn't take.
+    TStereo<float> input(1), output(1);
+    strip->processReplacing(input.pointers().data(), output.pointers().data(), 1);
+    return strip;
+}
+
+TEST(CDSPMultiFX, EqualsThePlainReadingBitForBit) {
+    std::uint64_t stripSeed = 0, plainSeed = 0;
+    std::vector<SParameterRange> ranges(64);
+    for (int id = 0; id < 64; ++id)
+        ranges[static_cast<std::size_t>(id)] = {id, 0.0f, 1.0f};
+    expectSameBits([&stripSeed] { return setUp(std::make_unique<CStripCase>(), ++stripSeed); },
+                   [&plainSeed] {
+                       return setUp(std::make_unique<CPlainStrip>(makePlainModules()), ++plainSeed);
+                   },
+                   ranges, 1000);
+}
