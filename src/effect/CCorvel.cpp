@@ -13,10 +13,6 @@ namespace Tessitor::Corvel {
 
 namespace {
 
-static_assert(parameterCount == kStripParameters && slotCount == CChainOrder::slotCount);
-
-constexpr int reverbSpread = 57;
-
 struct SPin {
     const char *label;
     const char *shortLabel;
@@ -46,7 +42,7 @@ bool describePin(const SPin (&pins)[2], int index, VstPinProperties &properties)
 Basics::TClassRecord<CCorvel> CCorvel::s_class("CCorvel", "CVstEffect");
 
 CCorvel::CCorvel(audioMasterCallback host)
-    : CVstEffect(host, parameterCount, programCount), m_dsp(std::make_unique<CDSPMultiFX>()),
+    : CVstEffect(host, kParameterCount, programCount), m_dsp(std::make_unique<CDSPMultiFX>()),
       m_programs(std::make_unique<SProgram[]>(programCount)) {
     s_class.incrementInstanceCount();
 
@@ -59,7 +55,7 @@ CCorvel::CCorvel(audioMasterCallback host)
 
     initialisePrograms();
 
-    for (int id = 0; id < parameterCount; ++id) {
+    for (int id = 0; id < kParameterCount; ++id) {
         char unit[8] = {};
         m_dsp->getParameterLabel(id, unit);
         m_parameterUnits[std::size_t(id)] = unit;
@@ -109,7 +105,7 @@ void CCorvel::setParameter(int index, float value) {
     TRelaxed<float> &present = m_parameterValues[std::size_t(index)];
     if (value == present)
         return;
-    if (index == reverbSpread) {
+    if (index == kRvSpread) {
         // The one setter that replaces buffers the audio path reads.
         const std::lock_guard lock(*m_criticalSection);
         m_dsp->setStripParameter(index, value);
@@ -145,9 +141,9 @@ void CCorvel::initialisePrograms() {
 
 void CCorvel::storeCurrentProgram() {
     SProgram &record = m_programs[std::size_t(curProgram)];
-    for (int id = 0; id < parameterCount; ++id)
+    for (int id = 0; id < kParameterCount; ++id)
         record.parameters[std::size_t(id)] = getParameter(id);
-    for (int slot = 0; slot < slotCount; ++slot) {
+    for (int slot = 0; slot < kSlotCount; ++slot) {
         const auto &link = m_dsp->orderEntry(slot);
         record.order[std::size_t(slot)] = {link.prev, link.next};
     }
@@ -161,9 +157,9 @@ void CCorvel::loadProgram(int program) {
 // Beside the audio, without the lock: a block that runs meanwhile may meet some values and links of
 // the old program and some of the new one.
 void CCorvel::applyProgram(const SProgram &program) {
-    for (int id = 0; id < parameterCount; ++id)
+    for (int id = 0; id < kParameterCount; ++id)
         setParameter(id, program.parameters[std::size_t(id)]);
-    for (int slot = 0; slot < slotCount; ++slot) {
+    for (int slot = 0; slot < kSlotCount; ++slot) {
         const SChainLink &link = program.order[std::size_t(slot)];
         m_dsp->setOrderEntry(slot, link.prev, link.next);
     }

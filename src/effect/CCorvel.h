@@ -73,9 +73,9 @@ private:
 
     static Basics::TClassRecord<CCorvel> s_class;
 
-    std::array<Basics::CString, parameterCount> m_parameterUnits;  // for the editor's labels
+    std::array<Basics::CString, kParameterCount> m_parameterUnits;  // for the editor's labels
     std::unique_ptr<CDSPMultiFX> m_dsp;
-    std::array<TRelaxed<float>, parameterCount>
+    std::array<TRelaxed<float>, kParameterCount>
         m_parameterValues;  // normalised, as the host sees them
     std::unique_ptr<SProgram[]> m_programs;
 };

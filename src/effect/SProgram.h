@@ -1,5 +1,8 @@
 #pragma once
 
+#include "dspclasses/parameters/ParameterIds.h"
+#include "dspclasses/parameters/Slots.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -7,11 +10,9 @@
 namespace Tessitor::Corvel {
 
 inline constexpr std::int32_t uniqueId = 'Q' | 'r' << 8 | 'M' << 16 | 'k' << 24;  // of the effect
-inline constexpr int parameterCount = 64;
 inline constexpr int programCount = 20;
-inline constexpr int slotCount = 18;
 
-/// A module's place in the running order: the slots before and behind it, -1 for none.
+/// A module's neighbours in the running order, kNoSlot where there is none.
 struct SChainLink {
     std::int32_t prev;
     std::int32_t next;
@@ -22,9 +23,9 @@ struct SChainLink {
 /// A program as it is held and as hosts store it: a chunk is the bytes of one record or of all
 /// twenty, little-endian, without header or version.
 struct SProgram {
-    std::array<float, parameterCount> parameters;  // normalised
-    std::array<SChainLink, slotCount> order;       // by module slot
-    std::array<char, 24> name;                     // zero-terminated
+    std::array<float, kParameterCount> parameters;  // by EParameterId, normalised
+    std::array<SChainLink, kSlotCount> order;       // by ESlot
+    std::array<char, 24> name;                      // zero-terminated
 
     bool operator==(const SProgram &) const = default;
 };

@@ -21,6 +21,15 @@ public:
     }
     TRelaxed &operator=(const TRelaxed &other) { return *this = other.load(); }
 
+    /// Stores `value` unless it is there already. Only one thread may store. @return whether it
+    /// did.
+    bool storeIfNew(Value value) {
+        if (value == load())
+            return false;
+        *this = value;
+        return true;
+    }
+
     operator Value() const { return load(); }
     Value load() const { return m_value.load(std::memory_order_relaxed); }
 

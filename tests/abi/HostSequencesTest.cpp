@@ -1,4 +1,5 @@
 #include "abi/LoadedPlugin.h"
+#include "dspclasses/parameters/ParameterIds.h"
 #include "dspclasses/support/Signals.h"
 #include "hostlayer/FakeHost.h"
 
@@ -26,8 +27,8 @@ protected:
         const CLoadedEffect effect = load();
         start(effect);
         effect.send(effSetProgram, 0, 0);
-        effect.setParameter(0, 0.37f);
-        effect.setParameter(20, 0.5f);
+        effect.setParameter(kInGain, 0.37f);
+        effect.setParameter(kCmpThresh, 0.5f);
         SState state;
         state.bank = effect.chunk(false);
         state.preset = effect.chunk(true);
@@ -59,7 +60,7 @@ TEST_F(HostSequences, ParametersThenMainsThenProgramThenBank) {
     const SState state = edited();
     const CLoadedEffect effect = load();
     effect.send(effOpen);
-    for (int id = 0; id < 64; ++id)
+    for (int id = 0; id < kParameterCount; ++id)
         effect.setParameter(id, state.parameters[std::size_t(id)]);
     effect.send(effMainsChanged, 0, 0);
     effect.send(effMainsChanged, 0, 1);
@@ -78,7 +79,7 @@ TEST_F(HostSequences, BankThenEveryParameterInNoOrder) {
     effect.send(effOpen);
     effect.setChunk(state.bank, false);
     for (int k = 0; k < 64; ++k) {
-        const int id = k * 37 % 64;
+        const int id = k * 37 % kParameterCount;
         char text[32];
         std::snprintf(text, sizeof text, "%g", double{state.parameters[std::size_t(id)]});
         effect.setParameter(id, std::stof(text));
@@ -96,7 +97,7 @@ TEST_F(HostSequences, BankAfterTheProcessWasStartedAndParametersOnTheAudioThread
     effect.setChunk(state.bank, false);
     TStereo<float> result;
     std::thread audio([&] {
-        for (int id = 0; id < 64; ++id) {
+        for (int id = 0; id < kParameterCount; ++id) {
             effect.send(effCanBeAutomated, id);
             if (effect.getParameter(id) != state.parameters[std::size_t(id)])
                 effect.setParameter(id, state.parameters[std::size_t(id)]);
@@ -124,7 +125,7 @@ TEST_F(HostSequences, OneProgramsChunkBetweenBeginAndEnd) {
     EXPECT_EQ(effect.setChunk(state.preset, true), 424);
     effect.send(effEndSetProgram);
     effect.send(effBeginSetProgram);
-    for (int id = 0; id < 64; ++id)
+    for (int id = 0; id < kParameterCount; ++id)
         effect.setParameter(id, state.parameters[std::size_t(id)]);
     effect.send(effEndSetProgram);
     effect.send(effSetBlockSize, 0, 8192);
@@ -142,8 +143,8 @@ TEST_F(HostSequences, ClosesAfterAHandfulOfCalls) {
 
 TEST_F(HostSequences, AnswersThatAnyParameterCanBeAutomatedHoweverItIsAsked) {
     const CLoadedEffect effect = load();
-    EXPECT_EQ(effect.send(effCanBeAutomated, 63), 1);
-    EXPECT_EQ(effect.send(effCanBeAutomated, 0, 63), 1);
+    EXPECT_EQ(effect.send(effCanBeAutomated, kUnused63), 1);
+    EXPECT_EQ(effect.send(effCanBeAutomated, kInGain, kUnused63), 1);
 }
 
 TEST_F(HostSequences, BlocksOfAnyLengthAndBuffersInPlaceSoundTheSame) {

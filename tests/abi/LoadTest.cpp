@@ -1,4 +1,5 @@
 #include "abi/LoadedPlugin.h"
+#include "dspclasses/parameters/ParameterIds.h"
 #include "hostlayer/FakeHost.h"
 
 #include <cstring>
@@ -82,7 +83,7 @@ TEST(LoadedEffect, GivesEveryLiveParameterANameOfItsOwn) {
     const CPluginFile file;
     const CLoadedEffect effect(file, FakeHost::callback);
     std::set<std::string> names;
-    for (int id = 0; id < 62; ++id)
+    for (int id = 0; id <= kOutMono; ++id)
         names.insert(effect.text(effGetParamName, id));
     EXPECT_EQ(names.size(), 62u);
     EXPECT_EQ(effect.text(effGetParamName, 17), "GateThrsh");

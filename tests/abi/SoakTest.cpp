@@ -56,15 +56,14 @@ public:
 private:
     // At once, so that no later tempo costs memory: synchronised, the slowest is the longest.
     void lengthenDelay() {
-        constexpr int delaySync = 48;
-        setParameter(delaySync, 1.0f);
+        setParameter(kDlySync, 1.0f);
         host.time = VstTimeInfo{};
         host.time->tempo = slowestTempo;
         host.time->flags = kVstTempoValid;
         processBlock<float>();
     }
 
-    void setParameter() { setParameter(random.whole(0, 63), anyValue()); }
+    void setParameter() { setParameter(random.whole(0, kParameterCount - 1), anyValue()); }
     void setParameter(int id, float value) {
         effect.setParameter(id, value);
         plain.setParameter(id, value);
@@ -165,13 +164,13 @@ private:
         SProgram program{};
         std::ranges::generate(program.parameters, [this] { return anyValue(); });
         std::array<int, 16> slots;
-        std::iota(slots.begin(), slots.end(), 2);
+        std::iota(slots.begin(), slots.end(), kFirstModuleSlot);
         for (int left = 16; left > 1; --left)
             std::swap(slots[std::size_t(left - 1)], slots[std::size_t(random.whole(0, left - 1))]);
-        program.order.fill({-1, -1});
-        program.order[0].next = 1;
-        program.order[1].prev = 0;
-        int last = 1;
+        program.order.fill({kNoSlot, kNoSlot});
+        program.order[kInGainSlot].next = kInMonoSlot;
+        program.order[kInMonoSlot].prev = kInGainSlot;
+        int last = kInMonoSlot;
         for (int length = random.whole(0, 8); const int slot : std::span(slots).first(length)) {
             program.order[std::size_t(last)].next = slot;
             program.order[std::size_t(slot)].prev = last;

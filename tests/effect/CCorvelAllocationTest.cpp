@@ -10,7 +10,6 @@ using Tessitor::Corvel::CCorvel;
 namespace {
 
 constexpr int longest = 1024;
-constexpr int reverbSpread = 57;  // rebuilds buffers, under the lock
 
 template <typename Sample>
 class CCorvelAllocation : public testing::Test {
@@ -53,7 +52,7 @@ TYPED_TEST(CCorvelAllocation, HappensForALongerBlock) {
 TYPED_TEST(CCorvelAllocation, HappensForNoParameterButTheReverbsSpread) {
     CRandom random(2);
     for (int id = 0; id < 64; ++id) {
-        if (id == reverbSpread)
+        if (id == kRvSpread)
             continue;
         const std::uint64_t before = allocationsOfThisThread();
         for (int i = 0; i < 20; ++i)

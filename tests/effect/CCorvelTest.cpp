@@ -69,7 +69,7 @@ TEST_F(CCorvelTest, StartsOnLeadVocalWithAllItsValues) {
 TEST_F(CCorvelTest, GivesNameDisplayAndUnitOfAParameter) {
     EXPECT_EQ(textOf(&CCorvel::getParameterName, 20), "CmpThresh");
     EXPECT_EQ(textOf(&CCorvel::getParameterLabel, 20), "dB");
-    effect.setParameter(20, 0.5f);
+    effect.setParameter(kCmpThresh, 0.5f);
     EXPECT_EQ(textOf(&CCorvel::getParameterDisplay, 20), "-30.00");
     EXPECT_EQ(textOf(&CCorvel::getParameterName, 62), "");
 }
@@ -82,10 +82,10 @@ TEST_F(CCorvelTest, LeavesANullTextAlone) {
 
 TEST_F(CCorvelTest, KeepsAndReportsTheUnusedParametersWithoutASound) {
     CCorvel untouched(FakeHost::callback);
-    effect.setParameter(62, 0.25f);
-    effect.setParameter(63, 1.0f);
-    EXPECT_EQ(effect.getParameter(62), 0.25f);
-    EXPECT_EQ(effect.getParameter(63), 1.0f);
+    effect.setParameter(kUnused62, 0.25f);
+    effect.setParameter(kUnused63, 1.0f);
+    EXPECT_EQ(effect.getParameter(kUnused62), 0.25f);
+    EXPECT_EQ(effect.getParameter(kUnused63), 1.0f);
     const TStereo<float> voice = makeSignal<float>(ESignal::Bursts, 1, 3000);
     EXPECT_EQ(render(effect, voice, 512), render(untouched, voice, 512));
 }
@@ -140,11 +140,10 @@ TEST_F(CCorvelTest, TakesTheLeftInputForBothWithoutARightOne) {
 }
 
 TEST_F(CCorvelTest, SumsBothChannelsForAHostWithASingleOutput) {
-    constexpr int balance = 2;
     host.unconnectedInputs = {1};
     effect.setProgram(emptyProgram);
-    effect.getStrip().appendFX(balance);
-    effect.setParameter(balance, 0.0f);  // all left, so that the channels differ
+    effect.getStrip().appendFX(kBalanceSlot);
+    effect.setParameter(kBalance, 0.0f);  // all left, so that the channels differ
     effect.resume();
     TStereo<float> voice = makeSignal<float>(ESignal::Noise, 4, 64);
     TStereo<float> result(64);
@@ -163,8 +162,7 @@ TEST_F(CCorvelTest, IsStereoBeforeMainsAreEverSwitchedOn) {
 }
 
 TEST_F(CCorvelTest, ForgetsWhatItHasHeardWhenMainsGoOn) {
-    constexpr int delay = 16;
-    effect.getStrip().appendFX(delay);
+    effect.getStrip().appendFX(kDelaySlot);
     effect.resume();
     const TStereo<float> voice = makeSignal<float>(ESignal::Bursts, 12, 2000);
     const TStereo<float> first = render(effect, voice, 500);

@@ -23,8 +23,8 @@ void changeSomething(CCorvel &effect, CRandom &random, const SProgram &full) {
         effect.setProgram(random.whole(0, 19));
         break;
     case 1: {
-        const int slot = random.whole(2, 17);
-        if (strip.orderEntry(slot).prev == -1)
+        const int slot = random.whole(kFirstModuleSlot, kLastModuleSlot);
+        if (strip.orderEntry(slot).prev == kNoSlot)
             strip.appendFX(slot);
         else
             strip.removeFX(slot);
@@ -41,10 +41,11 @@ void changeSomething(CCorvel &effect, CRandom &random, const SProgram &full) {
         break;
     }
     case 4:
-        effect.getParameterDisplay(random.whole(0, 63), text);
+        effect.getParameterDisplay(random.whole(0, kParameterCount - 1), text);
         break;
     default:
-        effect.setParameter(random.whole(0, 63), static_cast<float>(random.real(0.0, 1.0)));
+        effect.setParameter(random.whole(0, kParameterCount - 1),
+                            static_cast<float>(random.real(0.0, 1.0)));
     }
 }
 

@@ -11,7 +11,8 @@ namespace {
 
 std::vector<int> chainOf(const SProgram &program) {
     std::vector<int> chain;
-    for (int slot = program.order[1].next; slot != -1; slot = program.order[std::size_t(slot)].next)
+    for (int slot = program.order[kInMonoSlot].next; slot != kNoSlot;
+         slot = program.order[std::size_t(slot)].next)
         chain.push_back(slot);
     return chain;
 }
@@ -45,12 +46,12 @@ TEST(FactoryPrograms, HoldNormalisedValues) {
 TEST(FactoryPrograms, LinkEachChainInBothDirections) {
     for (const SProgram &program : factoryPrograms) {
         SCOPED_TRACE(program.name.data());
-        EXPECT_EQ(program.order[0], (SChainLink{-1, 1}));
-        EXPECT_EQ(program.order[1].prev, 0);
+        EXPECT_EQ(program.order[kInGainSlot], (SChainLink{kNoSlot, kInMonoSlot}));
+        EXPECT_EQ(program.order[kInMonoSlot].prev, kInGainSlot);
 
         const std::vector<int> chain = chainOf(program);
         EXPECT_LE(chain.size(), 6u);
-        int before = 1;
+        int before = kInMonoSlot;
         for (int slot : chain) {
             EXPECT_EQ(program.order[std::size_t(slot)].prev, before);
             before = slot;
@@ -58,18 +59,21 @@ TEST(FactoryPrograms, LinkEachChainInBothDirections) {
 
         const std::set<int> inside(chain.begin(), chain.end());
         EXPECT_EQ(inside.size(), chain.size());
-        for (int slot = 2; slot < slotCount; ++slot) {
+        for (int slot = kFirstModuleSlot; slot <= kLastModuleSlot; ++slot) {
             if (inside.contains(slot))
                 continue;
-            EXPECT_EQ(program.order[std::size_t(slot)], (SChainLink{-1, -1})) << slot;
+            EXPECT_EQ(program.order[std::size_t(slot)], (SChainLink{kNoSlot, kNoSlot})) << slot;
         }
     }
 }
 
 TEST(FactoryPrograms, RunTheirModulesInTheDesignedOrder) {
-    EXPECT_EQ(chainOf(factoryPrograms[0]), (std::vector{6, 11, 5, 17}));
-    EXPECT_EQ(chainOf(factoryPrograms[5]), (std::vector{7, 11, 8, 13, 16, 17}));
-    EXPECT_EQ(chainOf(factoryPrograms[15]), (std::vector{17, 10}));
+    EXPECT_EQ(chainOf(factoryPrograms[0]),
+              (std::vector<int>{kRumbleFilterSlot, kCompressorSlot, k3BandSlot, kReverbSlot}));
+    EXPECT_EQ(chainOf(factoryPrograms[5]),
+              (std::vector<int>{kHiPassSlot, kCompressorSlot, kPresenceSlot, kModulator1Slot,
+                                kDelaySlot, kReverbSlot}));
+    EXPECT_EQ(chainOf(factoryPrograms[15]), (std::vector<int>{kReverbSlot, kGateSlot}));
     EXPECT_TRUE(chainOf(factoryPrograms[19]).empty());
 }
 

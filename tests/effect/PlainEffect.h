@@ -25,7 +25,7 @@ public:
         strip.setParameter(id, value);
         values[std::size_t(id)] = value;
     }
-    const std::array<float, 64> &parameters() const { return values; }
+    const std::array<float, kParameterCount> &parameters() const { return values; }
 
     void setProgram(int program) {
         store();
@@ -71,7 +71,7 @@ private:
     void store() {
         SProgram &record = programs[std::size_t(current)];
         record.parameters = values;
-        for (int slot = 0; slot < 18; ++slot) {
+        for (int slot = 0; slot < kSlotCount; ++slot) {
             const CPlainStrip::SPair &pair = strip.orderEntry(slot);
             record.order[std::size_t(slot)] = {pair.prev, pair.next};
         }
@@ -83,9 +83,9 @@ private:
     }
 
     void apply(const SProgram &record) {
-        for (int id = 0; id < 64; ++id)
+        for (int id = 0; id < kParameterCount; ++id)
             setParameter(id, record.parameters[std::size_t(id)]);
-        for (int slot = 0; slot < 18; ++slot) {
+        for (int slot = 0; slot < kSlotCount; ++slot) {
             const auto &link = record.order[std::size_t(slot)];
             strip.orderEntry(slot) = {link.prev, link.next};
         }
@@ -93,6 +93,6 @@ private:
 
     CPlainStrip strip{makePlainModules()};
     std::array<SProgram, 20> programs = Tessitor::Corvel::factoryPrograms;
-    std::array<float, 64> values{};
+    std::array<float, kParameterCount> values{};
     int current = 0;
 };

@@ -21,7 +21,7 @@ protected:
 
     static std::vector<int> chainOf(CCorvel &of) {
         std::vector<int> chain;
-        for (int slot = of.getStrip().orderEntry(1).next; slot != -1;
+        for (int slot = of.getStrip().orderEntry(kInMonoSlot).next; slot != kNoSlot;
              slot = of.getStrip().orderEntry(slot).next)
             chain.push_back(slot);
         return chain;
@@ -75,10 +75,10 @@ TEST_F(Programs, BringTheirValuesAndTheirChain) {
         const SProgram &factory = factoryPrograms[std::size_t(program)];
         EXPECT_EQ(effect.getProgram(), program);
         EXPECT_EQ(nameOf(effect), factory.name.data());
-        for (int id = 0; id < parameterCount; ++id)
+        for (int id = 0; id < kParameterCount; ++id)
             EXPECT_EQ(effect.getParameter(id), factory.parameters[std::size_t(id)])
                 << program << ", " << id;
-        for (int slot = 0; slot < slotCount; ++slot) {
+        for (int slot = 0; slot < kSlotCount; ++slot) {
             EXPECT_EQ(effect.getStrip().orderEntry(slot).prev,
                       factory.order[std::size_t(slot)].prev);
             EXPECT_EQ(effect.getStrip().orderEntry(slot).next,
@@ -90,24 +90,25 @@ TEST_F(Programs, BringTheirValuesAndTheirChain) {
 
 TEST_F(Programs, KeepWhatWasEditedWhenAnotherIsChosen) {
     effect.setProgram(3);
-    effect.setParameter(20, 0.123f);
-    effect.getStrip().appendFX(15);
+    effect.setParameter(kCmpThresh, 0.123f);
+    effect.getStrip().appendFX(kWarmerSlot);
     effect.setProgram(7);
-    EXPECT_EQ(effect.getParameter(20), factoryPrograms[7].parameters[20]);
+    EXPECT_EQ(effect.getParameter(kCmpThresh), factoryPrograms[7].parameters[kCmpThresh]);
     effect.setProgram(3);
-    EXPECT_EQ(effect.getParameter(20), 0.123f);
-    EXPECT_EQ(chainOf(effect), (std::vector{7, 11, 13, 16, 17, 15}));
+    EXPECT_EQ(effect.getParameter(kCmpThresh), 0.123f);
+    EXPECT_EQ(chainOf(effect), (std::vector<int>{kHiPassSlot, kCompressorSlot, kModulator1Slot,
+                                                 kDelaySlot, kReverbSlot, kWarmerSlot}));
 }
 
 TEST_F(Programs, AreStoredAndNotRevertedWhenThePresentOneIsChosenAgain) {
     void *record = nullptr;
     effect.getChunk(&record, true);
     const auto *stored = static_cast<const SProgram *>(record);
-    effect.setParameter(20, 0.123f);
-    EXPECT_NE(stored->parameters[20], 0.123f);
+    effect.setParameter(kCmpThresh, 0.123f);
+    EXPECT_NE(stored->parameters[kCmpThresh], 0.123f);
     effect.setProgram(0);
-    EXPECT_EQ(stored->parameters[20], 0.123f);
-    EXPECT_EQ(effect.getParameter(20), 0.123f);
+    EXPECT_EQ(stored->parameters[kCmpThresh], 0.123f);
+    EXPECT_EQ(effect.getParameter(kCmpThresh), 0.123f);
 }
 
 TEST_F(Programs, GiveTheirNamesByIndex) {
@@ -144,8 +145,8 @@ TEST_F(Programs, KeepANameInsideItsRecord) {
 }
 
 TEST_F(Programs, PassThroughABankIntoAFreshEffect) {
-    effect.setParameter(11, 0.777f);
-    effect.getStrip().removeFX(11);
+    effect.setParameter(kHPFreq, 0.777f);
+    effect.getStrip().removeFX(kCompressorSlot);
     effect.setProgram(4);
     rename(effect, "Ballad of mine");
     effect.setProgram(0);
@@ -154,8 +155,8 @@ TEST_F(Programs, PassThroughABankIntoAFreshEffect) {
     CCorvel fresh(FakeHost::callback);
     EXPECT_EQ(load(fresh, bank, false), 8480);
     EXPECT_EQ(chunkOf(fresh, false), bank);
-    EXPECT_EQ(fresh.getParameter(11), 0.777f);
-    EXPECT_EQ(chainOf(fresh), (std::vector{6, 5, 17}));
+    EXPECT_EQ(fresh.getParameter(kHPFreq), 0.777f);
+    EXPECT_EQ(chainOf(fresh), (std::vector<int>{kRumbleFilterSlot, k3BandSlot, kReverbSlot}));
     EXPECT_EQ(fresh.getStrip().getFXCount(), 3);
     fresh.setProgram(4);
     EXPECT_EQ(nameOf(fresh), "Ballad of mine");
@@ -169,8 +170,9 @@ TEST_F(Programs, LoadedSinglyLandInThePresentRecordWithNameAndChain) {
     EXPECT_EQ(load(effect, chunk, true), 424);
     EXPECT_EQ(effect.getProgram(), 2);
     EXPECT_EQ(nameOf(effect), "Pop Vocal");
-    EXPECT_EQ(chainOf(effect), (std::vector{7, 11, 8, 13, 16, 17}));
-    EXPECT_EQ(effect.getParameter(24), 0.775f);
+    EXPECT_EQ(chainOf(effect), (std::vector<int>{kHiPassSlot, kCompressorSlot, kPresenceSlot,
+                                                 kModulator1Slot, kDelaySlot, kReverbSlot}));
+    EXPECT_EQ(effect.getParameter(kCmpMakUp), 0.775f);
     effect.setProgram(1);
     EXPECT_EQ(asProgram(chunkOf(effect, false), 2), factoryPrograms[5]);
 }
@@ -180,8 +182,9 @@ TEST_F(Programs, LoadedAsABankSoundAsTheFirstWhicheverIsPresent) {
     effect.setProgram(9);
     load(effect, bank, false);
     EXPECT_EQ(effect.getProgram(), 9);
-    EXPECT_EQ(chainOf(effect), (std::vector{6, 11, 5, 17}));
-    EXPECT_EQ(effect.getParameter(20), factoryPrograms[0].parameters[20]);
+    EXPECT_EQ(chainOf(effect),
+              (std::vector<int>{kRumbleFilterSlot, kCompressorSlot, k3BandSlot, kReverbSlot}));
+    EXPECT_EQ(effect.getParameter(kCmpThresh), factoryPrograms[0].parameters[kCmpThresh]);
     EXPECT_EQ(nameOf(effect), "Pop Chorus (Insert)");
 
     // The next store puts that state over the present record, which keeps its name.
@@ -229,8 +232,8 @@ TEST_F(Programs, LeaveTheModulesThatTheyPutInOrOutTheirState) {
 
 TEST_F(Programs, MayHoldMoreThanSixModules) {
     SProgram all = factoryPrograms[19];
-    for (int slot = 1; slot < slotCount; ++slot)
-        all.order[std::size_t(slot)] = {slot - 1, slot + 1 < slotCount ? slot + 1 : -1};
+    for (int slot = kInMonoSlot; slot <= kLastModuleSlot; ++slot)
+        all.order[std::size_t(slot)] = {slot - 1, slot < kLastModuleSlot ? slot + 1 : kNoSlot};
     load(effect, asChunk(all), true);
     EXPECT_EQ(effect.getStrip().getFXCount(), 16);
     EXPECT_EQ(chainOf(effect).size(), 16u);
@@ -238,7 +241,7 @@ TEST_F(Programs, MayHoldMoreThanSixModules) {
 
 TEST_F(Programs, WithACycleCountNoModules) {
     SProgram cycle = factoryPrograms[0];
-    cycle.order[17].next = 6;
+    cycle.order[kReverbSlot].next = kRumbleFilterSlot;
     load(effect, asChunk(cycle), true);
     EXPECT_EQ(effect.getStrip().getFXCount(), 0);
 }

@@ -29,9 +29,9 @@ std::vector<SProgram> programsFrom(std::string bytes, std::size_t count) {
                 value = static_cast<float>(std::bit_cast<std::uint32_t>(value) % 1001) / 1000.0f;
         for (SChainLink &link : program.order) {
             link.prev =
-                static_cast<std::int32_t>(std::uint32_t(link.prev + 1LL) % (slotCount + 1)) - 1;
+                static_cast<std::int32_t>(std::uint32_t(link.prev + 1LL) % (kSlotCount + 1)) - 1;
             link.next =
-                static_cast<std::int32_t>(std::uint32_t(link.next + 1LL) % (slotCount + 1)) - 1;
+                static_cast<std::int32_t>(std::uint32_t(link.next + 1LL) % (kSlotCount + 1)) - 1;
         }
     }
     return programs;
@@ -55,7 +55,7 @@ void requireNames(CCorvel &effect) {
 }
 
 void requireTexts(CCorvel &effect) {
-    for (int id = 0; id < parameterCount; ++id) {
+    for (int id = 0; id < kParameterCount; ++id) {
         char text[256];
         std::memset(text, 'x', sizeof text);
         effect.getParameterDisplay(id, text);

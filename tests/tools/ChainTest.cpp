@@ -19,7 +19,8 @@ TEST(Chain, LabelsAreThoseOfTheStrip) {
 }
 
 TEST(Chain, TextIsReadInOrderAndInAnyCapitals) {
-    EXPECT_EQ(chainFromText("rumble filter, COMPRESSOR ,3Band,reverb"), (Chain{6, 11, 5, 17}));
+    EXPECT_EQ(chainFromText("rumble filter, COMPRESSOR ,3Band,reverb"),
+              (Chain{kRumbleFilterSlot, kCompressorSlot, k3BandSlot, kReverbSlot}));
 }
 
 TEST(Chain, NothingAndNoneAreTheEmptyChain) {
@@ -31,7 +32,7 @@ TEST(Chain, NothingAndNoneAreTheEmptyChain) {
 TEST(Chain, AllSixteenModulesMayStandInIt) {
     Chain all;
     std::string text;
-    for (int slot = 17; slot >= 2; --slot) {
+    for (int slot = kLastModuleSlot; slot >= kFirstModuleSlot; --slot) {
         all.push_back(slot);
         text.append(text.empty() ? "" : ",").append(moduleLabel(slot));
     }
@@ -45,32 +46,36 @@ TEST(Chain, UnknownFixedAndRepeatedModulesAreRefused) {
 
 TEST(Chain, WhatIsSetIsFoundAndLinkedBothWays) {
     SProgram program{};
-    setChain(program, {6, 11, 17});
-    EXPECT_EQ(chainOf(program), (Chain{6, 11, 17}));
+    setChain(program, {kRumbleFilterSlot, kCompressorSlot, kReverbSlot});
+    EXPECT_EQ(chainOf(program), (Chain{kRumbleFilterSlot, kCompressorSlot, kReverbSlot}));
 
-    const Tessitor::Corvel::SChainLink expected[18] = {
-        {-1, 1},  {0, 6},   {-1, -1}, {-1, -1}, {-1, -1}, {-1, -1}, {1, 11},  {-1, -1}, {-1, -1},
-        {-1, -1}, {-1, -1}, {6, 17},  {-1, -1}, {-1, -1}, {-1, -1}, {-1, -1}, {-1, -1}, {11, -1}};
-    for (std::size_t slot = 0; slot < 18; ++slot)
+    std::array<Tessitor::Corvel::SChainLink, kSlotCount> expected;
+    expected.fill({kNoSlot, kNoSlot});
+    expected[kInGainSlot] = {kNoSlot, kInMonoSlot};
+    expected[kInMonoSlot] = {kInGainSlot, kRumbleFilterSlot};
+    expected[kRumbleFilterSlot] = {kInMonoSlot, kCompressorSlot};
+    expected[kCompressorSlot] = {kRumbleFilterSlot, kReverbSlot};
+    expected[kReverbSlot] = {kCompressorSlot, kNoSlot};
+    for (std::size_t slot = 0; slot < kSlotCount; ++slot)
         EXPECT_EQ(program.order[slot], expected[slot]) << slot;
 }
 
 TEST(Chain, SettingTheEmptyChainLeavesTheHead) {
     SProgram program{};
-    setChain(program, {3});
+    setChain(program, {kPanSlot});
     setChain(program, {});
     EXPECT_EQ(chainOf(program), Chain{});
-    EXPECT_EQ(program.order[1].next, -1);
-    EXPECT_EQ(program.order[3].prev, -1);
+    EXPECT_EQ(program.order[kInMonoSlot].next, kNoSlot);
+    EXPECT_EQ(program.order[kPanSlot].prev, kNoSlot);
 }
 
 TEST(Chain, AnEndlessOrWildListIsCut) {
     SProgram program{};
-    setChain(program, {6, 11});
-    program.order[11].next = 6;
-    EXPECT_EQ(chainOf(program), (Chain{6, 11}));
-    program.order[11].next = 99;
-    EXPECT_EQ(chainOf(program), (Chain{6, 11}));
-    program.order[11].next = 0;
-    EXPECT_EQ(chainOf(program), (Chain{6, 11}));
+    setChain(program, {kRumbleFilterSlot, kCompressorSlot});
+    program.order[kCompressorSlot].next = kRumbleFilterSlot;
+    EXPECT_EQ(chainOf(program), (Chain{kRumbleFilterSlot, kCompressorSlot}));
+    program.order[kCompressorSlot].next = 99;
+    EXPECT_EQ(chainOf(program), (Chain{kRumbleFilterSlot, kCompressorSlot}));
+    program.order[kCompressorSlot].next = kInGainSlot;
+    EXPECT_EQ(chainOf(program), (Chain{kRumbleFilterSlot, kCompressorSlot}));
 }

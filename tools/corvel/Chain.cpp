@@ -4,30 +4,20 @@
 #include "corvel/Text.h"
 
 #include <algorithm>
-#include <array>
 #include <cstring>
 
 namespace Tessitor::Tool {
 
 namespace {
 
-using Corvel::slotCount;
 using Corvel::SProgram;
-
-// Slots 0 and 1, input gain and input routing, begin every chain.
-constexpr int lastHeadSlot = 1;
-constexpr int firstModuleSlot = 2;
-constexpr std::array<std::string_view, slotCount - firstModuleSlot> labels = {
-    "Balance",     "Pan",        "Gain",  "3Band",      "Rumble Filter", "HiPass",
-    "Presence",    "Parametric", "Gate",  "Compressor", "DeEsser",       "Modulator 1",
-    "Modulator 2", "Warmer",     "Delay", "Reverb"};
 
 int slotFromLabel(std::string_view label) {
     std::string known;
-    for (std::size_t i = 0; i < labels.size(); ++i) {
-        if (equalInAnyCapitals(labels[i], label))
-            return static_cast<int>(i) + firstModuleSlot;
-        known += (i == 0 ? "" : ", ") + std::string(labels[i]);
+    for (int slot = kFirstModuleSlot; slot <= kLastModuleSlot; ++slot) {
+        if (equalInAnyCapitals(moduleLabel(slot), label))
+            return slot;
+        known += (known.empty() ? "" : ", ") + std::string(moduleLabel(slot));
     }
     throw CCallError("--chain: no module \"" + std::string(label) + "\": " + known);
 }
@@ -61,13 +51,13 @@ Chain chainFromText(std::string_view text) {
 }
 
 std::string_view moduleLabel(int slot) {
-    return labels[static_cast<std::size_t>(slot - firstModuleSlot)];
+    return slotLabels[static_cast<std::size_t>(slot)];
 }
 
 Chain chainOf(const SProgram &program) {
     Chain chain;
-    int slot = program.order[lastHeadSlot].next;
-    while (slot >= firstModuleSlot && slot < slotCount &&
+    int slot = program.order[kInMonoSlot].next;
+    while (slot >= kFirstModuleSlot && slot <= kLastModuleSlot &&
            std::find(chain.begin(), chain.end(), slot) == chain.end()) {
         chain.push_back(slot);
         slot = program.order[static_cast<std::size_t>(slot)].next;
@@ -76,10 +66,10 @@ Chain chainOf(const SProgram &program) {
 }
 
 void setChain(SProgram &program, const Chain &chain) {
-    program.order.fill({-1, -1});
-    program.order[0].next = lastHeadSlot;
-    program.order[lastHeadSlot].prev = 0;
-    int last = lastHeadSlot;
+    program.order.fill({kNoSlot, kNoSlot});
+    program.order[kInGainSlot].next = kInMonoSlot;
+    program.order[kInMonoSlot].prev = kInGainSlot;
+    int last = kInMonoSlot;
     for (const int slot : chain) {
         program.order[static_cast<std::size_t>(last)].next = slot;
         program.order[static_cast<std::size_t>(slot)].prev = last;

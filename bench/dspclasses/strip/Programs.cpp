@@ -10,7 +10,7 @@ using Tessitor::Corvel::SProgram;
 /// As the effect sets up a strip at its start: a value of 0 is taken to be there already.
 template <typename Set>
 static void sendParameters(const SProgram &program, Set set) {
-    for (int id = 0; id < kStripParameters; ++id) {
+    for (int id = 0; id < kParameterCount; ++id) {
         const float value = program.parameters[static_cast<std::size_t>(id)];
         if (value != 0.0f)
             set(id, value);
@@ -20,7 +20,7 @@ static void sendParameters(const SProgram &program, Set set) {
 static std::unique_ptr<CDSPBase> makeStrip(const SProgram &program) {
     auto strip = std::make_unique<CDSPMultiFX>();
     sendParameters(program, [&](int id, float value) { strip->setStripParameter(id, value); });
-    for (int slot = 0; slot < CChainOrder::slotCount; ++slot) {
+    for (int slot = 0; slot < kSlotCount; ++slot) {
         const auto &link = program.order[static_cast<std::size_t>(slot)];
         strip->setOrderEntry(slot, link.prev, link.next);
     }
@@ -30,7 +30,7 @@ static std::unique_ptr<CDSPBase> makeStrip(const SProgram &program) {
 static std::unique_ptr<CDSPBase> makePlainStrip(const SProgram &program) {
     auto strip = std::make_unique<CPlainStrip>(makePlainModules());
     sendParameters(program, [&](int id, float value) { strip->setParameter(id, value); });
-    for (int slot = 0; slot < CChainOrder::slotCount; ++slot) {
+    for (int slot = 0; slot < kSlotCount; ++slot) {
         const auto &link = program.order[static_cast<std::size_t>(slot)];
         strip->orderEntry(slot) = {link.prev, link.next};
     }

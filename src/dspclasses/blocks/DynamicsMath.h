@@ -1,7 +1,6 @@
 #pragma once
 
 #include "dspclasses/kernels/SingleMath.h"
-#include "values/TRelaxed.h"
 
 /// ln(10) / 20: a level in dB times this is the natural logarithm of the factor.
 inline constexpr float exponentPerDecibel = 0.115129255f;
@@ -13,12 +12,4 @@ inline float linearFromDecibels(float decibels) {
 /// @return the share of the old value that a smoother of this time keeps per sample.
 inline float smoothingCoefficient(float ms, float sampleRate) {
     return 1.0f - 1.0f / (ms * sampleRate * 0.001f);
-}
-
-/// Stores a parameter. @return false if the value is the one already stored.
-inline bool storeIfNew(TRelaxed<float> &parameter, float value) {
-    if (value == parameter)
-        return false;
-    parameter = value;
-    return true;
 }

@@ -52,19 +52,19 @@ void CDSP3EQ::setCrossover(TRelaxed<float> &crossover, TRelaxed<double> &coeffic
 
 void CDSP3EQ::setParameter(int index, float value) {
     switch (index) {
-    case 0:
+    case kLowGain:
         setGain(lowDb, lowGain, value);
         break;
-    case 1:
+    case kMidGain:
         setGain(midDb, midGain, value);
         break;
-    case 2:
+    case kHighGain:
         setGain(highDb, highGain, value);
         break;
-    case 3:
+    case kLowCrossover:
         setCrossover(lowCrossover, lowCoef, value);
         break;
-    case 4:
+    case kHighCrossover:
         setCrossover(highCrossover, highCoef, value);
         break;
     default:
@@ -74,15 +74,15 @@ void CDSP3EQ::setParameter(int index, float value) {
 
 float CDSP3EQ::getParameter(int index) {
     switch (index) {
-    case 0:
+    case kLowGain:
         return lowDb;
-    case 1:
+    case kMidGain:
         return midDb;
-    case 2:
+    case kHighGain:
         return highDb;
-    case 3:
+    case kLowCrossover:
         return lowCrossover;
-    case 4:
+    case kHighCrossover:
         return highCrossover;
     default:
         return 0.0f;

@@ -6,11 +6,16 @@
 
 /// Three-band equaliser: two one-pole low-passes split each channel, and the bands are differences,
 /// so that at unity gains they sum to the input whatever the crossovers are.
-///
-/// Parameters 0, 1, 2: gain of the low, mid, high band, dB. Parameter 3: crossover low to mid, Hz.
-/// Parameter 4: crossover mid to high, Hz; both below a sixth of the sample rate, not checked.
 class CDSP3EQ : public CDSPBase {
 public:
+    enum EParameter : int {
+        kLowGain,        ///< dB
+        kMidGain,        ///< dB
+        kHighGain,       ///< dB
+        kLowCrossover,   ///< low to mid, Hz
+        kHighCrossover,  ///< mid to high, Hz; both below a sixth of the sample rate, not checked
+    };
+
     /// A new crossover also clears the filters, which can be heard as a small step.
     void setParameter(int index, float value) override;
     float getParameter(int index) override;

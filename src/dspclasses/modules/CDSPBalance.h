@@ -3,10 +3,13 @@
 #include "dspclasses/modules/CDSPBase.h"
 #include "values/TRelaxed.h"
 
-/// Attenuation of one side, the other staying at unity. Its one parameter, from 0 (left only) to
-/// 1 (right only), with 0.5 in the middle; the index is ignored.
+/// Attenuates one side and leaves the other at unity. The one parameter is set whatever the index.
 class CDSPBalance : public CDSPBase {
 public:
+    enum EParameter : int {
+        kPosition,  ///< 0, left only, to 1, right only; 0.5 in the middle
+    };
+
     void setParameter(int index, float value) override;
     float getParameter(int index) override;
     void processReplacing(float **in, float **out, int frames) override;

@@ -5,17 +5,17 @@
 #include "dspclasses/kernels/WideLoop.h"
 
 void CDSPComp::setParameter(int index, float value) {
-    if (index == 0 && storeIfNew(thresholdDb, value)) {
+    if (index == kThreshold && thresholdDb.storeIfNew(value)) {
         thresholdLinear = linearFromDecibels(value);
-    } else if (index == 1 && storeIfNew(attackMs, value)) {
+    } else if (index == kAttack && attackMs.storeIfNew(value)) {
         attackCoef = smoothingCoefficient(value, sampleRate);
-    } else if (index == 2 && storeIfNew(releaseMs, value)) {
+    } else if (index == kRelease && releaseMs.storeIfNew(value)) {
         releaseCoef = smoothingCoefficient(value, sampleRate);
-    } else if (index == 3 && storeIfNew(ratio, value)) {
+    } else if (index == kRatio && ratio.storeIfNew(value)) {
         slope = 1.0f / value - 1.0f;
-    } else if (index == 4 && storeIfNew(makeUpDb, value)) {
+    } else if (index == kMakeUp && makeUpDb.storeIfNew(value)) {
         makeUpLinear = linearFromDecibels(value);
-    } else if (index == 5) {
+    } else if (index == kStereoMode) {
         linked = value >= 0.5f;
         reset();
     }
@@ -23,17 +23,17 @@ void CDSPComp::setParameter(int index, float value) {
 
 float CDSPComp::getParameter(int index) {
     switch (index) {
-    case 0:
+    case kThreshold:
         return thresholdDb;
-    case 1:
+    case kAttack:
         return attackMs;
-    case 2:
+    case kRelease:
         return releaseMs;
-    case 3:
+    case kRatio:
         return ratio;
-    case 4:
+    case kMakeUp:
         return makeUpDb;
-    case 5:
+    case kStereoMode:
         return linked ? 1.0f : 0.0f;
     default:
         return 0.0f;

@@ -8,13 +8,19 @@ struct SDetectorSettings;
 
 /// Compressor with one detector for both channels (linked) or one for each (separate).
 ///
-/// Parameter 0: threshold, dB. 1: attack, ms. 2: release, ms. 3: ratio, above 0, not checked.
-/// 4: make-up, dB. 5: stereo mode, from 0.5 linked, below separate.
-///
 /// The two precisions are deliberately not equivalent: in double precision, linked, the detector
 /// does not rise above the threshold and only the make-up applies.
 class CDSPComp : public CDSPBase {
 public:
+    enum EParameter : int {
+        kThreshold,   ///< dB
+        kAttack,      ///< ms
+        kRelease,     ///< ms
+        kRatio,       ///< above 0, not checked
+        kMakeUp,      ///< dB
+        kStereoMode,  ///< from 0.5 linked, below separate
+    };
+
     /// Setting the stereo mode also resets, whether it changes or not.
     void setParameter(int index, float value) override;
     float getParameter(int index) override;

@@ -11,37 +11,37 @@
 #include <cstddef>
 
 void CDSPDeEsser::setParameter(int index, float value) {
-    if (index == 0 && storeIfNew(thresholdDb, value)) {
+    if (index == kThreshold && thresholdDb.storeIfNew(value)) {
         thresholdLinear = linearFromDecibels(value);
-    } else if (index == 1 && storeIfNew(speed, value)) {
+    } else if (index == kSpeed && speed.storeIfNew(value)) {
         attackMs = 2.0f + 48.0f * value;
         releaseMs = 100.0f + 400.0f * value;
         attackCoef = smoothingCoefficient(attackMs, sampleRate);
         releaseCoef = smoothingCoefficient(releaseMs, sampleRate);
-    } else if (index == 2 && storeIfNew(ratio, value)) {
+    } else if (index == kRatio && ratio.storeIfNew(value)) {
         slope = 1.0f / value - 1.0f;
-    } else if (index == 3 && storeIfNew(frequency, value)) {
+    } else if (index == kFrequency && frequency.storeIfNew(value)) {
         filter.setFrequency(value);
-    } else if (index == 4) {
+    } else if (index == kBand) {
         narrow = value >= 0.5f;
-    } else if (index == 5) {
+    } else if (index == kListen) {
         listen = value >= 0.5f;
     }
 }
 
 float CDSPDeEsser::getParameter(int index) {
     switch (index) {
-    case 0:
+    case kThreshold:
         return thresholdDb;
-    case 1:
+    case kSpeed:
         return speed;
-    case 2:
+    case kRatio:
         return ratio;
-    case 3:
+    case kFrequency:
         return frequency;
-    case 4:
+    case kBand:
         return narrow ? 1.0f : 0.0f;
-    case 5:
+    case kListen:
         return listen ? 1.0f : 0.0f;
     default:
         return 0.0f;

@@ -12,10 +12,6 @@ struct SDetectorSettings;
 /// De-esser: a high-pass filter derives a side chain, and one detector on both of its channels
 /// attenuates the whole signal (wide) or only what the filter passes (narrow).
 ///
-/// Parameter 0: threshold, dB. 1: speed, 0 the fastest, to 1. 2: ratio, above 0, not checked.
-/// 3: frequency, Hz. 4: band, from 0.5 narrow, below wide. 5: listen, from 0.5 the side chain is
-/// what comes out, and the detector stands still.
-///
 /// Denormal input samples become 0.0 in the input buffers as well. A block that is longer than 512
 /// frames and than any before in its precision allocates.
 ///
@@ -23,6 +19,15 @@ struct SDetectorSettings;
 /// rise above the threshold, and the signal passes unchanged.
 class CDSPDeEsser : public CDSPBase {
 public:
+    enum EParameter : int {
+        kThreshold,  ///< dB
+        kSpeed,      ///< 0, the fastest, to 1
+        kRatio,      ///< above 0, not checked
+        kFrequency,  ///< Hz
+        kBand,       ///< from 0.5 narrow, below wide
+        kListen,     ///< from 0.5 the output is the side chain and the detector pauses
+    };
+
     void setParameter(int index, float value) override;
     float getParameter(int index) override;
     void processReplacing(float **in, float **out, int frames) override;

@@ -19,25 +19,25 @@ CDSPDelay::CDSPDelay() {
 
 void CDSPDelay::setParameter(int index, float value) {
     switch (index) {
-    case 0:
+    case kTime:
         return setDelay(wholeCount(value));
-    case 1:
+    case kSync:
         return setSync(truncated(value * 2.0f));
-    case 2:
+    case kFeedback:
         feedback = withoutDust(value);
         return;
-    case 3:
+    case kPingPong:
         pingPong = value >= 0.5f;
         return;
-    case 4:
+    case kDryLevel:
         dryLevel = withoutDust(value);
         return;
-    case 5:
+    case kWetLevel:
         wetLevel = withoutDust(value);
         return;
-    case 6:
+    case kTempo:
         return setTempo(value);
-    case 7:
+    case kBeatsPerBar:
         return setBeats(value);
     default:
         return;
@@ -46,21 +46,21 @@ void CDSPDelay::setParameter(int index, float value) {
 
 float CDSPDelay::getParameter(int index) {
     switch (index) {
-    case 0:
+    case kTime:
         return static_cast<float>(delayMs.load());
-    case 1:
+    case kSync:
         return static_cast<float>(syncMode.load()) * 0.5f;
-    case 2:
+    case kFeedback:
         return feedback;
-    case 3:
+    case kPingPong:
         return pingPong ? 1.0f : 0.0f;
-    case 4:
+    case kDryLevel:
         return dryLevel;
-    case 5:
+    case kWetLevel:
         return wetLevel;
-    case 6:
+    case kTempo:
         return tempo;
-    case 7:
+    case kBeatsPerBar:
         return static_cast<float>(beatsPerBar.load());
     default:
         return 0.0f;

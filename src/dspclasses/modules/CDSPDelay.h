@@ -10,14 +10,22 @@
 /// Stereo feedback delay, of a free time or of a half or a whole beat of the host's tempo. In
 /// ping-pong mode the echo of each channel feeds the other one.
 ///
-/// Parameter 0: time, ms. 1: sync, half the ESync. 2: feedback. 3: ping-pong, on from 0.5.
-/// 4: dry level. 5: wet level. 6: tempo, beats per minute. 7: beats of a bar.
-///
 /// A change of time keeps what is in the lines: the read point jumps, which can be heard.
-/// Parameters 0, 1, 6 and 7 allocate when they lead to a time of more than 2972 ms, which only a
-/// slow tempo does; the lines then start anew. Two such changes must not run at once.
+/// A time of more than 2972 ms, which only a slow tempo gives, allocates longer lines, and these
+/// start empty. Two such changes must not run at once.
 class CDSPDelay : public CDSPBase {
 public:
+    enum EParameter : int {
+        kTime,         ///< ms
+        kSync,         ///< half the ESync
+        kFeedback,     ///< 0 to 1
+        kPingPong,     ///< on from 0.5
+        kDryLevel,     ///< linear
+        kWetLevel,     ///< linear
+        kTempo,        ///< beats per minute; no host parameter sets it
+        kBeatsPerBar,  ///< no host parameter sets it
+    };
+
     CDSPDelay();
     void setParameter(int index, float value) override;
     float getParameter(int index) override;

@@ -3,9 +3,13 @@
 #include "dspclasses/modules/CDSPBase.h"
 #include "values/TRelaxed.h"
 
-/// Level. Its one parameter: the level in dB; -60 and below is silence. The index is ignored.
+/// Level; -60 dB and below is silence. The one parameter is set whatever the index.
 class CDSPGain : public CDSPBase {
 public:
+    enum EParameter : int {
+        kLevel,  ///< dB
+    };
+
     void setParameter(int index, float value) override;
     float getParameter(int index) override;
     void processReplacing(float **in, float **out, int frames) override;

@@ -10,21 +10,21 @@
 #include <limits>
 
 void CDSPGate::setParameter(int index, float value) {
-    if (index == 0 && storeIfNew(thresholdDb, value))
+    if (index == kThreshold && thresholdDb.storeIfNew(value))
         thresholdLinear = linearFromDecibels(value);
-    else if (index == 1 && storeIfNew(attackMs, value))
+    else if (index == kAttack && attackMs.storeIfNew(value))
         attackFactor = smoothingCoefficient(value, sampleRate);
-    else if (index == 2 && storeIfNew(releaseMs, value))
+    else if (index == kRelease && releaseMs.storeIfNew(value))
         releaseFactor = 1.0f / smoothingCoefficient(value, sampleRate);
 }
 
 float CDSPGate::getParameter(int index) {
     switch (index) {
-    case 0:
+    case kThreshold:
         return thresholdDb;
-    case 1:
+    case kAttack:
         return attackMs;
-    case 2:
+    case kRelease:
         return releaseMs;
     default:
         return 0.0f;

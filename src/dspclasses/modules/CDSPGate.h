@@ -7,10 +7,14 @@
 /// Noise gate with one detector for both channels. The gain moves in decibels, by a constant factor
 /// per sample: towards 0 dB while the peaks are above the threshold, towards -60 dB while not. It
 /// rests at exactly 1 and at exactly 0.
-///
-/// Parameter 0: threshold, dB. 1: attack, ms. 2: release, ms.
 class CDSPGate : public CDSPBase {
 public:
+    enum EParameter : int {
+        kThreshold,  ///< dB
+        kAttack,     ///< ms
+        kRelease,    ///< ms
+    };
+
     void setParameter(int index, float value) override;
     float getParameter(int index) override;
     void processReplacing(float **in, float **out, int frames) override;

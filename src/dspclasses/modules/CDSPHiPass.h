@@ -4,10 +4,14 @@
 #include "dspclasses/modules/CDSPBase.h"
 #include "values/TRelaxed.h"
 
-/// First-order high-pass, for rumble or for the low end of a voice. One parameter, whatever the
-/// index: the cutoff in Hz.
+/// First-order high-pass, for rumble or for the low end of a voice. The one parameter is set
+/// whatever the index.
 class CDSPHiPass : public CDSPBase {
 public:
+    enum EParameter : int {
+        kCutoff,  ///< Hz
+    };
+
     /// A new cutoff also clears the history, which can be heard as a tick.
     void setParameter(int index, float value) override;
     float getParameter(int index) override;

@@ -16,19 +16,19 @@ CDSPModulation::CDSPModulation() {
 
 void CDSPModulation::setParameter(int index, float value) {
     switch (index) {
-    case 0:
+    case kType:
         return setType(value);
-    case 1:
+    case kWidth:
         return setWidth(value);
-    case 2:
+    case kDepth:
         return setDepth(value);
-    case 3:
+    case kSpeed:
         return setSpeed(value);
-    case 4:
+    case kSpread:
         return setSpread(value);
-    case 5:
+    case kFeedback:
         return setFeedback(value);
-    case 6:
+    case kMix:
         return setMix(value);
     default:
         return;
@@ -37,19 +37,19 @@ void CDSPModulation::setParameter(int index, float value) {
 
 float CDSPModulation::getParameter(int index) {
     switch (index) {
-    case 0:
+    case kType:
         return static_cast<float>(type.load()) * 0.5f;
-    case 1:
+    case kWidth:
         return widthMs;
-    case 2:
+    case kDepth:
         return depth;
-    case 3:
+    case kSpeed:
         return speedHz;
-    case 4:
+    case kSpread:
         return spread;
-    case 5:
+    case kFeedback:
         return feedback;
-    case 6:
+    case kMix:
         return mix;
     default:
         return 0.0f;

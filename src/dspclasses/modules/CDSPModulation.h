@@ -11,13 +11,20 @@
 /// Vibrato, automatic double tracking and phaser: a delay per channel, swept by an oscillator, with
 /// three gains that make it plain, fed back or an all-pass.
 ///
-/// Parameter 0: type, 0 to 1. 1: width, the longest delay, ms. 2: depth of the sweep, share of the
-/// width. 3: speed, Hz. 4: spread, stereo offset of the oscillator, 0 to 1. 5: feedback. 6: mix.
-///
-/// Parameter 1 allocates for a width of more than 4096 samples, 92 ms; the lines then start anew.
-/// The oscillators run on across a reset.
+/// A width of more than 4096 samples, 92 ms, allocates longer lines, and these start empty. The
+/// oscillators keep running across a reset.
 class CDSPModulation : public CDSPBase {
 public:
+    enum EParameter : int {
+        kType,      ///< 0 to 1
+        kWidth,     ///< the longest delay, ms
+        kDepth,     ///< of the sweep, as a share of the width
+        kSpeed,     ///< Hz
+        kSpread,    ///< stereo offset of the oscillator, 0 to 1
+        kFeedback,  ///< 0 to 1
+        kMix,       ///< 0 to 1
+    };
+
     enum EType : std::int32_t { kVibrato, kAdt, kPhaser };
 
     CDSPModulation();

@@ -5,10 +5,13 @@
 
 #include <cstdint>
 
-/// Routing of two channels. Its one parameter, from 0 to 1, turns into a mode by truncation of its
-/// triple: only 1 itself is stereo. The index is ignored.
+/// Routing of two channels. The one parameter is set whatever the index.
 class CDSPMono : public CDSPBase {
 public:
+    enum EParameter : int {
+        kRouting,  ///< 0 to 1; three times that, truncated, is the EMode, so only 1 is stereo
+    };
+
     /// A value outside 0 to 1 gives a mode that has no name here and writes no output.
     enum EMode : std::int32_t {
         kCombine,   // both outputs carry the sum, 3 dB down

@@ -4,10 +4,14 @@
 #include "values/TRelaxed.h"
 
 /// Moves one input across the stereo image while the other stays where it is: the right input left
-/// of the middle, the left input in the middle and right of it. Its one parameter, the position
-/// from 0 to 1; the index is ignored.
+/// of the middle, the left input in the middle and right of it. The one parameter is set whatever
+/// the index.
 class CDSPPan : public CDSPBase {
 public:
+    enum EParameter : int {
+        kPosition,  ///< 0 to 1
+    };
+
     void setParameter(int index, float value) override;
     float getParameter(int index) override;
     void processReplacing(float **in, float **out, int frames) override;

@@ -1,13 +1,13 @@
 #include "dspclasses/modules/CDSPParametric.h"
 
 void CDSPParametric::setParameter(int index, float value) {
-    if (index == 0 && value != frequency) {
+    if (index == kFrequency && value != frequency) {
         frequency = value;
         filter.setFrequency(value);
-    } else if (index == 1 && value != bandwidth) {
+    } else if (index == kBandwidth && value != bandwidth) {
         bandwidth = value;
         filter.setBandwidth(value);
-    } else if (index == 2 && value != gainDb) {
+    } else if (index == kGain && value != gainDb) {
         gainDb = value;
         filter.setGain(value);
     }
@@ -15,11 +15,11 @@ void CDSPParametric::setParameter(int index, float value) {
 
 float CDSPParametric::getParameter(int index) {
     switch (index) {
-    case 0:
+    case kFrequency:
         return frequency;
-    case 1:
+    case kBandwidth:
         return bandwidth;
-    case 2:
+    case kGain:
         return gainDb;
     default:
         return 0.0f;

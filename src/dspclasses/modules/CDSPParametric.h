@@ -2,10 +2,15 @@
 
 #include "dspclasses/modules/CDSPRBJFilter.h"
 
-/// A peaking band. Parameter 0: frequency, Hz. Parameter 1: bandwidth, octaves. Parameter 2: gain,
-/// dB.
+/// A peaking band.
 class CDSPParametric : public CDSPBase {
 public:
+    enum EParameter : int {
+        kFrequency,  ///< Hz
+        kBandwidth,  ///< octaves
+        kGain,       ///< dB
+    };
+
     void setParameter(int index, float value) override;
     float getParameter(int index) override;
     void processReplacing(float **in, float **out, int frames) override;

@@ -1,10 +1,10 @@
 #include "dspclasses/modules/CDSPPresence.h"
 
 void CDSPPresence::setParameter(int index, float value) {
-    if (index == 0 && value != frequency) {
+    if (index == kFrequency && value != frequency) {
         frequency = value;
         filter.setFrequency(value);
-    } else if (index == 1 && value != gainDb) {
+    } else if (index == kGain && value != gainDb) {
         gainDb = value;
         filter.setGain(value);
     }
@@ -12,9 +12,9 @@ void CDSPPresence::setParameter(int index, float value) {
 
 float CDSPPresence::getParameter(int index) {
     switch (index) {
-    case 0:
+    case kFrequency:
         return frequency;
-    case 1:
+    case kGain:
         return gainDb;
     default:
         return 0.0f;

@@ -2,9 +2,14 @@
 
 #include "dspclasses/modules/CDSPRBJFilter.h"
 
-/// A peaking band of half an octave. Parameter 0: frequency, Hz. Parameter 1: gain, dB.
+/// A peaking band of half an octave.
 class CDSPPresence : public CDSPBase {
 public:
+    enum EParameter : int {
+        kFrequency,  ///< Hz
+        kGain,       ///< dB
+    };
+
     void setParameter(int index, float value) override;
     float getParameter(int index) override;
     void processReplacing(float **in, float **out, int frames) override;

@@ -29,23 +29,23 @@ CDSPReverb::CDSPReverb()
 
 void CDSPReverb::setParameter(int index, float value) {
     switch (index) {
-    case 0:
+    case kRoomSize:
         return setRoomSize(value);
-    case 1:
+    case kTime:
         return setReverbTime(value);
-    case 2:
+    case kInputDamping:
         return setInputDamping(value);
-    case 3:
+    case kWallDamping:
         return setWallDamping(value);
-    case 4:
+    case kSpread:
         return setSpread(value);
-    case 5:
+    case kDryLevel:
         dryLevel = value;
         return;
-    case 6:
+    case kEarlyLevel:
         earlyLevel = value;
         return;
-    case 7:
+    case kTailLevel:
         tailLevel = value;
         return;
     default:
@@ -55,21 +55,21 @@ void CDSPReverb::setParameter(int index, float value) {
 
 float CDSPReverb::getParameter(int index) {
     switch (index) {
-    case 0:
+    case kRoomSize:
         return roomSize;
-    case 1:
+    case kTime:
         return reverbTime;
-    case 2:
+    case kInputDamping:
         return inputDamping;
-    case 3:
+    case kWallDamping:
         return wallDamping;
-    case 4:
+    case kSpread:
         return spread;
-    case 5:
+    case kDryLevel:
         return dryLevel;
-    case 6:
+    case kEarlyLevel:
         return earlyLevel;
-    case 7:
+    case kTailLevel:
         return tailLevel;
     default:
         return 0.0f;

@@ -11,14 +11,22 @@
 /// a diffuser per channel and a short early line; two chains of all-passes make the one wet signal
 /// a stereo pair.
 ///
-/// Parameter 0: room size, m, from 1. 1: reverb time, s. 2: input damping. 3: wall damping.
-/// 4: spread. 5: dry level. 6: early level. 7: tail level. Those without a unit from 0 to 1.
-///
-/// Parameter 4 replaces and clears the buffers of the all-passes, allocating as they grow: it must
-/// not run beside the audio thread. The all-pass lengths follow the room that is in force at that
-/// moment, and a later room does not change them.
+/// Setting the spread replaces and clears the buffers of the all-passes, so it must not run beside
+/// the audio thread. The all-pass lengths follow the room size set at that moment; a later change
+/// of room leaves them alone.
 class CDSPReverb : public CDSPBase {
 public:
+    enum EParameter : int {
+        kRoomSize,      ///< m, from 1
+        kTime,          ///< s, to -60 dB
+        kInputDamping,  ///< 0 to 1
+        kWallDamping,   ///< 0 to 1
+        kSpread,        ///< 0 to 1
+        kDryLevel,      ///< linear
+        kEarlyLevel,    ///< linear
+        kTailLevel,     ///< linear
+    };
+
     CDSPReverb();
     void setParameter(int index, float value) override;
     float getParameter(int index) override;

@@ -3,8 +3,8 @@
 #include "dspclasses/modules/CDSPBase.h"
 #include "values/TRelaxed.h"
 
-/// Waveshaper after Schlick's bias curve, from the identity at 0 to a strong bend at 1. One
-/// parameter, whatever the index: the warmth, from 0 to 1.
+/// Waveshaper after Schlick's bias curve, from the identity at 0 to a strong bend at 1. The one
+/// parameter is set whatever the index.
 ///
 /// The curve is applied to the signed sample: both half-waves bend differently, which gives the
 /// even harmonics. It has a pole among the negative samples (-0.75 at full warmth), and nothing
@@ -12,6 +12,10 @@
 /// Source: C. Schlick, Fast alternatives to Perlin's bias and gain functions, Graphics Gems IV.
 class CDSPWarmer : public CDSPBase {
 public:
+    enum EParameter : int {
+        kWarmth,  ///< 0 to 1
+    };
+
     void setParameter(int index, float value) override;
     float getParameter(int index) override;
     void processReplacing(float **in, float **out, int frames) override;

@@ -6,15 +6,15 @@
 
 void CChainOrder::initialise() {
     order.fill({});
-    entry(0).next = 1;
-    entry(1).prev = 0;
+    entry(kInGainSlot).next = kInMonoSlot;
+    entry(kInMonoSlot).prev = kInGainSlot;
     fxCount = 0;
 }
 
 void CChainOrder::recount() {
     int count = 0;
-    for (int slot = nextOf(1); slot != -1; slot = nextOf(slot)) {
-        if (++count == slotCount) {
+    for (int slot = nextOf(kInMonoSlot); slot != kNoSlot; slot = nextOf(slot)) {
+        if (++count == kSlotCount) {
             count = 0;
             break;
         }
@@ -23,12 +23,12 @@ void CChainOrder::recount() {
 }
 
 void CChainOrder::append(int slot) {
-    int last = 0;
-    for (int next = nextOf(last); next != -1; next = nextOf(last))
+    int last = kInGainSlot;
+    for (int next = nextOf(last); next != kNoSlot; next = nextOf(last))
         last = next;
-    entry(slot).next = -1;
+    entry(slot).next = kNoSlot;
     entry(last).next = slot;
-    entry(slot) = {last, -1};
+    entry(slot) = {last, kNoSlot};
     fxCount = fxCount + 1;
 }
 
@@ -54,15 +54,15 @@ void CChainOrder::replace(int target, int slot) {
     entry(slot).next = entry(target).next;
     entry(entry(target).prev).next = slot;
     entry(slot) = entry(target);
-    entry(target).prev = -1;
+    entry(target).prev = kNoSlot;
 }
 
 void CChainOrder::remove(int slot) {
     const SOrderEntry links = entry(slot);
     entry(links.prev).next = links.next;
-    if (links.next != -1)
+    if (links.next != kNoSlot)
         entry(links.next).prev = links.prev;
-    entry(slot) = {-1, -1};
+    entry(slot) = {kNoSlot, kNoSlot};
     fxCount = fxCount - 1;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dspclasses/parameters/Slots.h"
 #include "values/TRelaxed.h"
 
 #include <array>
@@ -21,8 +22,6 @@ struct SOrderEntry {
 /// complete.
 class CChainOrder {
 public:
-    static constexpr int slotCount = 18;
-
     CChainOrder() { initialise(); }
     void initialise();  ///< the empty chain: 0 and 1
 
@@ -48,5 +47,5 @@ private:
     TRelaxed<std::int32_t> fxCount;
     // Slot -1 has a pair too, which nobody reads: a list that a replacement has left uneven can
     // hold a running slot without a predecessor, and an edit there writes to it.
-    std::array<SOrderEntry, slotCount + 1> order;
+    std::array<SOrderEntry, kSlotCount + 1> order;
 };

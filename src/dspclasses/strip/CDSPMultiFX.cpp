@@ -21,35 +21,27 @@
 #include <string_view>
 #include <utility>
 
-static constexpr int delaySlot = 16;
-static constexpr int delayTempo = 6;  // a parameter of the delay that has no id
-
-static constexpr std::array<const char *, CChainOrder::slotCount> slotLabels{
-    "InGain",        "MonoType",    "Balance",     "Pan",        "Gain",  "3Band",
-    "Rumble Filter", "HiPass",      "Presence",    "Parametric", "Gate",  "Compressor",
-    "DeEsser",       "Modulator 1", "Modulator 2", "Warmer",     "Delay", "Reverb"};
-
 static CDSPMultiFX::Modules buildModules() {
-    return {
-        std::make_unique<CDSPGain>(),        // 0, fixed head
-        std::make_unique<CDSPMono>(),        // 1, fixed head
-        std::make_unique<CDSPBalance>(),     // 2
-        std::make_unique<CDSPPan>(),         // 3
-        std::make_unique<CDSPGain>(),        // 4
-        std::make_unique<CDSP3EQ>(),         // 5
-        std::make_unique<CDSPHiPass>(),      // 6, rumble filter
-        std::make_unique<CDSPHiPass>(),      // 7, high-pass
-        std::make_unique<CDSPPresence>(),    // 8
-        std::make_unique<CDSPParametric>(),  // 9
-        std::make_unique<CDSPGate>(),        // 10
-        std::make_unique<CDSPComp>(),        // 11
-        std::make_unique<CDSPDeEsser>(),     // 12
-        std::make_unique<CDSPModulation>(),  // 13
-        std::make_unique<CDSPModulation>(),  // 14
-        std::make_unique<CDSPWarmer>(),      // 15
-        std::make_unique<CDSPDelay>(),       // 16
-        std::make_unique<CDSPReverb>(),      // 17
-    };
+    CDSPMultiFX::Modules modules;
+    modules[kInGainSlot] = std::make_unique<CDSPGain>();
+    modules[kInMonoSlot] = std::make_unique<CDSPMono>();
+    modules[kBalanceSlot] = std::make_unique<CDSPBalance>();
+    modules[kPanSlot] = std::make_unique<CDSPPan>();
+    modules[kGainSlot] = std::make_unique<CDSPGain>();
+    modules[k3BandSlot] = std::make_unique<CDSP3EQ>();
+    modules[kRumbleFilterSlot] = std::make_unique<CDSPHiPass>();
+    modules[kHiPassSlot] = std::make_unique<CDSPHiPass>();
+    modules[kPresenceSlot] = std::make_unique<CDSPPresence>();
+    modules[kParametricSlot] = std::make_unique<CDSPParametric>();
+    modules[kGateSlot] = std::make_unique<CDSPGate>();
+    modules[kCompressorSlot] = std::make_unique<CDSPComp>();
+    modules[kDeEsserSlot] = std::make_unique<CDSPDeEsser>();
+    modules[kModulator1Slot] = std::make_unique<CDSPModulation>();
+    modules[kModulator2Slot] = std::make_unique<CDSPModulation>();
+    modules[kWarmerSlot] = std::make_unique<CDSPWarmer>();
+    modules[kDelaySlot] = std::make_unique<CDSPDelay>();
+    modules[kReverbSlot] = std::make_unique<CDSPReverb>();
+    return modules;
 }
 
 CDSPMultiFX::CDSPMultiFX() : CDSPMultiFX(buildModules()) {}
@@ -106,7 +98,7 @@ void CDSPMultiFX::run(Sample **in, Sample **out, int frames, TStripBuffers<Sampl
     std::copy_n(in[isMono ? 0 : 1], frames, buffers.DryBuf[1]);
 
     Sample **cur = buffers.DryBuf, **alt = buffers.WetBuf;
-    for (int slot = 0; slot >= 0; slot = order.nextOf(slot)) {
+    for (int slot = kInGainSlot; slot != kNoSlot; slot = order.nextOf(slot)) {
         process(moduleIn(slot), cur, alt, frames);
         std::swap(cur, alt);
     }
@@ -124,7 +116,7 @@ void CDSPMultiFX::run(Sample **in, Sample **out, int frames, TStripBuffers<Sampl
 }
 
 void CDSPMultiFX::reset() {
-    for (int slot = 0; slot >= 0; slot = order.nextOf(slot))
+    for (int slot = kInGainSlot; slot != kNoSlot; slot = order.nextOf(slot))
         moduleIn(slot).reset();
 }
 
@@ -137,7 +129,7 @@ void CDSPMultiFX::setTempo(float bpm) {
     if (bpm == tempo)
         return;
     tempo = bpm;
-    moduleIn(delaySlot).setParameter(delayTempo, bpm);
+    moduleIn(kDelaySlot).setParameter(CDSPDelay::kTempo, bpm);
 }
 
 void CDSPMultiFX::setMonoInput(bool isMono) {
@@ -197,7 +189,7 @@ void CDSPMultiFX::moveFXBefore(int target, int slot) {
 }
 
 void CDSPMultiFX::getFXName(int slot, char *text) const {
-    if (slot < CChainOrder::slotCount)
+    if (slot < kSlotCount)
         copyText(slotLabels[static_cast<std::size_t>(slot)], text);
 }
 
@@ -212,7 +204,7 @@ CDSPBase &CDSPMultiFX::moduleOf(const SParameter &parameter) {
 }
 
 void CDSPMultiFX::readParameterCache() {
-    for (int id = 0; id < kStripParameters; ++id) {
+    for (int id = 0; id < kParameterCount; ++id) {
         const SParameter &parameter = parameterOf(id);
         if (parameter.slot != kNoSlot)
             paramCache[static_cast<std::size_t>(id)] =
@@ -231,16 +223,16 @@ void CDSPMultiFX::setStripParameter(int id, float value) {
 }
 
 float CDSPMultiFX::getStripParameter(int id) const {
-    return id < kStripParameters ? paramCache[static_cast<std::size_t>(id)].load() : 0.0f;
+    return id < kParameterCount ? paramCache[static_cast<std::size_t>(id)].load() : 0.0f;
 }
 
 void CDSPMultiFX::getParameterName(int id, char *text) const {
-    if (id < kStripParameters)
+    if (id < kParameterCount)
         copyText(parameterOf(id).name, text);
 }
 
 void CDSPMultiFX::getParameterDisplay(int id, char *text) {
-    if (id >= kStripParameters)
+    if (id >= kParameterCount)
         return;
     const SParameter &parameter = parameterOf(id);
     const float value =
@@ -249,6 +241,6 @@ void CDSPMultiFX::getParameterDisplay(int id, char *text) {
 }
 
 void CDSPMultiFX::getParameterLabel(int id, char *text) const {
-    if (id < kStripParameters)
+    if (id < kParameterCount)
         copyText(parameterOf(id).unit, text);
 }

@@ -3,6 +3,7 @@
 #include "dspclasses/modules/CDSPBase.h"
 #include "dspclasses/modules/CDSPMono.h"
 #include "dspclasses/parameters/ParameterTable.h"
+#include "dspclasses/parameters/Slots.h"
 #include "dspclasses/strip/CChainOrder.h"
 #include "dspclasses/strip/TStripBuffers.h"
 #include "values/TRelaxed.h"
@@ -15,11 +16,11 @@
 /// set to stereo. All eighteen modules live as long as the strip; the running order links them.
 ///
 /// The audio thread runs it while other threads set parameters and edit the order without a lock.
-/// One exception is the caller's: id 57 takes away buffers that a run reads, so it must not meet
-/// one.
+/// One exception is the caller's to guard: kRvSpread replaces buffers that a run reads, so it must
+/// not be set during one.
 class CDSPMultiFX : public CDSPBase {
 public:
-    using Modules = std::array<std::unique_ptr<CDSPBase>, CChainOrder::slotCount>;
+    using Modules = std::array<std::unique_ptr<CDSPBase>, kSlotCount>;
 
     CDSPMultiFX();
     explicit CDSPMultiFX(Modules slots);  ///< over eighteen modules of a test's own, none null
@@ -77,7 +78,7 @@ private:
     Modules modules;
     // Normalised. Until an id is first set it holds what its module was built with, in the
     // module's own unit: a first value that happens to equal it is dropped.
-    std::array<TRelaxed<float>, kStripParameters> paramCache;
+    std::array<TRelaxed<float>, kParameterCount> paramCache;
     TStripBuffers<float> floatBuffers;
     TStripBuffers<double> doubleBuffers;
     TRelaxed<float> tempo = -1.0f;  // beats per minute

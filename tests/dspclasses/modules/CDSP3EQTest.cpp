@@ -9,16 +9,16 @@
 
 namespace {
 
-enum EIndex { low, mid, high, lowCrossover, highCrossover };
+using enum CDSP3EQ::EParameter;
 
 const TStereo<double> burst = makeSignal<double>(ESignal::Noise, 1, 50);
 const TStereo<double> noise = makeSignal<double>(ESignal::Noise, 2, 50);
 
 std::unique_ptr<CDSP3EQ> makeCurved() {
     auto equaliser = std::make_unique<CDSP3EQ>();
-    equaliser->setParameter(low, 6.0f);
-    equaliser->setParameter(mid, -9.0f);
-    equaliser->setParameter(high, 3.0f);
+    equaliser->setParameter(kLowGain, 6.0f);
+    equaliser->setParameter(kMidGain, -9.0f);
+    equaliser->setParameter(kHighGain, 3.0f);
     return equaliser;
 }
 
@@ -26,7 +26,7 @@ std::unique_ptr<CDSP3EQ> makeCurved() {
 /// is its smoothing factor, the high band's what the upper filter leaves.
 double firstOfBand(CDSP3EQ &equaliser, int band) {
     equaliser.reset();
-    for (const int other : {low, mid, high})
+    for (const int other : {kLowGain, kMidGain, kHighGain})
         equaliser.setParameter(other, other == band ? 0.0f : -1e6f);
     TStereo<double> impulse(1);
     impulse.left(0) = 1.0;
@@ -37,33 +37,33 @@ double firstOfBand(CDSP3EQ &equaliser, int band) {
 
 TEST(CDSP3EQ, StartsFlatWithItsCrossoversAt350And1500Hertz) {
     CDSP3EQ equaliser;
-    EXPECT_EQ(equaliser.getParameter(low), 0.0f);
-    EXPECT_EQ(equaliser.getParameter(mid), 0.0f);
-    EXPECT_EQ(equaliser.getParameter(high), 0.0f);
-    EXPECT_EQ(equaliser.getParameter(lowCrossover), 350.0f);
-    EXPECT_EQ(equaliser.getParameter(highCrossover), 1500.0f);
-    EXPECT_NEAR(firstOfBand(equaliser, low), 0.7317, 1e-4);
-    EXPECT_NEAR(1.0 - firstOfBand(equaliser, high), 0.7248, 1e-4);
+    EXPECT_EQ(equaliser.getParameter(kLowGain), 0.0f);
+    EXPECT_EQ(equaliser.getParameter(kMidGain), 0.0f);
+    EXPECT_EQ(equaliser.getParameter(kHighGain), 0.0f);
+    EXPECT_EQ(equaliser.getParameter(kLowCrossover), 350.0f);
+    EXPECT_EQ(equaliser.getParameter(kHighCrossover), 1500.0f);
+    EXPECT_NEAR(firstOfBand(equaliser, kLowGain), 0.7317, 1e-4);
+    EXPECT_NEAR(1.0 - firstOfBand(equaliser, kHighGain), 0.7248, 1e-4);
 }
 
 TEST(CDSP3EQ, SmoothingFactorHardlyFollowsTheCrossover) {
     CDSP3EQ equaliser;
     for (const float crossover : {100.0f, 800.0f}) {
-        equaliser.setParameter(lowCrossover, crossover);
-        EXPECT_NEAR(firstOfBand(equaliser, low), 0.73, 0.005) << crossover;
+        equaliser.setParameter(kLowCrossover, crossover);
+        EXPECT_NEAR(firstOfBand(equaliser, kLowGain), 0.73, 0.005) << crossover;
     }
-    equaliser.setParameter(highCrossover, 6400.0f);
-    EXPECT_NEAR(1.0 - firstOfBand(equaliser, high), 0.48, 0.005);
+    equaliser.setParameter(kHighCrossover, 6400.0f);
+    EXPECT_NEAR(1.0 - firstOfBand(equaliser, kHighGain), 0.48, 0.005);
 }
 
 TEST(CDSP3EQ, TheMidBandIsReversedAtTheStart) {
     CDSP3EQ equaliser;
-    EXPECT_LT(firstOfBand(equaliser, mid), 0.0);
+    EXPECT_LT(firstOfBand(equaliser, kMidGain), 0.0);
 }
 
 TEST(CDSP3EQ, EachGainScalesItsBandAlone) {
     CDSP3EQ flat;
-    for (const int band : {low, mid, high}) {
+    for (const int band : {kLowGain, kMidGain, kHighGain}) {
         const double before = firstOfBand(flat, band);
         for (const float decibels : {-12.0f, 6.0f, 12.0f}) {
             flat.setParameter(band, decibels);
@@ -80,8 +80,8 @@ TEST(CDSP3EQ, PassesTheInputAtZeroDbWhateverTheCrossovers) {
     for (const float lower : {100.0f, 350.0f, 800.0f}) {
         for (const float upper : {1600.0f, 6400.0f}) {
             CDSP3EQ equaliser;
-            equaliser.setParameter(lowCrossover, lower);
-            equaliser.setParameter(highCrossover, upper);
+            equaliser.setParameter(kLowCrossover, lower);
+            equaliser.setParameter(kHighCrossover, upper);
             const TStereo<double> output = render(equaliser, noise, 50);
             for (std::size_t channel = 0; channel < 2; ++channel)
                 for (std::size_t i = 0; i < 50; ++i)
@@ -94,16 +94,17 @@ TEST(CDSP3EQ, KeepsItsStateAtTheSameCrossover) {
     CDSP3EQ equaliser, untouched;
     render(equaliser, burst, 50);
     render(untouched, burst, 50);
-    equaliser.setParameter(low, 6.0f);
-    untouched.setParameter(low, 6.0f);
+    equaliser.setParameter(kLowGain, 6.0f);
+    untouched.setParameter(kLowGain, 6.0f);
     equaliser.setSampleRate(88200.0f);  // seen by a computation only
-    equaliser.setParameter(lowCrossover, 350.0f);
-    equaliser.setParameter(highCrossover, 1500.0f);
+    equaliser.setParameter(kLowCrossover, 350.0f);
+    equaliser.setParameter(kHighCrossover, 1500.0f);
     EXPECT_TRUE(render(equaliser, noise, 50) == render(untouched, noise, 50));
 }
 
 TEST(CDSP3EQ, ANewCrossoverClearsBothFiltersOfBothChannels) {
-    for (const auto &[index, value] : {std::pair{lowCrossover, 500.0f}, {highCrossover, 4000.0f}}) {
+    for (const auto &[index, value] :
+         {std::pair{kLowCrossover, 500.0f}, {kHighCrossover, 4000.0f}}) {
         auto equaliser = makeCurved(), fresh = makeCurved();
         render(*equaliser, burst, 50);
         equaliser->setParameter(index, value);
@@ -116,8 +117,8 @@ TEST(CDSP3EQ, ANewCrossoverClearsBothFiltersOfBothChannels) {
 TEST(CDSP3EQ, AGainKeepsTheState) {
     auto equaliser = makeCurved(), fresh = makeCurved();
     render(*equaliser, burst, 50);
-    equaliser->setParameter(low, 0.0f);
-    fresh->setParameter(low, 0.0f);
+    equaliser->setParameter(kLowGain, 0.0f);
+    fresh->setParameter(kLowGain, 0.0f);
     EXPECT_FALSE(render(*equaliser, noise, 50) == render(*fresh, noise, 50));
 }
 
@@ -126,7 +127,7 @@ TEST(CDSP3EQ, ResetClearsTheFiltersAndKeepsTheParameters) {
     const auto fresh = render(*equaliser, noise, 50);
     equaliser->reset();
     EXPECT_TRUE(render(*equaliser, noise, 50) == fresh);
-    EXPECT_EQ(equaliser->getParameter(mid), -9.0f);
+    EXPECT_EQ(equaliser->getParameter(kMidGain), -9.0f);
 }
 
 TEST(CDSP3EQ, IgnoresAnUnknownIndex) {
@@ -139,12 +140,12 @@ TEST(CDSP3EQ, IgnoresAnUnknownIndex) {
 TEST(CDSP3EQ, FlushesEachStateByItself) {
     CDSP3EQ equaliser;
     TStereo<double> input(1, 3e-308);  // times the smaller factor a denormal, times the other not
-    equaliser.setParameter(highCrossover, 6400.0f);
-    equaliser.setParameter(low, 6.0206f);
+    equaliser.setParameter(kHighCrossover, 6400.0f);
+    equaliser.setParameter(kLowGain, 6.0206f);
     TStereo<double> output = render(equaliser, input, 1);
     CPlain3EQ expected;
-    expected.setParameter(highCrossover, 6400.0f);
-    expected.setParameter(low, 6.0206f);
+    expected.setParameter(kHighCrossover, 6400.0f);
+    expected.setParameter(kLowGain, 6.0206f);
     EXPECT_TRUE(output == render(expected, input, 1));
 }
 
@@ -165,9 +166,9 @@ TEST(CDSP3EQ, FallsSilentAfterABurst) {
 TEST(CDSP3EQ, EqualsThePlainReadingBitForBit) {
     expectSameBits([] { return std::make_unique<CDSP3EQ>(); },
                    [] { return std::make_unique<CPlain3EQ>(); },
-                   {{low, -12.0f, 12.0f},
-                    {mid, -12.0f, 12.0f},
-                    {high, -12.0f, 12.0f},
-                    {lowCrossover, 100.0f, 800.0f},
-                    {highCrossover, 1600.0f, 6400.0f}});
+                   {{kLowGain, -12.0f, 12.0f},
+                    {kMidGain, -12.0f, 12.0f},
+                    {kHighGain, -12.0f, 12.0f},
+                    {kLowCrossover, 100.0f, 800.0f},
+                    {kHighCrossover, 1600.0f, 6400.0f}});
 }

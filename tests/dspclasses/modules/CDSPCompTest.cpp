@@ -11,13 +11,13 @@
 
 namespace {
 
-enum EParameter { kThreshold, kAttack, kRelease, kRatio, kMakeUp, kMode };
+using enum CDSPComp::EParameter;
 
 constexpr float K = 0.115129255f;
 
 const std::vector<SParameterRange> laws{{kThreshold, -60.0f, 0.0f}, {kAttack, 1.0f, 100.0f},
                                         {kRelease, 2.0f, 200.0f},   {kRatio, 1.0f, 8.0f},
-                                        {kMakeUp, -12.0f, 12.0f},   {kMode, 0.0f, 1.0f}};
+                                        {kMakeUp, -12.0f, 12.0f},   {kStereoMode, 0.0f, 1.0f}};
 
 std::unique_ptr<CDSPComp> makeComp() {
     return std::make_unique<CDSPComp>();
@@ -34,7 +34,7 @@ std::unique_ptr<CDSPComp> makeTwoToOne() {
 
 std::unique_ptr<CDSPComp> makeSeparate() {
     auto comp = makeTwoToOne();
-    comp->setParameter(kMode, 0.0f);
+    comp->setParameter(kStereoMode, 0.0f);
     return comp;
 }
 
@@ -66,7 +66,7 @@ TEST(CDSPComp, StartsWithItsConstructionValues) {
     EXPECT_EQ(comp.getParameter(kRelease), 100.0f);
     EXPECT_EQ(comp.getParameter(kRatio), 1.0f);
     EXPECT_EQ(comp.getParameter(kMakeUp), 0.0f);
-    EXPECT_EQ(comp.getParameter(kMode), 1.0f);
+    EXPECT_EQ(comp.getParameter(kStereoMode), 1.0f);
 }
 
 TEST(CDSPComp, ReturnsWhatWasSetAndIgnoresAnUnknownIndex) {
@@ -75,16 +75,16 @@ TEST(CDSPComp, ReturnsWhatWasSetAndIgnoresAnUnknownIndex) {
 
 TEST(CDSPComp, IsLinkedFromOneHalf) {
     CDSPComp comp;
-    comp.setParameter(kMode, std::nextafter(0.5f, 0.0f));
-    EXPECT_EQ(comp.getParameter(kMode), 0.0f);
-    comp.setParameter(kMode, 0.5f);
-    EXPECT_EQ(comp.getParameter(kMode), 1.0f);
+    comp.setParameter(kStereoMode, std::nextafter(0.5f, 0.0f));
+    EXPECT_EQ(comp.getParameter(kStereoMode), 0.0f);
+    comp.setParameter(kStereoMode, 0.5f);
+    EXPECT_EQ(comp.getParameter(kStereoMode), 1.0f);
 }
 
 TEST(CDSPComp, GivesASignalUnderTheThresholdTheMakeUpOnly) {
     for (const float mode : {0.0f, 1.0f}) {
         auto comp = makeTwoToOne();
-        comp->setParameter(kMode, mode);
+        comp->setParameter(kStereoMode, mode);
         comp->setParameter(kMakeUp, 6.0f);
         const float factor = expSingle(6.0f * K);
         TStereo<float> output = render(*comp, steady(100, 0.0999f, -0.05f), 64);
@@ -213,10 +213,10 @@ TEST(CDSPComp, SeparateGivesAQuietRightChannelTheMakeUpBesideALoudLeft) {
 TEST(CDSPComp, SettingTheStereoModeItHasAlreadyClearsTheFollowers) {
     for (const float mode : {0.0f, 1.0f}) {
         auto comp = makeTwoToOne(), fresh = makeTwoToOne();
-        comp->setParameter(kMode, mode);
-        fresh->setParameter(kMode, mode);
+        comp->setParameter(kStereoMode, mode);
+        fresh->setParameter(kStereoMode, mode);
         gainAt(*comp, 0.5f, settled);
-        comp->setParameter(kMode, mode);
+        comp->setParameter(kStereoMode, mode);
         const auto input = makeSignal<float>(ESignal::Bursts, 3, 2000);
         EXPECT_TRUE(render(*comp, input, 200) == render(*fresh, input, 200));
     }
@@ -234,8 +234,8 @@ TEST(CDSPComp, OtherParametersKeepTheState) {
 TEST(CDSPComp, ResetClearsTheFollowersAndKeepsTheParameters) {
     for (const float mode : {0.0f, 1.0f}) {
         auto comp = makeTwoToOne(), fresh = makeTwoToOne();
-        comp->setParameter(kMode, mode);
-        fresh->setParameter(kMode, mode);
+        comp->setParameter(kStereoMode, mode);
+        fresh->setParameter(kStereoMode, mode);
         gainAt(*comp, 0.5f, settled);
         comp->reset();
         EXPECT_EQ(comp->getParameter(kRatio), 2.0f);
@@ -252,7 +252,7 @@ TEST(CDSPComp, WritesZeroOverDenormalInputInSinglePrecisionOnly) {
     };
     for (const float mode : {0.0f, 1.0f}) {
         CDSPComp comp;
-        comp.setParameter(kMode, mode);
+        comp.setParameter(kStereoMode, mode);
         const auto floats = makeSignal<float>(ESignal::Denormals, 1, 103);
         EXPECT_TRUE(inputAfter(comp, floats) == TStereo<float>(103, 0.0f));
         const auto doubles = makeSignal<double>(ESignal::Denormals, 1, 103);
@@ -321,5 +321,5 @@ TEST(CDSPComp, EqualsThePlainReadingWithParametersThatNoKnobGives) {
                     {kRelease, -0.5f, 5.0f},
                     {kRatio, -1.0f, 1.0f},
                     {kMakeUp, -300.0f, 300.0f},
-                    {kMode, 0.0f, 1.0f}});
+                    {kStereoMode, 0.0f, 1.0f}});
 }

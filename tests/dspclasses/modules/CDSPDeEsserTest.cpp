@@ -11,7 +11,7 @@
 
 namespace {
 
-enum EParameter { kThreshold, kSpeed, kRatio, kFrequency, kBand, kListen };
+using enum CDSPDeEsser::EParameter;
 
 constexpr float K = 0.115129255f;
 

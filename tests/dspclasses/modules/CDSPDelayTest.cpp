@@ -10,11 +10,11 @@
 
 namespace {
 
-enum EParameter { kTime, kSync, kFeedback, kPingPong, kDry, kWet, kTempo, kBeats };
+using enum CDSPDelay::EParameter;
 
 void echoesOnly(CDSPDelay &delay) {
-    delay.setParameter(kDry, 0.0f);
-    delay.setParameter(kWet, 1.0f);
+    delay.setParameter(kDryLevel, 0.0f);
+    delay.setParameter(kWetLevel, 1.0f);
 }
 
 template <typename Sample>
@@ -56,8 +56,10 @@ std::unique_ptr<Delay> makeNearTheWrap() {
     return delay;
 }
 
-const SParameterRange levels[] = {
-    {kFeedback, 0.0f, 1.0f}, {kPingPong, 0.0f, 1.0f}, {kDry, 0.0f, 1.0f}, {kWet, 0.0f, 1.0f}};
+const SParameterRange levels[] = {{kFeedback, 0.0f, 1.0f},
+                                  {kPingPong, 0.0f, 1.0f},
+                                  {kDryLevel, 0.0f, 1.0f},
+                                  {kWetLevel, 0.0f, 1.0f}};
 
 std::vector<SParameterRange> levelsAnd(std::vector<SParameterRange> others) {
     others.insert(others.end(), std::begin(levels), std::end(levels));
@@ -72,10 +74,10 @@ TEST(CDSPDelay, StartsWithItsConstructionValues) {
     EXPECT_EQ(delay.getParameter(kSync), 0.0f);
     EXPECT_EQ(delay.getParameter(kFeedback), 0.5f);
     EXPECT_EQ(delay.getParameter(kPingPong), 0.0f);
-    EXPECT_EQ(delay.getParameter(kDry), 1.0f);
-    EXPECT_EQ(delay.getParameter(kWet), 0.70710677f);
+    EXPECT_EQ(delay.getParameter(kDryLevel), 1.0f);
+    EXPECT_EQ(delay.getParameter(kWetLevel), 0.70710677f);
     EXPECT_EQ(delay.getParameter(kTempo), 120.0f);
-    EXPECT_EQ(delay.getParameter(kBeats), 4.0f);
+    EXPECT_EQ(delay.getParameter(kBeatsPerBar), 4.0f);
     EXPECT_EQ(firstEcho(delay), 44101);
 }
 
@@ -194,16 +196,16 @@ TEST(CDSPDelay, ASlowTempoGrowsTheLinesAndLosesWhatTheyHold) {
 TEST(CDSPDelay, CutsTheQuarterOfTheBarExceptWhenTheBeatsChange) {
     CDSPDelay delay;
     delay.setParameter(kSync, 1.0f);
-    delay.setParameter(kBeats, 6.0f);
-    EXPECT_EQ(delay.getParameter(kBeats), 6.0f);
+    delay.setParameter(kBeatsPerBar, 6.0f);
+    EXPECT_EQ(delay.getParameter(kBeatsPerBar), 6.0f);
     EXPECT_EQ(delay.getParameter(kTime), 750.0f);
     delay.setParameter(kTempo, 60.0f);
     EXPECT_EQ(delay.getParameter(kTime), 1000.0f);
     delay.setParameter(kSync, 0.5f);
     EXPECT_EQ(delay.getParameter(kTime), 500.0f);
-    delay.setParameter(kBeats, 9.0f);
+    delay.setParameter(kBeatsPerBar, 9.0f);
     EXPECT_EQ(delay.getParameter(kTime), 1125.0f);
-    delay.setParameter(kBeats, 3.0f);
+    delay.setParameter(kBeatsPerBar, 3.0f);
     delay.setParameter(kTempo, 100.0f);
     EXPECT_EQ(delay.getParameter(kTime), 0.0f);
 }
@@ -211,18 +213,18 @@ TEST(CDSPDelay, CutsTheQuarterOfTheBarExceptWhenTheBeatsChange) {
 TEST(CDSPDelay, ComparesTheBeatsWithTheWholeNumberThatItKept) {
     CDSPDelay delay;
     delay.setParameter(kSync, 1.0f);
-    delay.setParameter(kBeats, 6.5f);
-    EXPECT_EQ(delay.getParameter(kBeats), 6.0f);
+    delay.setParameter(kBeatsPerBar, 6.5f);
+    EXPECT_EQ(delay.getParameter(kBeatsPerBar), 6.0f);
     EXPECT_EQ(delay.getParameter(kTime), 812.0f);
-    delay.setParameter(kBeats, 6.0f);
+    delay.setParameter(kBeatsPerBar, 6.0f);
     EXPECT_EQ(delay.getParameter(kTime), 812.0f);
-    delay.setParameter(kBeats, 6.5f);
+    delay.setParameter(kBeatsPerBar, 6.5f);
     EXPECT_EQ(delay.getParameter(kTime), 812.0f);
 }
 
 TEST(CDSPDelay, BeatsMatterInSyncOnly) {
     CDSPDelay delay;
-    delay.setParameter(kBeats, 8.0f);
+    delay.setParameter(kBeatsPerBar, 8.0f);
     EXPECT_EQ(delay.getParameter(kTime), 1000.0f);
     delay.setParameter(kSync, 1.0f);
     delay.setParameter(kSync, 0.5f);
@@ -230,7 +232,7 @@ TEST(CDSPDelay, BeatsMatterInSyncOnly) {
 }
 
 TEST(CDSPDelay, TakesATinyLevelForNone) {
-    for (const int index : {kFeedback, kDry, kWet}) {
+    for (const int index : {kFeedback, kDryLevel, kWetLevel}) {
         CDSPDelay delay;
         for (const float tiny : {1e-21f, -1e-21f, 1e-39f}) {
             delay.setParameter(index, tiny);
@@ -276,8 +278,8 @@ TEST(CDSPDelay, PingPongRepeatsOnAlternateSides) {
 
 TEST(CDSPDelay, MixesDryAndWet) {
     auto delay = makeShort();
-    delay->setParameter(kDry, 0.25f);
-    delay->setParameter(kWet, 0.5f);
+    delay->setParameter(kDryLevel, 0.25f);
+    delay->setParameter(kWetLevel, 0.5f);
     TStereo<double> output = render(*delay, impulse(200, 1.0, -1.0), 64);
     EXPECT_EQ(output.left(0), 0.25);
     EXPECT_EQ(output.right(0), -0.25);
@@ -338,7 +340,7 @@ TEST(CDSPDelay, EqualsThePlainReadingInTempo) {
                    [] { return std::make_unique<CPlainDelay>(); },
                    levelsAnd({{kTempo, 20.0f, 60000.0f},
                               {kSync, 0.0f, 1.0f},
-                              {kBeats, 1.0f, 12.0f},
+                              {kBeatsPerBar, 1.0f, 12.0f},
                               {kTempo, 2000.0f, 80000.0f},
                               {kTime, 0.0f, 10.0f}}),
                    1000);

@@ -11,7 +11,7 @@
 
 namespace {
 
-enum EParameter { kThreshold, kAttack, kRelease };
+using enum CDSPGate::EParameter;
 
 constexpr float K = 0.115129255f;
 

@@ -13,7 +13,7 @@
 
 namespace {
 
-enum EParameter { kType, kWidth, kDepth, kSpeed, kSpread, kFeedback, kMix };
+using enum CDSPModulation::EParameter;
 
 constexpr float vibrato = 0.0f, adt = 0.5f, phaser = 1.0f;
 

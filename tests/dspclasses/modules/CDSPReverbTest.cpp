@@ -10,16 +10,7 @@
 
 namespace {
 
-enum EParameter {
-    kRoom,
-    kTime,
-    kInputDamping,
-    kWallDamping,
-    kSpread,
-    kDryLevel,
-    kEarlyLevel,
-    kTailLevel
-};
+using enum CDSPReverb::EParameter;
 
 std::unique_ptr<CDSPReverb> makeReverb() {
     auto reverb = std::make_unique<CDSPReverb>();
@@ -31,7 +22,7 @@ std::unique_ptr<CDSPReverb> makeReverb() {
 /// The least room, so that the network is heard within a short signal.
 std::unique_ptr<CDSPReverb> makeSmall() {
     auto reverb = makeReverb();
-    reverb->setParameter(kRoom, 1.0f);
+    reverb->setParameter(kRoomSize, 1.0f);
     reverb->setParameter(kSpread, 0.3f);
     reverb->setParameter(kTime, 0.2f);
     return reverb;
@@ -67,7 +58,7 @@ std::unique_ptr<Reverb> makeNearTheWrap() {
     return reverb;
 }
 
-const std::vector<SParameterRange> inUse{{kRoom, 1.0f, 400.0f},       {kTime, 0.2f, 8.0f},
+const std::vector<SParameterRange> inUse{{kRoomSize, 1.0f, 400.0f},   {kTime, 0.2f, 8.0f},
                                          {kInputDamping, 0.0f, 1.0f}, {kWallDamping, 0.0f, 1.0f},
                                          {kSpread, 0.0f, 1.0f},       {kDryLevel, 0.0f, 1.0f},
                                          {kEarlyLevel, 0.0f, 1.0f},   {kTailLevel, 0.0f, 1.0f}};
@@ -76,7 +67,7 @@ const std::vector<SParameterRange> inUse{{kRoom, 1.0f, 400.0f},       {kTime, 0.
 
 TEST(CDSPReverb, StartsWithItsConstructionValues) {
     CDSPReverb reverb;
-    EXPECT_EQ(reverb.getParameter(kRoom), 100.0f);
+    EXPECT_EQ(reverb.getParameter(kRoomSize), 100.0f);
     EXPECT_EQ(reverb.getParameter(kTime), 2.0f);
     EXPECT_EQ(reverb.getParameter(kInputDamping), 0.75f);
     EXPECT_EQ(reverb.getParameter(kWallDamping), 0.4f);
@@ -104,8 +95,8 @@ TEST(CDSPReverb, IgnoresAnUnknownIndex) {
 TEST(CDSPReverb, TakesTheSmallestRoomForASmallerOne) {
     for (const float metres : {0.5f, 1.0f, 0.0f, -3.0f}) {
         CDSPReverb reverb;
-        reverb.setParameter(kRoom, metres);
-        EXPECT_EQ(reverb.getParameter(kRoom), 1.0f);
+        reverb.setParameter(kRoomSize, metres);
+        EXPECT_EQ(reverb.getParameter(kRoomSize), 1.0f);
     }
 }
 
@@ -149,8 +140,8 @@ TEST(CDSPReverb, AReverbTimeLeavesTheTapsAsTheyAre) {
     longer->setParameter(kTime, 7.0f);
     EXPECT_TRUE(impulseResponse(*longer, 3000) == impulseResponse(*usual, 3000));
     // A new room takes the time for both sets of gains.
-    usual->setParameter(kRoom, 50.0f);
-    longer->setParameter(kRoom, 50.0f);
+    usual->setParameter(kRoomSize, 50.0f);
+    longer->setParameter(kRoomSize, 50.0f);
     EXPECT_FALSE(impulseResponse(*longer, 3000) == impulseResponse(*usual, 3000));
 }
 
@@ -179,7 +170,7 @@ TEST(CDSPReverb, ALaterRoomKeepsTheLengthsOfTheAllPasses) {
         auto reverb = makeWet(1.0f, 0.0f);
         reverb->setParameter(kInputDamping, 1.0f);  // no filter
         if (metres != 100.0f)
-            reverb->setParameter(kRoom, metres);
+            reverb->setParameter(kRoomSize, metres);
         if (spreadAgain) {
             reverb->setParameter(kSpread, 0.5f);
             reverb->setParameter(kSpread, 0.3f);
@@ -284,8 +275,8 @@ TEST(CDSPReverb, EqualsThePlainReadingFarOutsideItsLaws) {
     // Rooms beyond the lines go round them, down to a single sample.
     expectSameBits([] { return std::make_unique<CDSPReverb>(); },
                    [] { return std::make_unique<CPlainReverb>(); },
-                   {{kRoom, 505.4f, 506.2f},
-                    {kRoom, 0.0f, 1300.0f},
+                   {{kRoomSize, 505.4f, 506.2f},
+                    {kRoomSize, 0.0f, 1300.0f},
                     {kTime, 0.01f, 100.0f},
                     {kInputDamping, -0.5f, 1.5f},
                     {kWallDamping, -0.5f, 1.5f},
@@ -308,7 +299,7 @@ TEST(CDSPReverbDeathTest, StopsAtASpreadThatLeavesAnAllPassNoLength) {
 TEST(CDSPReverbDeathTest, StopsAtARoomThatIsNoNumber) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     CDSPReverb reverb;
-    reverb.setParameter(kRoom, NAN);
+    reverb.setParameter(kRoomSize, NAN);
     EXPECT_DEATH(impulseResponse(reverb, 1),
                  "Assertion failed: offset >= 0.0f, file dspclasses/DelayLine, line 74");
 }

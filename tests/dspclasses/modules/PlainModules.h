@@ -16,24 +16,24 @@
 
 /// The plain reading of every module of the strip, by slot.
 inline CPlainStrip::Modules makePlainModules() {
-    return {
-        std::make_unique<CPlainGain>(),        // 0, fixed head
-        std::make_unique<CPlainMono>(),        // 1, fixed head
-        std::make_unique<CPlainBalance>(),     // 2
-        std::make_unique<CPlainPan>(),         // 3
-        std::make_unique<CPlainGain>(),        // 4
-        std::make_unique<CPlain3EQ>(),         // 5
-        std::make_unique<CPlainHiPass>(),      // 6, rumble filter
-        std::make_unique<CPlainHiPass>(),      // 7, high-pass
-        std::make_unique<CPlainPresence>(),    // 8
-        std::make_unique<CPlainParametric>(),  // 9
-        std::make_unique<CPlainGate>(),        // 10
-        std::make_unique<CPlainComp>(),        // 11
-        std::make_unique<CPlainDeEsser>(),     // 12
-        std::make_unique<CPlainModulation>(),  // 13
-        std::make_unique<CPlainModulation>(),  // 14
-        std::make_unique<CPlainWarmer>(),      // 15
-        std::make_unique<CPlainDelay>(),       // 16
-        std::make_unique<CPlainReverb>(),      // 17
-    };
+    CPlainStrip::Modules modules;
+    modules[kInGainSlot] = std::make_unique<CPlainGain>();
+    modules[kInMonoSlot] = std::make_unique<CPlainMono>();
+    modules[kBalanceSlot] = std::make_unique<CPlainBalance>();
+    modules[kPanSlot] = std::make_unique<CPlainPan>();
+    modules[kGainSlot] = std::make_unique<CPlainGain>();
+    modules[k3BandSlot] = std::make_unique<CPlain3EQ>();
+    modules[kRumbleFilterSlot] = std::make_unique<CPlainHiPass>();
+    modules[kHiPassSlot] = std::make_unique<CPlainHiPass>();
+    modules[kPresenceSlot] = std::make_unique<CPlainPresence>();
+    modules[kParametricSlot] = std::make_unique<CPlainParametric>();
+    modules[kGateSlot] = std::make_unique<CPlainGate>();
+    modules[kCompressorSlot] = std::make_unique<CPlainComp>();
+    modules[kDeEsserSlot] = std::make_unique<CPlainDeEsser>();
+    modules[kModulator1Slot] = std::make_unique<CPlainModulation>();
+    modules[kModulator2Slot] = std::make_unique<CPlainModulation>();
+    modules[kWarmerSlot] = std::make_unique<CPlainWarmer>();
+    modules[kDelaySlot] = std::make_unique<CPlainDelay>();
+    modules[kReverbSlot] = std::make_unique<CPlainReverb>();
+    return modules;
 }

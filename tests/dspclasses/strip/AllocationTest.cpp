@@ -30,7 +30,7 @@ template <typename Sample>
 class StripAllocation : public TAllocation<CDSPMultiFX, Sample> {
 protected:
     StripAllocation() {
-        for (int slot = 2; slot < 18; ++slot)
+        for (int slot = kFirstModuleSlot; slot <= kLastModuleSlot; ++slot)
             this->module.appendFX(slot);
     }
 };
@@ -55,9 +55,9 @@ TYPED_TEST(StripAllocation, DoesNotHappenForAChangeOfTempoResetOrOrder) {
     const std::uint64_t before = allocationsOfThisThread();
     for (const float bpm : {60.0f, 90.0f, 180.0f})
         this->module.setTempo(bpm);
-    this->module.removeFX(9);
-    this->module.moveFXBefore(3, 12);
-    this->module.insertFX(5, 9, true, true);
+    this->module.removeFX(kParametricSlot);
+    this->module.moveFXBefore(kPanSlot, kDeEsserSlot);
+    this->module.insertFX(k3BandSlot, kParametricSlot, true, true);
     this->module.resetAllModules();
     EXPECT_EQ(allocationsOfThisThread(), before);
     EXPECT_EQ(this->countWhileProcessing(this->longest), 0u);

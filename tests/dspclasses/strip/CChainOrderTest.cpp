@@ -12,12 +12,13 @@ static Links linksOf(CChainOrder &order, int slot) {
     return {order.entry(slot).prev, order.entry(slot).next};
 }
 
-static const Links freeSlot{-1, -1};
+static const Links freeSlot{kNoSlot, kNoSlot};
 
-/// The slots as a run meets them, behind slot 1.
+/// The slots after the fixed head, as a run meets them.
 static std::vector<int> chainOf(CChainOrder &order) {
     std::vector<int> chain;
-    for (int slot = order.nextOf(1); slot >= 0 && chain.size() < 30; slot = order.nextOf(slot))
+    for (int slot = order.nextOf(kInMonoSlot); slot != kNoSlot && chain.size() < 30;
+         slot = order.nextOf(slot))
         chain.push_back(slot);
     return chain;
 }
@@ -33,130 +34,131 @@ protected:
 };
 
 TEST_F(CChainOrderTest, BeginsWithTheFixedHeadAndNothingBehind) {
-    EXPECT_EQ(linksOf(order, 0), Links(-1, 1));
-    EXPECT_EQ(linksOf(order, 1), Links(0, -1));
-    for (int slot = 2; slot < CChainOrder::slotCount; ++slot)
+    EXPECT_EQ(linksOf(order, kInGainSlot), Links(kNoSlot, kInMonoSlot));
+    EXPECT_EQ(linksOf(order, kInMonoSlot), Links(kInGainSlot, kNoSlot));
+    for (int slot = kFirstModuleSlot; slot <= kLastModuleSlot; ++slot)
         EXPECT_EQ(linksOf(order, slot), freeSlot) << slot;
     EXPECT_EQ(order.getCount(), 0);
 }
 
 TEST_F(CChainOrderTest, ComesBackToTheEmptyChain) {
-    append({5, 9});
+    append({k3BandSlot, kParametricSlot});
     order.initialise();
     EXPECT_TRUE(chainOf(order).empty());
-    EXPECT_EQ(linksOf(order, 5), freeSlot);
-    EXPECT_EQ(linksOf(order, 9), freeSlot);
+    EXPECT_EQ(linksOf(order, k3BandSlot), freeSlot);
+    EXPECT_EQ(linksOf(order, kParametricSlot), freeSlot);
     EXPECT_EQ(order.getCount(), 0);
 }
 
 TEST_F(CChainOrderTest, AppendsAtTheEnd) {
-    append({6, 11, 5});
-    EXPECT_EQ(chainOf(order), (std::vector{6, 11, 5}));
-    EXPECT_EQ(linksOf(order, 1), Links(0, 6));
-    EXPECT_EQ(linksOf(order, 6), Links(1, 11));
-    EXPECT_EQ(linksOf(order, 11), Links(6, 5));
-    EXPECT_EQ(linksOf(order, 5), Links(11, -1));
+    append({kRumbleFilterSlot, kCompressorSlot, k3BandSlot});
+    EXPECT_EQ(chainOf(order), (std::vector<int>{kRumbleFilterSlot, kCompressorSlot, k3BandSlot}));
+    EXPECT_EQ(linksOf(order, kInMonoSlot), Links(kInGainSlot, kRumbleFilterSlot));
+    EXPECT_EQ(linksOf(order, kRumbleFilterSlot), Links(kInMonoSlot, kCompressorSlot));
+    EXPECT_EQ(linksOf(order, kCompressorSlot), Links(kRumbleFilterSlot, k3BandSlot));
+    EXPECT_EQ(linksOf(order, k3BandSlot), Links(kCompressorSlot, kNoSlot));
     EXPECT_EQ(order.getCount(), 3);
 }
 
 TEST_F(CChainOrderTest, InsertsBeforeATarget) {
-    append({6, 11});
-    order.insertBefore(11, 4);
-    order.insertBefore(6, 17);
-    EXPECT_EQ(chainOf(order), (std::vector{17, 6, 4, 11}));
-    EXPECT_EQ(linksOf(order, 4), Links(6, 11));
-    EXPECT_EQ(linksOf(order, 11), Links(4, -1));
-    EXPECT_EQ(linksOf(order, 17), Links(1, 6));
+    append({kRumbleFilterSlot, kCompressorSlot});
+    order.insertBefore(kCompressorSlot, kGainSlot);
+    order.insertBefore(kRumbleFilterSlot, kReverbSlot);
+    EXPECT_EQ(chainOf(order),
+              (std::vector<int>{kReverbSlot, kRumbleFilterSlot, kGainSlot, kCompressorSlot}));
+    EXPECT_EQ(linksOf(order, kGainSlot), Links(kRumbleFilterSlot, kCompressorSlot));
+    EXPECT_EQ(linksOf(order, kCompressorSlot), Links(kGainSlot, kNoSlot));
+    EXPECT_EQ(linksOf(order, kReverbSlot), Links(kInMonoSlot, kRumbleFilterSlot));
     EXPECT_EQ(order.getCount(), 4);
 }
 
 TEST_F(CChainOrderTest, InsertsBehindATargetThatIsNotTheLast) {
-    append({6, 11});
-    order.insertAfter(6, 4);
-    EXPECT_EQ(chainOf(order), (std::vector{6, 4, 11}));
-    EXPECT_EQ(linksOf(order, 4), Links(6, 11));
-    EXPECT_EQ(linksOf(order, 11), Links(4, -1));
+    append({kRumbleFilterSlot, kCompressorSlot});
+    order.insertAfter(kRumbleFilterSlot, kGainSlot);
+    EXPECT_EQ(chainOf(order), (std::vector<int>{kRumbleFilterSlot, kGainSlot, kCompressorSlot}));
+    EXPECT_EQ(linksOf(order, kGainSlot), Links(kRumbleFilterSlot, kCompressorSlot));
+    EXPECT_EQ(linksOf(order, kCompressorSlot), Links(kGainSlot, kNoSlot));
     EXPECT_EQ(order.getCount(), 3);
 }
 
 TEST_F(CChainOrderTest, RemovesFromTheMiddle) {
-    append({6, 11, 5});
-    order.remove(11);
-    EXPECT_EQ(chainOf(order), (std::vector{6, 5}));
-    EXPECT_EQ(linksOf(order, 5), Links(6, -1));
-    EXPECT_EQ(linksOf(order, 11), freeSlot);
+    append({kRumbleFilterSlot, kCompressorSlot, k3BandSlot});
+    order.remove(kCompressorSlot);
+    EXPECT_EQ(chainOf(order), (std::vector<int>{kRumbleFilterSlot, k3BandSlot}));
+    EXPECT_EQ(linksOf(order, k3BandSlot), Links(kRumbleFilterSlot, kNoSlot));
+    EXPECT_EQ(linksOf(order, kCompressorSlot), freeSlot);
     EXPECT_EQ(order.getCount(), 2);
 }
 
 TEST_F(CChainOrderTest, EndsAtThePredecessorOfARemovedLastNode) {
-    append({6, 11});
-    order.remove(11);
-    EXPECT_EQ(linksOf(order, 6), Links(1, -1));
-    EXPECT_EQ(linksOf(order, 11), freeSlot);
+    append({kRumbleFilterSlot, kCompressorSlot});
+    order.remove(kCompressorSlot);
+    EXPECT_EQ(linksOf(order, kRumbleFilterSlot), Links(kInMonoSlot, kNoSlot));
+    EXPECT_EQ(linksOf(order, kCompressorSlot), freeSlot);
     EXPECT_EQ(order.getCount(), 1);
 }
 
 TEST_F(CChainOrderTest, MovesBothWays) {
-    append({6, 11, 5});
-    order.moveBefore(6, 5);
-    EXPECT_EQ(chainOf(order), (std::vector{5, 6, 11}));
-    order.moveBefore(11, 5);
-    EXPECT_EQ(chainOf(order), (std::vector{6, 5, 11}));
-    EXPECT_EQ(linksOf(order, 6), Links(1, 5));
-    EXPECT_EQ(linksOf(order, 5), Links(6, 11));
-    EXPECT_EQ(linksOf(order, 11), Links(5, -1));
+    append({kRumbleFilterSlot, kCompressorSlot, k3BandSlot});
+    order.moveBefore(kRumbleFilterSlot, k3BandSlot);
+    EXPECT_EQ(chainOf(order), (std::vector<int>{k3BandSlot, kRumbleFilterSlot, kCompressorSlot}));
+    order.moveBefore(kCompressorSlot, k3BandSlot);
+    EXPECT_EQ(chainOf(order), (std::vector<int>{kRumbleFilterSlot, k3BandSlot, kCompressorSlot}));
+    EXPECT_EQ(linksOf(order, kRumbleFilterSlot), Links(kInMonoSlot, k3BandSlot));
+    EXPECT_EQ(linksOf(order, k3BandSlot), Links(kRumbleFilterSlot, kCompressorSlot));
+    EXPECT_EQ(linksOf(order, kCompressorSlot), Links(k3BandSlot, kNoSlot));
     EXPECT_EQ(order.getCount(), 3);
 }
 
 TEST_F(CChainOrderTest, LeavesTheListAsItIsWhenASlotMovesBeforeItsSuccessor) {
-    append({6, 11, 5});
-    order.moveBefore(5, 11);
-    EXPECT_EQ(chainOf(order), (std::vector{6, 11, 5}));
-    EXPECT_EQ(linksOf(order, 5), Links(11, -1));
+    append({kRumbleFilterSlot, kCompressorSlot, k3BandSlot});
+    order.moveBefore(k3BandSlot, kCompressorSlot);
+    EXPECT_EQ(chainOf(order), (std::vector<int>{kRumbleFilterSlot, kCompressorSlot, k3BandSlot}));
+    EXPECT_EQ(linksOf(order, k3BandSlot), Links(kCompressorSlot, kNoSlot));
     EXPECT_EQ(order.getCount(), 3);
 }
 
 TEST_F(CChainOrderTest, ReplacesWithoutTellingTheSuccessorOrTheTarget) {
-    append({6, 11, 5});
-    order.replace(11, 8);
-    EXPECT_EQ(chainOf(order), (std::vector{6, 8, 5}));
-    EXPECT_EQ(linksOf(order, 8), Links(6, 5));
-    EXPECT_EQ(linksOf(order, 11), Links(-1, 5));
-    EXPECT_EQ(linksOf(order, 5), Links(11, -1));
+    append({kRumbleFilterSlot, kCompressorSlot, k3BandSlot});
+    order.replace(kCompressorSlot, kPresenceSlot);
+    EXPECT_EQ(chainOf(order), (std::vector<int>{kRumbleFilterSlot, kPresenceSlot, k3BandSlot}));
+    EXPECT_EQ(linksOf(order, kPresenceSlot), Links(kRumbleFilterSlot, k3BandSlot));
+    EXPECT_EQ(linksOf(order, kCompressorSlot), Links(kNoSlot, k3BandSlot));
+    EXPECT_EQ(linksOf(order, k3BandSlot), Links(kCompressorSlot, kNoSlot));
     EXPECT_EQ(order.getCount(), 3);
 }
 
 TEST_F(CChainOrderTest, GoesAstrayWhenTheSuccessorOfAReplacementIsRemoved) {
-    append({6, 11, 5, 7});
-    order.replace(11, 8);
-    order.remove(5);
+    append({kRumbleFilterSlot, kCompressorSlot, k3BandSlot, kHiPassSlot});
+    order.replace(kCompressorSlot, kPresenceSlot);
+    order.remove(k3BandSlot);
     // The removed slot is marked free and counted out, and yet it runs; what followed is lost.
-    EXPECT_EQ(chainOf(order), (std::vector{6, 8, 5}));
-    EXPECT_EQ(linksOf(order, 5), freeSlot);
-    EXPECT_EQ(linksOf(order, 11), Links(-1, 7));
-    EXPECT_EQ(linksOf(order, 7), Links(11, -1));
+    EXPECT_EQ(chainOf(order), (std::vector<int>{kRumbleFilterSlot, kPresenceSlot, k3BandSlot}));
+    EXPECT_EQ(linksOf(order, k3BandSlot), freeSlot);
+    EXPECT_EQ(linksOf(order, kCompressorSlot), Links(kNoSlot, kHiPassSlot));
+    EXPECT_EQ(linksOf(order, kHiPassSlot), Links(kCompressorSlot, kNoSlot));
     EXPECT_EQ(order.getCount(), 3);
 }
 
 TEST_F(CChainOrderTest, RecountsWhatWasWritten) {
-    order.entry(1).next = 9;
-    order.entry(9) = {1, 4};
-    order.entry(4) = {9, -1};
+    order.entry(kInMonoSlot).next = kParametricSlot;
+    order.entry(kParametricSlot) = {kInMonoSlot, kGainSlot};
+    order.entry(kGainSlot) = {kParametricSlot, kNoSlot};
     EXPECT_EQ(order.getCount(), 0);
     order.recount();
     EXPECT_EQ(order.getCount(), 2);
 }
 
 TEST_F(CChainOrderTest, CountsALongestChain) {
-    for (int slot = 2; slot < CChainOrder::slotCount; ++slot)
+    for (int slot = kFirstModuleSlot; slot <= kLastModuleSlot; ++slot)
         order.append(slot);
     order.recount();
     EXPECT_EQ(order.getCount(), 16);
 }
 
 TEST_F(CChainOrderTest, CountsACycleAsNothing) {
-    append({6, 11});
-    order.entry(11).next = 6;
+    append({kRumbleFilterSlot, kCompressorSlot});
+    order.entry(kCompressorSlot).next = kRumbleFilterSlot;
     order.recount();
     EXPECT_EQ(order.getCount(), 0);
 }
@@ -169,13 +171,13 @@ TEST_F(CChainOrderTest, FollowsAPlainSequenceThroughRandomEdits) {
         order.initialise();
         std::vector<int> expected;
         for (int edit = 0; edit < 200; ++edit) {
-            const int slot = random.whole(2, 17);
+            const int slot = random.whole(kFirstModuleSlot, kLastModuleSlot);
             const auto found = std::find(expected.begin(), expected.end(), slot);
-            const int other = expected.empty() ? -1
+            const int other = expected.empty() ? kNoSlot
                                                : expected[static_cast<std::size_t>(random.whole(
                                                      0, static_cast<int>(expected.size()) - 1))];
             if (found == expected.end()) {
-                if (other == -1 || random.chance(0.5)) {
+                if (other == kNoSlot || random.chance(0.5)) {
                     order.append(slot);
                     expected.push_back(slot);
                 } else {
@@ -194,7 +196,7 @@ TEST_F(CChainOrderTest, FollowsAPlainSequenceThroughRandomEdits) {
             }
             ASSERT_EQ(chainOf(order), expected) << "edit " << edit;
             ASSERT_EQ(order.getCount(), static_cast<int>(expected.size())) << "edit " << edit;
-            int before = 1;
+            int before = kInMonoSlot;
             for (const int present : expected) {
                 ASSERT_EQ(order.entry(present).prev, before) << "edit " << edit;
                 before = present;
@@ -204,30 +206,31 @@ TEST_F(CChainOrderTest, FollowsAPlainSequenceThroughRandomEdits) {
 }
 
 TEST_F(CChainOrderTest, LetsASlotThatRunsThoughFreeBeAppendedToItself) {
-    append({6, 11, 5});
-    order.replace(11, 8);
-    order.remove(5);  // runs on behind slot 8, marked free
-    order.append(5);
-    EXPECT_EQ(chainOf(order), (std::vector{6, 8, 5}));
-    EXPECT_EQ(linksOf(order, 5), Links(5, -1));
+    append({kRumbleFilterSlot, kCompressorSlot, k3BandSlot});
+    order.replace(kCompressorSlot, kPresenceSlot);
+    order.remove(k3BandSlot);  // runs on behind slot 8, marked free
+    order.append(k3BandSlot);
+    EXPECT_EQ(chainOf(order), (std::vector<int>{kRumbleFilterSlot, kPresenceSlot, k3BandSlot}));
+    EXPECT_EQ(linksOf(order, k3BandSlot), Links(k3BandSlot, kNoSlot));
 }
 
 TEST_F(CChainOrderTest, LetsASlotWithoutAPredecessorBeRemovedAndInsertedBefore) {
-    append({6, 11, 5});
-    order.replace(11, 8);
-    order.remove(5);
-    order.remove(5);
-    EXPECT_EQ(chainOf(order), (std::vector{6, 8, 5}));
-    order.insertBefore(5, 9);
-    EXPECT_EQ(chainOf(order), (std::vector{6, 8, 5}));
-    EXPECT_EQ(linksOf(order, 9), Links(-1, 5));
-    EXPECT_EQ(linksOf(order, 5), Links(9, -1));
+    append({kRumbleFilterSlot, kCompressorSlot, k3BandSlot});
+    order.replace(kCompressorSlot, kPresenceSlot);
+    order.remove(k3BandSlot);
+    order.remove(k3BandSlot);
+    EXPECT_EQ(chainOf(order), (std::vector<int>{kRumbleFilterSlot, kPresenceSlot, k3BandSlot}));
+    order.insertBefore(k3BandSlot, kParametricSlot);
+    EXPECT_EQ(chainOf(order), (std::vector<int>{kRumbleFilterSlot, kPresenceSlot, k3BandSlot}));
+    EXPECT_EQ(linksOf(order, kParametricSlot), Links(kNoSlot, k3BandSlot));
+    EXPECT_EQ(linksOf(order, k3BandSlot), Links(kParametricSlot, kNoSlot));
 }
 
 TEST_F(CChainOrderTest, LinksAReplacedSlotInAgain) {
-    append({6, 11, 5});
-    order.replace(11, 8);
-    order.append(11);
-    EXPECT_EQ(chainOf(order), (std::vector{6, 8, 5, 11}));
-    EXPECT_EQ(linksOf(order, 11), Links(5, -1));
+    append({kRumbleFilterSlot, kCompressorSlot, k3BandSlot});
+    order.replace(kCompressorSlot, kPresenceSlot);
+    order.append(kCompressorSlot);
+    EXPECT_EQ(chainOf(order),
+              (std::vector<int>{kRumbleFilterSlot, kPresenceSlot, k3BandSlot, kCompressorSlot}));
+    EXPECT_EQ(linksOf(order, kCompressorSlot), Links(k3BandSlot, kNoSlot));
 }

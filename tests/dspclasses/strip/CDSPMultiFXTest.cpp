@@ -10,19 +10,18 @@
 using Calls = std::vector<std::string>;
 
 static const float stereo = 1.0f;
-static constexpr int inGain = 0, inMono = 1, outMono = 61;
 
 // Construction and destruction
 
 TEST(CDSPMultiFX, StartsWithTheEmptyChain) {
     CDSPMultiFX strip;
-    EXPECT_EQ(strip.orderEntry(0).prev, -1);
-    EXPECT_EQ(strip.orderEntry(0).next, 1);
-    EXPECT_EQ(strip.orderEntry(1).prev, 0);
-    EXPECT_EQ(strip.orderEntry(1).next, -1);
-    for (int slot = 2; slot < 18; ++slot) {
-        EXPECT_EQ(strip.orderEntry(slot).prev, -1) << slot;
-        EXPECT_EQ(strip.orderEntry(slot).next, -1) << slot;
+    EXPECT_EQ(strip.orderEntry(kInGainSlot).prev, kNoSlot);
+    EXPECT_EQ(strip.orderEntry(kInGainSlot).next, kInMonoSlot);
+    EXPECT_EQ(strip.orderEntry(kInMonoSlot).prev, kInGainSlot);
+    EXPECT_EQ(strip.orderEntry(kInMonoSlot).next, kNoSlot);
+    for (int slot = kFirstModuleSlot; slot <= kLastModuleSlot; ++slot) {
+        EXPECT_EQ(strip.orderEntry(slot).prev, kNoSlot) << slot;
+        EXPECT_EQ(strip.orderEntry(slot).next, kNoSlot) << slot;
     }
     EXPECT_EQ(strip.getFXCount(), 0);
 }
@@ -30,15 +29,15 @@ TEST(CDSPMultiFX, StartsWithTheEmptyChain) {
 TEST(CDSPMultiFX, TellsTheDelayOfATempoOf120AndNobodyOfAnythingElse) {
     SWitnessLog log;
     CDSPMultiFX strip(makeWitnesses(log));
-    EXPECT_EQ(log.take(), (Calls{"16 set 6 120.000000"}));
+    EXPECT_EQ(log.take(), (Calls{"Delay: set 6 120.000000"}));
 }
 
 TEST(CDSPMultiFX, DestroysItsModulesInSlotOrder) {
     SWitnessLog log;
     { CDSPMultiFX strip(makeWitnesses(log)); }
-    Calls expected{"16 set 6 120.000000"};
-    for (int slot = 0; slot < 18; ++slot)
-        expected.push_back(std::to_string(slot) + " destroy");
+    Calls expected{"Delay: set 6 120.000000"};
+    for (std::size_t slot = 0; slot < kSlotCount; ++slot)
+        expected.push_back(slotLabels[slot] + std::string(": destroy"));
     EXPECT_EQ(log.take(), expected);
 }
 
@@ -48,13 +47,13 @@ TEST(CDSPMultiFX, HasALabelForEverySlot) {
         "InGain",        "MonoType",    "Balance",     "Pan",        "Gain",  "3Band",
         "Rumble Filter", "HiPass",      "Presence",    "Parametric", "Gate",  "Compressor",
         "DeEsser",       "Modulator 1", "Modulator 2", "Warmer",     "Delay", "Reverb"};
-    for (int slot = 0; slot < 18; ++slot) {
+    for (int slot = 0; slot < kSlotCount; ++slot) {
         char text[32] = "untouched";
         strip.getFXName(slot, text);
         EXPECT_STREQ(text, labels[slot]);
     }
     char text[32] = "untouched";
-    strip.getFXName(18, text);
+    strip.getFXName(kSlotCount, text);
     EXPECT_STREQ(text, "untouched");
 }
 
@@ -69,28 +68,29 @@ TEST(CDSPMultiFX, PassesOnlyAChangeOfTempoToTheDelay) {
     strip.setTempo(95.5f);
     strip.setTempo(95.5f);
     strip.setTempo(0.0f);
-    EXPECT_EQ(log.take(), (Calls{"16 set 6 95.500000", "16 set 6 0.000000"}));
+    EXPECT_EQ(log.take(), (Calls{"Delay: set 6 95.500000", "Delay: set 6 0.000000"}));
 }
 
 TEST(CDSPMultiFX, ResetsTheModulesOfTheChainOnly) {
     SWitnessLog log;
     CDSPMultiFX strip(makeWitnesses(log));
-    strip.appendFX(9);
-    strip.appendFX(4);
+    strip.appendFX(kParametricSlot);
+    strip.appendFX(kGainSlot);
     log.take();
     strip.reset();
-    EXPECT_EQ(log.take(), (Calls{"0 reset", "1 reset", "9 reset", "4 reset"}));
+    EXPECT_EQ(log.take(),
+              (Calls{"InGain: reset", "MonoType: reset", "Parametric: reset", "Gain: reset"}));
 }
 
 TEST(CDSPMultiFX, ResetsAllModulesInSlotOrder) {
     SWitnessLog log;
     CDSPMultiFX strip(makeWitnesses(log));
-    strip.appendFX(9);
+    strip.appendFX(kParametricSlot);
     log.take();
     strip.resetAllModules();
     Calls expected;
-    for (int slot = 0; slot < 18; ++slot)
-        expected.push_back(std::to_string(slot) + " reset");
+    for (std::size_t slot = 0; slot < kSlotCount; ++slot)
+        expected.push_back(slotLabels[slot] + std::string(": reset"));
     EXPECT_EQ(log.take(), expected);
 }
 
@@ -98,13 +98,13 @@ TEST(CDSPMultiFX, ResetsAModuleOnlyWhereTheInsertionAsksForIt) {
     SWitnessLog log;
     CDSPMultiFX strip(makeWitnesses(log));
     log.take();
-    strip.appendFX(9);
-    strip.insertFX(9, 4, true, false);
-    strip.replaceFX(4, 5);
-    strip.moveFXBefore(5, 9);
+    strip.appendFX(kParametricSlot);
+    strip.insertFX(kParametricSlot, kGainSlot, true, false);
+    strip.replaceFX(kGainSlot, k3BandSlot);
+    strip.moveFXBefore(k3BandSlot, kParametricSlot);
     EXPECT_TRUE(log.calls.empty());
-    strip.insertFX(9, 6, true, true);
-    EXPECT_EQ(log.take(), (Calls{"6 reset"}));
+    strip.insertFX(kParametricSlot, kRumbleFilterSlot, true, true);
+    EXPECT_EQ(log.take(), (Calls{"Rumble Filter: reset"}));
 }
 
 // The run
@@ -116,59 +116,65 @@ static Calls slotsOfARun(CDSPMultiFX &strip, SWitnessLog &log) {
     render(strip, input, 1);
     Calls slots;
     for (const std::string &call : log.take())
-        slots.push_back(call.substr(0, call.find(' ')));
+        slots.push_back(call.substr(0, call.find(':')));
     return slots;
 }
 
 TEST(CDSPMultiFX, RunsTheHeadAndThenTheChainInItsOrder) {
     SWitnessLog log;
     CDSPMultiFX strip(makeWitnesses(log));
-    EXPECT_EQ(slotsOfARun(strip, log), (Calls{"0", "1"}));
-    for (const int slot : {6, 11, 5, 17})
+    EXPECT_EQ(slotsOfARun(strip, log), (Calls{"InGain", "MonoType"}));
+    for (const int slot : {kRumbleFilterSlot, kCompressorSlot, k3BandSlot, kReverbSlot})
         strip.appendFX(slot);
-    EXPECT_EQ(slotsOfARun(strip, log), (Calls{"0", "1", "6", "11", "5", "17"}));
-    strip.removeFX(17);
-    EXPECT_EQ(slotsOfARun(strip, log), (Calls{"0", "1", "6", "11", "5"}));
-    strip.insertFX(5, 3, true, true);
-    strip.insertFX(6, 2, false, false);
-    EXPECT_EQ(slotsOfARun(strip, log), (Calls{"0", "1", "6", "2", "11", "3", "5"}));
-    strip.moveFXBefore(6, 5);
-    EXPECT_EQ(slotsOfARun(strip, log), (Calls{"0", "1", "5", "6", "2", "11", "3"}));
+    EXPECT_EQ(slotsOfARun(strip, log),
+              (Calls{"InGain", "MonoType", "Rumble Filter", "Compressor", "3Band", "Reverb"}));
+    strip.removeFX(kReverbSlot);
+    EXPECT_EQ(slotsOfARun(strip, log),
+              (Calls{"InGain", "MonoType", "Rumble Filter", "Compressor", "3Band"}));
+    strip.insertFX(k3BandSlot, kPanSlot, true, true);
+    strip.insertFX(kRumbleFilterSlot, kBalanceSlot, false, false);
+    EXPECT_EQ(slotsOfARun(strip, log), (Calls{"InGain", "MonoType", "Rumble Filter", "Balance",
+                                              "Compressor", "Pan", "3Band"}));
+    strip.moveFXBefore(kRumbleFilterSlot, k3BandSlot);
+    EXPECT_EQ(slotsOfARun(strip, log), (Calls{"InGain", "MonoType", "3Band", "Rumble Filter",
+                                              "Balance", "Compressor", "Pan"}));
     EXPECT_EQ(strip.getFXCount(), 5);
     strip.initOrder();
-    EXPECT_EQ(slotsOfARun(strip, log), (Calls{"0", "1"}));
+    EXPECT_EQ(slotsOfARun(strip, log), (Calls{"InGain", "MonoType"}));
 }
 
 TEST(CDSPMultiFX, RunsARemovedSuccessorOfAReplacementOnAndLosesWhatFollowed) {
     SWitnessLog log;
     CDSPMultiFX strip(makeWitnesses(log));
-    for (const int slot : {6, 11, 5, 7})
+    for (const int slot : {kRumbleFilterSlot, kCompressorSlot, k3BandSlot, kHiPassSlot})
         strip.appendFX(slot);
-    strip.replaceFX(11, 8);
-    EXPECT_EQ(slotsOfARun(strip, log), (Calls{"0", "1", "6", "8", "5", "7"}));
-    strip.removeFX(5);
-    EXPECT_EQ(slotsOfARun(strip, log), (Calls{"0", "1", "6", "8", "5"}));
-    EXPECT_EQ(strip.orderEntry(5).prev, -1);
+    strip.replaceFX(kCompressorSlot, kPresenceSlot);
+    EXPECT_EQ(slotsOfARun(strip, log),
+              (Calls{"InGain", "MonoType", "Rumble Filter", "Presence", "3Band", "HiPass"}));
+    strip.removeFX(k3BandSlot);
+    EXPECT_EQ(slotsOfARun(strip, log),
+              (Calls{"InGain", "MonoType", "Rumble Filter", "Presence", "3Band"}));
+    EXPECT_EQ(strip.orderEntry(k3BandSlot).prev, kNoSlot);
     EXPECT_EQ(strip.getFXCount(), 3);
 }
 
 TEST(CDSPMultiFX, RunsAnOrderThatWasWrittenEntryByEntry) {
     SWitnessLog log;
     CDSPMultiFX strip(makeWitnesses(log));
-    strip.setOrderEntry(1, 0, 13);
-    strip.setOrderEntry(13, 1, 2);
-    strip.setOrderEntry(2, 13, -1);
+    strip.setOrderEntry(kInMonoSlot, kInGainSlot, kModulator1Slot);
+    strip.setOrderEntry(kModulator1Slot, kInMonoSlot, kBalanceSlot);
+    strip.setOrderEntry(kBalanceSlot, kModulator1Slot, kNoSlot);
     EXPECT_EQ(strip.getFXCount(), 0);
     strip.recountFX();
     EXPECT_EQ(strip.getFXCount(), 2);
-    EXPECT_EQ(strip.orderEntry(2).prev, 13);
-    EXPECT_EQ(slotsOfARun(strip, log), (Calls{"0", "1", "13", "2"}));
+    EXPECT_EQ(strip.orderEntry(kBalanceSlot).prev, kModulator1Slot);
+    EXPECT_EQ(slotsOfARun(strip, log), (Calls{"InGain", "MonoType", "Modulator 1", "Balance"}));
 }
 
 TEST(CDSPMultiFX, RunsAllSixteenModules) {
     SWitnessLog log;
     CDSPMultiFX strip(makeWitnesses(log));
-    for (int slot = 2; slot < 18; ++slot)
+    for (int slot = kFirstModuleSlot; slot <= kLastModuleSlot; ++slot)
         strip.appendFX(slot);
     EXPECT_EQ(slotsOfARun(strip, log).size(), 18u);
 }
@@ -176,7 +182,7 @@ TEST(CDSPMultiFX, RunsAllSixteenModules) {
 TEST(CDSPMultiFX, OnlySwapsThePairsBetweenModules) {
     SWitnessLog log;
     CDSPMultiFX strip(makeWitnesses(log));
-    for (const int slot : {6, 11})
+    for (const int slot : {kRumbleFilterSlot, kCompressorSlot})
         strip.appendFX(slot);
     slotsOfARun(strip, log);
     ASSERT_EQ(log.buffers.size(), 16u);
@@ -197,8 +203,8 @@ TEST(CDSPMultiFX, HandsEveryModuleTheLengthOfTheBlock) {
     log.take();
     TStereo<float> input(100);
     render(strip, input, 37);
-    EXPECT_EQ(log.take(),
-              (Calls{"0 run 37", "1 run 37", "0 run 37", "1 run 37", "0 run 26", "1 run 26"}));
+    EXPECT_EQ(log.take(), (Calls{"InGain: run 37", "MonoType: run 37", "InGain: run 37",
+                                 "MonoType: run 37", "InGain: run 26", "MonoType: run 26"}));
 }
 
 TEST(CDSPMultiFX, RunsBothPrecisionsThroughTheSameModules) {
@@ -207,15 +213,15 @@ TEST(CDSPMultiFX, RunsBothPrecisionsThroughTheSameModules) {
     log.take();
     TStereo<double> input(3);
     render(strip, input, 3);
-    EXPECT_EQ(log.take(), (Calls{"0 run 3", "1 run 3"}));
+    EXPECT_EQ(log.take(), (Calls{"InGain: run 3", "MonoType: run 3"}));
 }
 
 template <typename Sample>
 class CDSPMultiFXRun : public testing::Test {
 protected:
     CDSPMultiFXRun() {
-        strip.setStripParameter(inMono, stereo);
-        strip.setStripParameter(outMono, stereo);
+        strip.setStripParameter(kInMono, stereo);
+        strip.setStripParameter(kOutMono, stereo);
     }
     TStereo<Sample> input = makeSignal<Sample>(ESignal::Noise, 3, 64);
     CDSPMultiFX strip;
@@ -228,18 +234,18 @@ TYPED_TEST(CDSPMultiFXRun, LetsTheSignalThroughAnEmptyChain) {
 }
 
 TYPED_TEST(CDSPMultiFXRun, AppliesTheInputGain) {
-    this->strip.setStripParameter(inGain, 1.0f);
+    this->strip.setStripParameter(kInGain, 1.0f);
     TStereo<TypeParam> louder = render(this->strip, this->input, 64);
     EXPECT_NEAR(static_cast<double>(louder.left(5) / this->input.left(5)), 1.9952623, 1e-6);
     EXPECT_NEAR(static_cast<double>(louder.right(9) / this->input.right(9)), 1.9952623, 1e-6);
-    this->strip.setStripParameter(inGain, 0.0f);
+    this->strip.setStripParameter(kInGain, 0.0f);
     TStereo<TypeParam> silence = render(this->strip, this->input, 64);
     EXPECT_EQ(silence.left(5), 0);
     EXPECT_EQ(silence.right(9), 0);
 }
 
 TYPED_TEST(CDSPMultiFXRun, RoutesTheInputAndTheOutput) {
-    for (const int id : {inMono, outMono}) {
+    for (const int id : {kInMono, kOutMono}) {
         this->strip.setStripParameter(id, 0.4f);  // all left
         TStereo<TypeParam> left = render(this->strip, this->input, 64);
         EXPECT_EQ(left.channels[0], this->input.channels[0]) << id;
@@ -278,8 +284,8 @@ TYPED_TEST(CDSPMultiFXRun, FeedsBothChannelsFromTheLeftOfAMonoInput) {
 
 TYPED_TEST(CDSPMultiFXRun, GivesHalfTheSumForAMonoInputWithoutASecondOutput) {
     this->strip.setMonoInput(true);
-    this->strip.setStripParameter(2, 0.125f);  // the balance halves the right channel
-    this->strip.appendFX(2);
+    this->strip.setStripParameter(kBalance, 0.125f);  // the balance halves the right channel
+    this->strip.appendFX(kBalanceSlot);
     TStereo<TypeParam> output(65, 7);
     TypeParam *out[] = {output.channels[0].data(), nullptr};
     process(this->strip, this->input.pointers().data(), out, 64);
@@ -312,9 +318,9 @@ TYPED_TEST(CDSPMultiFXRun, LosesNothingWhenABlockIsLongerThanAllBefore) {
 }
 
 TYPED_TEST(CDSPMultiFXRun, WorksInTheHostsOwnBuffers) {
-    this->strip.appendFX(4);
-    this->strip.setStripParameter(4, 1.0f);
-    this->strip.setStripParameter(outMono, 0.0f);
+    this->strip.appendFX(kGainSlot);
+    this->strip.setStripParameter(kGain, 1.0f);
+    this->strip.setStripParameter(kOutMono, 0.0f);
     TStereo<TypeParam> expected = render(this->strip, this->input, 64);
     std::array<TypeParam *, 2> both = this->input.pointers();
     process(this->strip, both.data(), both.data(), 64);
@@ -324,13 +330,13 @@ TYPED_TEST(CDSPMultiFXRun, WorksInTheHostsOwnBuffers) {
 TYPED_TEST(CDSPMultiFXRun, TakesOneStageMoreForAnOutputRoutingThatIsNotStereo) {
     SWitnessLog log;
     CDSPMultiFX witnessed(makeWitnesses(log));
-    witnessed.appendFX(4);
+    witnessed.appendFX(kGainSlot);
     for (const float routing : {0.0f, 0.4f, 0.8f}) {
-        witnessed.setStripParameter(outMono, routing);
+        witnessed.setStripParameter(kOutMono, routing);
         CPlainMono plain;
         plain.setParameter(0, routing);
         EXPECT_EQ(render(witnessed, this->input, 64), render(plain, this->input, 64)) << routing;
-        witnessed.setStripParameter(outMono, stereo);
+        witnessed.setStripParameter(kOutMono, stereo);
         EXPECT_EQ(render(witnessed, this->input, 64), this->input) << routing;
     }
 }
@@ -361,27 +367,27 @@ TEST(CDSPMultiFX, TakesAFirstBlockOfNoFramesInDoublePrecision) {
 TEST(CDSPMultiFX, FillsItsCacheFromTheModules) {
     SWitnessLog log;
     const CDSPMultiFX strip(makeWitnesses(log));
-    for (int id = 0; id < 61; ++id) {
+    for (int id = 0; id < kOutMono; ++id) {
         const SParameter &row = parameterTable[static_cast<std::size_t>(id)];
         EXPECT_EQ(strip.getStripParameter(id),
                   static_cast<float>(100 * (row.slot + 1) + row.index));
     }
-    EXPECT_EQ(strip.getStripParameter(outMono), 0.0f);
-    EXPECT_EQ(strip.getStripParameter(62), 0.0f);
-    EXPECT_EQ(strip.getStripParameter(63), 0.0f);
-    EXPECT_EQ(strip.getStripParameter(64), 0.0f);
+    EXPECT_EQ(strip.getStripParameter(kOutMono), 0.0f);
+    EXPECT_EQ(strip.getStripParameter(kUnused62), 0.0f);
+    EXPECT_EQ(strip.getStripParameter(kUnused63), 0.0f);
+    EXPECT_EQ(strip.getStripParameter(kParameterCount), 0.0f);
 }
 
 TEST(CDSPMultiFX, SendsEveryIdToItsModuleByItsLaw) {
     SWitnessLog log;
     CDSPMultiFX strip(makeWitnesses(log));
     log.take();
-    for (int id = 0; id < 61; ++id) {
+    for (int id = 0; id < kOutMono; ++id) {
         const SParameter &row = parameterTable[static_cast<std::size_t>(id)];
         strip.setStripParameter(id, 0.3f);
         EXPECT_EQ(log.take(),
-                  (Calls{std::to_string(row.slot) + " set " + std::to_string(row.index) + " " +
-                         std::to_string(row.law(0.3f))}))
+                  (Calls{slotLabels[std::size_t(row.slot)] + std::string(": set ") +
+                         std::to_string(row.index) + " " + std::to_string(row.law(0.3f))}))
             << id;
         EXPECT_EQ(strip.getStripParameter(id), 0.3f);
     }
@@ -390,23 +396,23 @@ TEST(CDSPMultiFX, SendsEveryIdToItsModuleByItsLaw) {
 TEST(CDSPMultiFX, SendsNothingForTheValueThatItHasSeenLast) {
     SWitnessLog log;
     CDSPMultiFX strip(makeWitnesses(log));
-    strip.setStripParameter(5, 0.3f);
+    strip.setStripParameter(k3EQLo, 0.3f);
     log.take();
-    strip.setStripParameter(5, 0.3f);
+    strip.setStripParameter(k3EQLo, 0.3f);
     EXPECT_TRUE(log.calls.empty());
-    strip.setStripParameter(5, 0.31f);
+    strip.setStripParameter(k3EQLo, 0.31f);
     EXPECT_EQ(log.calls.size(), 1u);
 }
 
 TEST(CDSPMultiFX, DropsAFirstValueThatEqualsWhatTheModuleWasBuiltWith) {
     CDSPMultiFX strip;
     char text[32];
-    strip.setStripParameter(4, 0.0f);  // the gain was built with 0 dB
-    strip.getParameterDisplay(4, text);
+    strip.setStripParameter(kGain, 0.0f);  // the gain was built with 0 dB
+    strip.getParameterDisplay(kGain, text);
     EXPECT_STREQ(text, "0.00");
-    strip.setStripParameter(4, 0.5f);
-    strip.setStripParameter(4, 0.0f);
-    strip.getParameterDisplay(4, text);
+    strip.setStripParameter(kGain, 0.5f);
+    strip.setStripParameter(kGain, 0.0f);
+    strip.getParameterDisplay(kGain, text);
     EXPECT_STREQ(text, "-oo");
 }
 
@@ -414,7 +420,7 @@ TEST(CDSPMultiFX, KeepsTheTwoIdsThatDriveNothing) {
     SWitnessLog log;
     CDSPMultiFX strip(makeWitnesses(log));
     log.take();
-    for (const int id : {62, 63}) {
+    for (const int id : {kUnused62, kUnused63}) {
         strip.setStripParameter(id, 0.7f);
         EXPECT_EQ(strip.getStripParameter(id), 0.7f);
         char text[8] = "full";
@@ -432,7 +438,7 @@ TEST(CDSPMultiFX, KeepsTheTwoIdsThatDriveNothing) {
 
 TEST(CDSPMultiFX, LeavesATextForAnIdBeyondTheLast) {
     CDSPMultiFX strip;
-    for (const int id : {64, 1000}) {
+    for (const int id : {kParameterCount, 1000}) {
         char text[16] = "untouched";
         strip.getParameterName(id, text);
         strip.getParameterDisplay(id, text);
@@ -443,7 +449,7 @@ TEST(CDSPMultiFX, LeavesATextForAnIdBeyondTheLast) {
 
 TEST(CDSPMultiFX, WritesNamesAndUnitsWhole) {
     const CDSPMultiFX strip;
-    for (int id = 0; id < 64; ++id) {
+    for (int id = 0; id < kParameterCount; ++id) {
         const SParameter &row = parameterTable[static_cast<std::size_t>(id)];
         char name[16] = "untouched", unit[16] = "untouched";
         strip.getParameterName(id, name);
@@ -452,14 +458,14 @@ TEST(CDSPMultiFX, WritesNamesAndUnitsWhole) {
         EXPECT_STREQ(unit, row.unit);
     }
     char name[16];
-    strip.getParameterName(17, name);
+    strip.getParameterName(kGateThrsh, name);
     EXPECT_STREQ(name, "GateThrsh");
 }
 
 TEST(CDSPMultiFX, ShowsWhatTheModuleHolds) {
     SWitnessLog log;
     CDSPMultiFX strip(makeWitnesses(log));
-    for (int id = 0; id < 61; ++id) {
+    for (int id = 0; id < kOutMono; ++id) {
         const SParameter &row = parameterTable[static_cast<std::size_t>(id)];
         for (const float v : {0.0f, 0.2f, 0.37f, 0.5f, 0.81f, 1.0f}) {
             strip.setStripParameter(id, v);
@@ -481,15 +487,15 @@ static std::string displayAt(int id, float value) {
 }
 
 TEST(CDSPMultiFX, ShowsTheLevelAndStereoModules) {
-    EXPECT_EQ(displayAt(0, 0.0f), "-oo");
-    EXPECT_EQ(displayAt(0, 0.2f), "-24.00");
-    EXPECT_EQ(displayAt(0, 0.24f), "-16.80");
-    EXPECT_EQ(displayAt(0, 0.25f), "-20.00");
-    EXPECT_EQ(displayAt(0, 1.0f), "6.00");
-    EXPECT_EQ(displayAt(2, 0.0f), "100:0");
-    EXPECT_EQ(displayAt(2, 1.0f), "0:100");
-    EXPECT_EQ(displayAt(3, 0.5f), "100:100");
-    for (const int id : {inMono, outMono}) {
+    EXPECT_EQ(displayAt(kInGain, 0.0f), "-oo");
+    EXPECT_EQ(displayAt(kInGain, 0.2f), "-24.00");
+    EXPECT_EQ(displayAt(kInGain, 0.24f), "-16.80");
+    EXPECT_EQ(displayAt(kInGain, 0.25f), "-20.00");
+    EXPECT_EQ(displayAt(kInGain, 1.0f), "6.00");
+    EXPECT_EQ(displayAt(kBalance, 0.0f), "100:0");
+    EXPECT_EQ(displayAt(kBalance, 1.0f), "0:100");
+    EXPECT_EQ(displayAt(kPan, 0.5f), "100:100");
+    for (const int id : {kInMono, kOutMono}) {
         EXPECT_EQ(displayAt(id, 0.0f), "Combine");
         EXPECT_EQ(displayAt(id, 0.4f), "AllLeft");
         EXPECT_EQ(displayAt(id, 0.999f), "AllRight");
@@ -498,14 +504,14 @@ TEST(CDSPMultiFX, ShowsTheLevelAndStereoModules) {
 }
 
 TEST(CDSPMultiFX, ShowsTheEndsOfTheModulatorsAndTheDelay) {
-    EXPECT_EQ(displayAt(34, 1.0f), "50");  // a law that ends at 0.5, as a percentage
-    EXPECT_EQ(displayAt(48, 0.999f), "Quaver");
-    EXPECT_EQ(displayAt(51, 0.0f), "-oo");
-    EXPECT_EQ(displayAt(51, 1.0f), "0.0");
+    EXPECT_EQ(displayAt(kMod1Dpth, 1.0f), "50");  // a law that ends at 0.5, as a percentage
+    EXPECT_EQ(displayAt(kDlySync, 0.999f), "Quaver");
+    EXPECT_EQ(displayAt(kDlyDry, 0.0f), "-oo");
+    EXPECT_EQ(displayAt(kDlyDry, 1.0f), "0.0");
 }
 
 TEST(CDSPMultiFX, ShowsMinusZeroDecibelsOnTheWayBackToTheMiddle) {
-    EXPECT_EQ(displayAt(0, 0.5f), "-0.00");
+    EXPECT_EQ(displayAt(kInGain, 0.5f), "-0.00");
 }
 
 // Against the plain reading
@@ -537,7 +543,7 @@ private:
 static std::vector<int> drawChain(CRandom &random) {
     std::vector<int> chain;
     while (chain.size() < 6 && random.chance(0.8)) {
-        const int slot = random.whole(2, 17);
+        const int slot = random.whole(kFirstModuleSlot, kLastModuleSlot);
         if (std::find(chain.begin(), chain.end(), slot) == chain.end())
             chain.push_back(slot);
     }
@@ -559,8 +565,8 @@ static std::unique_ptr<Strip> setUp(std::unique_ptr<Strip> strip, std::uint64_t 
 
 TEST(CDSPMultiFX, EqualsThePlainReadingBitForBit) {
     std::uint64_t stripSeed = 0, plainSeed = 0;
-    std::vector<SParameterRange> ranges(64);
-    for (int id = 0; id < 64; ++id)
+    std::vector<SParameterRange> ranges(kParameterCount);
+    for (int id = 0; id < kParameterCount; ++id)
         ranges[static_cast<std::size_t>(id)] = {id, 0.0f, 1.0f};
     expectSameBits([&stripSeed] { return setUp(std::make_unique<CStripCase>(), ++stripSeed); },
                    [&plainSeed] {

@@ -6,18 +6,16 @@
 #include <thread>
 
 // What ThreadSanitizer looks on at: the audio runs while another thread does what the editor and
-// the host do without a lock. Id 57 is left out, since the effect guards it.
-
-static constexpr int spreadId = 57;
+// the host do without a lock. kRvSpread is left out, since the effect guards it.
 
 /// One edit of any kind that keeps the list intact, or the load of another chain.
 static void editOrder(CDSPMultiFX &strip, CRandom &random, std::vector<int> &chain) {
     const auto place = [&] {
         return chain.begin() + random.whole(0, static_cast<int>(chain.size()) - 1);
     };
-    int slot = random.whole(2, 17);
+    int slot = random.whole(kFirstModuleSlot, kLastModuleSlot);
     while (std::find(chain.begin(), chain.end(), slot) != chain.end())
-        slot = random.whole(2, 17);
+        slot = random.whole(kFirstModuleSlot, kLastModuleSlot);
     const int kind = chain.size() < 2 ? 0 : chain.size() > 5 ? 1 : random.whole(0, 4);
     if (kind == 0) {
         strip.appendFX(slot);
@@ -36,8 +34,8 @@ static void editOrder(CDSPMultiFX &strip, CRandom &random, std::vector<int> &cha
     } else {
         strip.initOrder();
         chain.clear();
-        strip.setOrderEntry(1, 0, slot);
-        strip.setOrderEntry(slot, 1, -1);
+        strip.setOrderEntry(kInMonoSlot, kInGainSlot, slot);
+        strip.setOrderEntry(slot, kInMonoSlot, kNoSlot);
         strip.recountFX();
         chain.push_back(slot);
     }
@@ -67,10 +65,10 @@ static void runBeside(std::uint64_t seed) {
     while (!started)
         std::this_thread::yield();
     for (int edit = 0; edit < edits; ++edit) {
-        const int id = random.whole(0, 63);
-        if (id != spreadId)
+        const int id = random.whole(0, kParameterCount - 1);
+        if (id != kRvSpread)
             strip.setStripParameter(id, static_cast<float>(random.real(0.0, 1.0)));
-        strip.getParameterDisplay(random.whole(0, 63), text);
+        strip.getParameterDisplay(random.whole(0, kParameterCount - 1), text);
         if (edit % 10 == 0)
             editOrder(strip, random, chain);
         if (edit % 1000 == 0) {
@@ -86,10 +84,10 @@ static void runBeside(std::uint64_t seed) {
     EXPECT_EQ(strip.getFXCount(), static_cast<int>(chain.size()));
     strip.initOrder();
     strip.setMonoInput(false);
-    for (const int routing : {1, 61})
+    for (const int routing : {kInMono, kOutMono})
         strip.setStripParameter(routing, 1.0f);
-    strip.setStripParameter(0, 0.3f);
-    strip.setStripParameter(0, 0.5f);
+    strip.setStripParameter(kInGain, 0.3f);
+    strip.setStripParameter(kInGain, 0.5f);
     const TStereo<Sample> input = makeSignal<Sample>(ESignal::Noise, 99, 64);
     EXPECT_EQ(render(strip, input, 64), input);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dspclasses/modules/CDSPBase.h"
+#include "dspclasses/modules/CDSPDelay.h"
 #include "dspclasses/modules/PlainLevels.h"
 #include "dspclasses/parameters/ParameterTable.h"
 #include "dspclasses/support/Signals.h"
@@ -14,11 +15,11 @@
 /// copied frame by frame. Takes part in an oracle case with parameter ids for indices.
 class CPlainStrip : public CDSPBase {
 public:
-    using Modules = std::array<std::unique_ptr<CDSPBase>, 18>;
+    using Modules = std::array<std::unique_ptr<CDSPBase>, kSlotCount>;
 
     explicit CPlainStrip(Modules slots) : modules(std::move(slots)) {
         setTempo(120.0f);
-        for (int id = 0; id < 62; ++id)
+        for (int id = 0; id <= kOutMono; ++id)
             paramCache[index(id)] = moduleOf(id).getParameter(rowOf(id).index);
         setChain({});
     }
@@ -27,7 +28,7 @@ public:
         if (value == paramCache[index(id)])
             return;
         paramCache[index(id)] = value;
-        if (id <= 61)
+        if (id <= kOutMono)
             moduleOf(id).setParameter(rowOf(id).index, rowOf(id).law(value));
     }
     float getParameter(int id) override { return paramCache[index(id)]; }
@@ -43,7 +44,7 @@ public:
     }
 
     void reset() override {
-        for (int slot = 0; slot >= 0; slot = order[index(slot)].next)
+        for (int slot = kInGainSlot; slot != kNoSlot; slot = order[index(slot)].next)
             modules[index(slot)]->reset();
     }
 
@@ -57,18 +58,18 @@ public:
         if (bpm == tempo)
             return;
         tempo = bpm;
-        modules[16]->setParameter(6, bpm);
+        modules[kDelaySlot]->setParameter(CDSPDelay::kTempo, bpm);
     }
 
     void setMonoInput(bool isMono) { monoInput = isMono; }
 
-    /// The whole running order behind slot 1, whatever it was before.
+    /// Replaces everything after the fixed head.
     void setChain(const std::vector<int> &chain) {
         for (auto &pair : order)
-            pair = {-1, -1};
-        order[0].next = 1;
-        order[1].prev = 0;
-        int last = 1;
+            pair = {kNoSlot, kNoSlot};
+        order[kInGainSlot].next = kInMonoSlot;
+        order[kInMonoSlot].prev = kInGainSlot;
+        int last = kInMonoSlot;
         for (const int slot : chain) {
             order[index(last)].next = slot;
             order[index(slot)].prev = last;
@@ -92,7 +93,7 @@ private:
     static const SParameter &rowOf(int id) { return parameterTable[index(id)]; }
 
     CDSPBase &moduleOf(int id) {
-        return id == 61 ? static_cast<CDSPBase &>(outMono) : *modules[index(rowOf(id).slot)];
+        return id == kOutMono ? static_cast<CDSPBase &>(outMono) : *modules[index(rowOf(id).slot)];
     }
 
     template <typename Sample>
@@ -111,7 +112,7 @@ private:
             dry[1][i] = monoInput ? in[0][i] : in[1][i];
 
         Sample **cur = dry, **alt = wet;
-        for (int slot = 0; slot >= 0; slot = order[index(slot)].next) {
+        for (int slot = kInGainSlot; slot != kNoSlot; slot = order[index(slot)].next) {
             process(*modules[index(slot)], cur, alt, frames);
             std::swap(cur, alt);
         }
@@ -132,8 +133,8 @@ private:
 
     Modules modules;
     CPlainMono outMono;
-    SPair order[18];
-    float paramCache[64] = {};
+    SPair order[kSlotCount];
+    float paramCache[kParameterCount] = {};
     float tempo = -1.0f;
     bool monoInput = false;
     SBuffers<float> floats;

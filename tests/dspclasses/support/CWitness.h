@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-/// What the eighteen witnesses of a strip have seen, in order.
+/// What the eighteen witnesses of a strip have seen, in order: "Delay: reset".
 struct SWitnessLog {
     std::vector<std::string> calls;
     std::vector<const void *> buffers;  // in[0], in[1], out[0], out[1] of each run
@@ -40,7 +40,9 @@ public:
     void reset() override { note("reset"); }
 
 private:
-    void note(const std::string &what) { seen.calls.push_back(std::to_string(slot) + " " + what); }
+    void note(const std::string &what) {
+        seen.calls.push_back(slotLabels[static_cast<std::size_t>(slot)] + (": " + what));
+    }
     template <typename Sample>
     void run(Sample **in, Sample **out, int frames) {
         note("run " + std::to_string(frames));

@@ -103,7 +103,7 @@ private:
     }
 
     SProgram &present() { return m_programs[m_program]; }
-    std::array<float, Tessitor::Corvel::parameterCount> &values() { return present().parameters; }
+    std::array<float, kParameterCount> &values() { return present().parameters; }
 
     std::intptr_t handle(std::int32_t opcode, std::int32_t index, std::intptr_t value, void *ptr,
                          float opt) {
