@@ -10,16 +10,16 @@ set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 
-# Everything of ours links this. Rounding is part of the sound: no contraction, never -ffast-math.
-# Warnings are errors with the compiler that builds the product; clang, which builds the fuzzers, has
-# others.
+# Linked by all our targets. Rounding is part of the sound: no contraction, never -ffast-math.
+# Warnings are errors with g++, which builds the product, but not with clang, which builds the fuzzers
+# and warns about other things.
 add_library(project_options INTERFACE)
 target_compile_options(project_options INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow -ffp-contract=off
     $<$<CXX_COMPILER_ID:GNU>:-Werror>)
 target_include_directories(project_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
 
-# Where a folder keeps what belongs to one system
+# The subfolder with the sources for this operating system
 if(WIN32)
     set(backend win32)
 else()
@@ -27,7 +27,7 @@ else()
 endif()
 
 if(WIN32)
-    # printf of the language standard, so that every display text is the same on both systems
+    # The standard printf, so that formatted numbers are the same on both systems
     target_compile_definitions(project_options INTERFACE __USE_MINGW_ANSI_STDIO=1)
 endif()
 

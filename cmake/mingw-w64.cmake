@@ -1,8 +1,8 @@
-# Cross-building for 64-bit Windows; the programs are run under Wine.
+# Cross-builds for 64-bit Windows; the programs run under Wine.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 
-# The posix variant has the standard library's threads. GoogleTest's project asks for C as well.
+# The posix variant supports std::thread. GoogleTest's project needs a C compiler as well.
 set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)
 set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
 set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
@@ -13,10 +13,10 @@ set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 
-# The stack of Windows is aligned to 16 bytes, and a register of AVX wants 32.
+# Windows aligns the stack to 16 bytes only, and spilled AVX registers need 32.
 set(CMAKE_CXX_FLAGS_INIT "-Wa,-muse-unaligned-vector-move")
 
-# The run-time goes into each file: a user installs one library and no others.
+# Linked statically, so that a user installs one file and no others.
 set(CMAKE_EXE_LINKER_FLAGS_INIT "-static")
 set(CMAKE_MODULE_LINKER_FLAGS_INIT "-static")
 

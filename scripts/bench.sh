@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # bench.sh [NAME]: builds for Linux and measures every module and factory program, or those whose name
-# matches the regular expression NAME, each beside its plain reading. Prints one table. The input is
-# seeded noise in the shape of speech; every number is the least over the repetitions.
+# matches the regular expression NAME, each beside its plain scalar version. Prints one table. The input
+# is seeded noise shaped like speech; every number is the minimum over the repetitions.
 set -euo pipefail
 cd "$(dirname "$(realpath "$0")")/.."
 

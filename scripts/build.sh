@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# build.sh PRESET [TARGET...]: configures and builds; says nothing unless something is wrong.
+# build.sh PRESET [TARGET...]: configures and builds. Prints nothing unless something fails.
 set -euo pipefail
 cd "$(dirname "$(realpath "$0")")/.."
 preset=$1

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# check-fresh.sh [FOLDER]: proves that the README's two commands do everything on a fresh machine. It
-# makes a minimal Debian 12 root with this machine's own package sources, clones the last commit into
-# it and runs both commands there. Needs root and debootstrap; FOLDER (build/fresh) is made anew.
+# check-fresh.sh [FOLDER]: checks that the README's two commands do everything on a fresh machine. It
+# installs a minimal Debian 12 into FOLDER (build/fresh by default, emptied first) from this machine's
+# package sources, clones the last commit into it and runs both commands there. Needs root and
+# debootstrap.
 set -euo pipefail
 top=$(dirname "$(dirname "$(realpath "$0")")")
 root=$(realpath -m "${1:-$top/build/fresh}")
@@ -25,7 +26,7 @@ debootstrap --variant=minbase bookworm "$root" "$mirror" > "$top/build/debootstr
 rm -rf "$root/etc/apt/sources.list"
 cp -a /etc/apt/. "$root/etc/apt/"
 cp /etc/resolv.conf /etc/hosts "$root/etc/"
-mount --bind "$root" "$root"  # a root that is a mount, as on any machine
+mount --bind "$root" "$root"  # so that / is a mount point, as on any machine
 mount -t proc proc "$root/proc"
 mount --bind /dev "$root/dev"
 mount -t devpts devpts "$root/dev/pts" 2> /dev/null || mount --bind /dev/pts "$root/dev/pts"

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# figures.sh: draws the pictures of docs/modules.md anew, from renders by the built effect.
+# figures.sh: redraws the pictures of docs/modules.md from renders by the built effect.
 set -euo pipefail
 cd "$(dirname "$(realpath "$0")")/.."
 

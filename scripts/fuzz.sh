@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# fuzz.sh TARGET SECONDS: fuzzes one of the targets of tests/fuzz with libFuzzer, from its committed
-# corpus. What it finds new stays in build/fuzz/found/TARGET, crashes among it as crash-*.
+# fuzz.sh TARGET SECONDS: fuzzes a target of tests/fuzz with libFuzzer, starting from its committed
+# corpus. New inputs are kept in build/fuzz/found/TARGET; those that crash are named crash-*.
 set -euo pipefail
 cd "$(dirname "$(realpath "$0")")/.."
 
@@ -14,7 +14,7 @@ scripts/setup.sh fuzz
 scripts/build.sh fuzz "fuzz_$1"
 found=build/fuzz/found/$1
 mkdir -p "$found"
-# Targets that read files write them where memory is the disk.
+# Targets that read files write them to a memory file system.
 [ ! -d /dev/shm ] || export TMPDIR=/dev/shm
 build/fuzz/bin/fuzz_"$1" -max_total_time="$2" -artifact_prefix="$found/" -max_len=9000 -timeout=20 \
     -print_final_stats=1 "$found" "$corpus"

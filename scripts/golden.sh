@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# golden.sh: writes the table of what every factory program makes of a generated signal anew. For a
-# change of sound that was meant; the tests compare with the table.
+# golden.sh: rewrites the table of hashes of what every factory program makes of a generated signal.
+# The tests compare with this table, so run it only after an intended change of sound.
 set -euo pipefail
 cd "$(dirname "$(realpath "$0")")/.."
 

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # run.sh [VOICE [OPTION...]]: sets up, builds and sends a recorded voice through the channel strip.
-# VOICE is an audio file, by default the human speech that alsa-utils ships; the options are those
-# of `corvel render`. The result is written to build/voices.
+# VOICE is an audio file; by default it is the recorded speech from alsa-utils. The options are those of
+# `corvel render`. The result goes to build/voices.
 set -euo pipefail
 top=$(dirname "$(dirname "$(realpath "$0")")")
 

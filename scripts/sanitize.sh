@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# sanitize.sh: the whole test run under the address, undefined-behaviour and thread sanitizers. Takes
-# far longer than test.sh.
+# sanitize.sh: runs all tests under the address, undefined-behaviour and thread sanitizers. Takes much
+# longer than test.sh.
 set -euo pipefail
 cd "$(dirname "$(realpath "$0")")/.."
 

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# test.sh: sets up, builds for both systems and runs every test: natively, as Windows programs under
-# Wine, and those of the effect, with an audio thread beside a changing one, under ThreadSanitizer.
+# test.sh: sets up, builds for both systems and runs all tests, natively and as Windows programs under
+# Wine. The tests that change the effect from one thread while another plays run again under
+# ThreadSanitizer.
 set -euo pipefail
 cd "$(dirname "$(realpath "$0")")/.."
 
@@ -8,7 +9,7 @@ scripts/setup.sh test
 scripts/build.sh linux
 ctest --preset linux
 scripts/build.sh windows
-# Message boxes want a display.
+# The tests of message boxes need a display.
 xvfb-run -a ctest --preset windows
 scripts/build.sh tsan effect_tests
 ctest --preset tsan -R effect_tests

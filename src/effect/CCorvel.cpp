@@ -23,7 +23,7 @@ constexpr SPin outputPins[] = {{"Left output", "L out"}, {"Right output", "R out
 constexpr std::string_view abilities[] = {"plugAsChannelInsert", "plugAsSend", "2in2out",
                                           "receiveVstMidiEvent"};
 
-// A name ends inside its record, whatever a chunk or a host brought.
+// Copies at most what a record holds: names from chunks and hosts may lack a terminator.
 void copyName(char *to, const char *from) {
     const char *end = std::find(from, from + sizeof(SProgram::name) - 1, '\0');
     *std::copy(from, end, to) = '\0';
@@ -94,7 +94,8 @@ void CCorvel::processDoubleReplacing(double **inputs, double **outputs, int samp
     CVstEffect::processDoubleReplacing(inputs, outputs, sampleFrames);
 }
 
-// Not the host's accumulating entry, which ends in the base's empty operation: this one replaces.
+// Replaces the output in spite of its name. The host's accumulating entry never gets here; the base
+// class answers it and does nothing.
 void CCorvel::process(float **inputs, float **outputs, long sampleFrames) {
     readTempo();
     runStrip(&CDSPMultiFX::processReplacing, inputs, outputs, static_cast<int>(sampleFrames));
@@ -154,8 +155,8 @@ void CCorvel::loadProgram(int program) {
     applyProgram(m_programs[std::size_t(program)]);
 }
 
-// Beside the audio, without the lock: a block that runs meanwhile may meet some values and links of
-// the old program and some of the new one.
+// Takes no lock: a block that runs at the same time may use some values and links of the old
+// program and some of the new one.
 void CCorvel::applyProgram(const SProgram &program) {
     for (int id = 0; id < kParameterCount; ++id)
         setParameter(id, program.parameters[std::size_t(id)]);
@@ -196,7 +197,7 @@ int CCorvel::getChunk(void **data, bool isPreset) {
 int CCorvel::setChunk(void *data, int /*byteSize*/, bool isPreset) {
     SProgram &target = m_programs[isPreset ? std::size_t(curProgram) : 0];
     const std::size_t size = sizeof(SProgram) * (isPreset ? 1 : programCount);
-    std::memmove(&target, data, size);  // a host may hand back the effect's own records
+    std::memmove(&target, data, size);  // a host may pass the effect's own records back
     applyProgram(target);
     return static_cast<int>(size);
 }

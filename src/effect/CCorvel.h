@@ -12,16 +12,16 @@
 
 namespace Tessitor::Corvel {
 
-/// The effect that the host talks to: joins the channel strip, the parameters as the host sees them
-/// and the stored programs. All its state is made by the constructor, so that any call may come in
-/// any order; the host's sample rate and block size are recorded and reach nothing.
+/// The effect that the host talks to. It joins the channel strip, the parameters as the host sees
+/// them and the stored programs. The constructor sets up all state, so calls may come in any order.
+/// The host's sample rate and block size are recorded and never passed on.
 class CCorvel : public Vst::CVstEffect {
 public:
     explicit CCorvel(audioMasterCallback host);
     ~CCorvel() override;
 
-    /// Resets every module, in the chain or not, and asks the host whether the right input is
-    /// connected: without it the left input feeds both channels. [gui thread]
+    /// Resets every module, in the chain or not. Also asks the host whether the right input is
+    /// connected; if not, the left input feeds both channels. [gui thread]
     void resume() override;
 
     /// [audio thread] Reads the tempo and runs the strip under the lock.
@@ -29,7 +29,7 @@ public:
     void processDoubleReplacing(double **inputs, double **outputs, int sampleFrames) override;
     void process(float **inputs, float **outputs, long sampleFrames) override;
 
-    /// The one road by which a value reaches the strip. [any thread]
+    /// The only way for a value to reach the strip. [any thread]
     /// @param index  0 to 63, not checked.  @param value  normalised, not clamped.
     void setParameter(int index, float value) override;
     float getParameter(int index) override;
@@ -37,8 +37,8 @@ public:
     void getParameterDisplay(int index, char *text) override;
     void getParameterName(int index, char *text) override;
 
-    /// Keeps the present values in the present program's record, then changes to another one: its
-    /// values through setParameter, then its running order. No module is reset. [gui thread]
+    /// Saves the current values in the current program's record and changes to another program:
+    /// its values through setParameter, then its running order. No module is reset. [gui thread]
     void setProgram(int program) override;
     void setProgramName(char *name) override;
     void getProgramName(char *name) override;
@@ -47,14 +47,14 @@ public:
     /// @param data  set to the effect's own records, which stay valid as long as the effect.
     /// @return bytes: one record with isPreset, else all twenty. [gui thread]
     int getChunk(void **data, bool isPreset) override;
-    /// Takes one record into the present program, or all twenty. The bytes are trusted, whatever
-    /// byteSize says. A bank always sounds as its first program, whichever is the present one.
-    /// @return bytes taken. [gui thread]
+    /// Loads one record into the current program, or all twenty. The bytes are trusted; byteSize is
+    /// ignored. After a bank is loaded the first program sounds, whichever is current.
+    /// @return bytes read. [gui thread]
     int setChunk(void *data, int byteSize, bool isPreset) override;
 
     bool getInputProperties(int index, VstPinProperties *properties) override;
     bool getOutputProperties(int index, VstPinProperties *properties) override;
-    /// @return 1 for what the effect can do, -1 for anything else, never 0.
+    /// @return 1 if the effect can do `text`, otherwise -1; never 0.
     int canDo(char *text) override;
 
     /// Lives as long as the effect. The editor edits its running order.
@@ -75,8 +75,8 @@ private:
 
     std::array<Basics::CString, kParameterCount> m_parameterUnits;  // for the editor's labels
     std::unique_ptr<CDSPMultiFX> m_dsp;
-    std::array<TRelaxed<float>, kParameterCount>
-        m_parameterValues;  // normalised, as the host sees them
+    // Normalised, as the host sees them
+    std::array<TRelaxed<float>, kParameterCount> m_parameterValues;
     std::unique_ptr<SProgram[]> m_programs;
 };
 

@@ -2,9 +2,9 @@
 
 namespace Tessitor::Corvel {
 
-/// The class library's services for as long as this library is loaded: its application information
-/// and its class manager. One lives in the entry point, built by the first call and destroyed when
-/// the library is unloaded.
+/// Starts the class library's services, the application information and the class manager, and ends
+/// them when it is destroyed. The entry point holds the only one: its first call creates it, and
+/// unloading the plug-in destroys it.
 class CLibrarySession {
 public:
     CLibrarySession();

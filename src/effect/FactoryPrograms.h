@@ -4,7 +4,7 @@
 
 namespace Tessitor::Corvel {
 
-/// The programs that a new effect comes with, complete records.
+/// The programs of a new effect, as complete records.
 extern const std::array<SProgram, programCount> factoryPrograms;
 
 }  // namespace Tessitor::Corvel

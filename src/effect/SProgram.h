@@ -20,8 +20,8 @@ struct SChainLink {
     bool operator==(const SChainLink &) const = default;
 };
 
-/// A program as it is held and as hosts store it: a chunk is the bytes of one record or of all
-/// twenty, little-endian, without header or version.
+/// A program, in memory and in the host's sessions alike: a chunk is the bytes of one record or of
+/// all twenty, little-endian, without a header or a version.
 struct SProgram {
     std::array<float, kParameterCount> parameters;  // by EParameterId, normalised
     std::array<SChainLink, kSlotCount> order;       // by ESlot

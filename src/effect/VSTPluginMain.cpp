@@ -3,15 +3,15 @@
 #include "foundation/DisplayMessage.h"
 #include "hostlayer/VstInterface.h"
 
-/// What a host looks for; the linker exports it under its older name, main, as well.
+/// The function that a host looks for. The linker also exports it under its older name, main.
 /// @return null if the host has no version, or, with a message, if the effect cannot be built.
 ///
 /// The host is asked for its version and nothing else before there is an effect to name: some hosts
 /// end when they are asked for more without one.
 extern "C" AEffect *VSTPluginMain(audioMasterCallback host) {
     try {
-        // Built here and not by the loader's notification: every class record stands by now, and
-        // nothing is started under the loader's lock. Once per load, undone at unload.
+        // Not started when the library is attached: by now all class records exist, and nothing
+        // runs under the loader's lock. Happens once per load and is undone at unload.
         static const Tessitor::Corvel::CLibrarySession session;
 
         if (host(nullptr, audioMasterVersion, 0, 0, nullptr, 0.0f) == 0)

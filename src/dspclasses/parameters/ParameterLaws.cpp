@@ -15,7 +15,7 @@ float raw(float v) {
 float gain(float v) {
     if (v > 0.5f)
         return (v - 0.5f) * 12.0f;
-    // Kept: measured from 0.2 while the branch runs to 0.25, where the gain falls back by 5 dB.
+    // Kept: this part is centred on 0.2 but used up to 0.25, so the gain drops by 5 dB there.
     if (v < 0.25f)
         return (0.2f - v) * -180.0f - 24.0f;
     return (0.5f - v) * -80.0f;

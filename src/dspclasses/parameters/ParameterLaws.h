@@ -1,12 +1,13 @@
 #pragma once
 
-/// The laws that lead from the host's normalised value, 0 to 1, to a module's own unit. All in
-/// single precision, none clamped: a value outside follows the formula. [any thread]
+/// The laws that turn the host's normalised value, 0 to 1, into a module's own unit. All are
+/// computed in single precision and none is clamped: a value outside the range follows the formula.
+/// [any thread]
 namespace ParameterLaws {
 
 float raw(float v);  ///< v itself
 
-/// dB: -60 to -15 below 0.25, there down to -20, on to 0 at 0.5 and +6 at 1.
+/// dB: rises from -60 at 0 to -15 at 0.25, drops there to -20, rises to 0 at 0.5 and +6 at 1.
 float gain(float v);
 float plusMinus12(float v);  ///< dB
 float threshold(float v);    ///< -60 to 0 dB

@@ -7,9 +7,9 @@
 
 namespace ParameterTexts {
 
-/// Not printf, which follows the locale that the host has set.
+/// Unlike printf this ignores the locale that the host has set.
 static std::string fixed(double value, int decimals) {
-    char digits[400];  // enough for the greatest double
+    char digits[400];  // enough for the largest double
     const auto [end, error] = std::to_chars(std::begin(digits), std::end(digits), value,
                                             std::chars_format::fixed, decimals);
     return std::string(digits, end);

@@ -2,7 +2,7 @@
 
 #include <string>
 
-/// The display texts of the parameters, from the value g that a module's getParameter gives. They
+/// The display texts of the parameters, from the value g that a module's getParameter returns. They
 /// are the same on every system and in every locale. [any thread]
 namespace ParameterTexts {
 
@@ -10,8 +10,8 @@ std::string none(float g);  ///< always empty
 
 std::string whole(float g);  ///< no decimals
 std::string twoDecimals(float g);
-std::string decibels(float g);  ///< of a value in dB; "-oo" from -60 down
-std::string level(float g);     ///< of a linear value, in dB; "-oo" from 0.001 down
+std::string decibels(float g);  ///< g in dB; "-oo" at -60 and below
+std::string level(float g);     ///< g as a linear factor, shown in dB; "-oo" at 0.001 and below
 std::string percent(float g);
 std::string deEsserSpeed(float g);  ///< 100 for 0, 0 for 1
 std::string ratio(float g);         ///< "4.0:1"

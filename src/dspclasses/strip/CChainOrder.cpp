@@ -1,8 +1,8 @@
 #include "dspclasses/strip/CChainOrder.h"
 
-// The order of the writes matters where a slot is its own neighbour, which the stale links of
-// replace can bring about. Where a slot is linked, its way out is written before the way in, and
-// again with the pair: a run beside the edit should find its way through the new slot.
+// The order of the writes matters in two cases. The stale links that replace leaves can make a slot
+// its own neighbour. And a run at the same time should find its way through a new slot, so its
+// `next` is written before the link that leads to it, and once more with the pair.
 
 void CChainOrder::initialise() {
     order.fill({});
@@ -48,8 +48,8 @@ void CChainOrder::link(int prev, int slot, int next) {
     fxCount = fxCount + 1;
 }
 
-// Kept: the successor's prev goes on naming the target, the target keeps its next, and nothing is
-// counted. The run is right at once; a later unlink of the successor goes astray.
+// Kept: the successor's prev still names the target, the target keeps its next, and the count
+// stays. The audio runs correctly at once, but removing the successor later unlinks the wrong slot.
 void CChainOrder::replace(int target, int slot) {
     entry(slot).next = entry(target).next;
     entry(entry(target).prev).next = slot;

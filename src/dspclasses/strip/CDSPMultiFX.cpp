@@ -54,7 +54,7 @@ CDSPMultiFX::CDSPMultiFX(Modules slots) : modules(std::move(slots)) {
 }
 
 CDSPMultiFX::~CDSPMultiFX() {
-    // An array would destroy its last element first.
+    // In slot order: an array would destroy its last element first.
     for (auto &module : modules)
         module.reset();
 }
@@ -72,6 +72,8 @@ static void process(CDSPBase &module, double **in, double **out, int frames) {
 void CDSPMultiFX::processReplacing(float **in, float **out, int frames) {
     floatBuffers.grow(frames);
     const float *dry = floatBuffers.DryBuf[0];
+    // Kept: the report's text and line numbers are fixed. 0xcdcdcdcd is how a debug heap marks
+    // memory that nobody has written yet.
     assertAlways(reinterpret_cast<std::uintptr_t>(dry) != 0xcdcdcdcd,
                  "DryBuf[0]!=(float *)0xcdcdcdcd", "DSPMultiFX", 502);
     assertAlways(dry != nullptr, "DryBuf[0]!=(float *)0", "DSPMultiFX", 503);
@@ -136,7 +138,7 @@ void CDSPMultiFX::setMonoInput(bool isMono) {
     monoInput = isMono;
 }
 
-/// Into a caller's buffer, which is trusted to have room.
+/// Copies a text into the caller's buffer, which must be long enough.
 static void copyText(std::string_view from, char *to) {
     to[from.copy(to, from.size())] = '\0';
 }

@@ -4,17 +4,17 @@
 #include <memory>
 #include <new>
 
-/// The two pairs of channels between which a strip run goes back and forth. They only grow, and
-/// hold nothing from one block to the next.
+/// Two pairs of channels. Each stage of the strip reads one pair and writes the other. They only
+/// grow, and hold nothing from one block to the next.
 template <typename Sample>
 class TStripBuffers {
 public:
     Sample *DryBuf[2] = {nullptr, nullptr};
     Sample *WetBuf[2] = {nullptr, nullptr};
 
-    /// Allocates if `frames` is more than ever before, and silences: a routing outside its modes
-    /// writes nothing, and the next stage reads what stands here.
-    /// @throw std::bad_alloc, all staying as it was.
+    /// Makes room for `frames`. New buffers hold zeros, since a routing with an invalid mode writes
+    /// no output, and the next stage then reads the buffer as it is.
+    /// @throw std::bad_alloc; the buffers are then unchanged.
     void grow(int frames) {
         if (capacity >= frames)
             return;
@@ -34,8 +34,8 @@ private:
         void operator()(Sample *samples) const { ::operator delete[](samples, lineAlignment); }
     };
 
-    /// The channels begin at a cache line each, and at different places of a page: at the same
-    /// one they would drive each other out of the cache.
+    /// Each channel starts on a cache line, and at a different offset within its page: channels at
+    /// the same offset would evict each other from the cache.
     static constexpr std::size_t strideFor(std::size_t frames) {
         constexpr std::size_t page = 4096 / sizeof(Sample),
                               shift = (1024 + lineBytes) / sizeof(Sample);
