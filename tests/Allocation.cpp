@@ -27,8 +27,8 @@ static bool isToFail() {
     return true;
 }
 
-// Room to align by hand: the systems differ in what their malloc offers. The block that was really
-// allocated is remembered just before the aligned one.
+// Aligned by hand, since the systems differ in what their malloc offers. The address of the whole
+// block is stored just before the aligned part.
 static void *allocate(std::size_t size, std::size_t alignment) {
     ++allocations;
     if (isToFail())
@@ -55,8 +55,8 @@ static void release(void *result) {
         std::free(static_cast<void **>(result)[-1]);
 }
 
-// All forms that the program uses stand here: a sanitizer has its own of each, which would not lead
-// to the others.
+// Every form that the program uses must be replaced: the sanitizers define each form separately, so
+// one form would not call another.
 void *operator new(std::size_t size) {
     return allocate(size, __STDCPP_DEFAULT_NEW_ALIGNMENT__);
 }

@@ -7,11 +7,11 @@
 /// @return how often this thread has called operator new, in any of its forms.
 std::uint64_t allocationsOfThisThread();
 
-/// Makes allocations of this thread fail while it lives.
+/// During its lifetime, makes allocations of this thread fail.
 class CFailingAllocation {
 public:
-    /// @param index     of the first allocation that throws std::bad_alloc, 0 for the next one.
-    /// @param failures  how many fail from there on.
+    /// @param index     which allocation is the first to throw std::bad_alloc; 0 is the next one.
+    /// @param failures  how many fail from then on.
     explicit CFailingAllocation(std::int64_t index, std::int64_t failures = 1);
     ~CFailingAllocation();
     CFailingAllocation(const CFailingAllocation &) = delete;

@@ -4,7 +4,7 @@
 #include <random>
 #include <string>
 
-/// An empty folder of the test's own, gone with all that is in it when the test ends.
+/// An empty folder for one test, removed with its contents when the test ends.
 class CTemporaryFolder {
 public:
     CTemporaryFolder() {
@@ -17,7 +17,7 @@ public:
     CTemporaryFolder(const CTemporaryFolder &) = delete;
     CTemporaryFolder &operator=(const CTemporaryFolder &) = delete;
     ~CTemporaryFolder() {
-        std::error_code ignored;  // what is left behind lies in the system's own temporary folder
+        std::error_code ignored;  // anything left over is in the system's temporary folder
         std::filesystem::remove_all(m_path, ignored);
     }
 

@@ -5,10 +5,10 @@
 #include <functional>
 
 static constexpr int longestBlock = 4096;
-static constexpr int inputFrames = 2 * longestBlock;  // no more, to stay in the caches
+static constexpr int inputFrames = 2 * longestBlock;  // small enough to stay in the caches
 
-/// The same memory for all, laid out so that no channel slows another down: how far apart two
-/// streams lie, modulo a page, can cost more than a kernel does.
+/// All measurements use the same memory, laid out so that no channel slows another down: the
+/// distance of two streams modulo a page can cost more time than a kernel.
 template <typename Sample>
 struct SBuffers {
     alignas(64) Sample inL[inputFrames + 256];
@@ -23,7 +23,7 @@ struct SBuffers {
     }
 };
 
-/// One block after the other. Counts frames.
+/// Processes one block after the other. Counts frames.
 template <typename Sample>
 static void measure(benchmark::State &state, const SSubject::Make &make) {
     static SBuffers<Sample> buffers;
@@ -40,7 +40,7 @@ static void measure(benchmark::State &state, const SSubject::Make &make) {
     state.SetItemsProcessed(state.iterations() * block);
 }
 
-/// One operation that waits for the one before it, again and again: the measure of a recursion.
+/// Repeats an operation that waits for its previous result, which is what limits a recursion.
 /// Counts operations.
 template <typename Operation>
 static void measureChain(benchmark::State &state) {

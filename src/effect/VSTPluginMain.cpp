@@ -4,10 +4,10 @@
 #include "hostlayer/VstInterface.h"
 
 /// The function that a host looks for. The linker also exports it under its older name, main.
-/// @return null if the host has no version, or, with a message, if the effect cannot be built.
+/// @return null if the host has no version, or if the effect cannot be built (after a message).
 ///
-/// The host is asked for its version and nothing else before there is an effect to name: some hosts
-/// end when they are asked for more without one.
+/// Asks the host only for its version: Audacity 3.2.4 crashes on any other request before it knows
+/// the effect.
 extern "C" AEffect *VSTPluginMain(audioMasterCallback host) {
     try {
         // Not started when the library is attached: by now all class records exist, and nothing

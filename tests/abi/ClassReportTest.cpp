@@ -14,12 +14,12 @@
 
 namespace {
 
-/// The effect in a library that also gives its class report, once each time that it is loaded.
+/// The effect in a library that can also write its class report, once per load.
 class CReportingFile : public CPluginFile {
 public:
     CReportingFile() : CPluginFile(CORVEL_REPORTING_FILE, "openEffect") {}
 
-    /// Ends the class library. @return the instances of every class that still has some.
+    /// Ends the class library. @return the instance counts of all classes that still have any.
     std::map<std::string, std::uint32_t> report() const {
         const CTemporaryFolder folder;
         const std::string path = (folder / "report.txt").string();
@@ -36,7 +36,8 @@ public:
             std::getline(columns, edge, '|');
             std::getline(columns, name, '|');
             std::getline(columns, count, '|');
-            // Only a class has both: a rule has no columns, a heading no number, the sums no name.
+            // Only rows of classes have both: rules have no columns, headings no number, sums no
+            // name.
             const std::size_t begin = name.find_first_not_of(' ');
             if (begin != std::string::npos && std::isdigit(count.back()) != 0)
                 instances[name.substr(begin, name.size() - begin - 1)] =
@@ -46,7 +47,7 @@ public:
     }
 };
 
-/// All that a host may ask of an effect short of closing it.
+/// Everything that a host may ask of an effect, except closing it.
 void use(const CLoadedEffect &effect) {
     effect.send(effSetSampleRate, 0, 0, nullptr, 96000.0f);
     effect.send(effSetBlockSize, 0, 500);
@@ -75,23 +76,23 @@ void use(const CLoadedEffect &effect) {
 class ClassReport : public testing::Test {
 protected:
     FakeHost host;
-    /// What stands in a report by itself: the stream that writes it, the manager that lists.
+    /// The objects that every report lists: the stream that writes it and the class manager.
     const std::map<std::string, std::uint32_t> withoutAnEffect = CReportingFile().report();
 };
 
-TEST_F(ClassReport, ListsItsOwnStreamWithoutAnEffect) {
+TEST_F(ClassReport, ListsItsOwnStreamWhenThereIsNoEffect) {
     EXPECT_EQ(withoutAnEffect.at("CTextStream"), 1u);
     EXPECT_EQ(withoutAnEffect.count("CCorvel"), 0u);
 }
 
-TEST_F(ClassReport, ListsOnlyStaticDeletersAfterEffectsThatWereUsedAndClosed) {
+TEST_F(ClassReport, ListsOnlyStaticDeletersAfterEffectsWereUsedAndClosed) {
     const CReportingFile file;
     {
         const CLoadedEffect first(file, FakeHost::callback), second(file, FakeHost::callback);
         use(first);
         use(second);
     }
-    // The deleters of the collections of notes are static: made for the first, there for all.
+    // The deleters of the MIDI collections are static and shared by all effects.
     auto expected = withoutAnEffect;
     for (const char *deleter : {"TObjectDeleter<CLong>", "TPointerDeleter<CLong>",
                                 "TObjectDeleter<CLong>>", "TPointerDeleter<CLong>>"})

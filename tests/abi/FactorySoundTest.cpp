@@ -42,11 +42,11 @@ protected:
 
 }  // namespace
 
-TEST_P(FactorySound, IsThePlainReadingsInFloat) {
+TEST_P(FactorySound, EqualsThePlainVersionInFloat) {
     expectThePlainSound<float>();
 }
 
-TEST_P(FactorySound, IsThePlainReadingsInDouble) {
+TEST_P(FactorySound, EqualsThePlainVersionInDouble) {
     expectThePlainSound<double>();
 }
 

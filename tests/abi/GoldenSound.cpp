@@ -9,8 +9,8 @@
 
 namespace {
 
-// Syllables of noise with pauses. Nothing here asks a mathematical library, whose last bits are not
-// the same on every system.
+// Syllables of noise with pauses, made without a mathematical library: those differ between systems
+// in their last bits.
 TStereo<float> makeSyllables() {
     constexpr int syllables = 24, longest = 6000;
     CRandom random(2026);

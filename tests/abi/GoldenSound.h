@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-/// What every factory program makes of one generated signal, as the built plug-in plays it in
-/// single precision: peak and RMS level, and a hash of every bit.
+/// Plays a generated signal through every factory program of the built plug-in, in single
+/// precision: peak level, RMS level and a hash of all bits.
 /// @return one line of text per program.
 std::vector<std::string> goldenSound();

@@ -4,7 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-TEST(GoldenSound, OfEveryProgramIsWhatItWas) {
+TEST(GoldenSound, OfEveryProgramIsUnchanged) {
     std::ifstream file(CORVEL_GOLDEN_FILE);
     std::vector<std::string> expected;
     for (std::string line; std::getline(file, line);) {

@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 #include <thread>
 
-// The orders in which real hosts were seen to call: every one must end in the same state and sound.
+// Call sequences observed in real hosts. All must lead to the same state and the same sound.
 
 namespace {
 
@@ -17,7 +17,7 @@ protected:
 
     CLoadedEffect load() { return {file, FakeHost::callback}; }
 
-    // A state to be saved: another program, two edits.
+    // The state to be saved: another program and two edits.
     struct SState {
         std::vector<char> bank, preset;
         std::vector<float> parameters;
@@ -70,7 +70,7 @@ TEST_F(HostSequences, ParametersThenMainsThenProgramThenBank) {
     expectState(effect, state);
 }
 
-TEST_F(HostSequences, BankThenEveryParameterInNoOrder) {
+TEST_F(HostSequences, BankThenEveryParameterInShuffledOrder) {
     const SState state = edited();
     const CLoadedEffect effect = load();
     effect.send(effGetPlugCategory);
@@ -88,7 +88,7 @@ TEST_F(HostSequences, BankThenEveryParameterInNoOrder) {
     expectState(effect, state);
 }
 
-TEST_F(HostSequences, BankAfterTheProcessWasStartedAndParametersOnTheAudioThread) {
+TEST_F(HostSequences, BankAfterProcessingStartedThenParametersOnTheAudioThread) {
     const SState state = edited();
     const CLoadedEffect effect = load();
     start(effect);
@@ -109,7 +109,7 @@ TEST_F(HostSequences, BankAfterTheProcessWasStartedAndParametersOnTheAudioThread
     EXPECT_EQ(result, state.sound);
 }
 
-TEST_F(HostSequences, OneProgramsChunkBetweenBeginAndEnd) {
+TEST_F(HostSequences, ProgramChunkBetweenBeginAndEnd) {
     const SState state = edited();
     const CLoadedEffect effect = load();
     effect.send(effIdentify);
@@ -141,7 +141,7 @@ TEST_F(HostSequences, ClosesAfterAHandfulOfCalls) {
     effect.send(effMainsChanged, 0, 0);
 }
 
-TEST_F(HostSequences, AnswersThatAnyParameterCanBeAutomatedHoweverItIsAsked) {
+TEST_F(HostSequences, SaysThatEveryParameterCanBeAutomated) {
     const CLoadedEffect effect = load();
     EXPECT_EQ(effect.send(effCanBeAutomated, kUnused63), 1);
     EXPECT_EQ(effect.send(effCanBeAutomated, kInGain, kUnused63), 1);
@@ -176,7 +176,7 @@ TEST_F(HostSequences, MonoTrackFeedsBothChannels) {
     EXPECT_EQ(result.channels[1], voice.channels[0]);
 }
 
-TEST_F(HostSequences, EmptyProgramGivesTheInputBackBitForBit) {
+TEST_F(HostSequences, EmptyProgramPassesTheInputBitForBit) {
     const CLoadedEffect effect = load();
     start(effect);
     effect.send(effSetProgram, 0, 19);

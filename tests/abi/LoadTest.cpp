@@ -13,14 +13,14 @@ TEST(PluginFile, HasOneEntryUnderTwoNames) {
     EXPECT_EQ(file.symbol("VSTPluginMain"), file.symbol("main"));
 }
 
-TEST(PluginFile, GivesNoEffectToAHostWithoutAVersion) {
+TEST(PluginFile, ReturnsNoEffectToAHostWithoutAVersion) {
     FakeHost host;
     host.answers[audioMasterVersion] = 0;
     const CPluginFile file;
     EXPECT_EQ(file.entry()(FakeHost::callback), nullptr);
 }
 
-TEST(PluginFile, GivesAnEffectToHostsOfOldVersions) {
+TEST(PluginFile, ReturnsAnEffectToHostsOfOldVersions) {
     FakeHost host;
     const CPluginFile file;
     for (int version : {1, 2, 2300, 2400}) {
@@ -30,7 +30,7 @@ TEST(PluginFile, GivesAnEffectToHostsOfOldVersions) {
     }
 }
 
-TEST(PluginFile, AsksForTheVersionAloneBeforeThereIsAnEffect) {
+TEST(PluginFile, AsksOnlyForTheVersionBeforeThereIsAnEffect) {
     FakeHost host;
     const CPluginFile file;
     const CLoadedEffect effect(file, FakeHost::callback);
@@ -39,7 +39,7 @@ TEST(PluginFile, AsksForTheVersionAloneBeforeThereIsAnEffect) {
     EXPECT_EQ(host.calls(audioMasterVersion).size(), 1u);
 }
 
-TEST(PluginFile, MayBeLoadedAndUnloadedAgainAndAgain) {
+TEST(PluginFile, MayBeLoadedAndUnloadedRepeatedly) {
     FakeHost host;
     for (int i = 0; i < 5; ++i) {
         const CPluginFile file;
@@ -78,7 +78,7 @@ TEST(LoadedEffect, FillsItsRecord) {
         EXPECT_EQ(byte, 0);
 }
 
-TEST(LoadedEffect, GivesEveryLiveParameterANameOfItsOwn) {
+TEST(LoadedEffect, HasADifferentNameForEachParameterInUse) {
     FakeHost host;
     const CPluginFile file;
     const CLoadedEffect effect(file, FakeHost::callback);
@@ -91,7 +91,7 @@ TEST(LoadedEffect, GivesEveryLiveParameterANameOfItsOwn) {
     EXPECT_EQ(effect.text(effGetParamName, 63), "");
 }
 
-TEST(LoadedEffect, ListsItsProgramsByOldAndNewHosts) {
+TEST(LoadedEffect, ListsItsProgramsForOldAndNewHosts) {
     FakeHost host;
     const CPluginFile file;
     const CLoadedEffect effect(file, FakeHost::callback);
@@ -108,7 +108,7 @@ TEST(LoadedEffect, ListsItsProgramsByOldAndNewHosts) {
     EXPECT_EQ(effect.send(effGetProgram), 3);
 }
 
-TEST(LoadedEffect, AnswersOpcodesThatItDoesNotKnowWithZero) {
+TEST(LoadedEffect, AnswersUnknownOpcodesWithZero) {
     FakeHost host;
     const CPluginFile file;
     const CLoadedEffect effect(file, FakeHost::callback);
@@ -126,7 +126,7 @@ TEST(LoadedEffect, HasNoEditor) {
     EXPECT_EQ(rect, nullptr);
 }
 
-TEST(LoadedEffect, FillsPinsNoFurtherThanTheShortestHostsRecord) {
+TEST(LoadedEffect, WritesNoMoreThanTheShortestPinRecordOfAnyHost) {
     FakeHost host;
     const CPluginFile file;
     const CLoadedEffect effect(file, FakeHost::callback);

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-/// A file with an effect in it, by default the built plug-in, loaded as a host loads it.
+/// A plug-in file, by default the built one, loaded as a host loads it.
 class CPluginFile {
 public:
     using Entry = AEffect *(*)(audioMasterCallback);
@@ -34,7 +34,7 @@ private:
     void *m_library;
 };
 
-/// An effect reached through its record alone.
+/// An effect, used only through its AEffect record.
 class CLoadedEffect {
 public:
     CLoadedEffect(const CPluginFile &file, audioMasterCallback host)

@@ -4,12 +4,12 @@
 
 extern "C" AEffect *VSTPluginMain(audioMasterCallback host);
 
-/// The effect's own entry point, in a library that can also be asked for its class report.
+/// The effect's entry point, in a library that can also write its class report.
 extern "C" [[gnu::visibility("default")]] AEffect *openEffect(audioMasterCallback host) {
     return VSTPluginMain(host);
 }
 
-/// What unloading does, but with a report.
+/// Does what unloading does, and writes a report.
 extern "C" [[gnu::visibility("default")]] void endWithReport(const char *path) {
     Tessitor::Basics::CApplicationInformation::destroyApplicationInformation();
     Tessitor::Basics::CClass::destroyClassManager(path);

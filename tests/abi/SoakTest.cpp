@@ -8,8 +8,8 @@
 #include <numeric>
 #include <span>
 
-// Any calls in any order: the effect and its plain reading stay equal to the bit, and no call costs
-// memory for good.
+// Random calls in random order: the effect and its plain version stay equal to the bit, and no call
+// leaks memory.
 
 namespace {
 
@@ -54,7 +54,7 @@ public:
     }
 
 private:
-    // At once, so that no later tempo costs memory: synchronised, the slowest is the longest.
+    // First of all, so that no later tempo needs more memory: the slowest gives the longest delay.
     void lengthenDelay() {
         setParameter(kDlySync, 1.0f);
         host.time = VstTimeInfo{};
@@ -109,7 +109,7 @@ private:
         host.time->flags = random.chance(0.8) ? kVstTempoValid : 0;
     }
 
-    // What the effect makes of the host's answer; none while the host keeps no time.
+    // The tempo that the effect reads from the host's answer; none if the host provides no time.
     std::optional<double> tempo() const {
         if (!host.time)
             return std::nullopt;
@@ -138,7 +138,7 @@ private:
         ASSERT_TRUE(result == expected) << frames << " frames";
     }
 
-    // With a mono output the right one is null and comes back as it went in.
+    // With a mono output the right buffer is null, so its samples stay as they were.
     template <typename Effect, typename Sample>
     static TStereo<Sample> run(Effect &to, TStereo<Sample> input, bool isMonoOut, bool inPlace) {
         TStereo<Sample> output = inPlace ? input : TStereo<Sample>(input.frames());
@@ -153,7 +153,7 @@ private:
 
     using SProgram = CPlainEffect::SProgram;
 
-    // Any value, the ends and the middle more often than chance would have them.
+    // Any value; the ends and the middle come up more often than by chance.
     float anyValue() {
         if (random.chance(0.2))
             return static_cast<float>(random.whole(0, 2)) * 0.5f;
@@ -197,7 +197,7 @@ private:
     bool isRightConnected = true;
 };
 
-// The long run is a script's, which says how long.
+// scripts/soak.sh sets the length of the long run.
 int setting(const char *variable, int usual) {
     const char *text = std::getenv(variable);
     return text != nullptr ? std::stoi(text) : usual;
@@ -205,12 +205,12 @@ int setting(const char *variable, int usual) {
 
 }  // namespace
 
-TEST(Soak, StaysEqualToThePlainReadingAndKeepsNoMemoryThroughAnyCalls) {
+TEST(Soak, EqualsThePlainVersionAndLeaksNothingThroughRandomCalls) {
     const int calls = setting("CORVEL_SOAK_CALLS", 10000), seed = setting("CORVEL_SOAK_SEED", 1);
     CSoak soak(static_cast<std::uint64_t>(seed));
     std::size_t halfway = 0;
     for (int call = 0; call < calls; ++call) {
-        // The first half sees the longest blocks and the longest lines, which stay allocated.
+        // By halfway the longest blocks and delays have occurred; their buffers stay allocated.
         if (call == calls / 2)
             halfway = heapInUse();
         soak.step();

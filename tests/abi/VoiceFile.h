@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-/// @return the samples of a mono WAV file of 16 bits, from -1 up to 1.
+/// @return the samples of a 16-bit mono WAV file, scaled to -1 to 1.
 inline std::vector<double> readVoice(const std::string &path) {
     std::ifstream file(path, std::ios::binary);
     const std::vector<char> bytes{std::istreambuf_iterator<char>(file), {}};
@@ -34,7 +34,7 @@ inline std::vector<double> readVoice(const std::string &path) {
     throw std::runtime_error(path + ": no recorded voice");
 }
 
-/// The voice left, and a little later, softer and upside down right.
+/// The voice on the left; on the right it is delayed a little, softer and inverted.
 template <typename Sample>
 TStereo<Sample> voiceInStereo(const std::vector<double> &voice) {
     constexpr std::size_t lag = 400;

@@ -30,8 +30,9 @@ TYPED_TEST_SUITE(CCorvelAllocation, Precisions);
 
 }  // namespace
 
-// A de-esser sees a block only when it stands in the chain, so the longest comes once per program.
-TYPED_TEST(CCorvelAllocation, HappensInNoBlockOnceTheLongestWasSeen) {
+// A de-esser sees blocks only while it is in the chain, so each program plays the longest block
+// once.
+TYPED_TEST(CCorvelAllocation, DoesNotHappenOnceTheLongestBlockWasSeen) {
     for (int program = 0; program < 20; ++program) {
         this->effect.setProgram(program);
         this->runBlock(longest);
@@ -48,8 +49,8 @@ TYPED_TEST(CCorvelAllocation, HappensForALongerBlock) {
     EXPECT_GT(allocationsOfThisThread(), before);
 }
 
-// Some hosts set and read parameters on the audio thread.
-TYPED_TEST(CCorvelAllocation, HappensForNoParameterButTheReverbsSpread) {
+// MusE 4.1 sets and reads parameters on the audio thread.
+TYPED_TEST(CCorvelAllocation, HappensForNoParameterExceptTheReverbsSpread) {
     CRandom random(2);
     for (int id = 0; id < 64; ++id) {
         if (id == kRvSpread)
@@ -62,7 +63,7 @@ TYPED_TEST(CCorvelAllocation, HappensForNoParameterButTheReverbsSpread) {
     }
 }
 
-TYPED_TEST(CCorvelAllocation, HappensForNoEventsOfTheHost) {
+TYPED_TEST(CCorvelAllocation, DoesNotHappenForTheHostsEvents) {
     VstMidiEvent note{};
     note.type = kVstMidiType;
     VstEvents events{};

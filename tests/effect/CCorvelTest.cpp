@@ -66,7 +66,7 @@ TEST_F(CCorvelTest, StartsOnLeadVocalWithAllItsValues) {
         EXPECT_EQ(effect.getParameter(id), lead.parameters[std::size_t(id)]) << id;
 }
 
-TEST_F(CCorvelTest, GivesNameDisplayAndUnitOfAParameter) {
+TEST_F(CCorvelTest, ReturnsNameDisplayAndUnitOfAParameter) {
     EXPECT_EQ(textOf(&CCorvel::getParameterName, 20), "CmpThresh");
     EXPECT_EQ(textOf(&CCorvel::getParameterLabel, 20), "dB");
     effect.setParameter(kCmpThresh, 0.5f);
@@ -80,7 +80,7 @@ TEST_F(CCorvelTest, LeavesANullTextAlone) {
     effect.getParameterLabel(0, nullptr);
 }
 
-TEST_F(CCorvelTest, KeepsAndReportsTheUnusedParametersWithoutASound) {
+TEST_F(CCorvelTest, StoresTheUnusedParametersWithoutChangingTheSound) {
     CCorvel untouched(FakeHost::callback);
     effect.setParameter(kUnused62, 0.25f);
     effect.setParameter(kUnused63, 1.0f);
@@ -90,7 +90,7 @@ TEST_F(CCorvelTest, KeepsAndReportsTheUnusedParametersWithoutASound) {
     EXPECT_EQ(render(effect, voice, 512), render(untouched, voice, 512));
 }
 
-TEST_F(CCorvelTest, CanDoFourThingsAndDeniesAllElse) {
+TEST_F(CCorvelTest, CanDoFourThingsAndNothingElse) {
     for (const char *word : {"plugAsChannelInsert", "plugAsSend", "2in2out", "receiveVstMidiEvent"})
         EXPECT_EQ(effect.canDo(const_cast<char *>(word)), 1) << word;
     for (const char *word :
@@ -125,7 +125,7 @@ TEST_F(CCorvelTest, LeavesTheRecordOfAnUnknownPinAlone) {
     }
 }
 
-TEST_F(CCorvelTest, TakesTheLeftInputForBothWithoutARightOne) {
+TEST_F(CCorvelTest, FeedsBothChannelsFromTheLeftIfTheRightIsNotConnected) {
     host.unconnectedInputs = {1};
     effect.setProgram(emptyProgram);
     effect.resume();
@@ -161,7 +161,7 @@ TEST_F(CCorvelTest, IsStereoBeforeMainsAreEverSwitchedOn) {
     EXPECT_EQ(render(fresh, voice, 64), voice);
 }
 
-TEST_F(CCorvelTest, ForgetsWhatItHasHeardWhenMainsGoOn) {
+TEST_F(CCorvelTest, ClearsItsStateWhenMainsAreSwitchedOn) {
     effect.getStrip().appendFX(kDelaySlot);
     effect.resume();
     const TStereo<float> voice = makeSignal<float>(ESignal::Bursts, 12, 2000);
@@ -171,12 +171,12 @@ TEST_F(CCorvelTest, ForgetsWhatItHasHeardWhenMainsGoOn) {
     EXPECT_EQ(render(effect, voice, 500), first);
 }
 
-TEST_F(CCorvelTest, DoesNotAskForEventsWhenMainsGoOn) {
+TEST_F(CCorvelTest, DoesNotAskForEventsWhenMainsAreSwitchedOn) {
     effect.resume();
     EXPECT_TRUE(host.calls(audioMasterWantMidi).empty());
 }
 
-TEST_F(CCorvelTest, HandsTheHostsTempoToTheStrip) {
+TEST_F(CCorvelTest, PassesTheHostsTempoToTheStrip) {
     tellTempo(90.0, kVstTempoValid);
     render(effect, TStereo<float>(16), 16);
     EXPECT_EQ(effect.getStrip().getTempo(), 90.0f);
@@ -193,13 +193,13 @@ TEST_F(CCorvelTest, KeepsTheLastTempoWhenTheHostHasNoTime) {
     EXPECT_EQ(effect.getStrip().getTempo(), 90.0f);
 }
 
-TEST_F(CCorvelTest, TakesATempoOfZeroFromAHostThatHasNone) {
+TEST_F(CCorvelTest, UsesATempoOfZeroFromAHostWithoutATempo) {
     tellTempo(90.0, 0);
     render(effect, TStereo<float>(16), 16);
     EXPECT_EQ(effect.getStrip().getTempo(), 0.0f);
 }
 
-TEST_F(CCorvelTest, AsksTheHostForTheTempoAlone) {
+TEST_F(CCorvelTest, AsksTheHostOnlyForTheTempo) {
     host.forgetCalls();
     render(effect, TStereo<float>(16), 16);
     ASSERT_EQ(host.calls(audioMasterGetTime).size(), 1u);
@@ -214,7 +214,7 @@ TEST_F(CCorvelTest, SoundsTheSameAtEveryHostRateAndBlockSize) {
     EXPECT_EQ(render(effect, voice, 1000), render(other, voice, 1000));
 }
 
-TEST_F(CCorvelTest, ReplacesInItsOwnProcessOperation) {
+TEST_F(CCorvelTest, ReplacesTheOutputInItsProcessOperation) {
     effect.setProgram(emptyProgram);
     TStereo<float> voice = makeSignal<float>(ESignal::Noise, 7, 32);
     TStereo<float> result(32, 9.0f);
@@ -259,7 +259,7 @@ public:
 
 }  // namespace
 
-TEST_F(CCorvelTest, DropsMidiAtTheEndOfTheBlockWithoutASound) {
+TEST_F(CCorvelTest, DiscardsMidiAtTheEndOfTheBlock) {
     VstMidiEvent note{};
     note.type = kVstMidiType;
     note.byteSize = sizeof(VstMidiEvent);

@@ -14,7 +14,7 @@ using Tessitor::Corvel::SProgram;
 
 namespace {
 
-// What a host's or an editor's thread does while the audio runs, one step at a time.
+/// Does one thing that the thread of a host or an editor may do while the audio runs.
 void changeSomething(CCorvel &effect, CRandom &random, const SProgram &full) {
     CDSPMultiFX &strip = effect.getStrip();
     char text[64];
@@ -79,8 +79,8 @@ void processBesideChanges(CCorvel &effect) {
 
 }  // namespace
 
-// Under ThreadSanitizer this proves that the two threads share no plain field.
-TEST(CCorvelThreads, MayChangeEverythingBesideTheAudio) {
+// Under ThreadSanitizer this proves that the two instances share no plain field.
+TEST(CCorvelThreads, MayChangeEverythingWhileTheAudioRuns) {
     FakeHost host;
     host.logging = false;
     CCorvel effect(FakeHost::callback);
@@ -88,7 +88,7 @@ TEST(CCorvelThreads, MayChangeEverythingBesideTheAudio) {
     processBesideChanges<double>(effect);
 }
 
-TEST(CCorvelThreads, AreFreeToRunTwoInstancesSideBySide) {
+TEST(CCorvelThreads, MayRunTwoInstancesAtTheSameTime) {
     FakeHost host;
     host.logging = false;
     CCorvel first(FakeHost::callback), second(FakeHost::callback);

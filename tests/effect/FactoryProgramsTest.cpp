@@ -26,7 +26,7 @@ std::uint64_t hashOf(const void *data, std::size_t size) {
 
 }  // namespace
 
-TEST(FactoryPrograms, BearTwentyDifferentNames) {
+TEST(FactoryPrograms, HaveTwentyDifferentNames) {
     std::set<std::string> names;
     for (const SProgram &program : factoryPrograms)
         names.insert(program.name.data());
@@ -67,7 +67,7 @@ TEST(FactoryPrograms, LinkEachChainInBothDirections) {
     }
 }
 
-TEST(FactoryPrograms, RunTheirModulesInTheDesignedOrder) {
+TEST(FactoryPrograms, RunTheirModulesInTheIntendedOrder) {
     EXPECT_EQ(chainOf(factoryPrograms[0]),
               (std::vector<int>{kRumbleFilterSlot, kCompressorSlot, k3BandSlot, kReverbSlot}));
     EXPECT_EQ(chainOf(factoryPrograms[5]),
@@ -77,7 +77,7 @@ TEST(FactoryPrograms, RunTheirModulesInTheDesignedOrder) {
     EXPECT_TRUE(chainOf(factoryPrograms[19]).empty());
 }
 
-// A change to any byte of a factory program is a change of sound: record it here on purpose.
-TEST(FactoryPrograms, AreTheOnesThatUsersKnow) {
+// Changing any byte of a factory program changes the sound. If that is intended, update the hash.
+TEST(FactoryPrograms, HaveNotChangedByAByte) {
     EXPECT_EQ(hashOf(factoryPrograms.data(), sizeof(factoryPrograms)), 10616505895466707279u);
 }

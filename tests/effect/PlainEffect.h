@@ -9,8 +9,8 @@
 #include <optional>
 #include <vector>
 
-/// The plain reading of the effect: the programs and what each host call does to them, over the
-/// plain strip. Parameter values start at 0, so that a 0 of the first program never reaches its
+/// The plain version of the effect: the programs and what each host call does to them, on top of
+/// the plain strip. Parameter values start at 0, so a 0 in the first program never reaches its
 /// module.
 class CPlainEffect {
 public:
@@ -45,13 +45,13 @@ public:
         apply(*target(isPreset));
     }
 
-    /// Mains on.
+    /// What effMainsChanged does when it switches on.
     void resume(bool isRightConnected) {
         strip.resetAllModules();
         strip.setMonoInput(!isRightConnected);
     }
 
-    /// The next block meets a host that gives this tempo; none for one that keeps no time.
+    /// @param bpm  the host's tempo at the next block; none for a host that provides no time.
     void setTempo(std::optional<double> bpm) {
         if (bpm)
             strip.setTempo(static_cast<float>(*bpm));

@@ -63,13 +63,13 @@ void rename(CCorvel &effect, std::string name) {
 
 }  // namespace
 
-TEST_F(Programs, OfANewEffectAreTheFactoryOnesByteForByte) {
+TEST_F(Programs, EqualTheFactoryProgramsInANewEffect) {
     const std::vector<char> bank = chunkOf(effect, false);
     ASSERT_EQ(bank.size(), 8480u);
     EXPECT_EQ(std::memcmp(bank.data(), factoryPrograms.data(), bank.size()), 0);
 }
 
-TEST_F(Programs, BringTheirValuesAndTheirChain) {
+TEST_F(Programs, SetTheirValuesAndTheirChain) {
     for (int program = 19; program >= 0; --program) {
         effect.setProgram(program);
         const SProgram &factory = factoryPrograms[std::size_t(program)];
@@ -88,7 +88,7 @@ TEST_F(Programs, BringTheirValuesAndTheirChain) {
     }
 }
 
-TEST_F(Programs, KeepWhatWasEditedWhenAnotherIsChosen) {
+TEST_F(Programs, KeepEditsWhenAnotherProgramIsChosen) {
     effect.setProgram(3);
     effect.setParameter(kCmpThresh, 0.123f);
     effect.getStrip().appendFX(kWarmerSlot);
@@ -100,7 +100,7 @@ TEST_F(Programs, KeepWhatWasEditedWhenAnotherIsChosen) {
                                                  kDelaySlot, kReverbSlot, kWarmerSlot}));
 }
 
-TEST_F(Programs, AreStoredAndNotRevertedWhenThePresentOneIsChosenAgain) {
+TEST_F(Programs, KeepEditsWhenTheCurrentProgramIsChosenAgain) {
     void *record = nullptr;
     effect.getChunk(&record, true);
     const auto *stored = static_cast<const SProgram *>(record);
@@ -111,7 +111,7 @@ TEST_F(Programs, AreStoredAndNotRevertedWhenThePresentOneIsChosenAgain) {
     EXPECT_EQ(effect.getParameter(kCmpThresh), 0.123f);
 }
 
-TEST_F(Programs, GiveTheirNamesByIndex) {
+TEST_F(Programs, ReturnTheirNamesByIndex) {
     char name[24] = "untouched";
     EXPECT_TRUE(effect.getProgramNameIndexed(0, 19, name));
     EXPECT_STREQ(name, "Empty");
@@ -123,7 +123,7 @@ TEST_F(Programs, GiveTheirNamesByIndex) {
     }
 }
 
-TEST_F(Programs, TakeANewNameAndLeaveTheBytesBehindItAlone) {
+TEST_F(Programs, KeepTheBytesAfterAShorterNewName) {
     effect.setProgram(6);  // "Bad Mic Correction"
     rename(effect, "Mine");
     EXPECT_EQ(nameOf(effect), "Mine");
@@ -133,7 +133,7 @@ TEST_F(Programs, TakeANewNameAndLeaveTheBytesBehindItAlone) {
     EXPECT_STREQ(asProgram(chunkOf(effect, false), 5).name.data(), "Pop Vocal");
 }
 
-TEST_F(Programs, KeepANameInsideItsRecord) {
+TEST_F(Programs, CutANameToFitItsRecord) {
     rename(effect, std::string(40, 'n'));
     EXPECT_EQ(nameOf(effect), std::string(23, 'n'));
     EXPECT_STREQ(asProgram(chunkOf(effect, false), 1).name.data(), "Male Vocal");
@@ -144,7 +144,7 @@ TEST_F(Programs, KeepANameInsideItsRecord) {
     EXPECT_EQ(nameOf(effect), std::string(23, 'u'));
 }
 
-TEST_F(Programs, PassThroughABankIntoAFreshEffect) {
+TEST_F(Programs, SurviveSavingAndLoadingABank) {
     effect.setParameter(kHPFreq, 0.777f);
     effect.getStrip().removeFX(kCompressorSlot);
     effect.setProgram(4);
@@ -162,7 +162,7 @@ TEST_F(Programs, PassThroughABankIntoAFreshEffect) {
     EXPECT_EQ(nameOf(fresh), "Ballad of mine");
 }
 
-TEST_F(Programs, LoadedSinglyLandInThePresentRecordWithNameAndChain) {
+TEST_F(Programs, AreLoadedSinglyIntoTheCurrentRecord) {
     effect.setProgram(5);
     const std::vector<char> chunk = chunkOf(effect, true);
     ASSERT_EQ(chunk.size(), 424u);
@@ -177,7 +177,7 @@ TEST_F(Programs, LoadedSinglyLandInThePresentRecordWithNameAndChain) {
     EXPECT_EQ(asProgram(chunkOf(effect, false), 2), factoryPrograms[5]);
 }
 
-TEST_F(Programs, LoadedAsABankSoundAsTheFirstWhicheverIsPresent) {
+TEST_F(Programs, SoundLikeTheFirstAfterABankWasLoaded) {
     const std::vector<char> bank = chunkOf(effect, false);
     effect.setProgram(9);
     load(effect, bank, false);
@@ -187,20 +187,20 @@ TEST_F(Programs, LoadedAsABankSoundAsTheFirstWhicheverIsPresent) {
     EXPECT_EQ(effect.getParameter(kCmpThresh), factoryPrograms[0].parameters[kCmpThresh]);
     EXPECT_EQ(nameOf(effect), "Pop Chorus (Insert)");
 
-    // The next store puts that state over the present record, which keeps its name.
+    // The next save writes that state into the current record, which keeps its name.
     const SProgram ninth = asProgram(chunkOf(effect, false), 9);
     EXPECT_EQ(ninth.parameters, factoryPrograms[0].parameters);
     EXPECT_EQ(ninth.order, factoryPrograms[0].order);
     EXPECT_STREQ(ninth.name.data(), "Pop Chorus (Insert)");
 }
 
-TEST_F(Programs, AreTakenWhateverTheHostSaysOfTheirLength) {
+TEST_F(Programs, AreLoadedWhateverLengthTheHostClaims) {
     std::vector<char> chunk = asChunk(factoryPrograms[14]);
     EXPECT_EQ(effect.setChunk(chunk.data(), 0, true), 424);
     EXPECT_EQ(nameOf(effect), "Concert Hall (Send)");
 }
 
-TEST_F(Programs, HandOutTheEffectsOwnMemory) {
+TEST_F(Programs, AreSavedFromTheEffectsOwnMemory) {
     void *bank = nullptr, *preset = nullptr;
     effect.setProgram(3);
     effect.getChunk(&bank, false);
@@ -211,7 +211,7 @@ TEST_F(Programs, HandOutTheEffectsOwnMemory) {
     EXPECT_EQ(again, bank);
 }
 
-TEST_F(Programs, MayBeHandedBackInTheirOwnMemory) {
+TEST_F(Programs, MayBeLoadedFromTheEffectsOwnMemory) {
     void *bank = nullptr;
     const int size = effect.getChunk(&bank, false);
     const std::vector<char> before = chunkOf(effect, false);
@@ -219,7 +219,7 @@ TEST_F(Programs, MayBeHandedBackInTheirOwnMemory) {
     EXPECT_EQ(chunkOf(effect, false), before);
 }
 
-TEST_F(Programs, LeaveTheModulesThatTheyPutInOrOutTheirState) {
+TEST_F(Programs, KeepTheStateOfModulesThatTheyAddOrRemove) {
     CCorvel steady(FakeHost::callback);
     const TStereo<float> voice = makeSignal<float>(ESignal::Bursts, 13, 2000);
     EXPECT_EQ(render(effect, voice, 500), render(steady, voice, 500));
@@ -230,7 +230,7 @@ TEST_F(Programs, LeaveTheModulesThatTheyPutInOrOutTheirState) {
     EXPECT_EQ(render(effect, voice, 500), render(steady, voice, 500));
 }
 
-TEST_F(Programs, MayHoldMoreThanSixModules) {
+TEST_F(Programs, MayContainMoreThanSixModules) {
     SProgram all = factoryPrograms[19];
     for (int slot = kInMonoSlot; slot <= kLastModuleSlot; ++slot)
         all.order[std::size_t(slot)] = {slot - 1, slot < kLastModuleSlot ? slot + 1 : kNoSlot};
@@ -239,7 +239,7 @@ TEST_F(Programs, MayHoldMoreThanSixModules) {
     EXPECT_EQ(chainOf(effect).size(), 16u);
 }
 
-TEST_F(Programs, WithACycleCountNoModules) {
+TEST_F(Programs, CountNoModulesIfTheChainIsACycle) {
     SProgram cycle = factoryPrograms[0];
     cycle.order[kReverbSlot].next = kRumbleFilterSlot;
     load(effect, asChunk(cycle), true);

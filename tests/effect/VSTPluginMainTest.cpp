@@ -8,7 +8,7 @@ extern "C" AEffect *VSTPluginMain(audioMasterCallback host);
 
 namespace {
 
-// Loads with the given allocation failing; closes what was built all the same.
+/// Loads the effect while one allocation fails, and closes it if it was built nevertheless.
 bool loads(int failing) {
     AEffect *effect = nullptr;
     {
@@ -23,11 +23,11 @@ bool loads(int failing) {
 
 }  // namespace
 
-TEST(VSTPluginMain, TellsTheUserAndGivesNoEffectWhenItCannotBeBuilt) {
+TEST(VSTPluginMain, ReportsThatTheEffectCannotBeBuiltAndReturnsNull) {
     FakeHost host;
     host.logging = false;
     ASSERT_TRUE(loads(1'000'000));
-    // The effect itself and its host services; the modules' own lines would stop at an assertion.
+    // Only allocations of the effect and its host services: the modules' delay lines would assert.
     constexpr int beforeTheModules = 100;
     for (int failing = 0; failing < beforeTheModules; ++failing) {
         testing::internal::CaptureStderr();

@@ -10,11 +10,11 @@
 #include <string>
 #include <utility>
 
-/// The one operation of a fuzz target: does all it can with the input and aborts if something is
-/// wrong. libFuzzer calls it, or Replay.cpp with the corpus.
+/// The body of a fuzz target: does everything possible with the input and aborts if a requirement
+/// fails. libFuzzer calls it, and Replay.cpp does so with the corpus.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);
 
-/// What must hold whatever the input is.
+/// Aborts with the message unless the condition holds.
 inline void require(bool holds, const char *what) {
     if (holds)
         return;
@@ -22,10 +22,10 @@ inline void require(bool holds, const char *what) {
     std::abort();
 }
 
-/// The input as the only file of a folder of its own, for code that reads files.
+/// Writes the input to a file in a folder of its own, for code that reads files.
 class CInputFile {
 public:
-    /// A new file each time: some file systems wait for the disk when an old one is emptied.
+    /// Uses a new file each time: truncating an old one waits for the disk on some file systems.
     const std::string &write(const std::string &bytes) {
         remove();
         std::ofstream(m_path, std::ios::binary) << bytes;
@@ -38,12 +38,12 @@ private:
     std::string m_path = (m_folder / "input").string();
 };
 
-/// What a function that takes a pointer to characters sees of the bytes.
+/// The bytes up to the first zero, as a function that takes a C string sees them.
 inline std::string untilZero(const std::string &bytes) {
     return bytes.substr(0, bytes.find('\0'));
 }
 
-/// Takes an input apart, from its start; zeros and "" once it is used up.
+/// Reads values from an input, from its start; returns zeros and "" after its end.
 class CInput {
 public:
     CInput(const std::uint8_t *data, std::size_t size)
@@ -53,7 +53,7 @@ public:
     std::uint8_t byte() {
         return isUsedUp() ? 0 : static_cast<std::uint8_t>(m_bytes[m_position++]);
     }
-    /// Up to the next zero byte, which is skipped.
+    /// Reads up to the next zero byte and skips it.
     std::string text() {
         std::string found = untilZero(m_bytes.substr(m_position));
         m_position = std::min(m_position + found.size() + 1, m_bytes.size());

@@ -1,5 +1,5 @@
-// Runs a fuzz target without libFuzzer. With a folder and a number: every file of it and that many
-// mutations of each. With a file and a seed: that one mutation.
+// Runs a fuzz target without libFuzzer. With a folder and a number it runs every file in it and
+// that many mutations of each; with a file and a seed it runs that one mutation.
 #include "Fuzz.h"
 #include "foundation/ReadFile.h"
 
@@ -10,7 +10,7 @@
 namespace {
 
 void run(const std::string &bytes) {
-    // On the heap and of the very size, so that a sanitizer sees what runs past it.
+    // On the heap with the exact size, so that a sanitizer notices reads past the end.
     const std::vector<std::uint8_t> input(bytes.begin(), bytes.end());
     LLVMFuzzerTestOneInput(input.data(), input.size());
 }

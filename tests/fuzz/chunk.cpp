@@ -1,7 +1,7 @@
-// Stored programs: one byte that says which program is the present one and whether the chunk is a
-// bank, then the chunk. What the effect trusts its host to store is made so: values stay
-// normalised, since a delay line asserts that its offset is one and the longest delay would be
-// asked for gigabytes, and slots stay in the strip. An order without an end is loaded but not run.
+// Stored programs. The first byte chooses the current program and whether the chunk is a bank; the
+// rest is the chunk. The effect trusts its host's chunks, so the input is brought into the range of
+// trusted ones: normalised values, since others trip the delay line's assertion or ask for
+// gigabytes, and links to existing slots. A chain that never ends is loaded but not run.
 #include "Fuzz.h"
 #include "effect/CCorvel.h"
 

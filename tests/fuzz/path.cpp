@@ -1,4 +1,4 @@
-// A path, then orders for it, each with a text of its own.
+// A path, followed by commands that change it, each with a text.
 #include "Fuzz.h"
 #include "foundation/CHtmlString.h"
 
@@ -93,7 +93,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     CInput input(data, size);
     CHtmlString path(input.text().c_str());
     look(path, "");
-    // Some orders make the path longer by a factor.
+    // Some commands multiply the length of the path.
     while (!input.isUsedUp() && path.getNumberOfCharacters() < 10'000) {
         const std::uint8_t order = input.byte();
         const CString text(input.text().c_str());

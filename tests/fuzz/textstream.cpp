@@ -1,5 +1,5 @@
-// A file read line by line, held against a plain splitting of it; then, with the first bytes as
-// orders, as a mixture of lines and numbers.
+// A file, read line by line and compared with a simple split; then read as a mixture of lines and
+// numbers, as the first bytes command.
 #include "Fuzz.h"
 #include "foundation/CTextStream.h"
 

@@ -1,6 +1,6 @@
-// A file, behind the declaration that a document must begin with: what is read is a tree, and what
-// that writes can be read again. It need not be the same: a root whose name was one letter is
-// written as "</>", which closes.
+// An XML file; the declaration at its start is added here. What was read must form a tree, and what
+// the tree writes must be readable again. The two trees may differ: a root with a name of one
+// letter is written as "</>", which reads as a closing tag.
 #include "Fuzz.h"
 #include "foundation/CXMLDocument.h"
 

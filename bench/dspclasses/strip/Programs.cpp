@@ -7,7 +7,7 @@
 using Tessitor::Corvel::factoryPrograms;
 using Tessitor::Corvel::SProgram;
 
-/// As the effect sets up a strip at its start: a value of 0 is taken to be there already.
+/// Sets up a strip as the effect does: its values start at 0, so a 0 is not sent.
 template <typename Set>
 static void sendParameters(const SProgram &program, Set set) {
     for (int id = 0; id < kParameterCount; ++id) {

@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-/// Something to measure: a module or a whole strip, and the plain reading of it, both set up alike.
+/// What is measured: a module or a strip and its plain version, set up alike.
 struct SSubject {
     using Make = std::function<std::unique_ptr<CDSPBase>()>;
 
@@ -17,7 +17,7 @@ struct SSubject {
     Make makePlain;
 };
 
-/// Parameters by the module's own index, in its own unit.
+/// Parameters by the module's index, in the module's unit.
 using Settings = std::vector<std::pair<int, float>>;
 
 template <typename Module>
@@ -30,7 +30,7 @@ SSubject::Make makerOf(const Settings &settings) {
     };
 }
 
-/// One row of the table of modules.
+/// A row of the table of modules.
 template <typename Kernel, typename Plain>
 SSubject subject(std::string name, const Settings &settings) {
     return {std::move(name), makerOf<Kernel>(settings), makerOf<Plain>(settings)};

@@ -2,9 +2,9 @@
 
 #include "dspclasses/support/Signals.h"
 
-/// Noise with the shape of speech: low-passed, in syllables of a fifth of a second that rise and
-/// fall over some 40 dB, with a floor like that of a room, so that no sample and no stretch is zero
-/// and every threshold is crossed.
+/// Noise shaped like speech: low-passed, in syllables of a fifth of a second that rise and fall by
+/// some 40 dB, over a noise floor like that of a room. No sample is zero, and every threshold is
+/// crossed.
 template <typename Sample>
 TStereo<Sample> makeSpeech(std::uint64_t seed, int frames) {
     CRandom random(seed);

@@ -6,13 +6,13 @@
 
 namespace Law = ParameterLaws;
 
-TEST(ParameterLaws, PassRawValuesAsTheyAre) {
+TEST(ParameterLaws, PassRawValuesUnchanged) {
     for (const float v : {0.0f, 0.3f, 1.0f, -2.0f, 7.5f})
         EXPECT_EQ(Law::raw(v), v);
     EXPECT_TRUE(std::signbit(Law::raw(-0.0f)));
 }
 
-TEST(ParameterLaws, LetTheGainReachItsCorners) {
+TEST(ParameterLaws, GiveTheGainAtItsCorners) {
     EXPECT_EQ(Law::gain(0.0f), -60.0f);
     EXPECT_EQ(Law::gain(0.2f), -24.0f);
     EXPECT_EQ(Law::gain(0.25f), -20.0f);
@@ -20,7 +20,7 @@ TEST(ParameterLaws, LetTheGainReachItsCorners) {
     EXPECT_EQ(Law::gain(1.0f), 6.0f);
 }
 
-TEST(ParameterLaws, LetTheGainFallAtAQuarter) {
+TEST(ParameterLaws, DropTheGainAtAQuarter) {
     EXPECT_GT(Law::gain(0.24f), Law::gain(0.25f));
     EXPECT_NEAR(Law::gain(0.24f), -16.8, 1e-4);
     EXPECT_NEAR(Law::gain(std::nextafter(0.25f, 0.0f)), -15.0, 1e-4);
@@ -30,7 +30,7 @@ TEST(ParameterLaws, GiveMinusZeroDecibelsInTheMiddleOfTheGain) {
     EXPECT_TRUE(std::signbit(Law::gain(0.5f)));
 }
 
-TEST(ParameterLaws, SpanTheRangesOfTheirPowers) {
+TEST(ParameterLaws, CoverTheRangesOfTheExponentialLaws) {
     const struct {
         float (*law)(float);
         double low, high;
@@ -52,7 +52,7 @@ TEST(ParameterLaws, SpanTheRangesOfTheirPowers) {
     }
 }
 
-TEST(ParameterLaws, PinOnlyTheTopOfTheTwoKnobsWithAStep) {
+TEST(ParameterLaws, StepOnlyAtTheTopOfTheTwoKnobsThatHaveAStep) {
     const float above = std::nextafter(0.999f, 1.0f);
     EXPECT_NEAR(Law::parametricFrequency(0.999f), 5975.48, 0.02);
     EXPECT_EQ(Law::parametricFrequency(above), 6000.0f);
@@ -62,7 +62,7 @@ TEST(ParameterLaws, PinOnlyTheTopOfTheTwoKnobsWithAStep) {
     EXPECT_EQ(Law::deEsserFrequency(1.5f), 8000.0f);
 }
 
-TEST(ParameterLaws, GiveTheRoomAKneeInTheMiddle) {
+TEST(ParameterLaws, ChangeTheSlopeOfTheRoomSizeInTheMiddle) {
     EXPECT_EQ(Law::roomSize(0.0f), 1.0f);
     EXPECT_NEAR(Law::roomSize(std::nextafter(0.5f, 0.0f)), 100.0, 1e-4);
     EXPECT_EQ(Law::roomSize(0.5f), 100.0f);

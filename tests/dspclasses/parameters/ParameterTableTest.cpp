@@ -6,12 +6,12 @@
 #include <cstdio>
 #include <gtest/gtest.h>
 
-// The table a second time, with every law as one expression and every text as printf makes it.
+// The same table written independently: each law as one expression, each text through printf.
 
 using Law = float (*)(float);
 using Text = std::string (*)(float);
 
-/// Rounded once from a double that is far more exact.
+/// Computed in double precision and rounded once.
 static float power(float base, float exponent) {
     return static_cast<float>(std::pow(double{base}, double{exponent}));
 }
@@ -185,14 +185,14 @@ protected:
     const SRow &row = rows[GetParam()];
 };
 
-TEST_P(ParameterTable, NamesTheParameterItsModuleAndItsUnit) {
+TEST_P(ParameterTable, HasTheRightNameModuleAndUnit) {
     EXPECT_STREQ(parameter.name, row.name);
     EXPECT_EQ(parameter.slot, row.slot);
     EXPECT_EQ(parameter.index, row.index);
     EXPECT_STREQ(parameter.unit, row.unit);
 }
 
-/// Every thousandth, the neighbours of the corners, and random values in and beyond the range.
+/// Every thousandth, the neighbours of the corners, and random values inside and outside the range.
 static std::vector<float> manyValues() {
     std::vector<float> values;
     for (int i = 0; i <= 1000; ++i)

@@ -10,7 +10,7 @@ static float below(float value) {
     return std::nextafter(value, -std::numeric_limits<float>::infinity());
 }
 
-TEST(ParameterTexts, ShowInfinityFromMinusSixtyDecibelsDown) {
+TEST(ParameterTexts, ShowMinusInfinityAtMinusSixtyDecibelsAndBelow) {
     EXPECT_EQ(Text::decibels(-60.0f), "-oo");
     EXPECT_EQ(Text::decibels(-61.0f), "-oo");
     EXPECT_EQ(Text::decibels(-59.99f), "-59.99");
@@ -44,11 +44,11 @@ TEST(ParameterTexts, ShowLevelsInDecibelsWithOneDecimal) {
     EXPECT_EQ(Text::level(2.0f), "6.0");
 }
 
-TEST(ParameterTexts, ShowInfinityForALevelUpToAThousandth) {
+TEST(ParameterTexts, ShowMinusInfinityForALevelUpToAThousandth) {
     EXPECT_EQ(Text::level(0.0f), "-oo");
     EXPECT_EQ(Text::level(-1.0f), "-oo");
     EXPECT_EQ(Text::level(below(0.001f)), "-oo");
-    // The single-precision thousandth lies just above the double one.
+    // 0.001 in single precision is slightly more than 0.001 in double precision.
     EXPECT_EQ(Text::level(0.001f), "-60.0");
 }
 
@@ -62,7 +62,7 @@ TEST(ParameterTexts, ShowBothSidesOfABalance) {
     EXPECT_EQ(Text::balance(1.0f), "0:100");
 }
 
-TEST(ParameterTexts, TruncateTheSharesOfABalanceAndAMix) {
+TEST(ParameterTexts, TruncateBothNumbersOfABalanceAndAMix) {
     EXPECT_EQ(Text::balance(0.2549f), "100:50");
     EXPECT_EQ(Text::balance(-0.004f), "100:0");
     EXPECT_EQ(Text::mix(0.0f), "100:0");
@@ -105,7 +105,7 @@ TEST(ParameterTexts, NameTheDelayTimeByTruncation) {
     EXPECT_EQ(Text::delaySync(-0.5f), "Minim");
 }
 
-TEST(ParameterTexts, NameTheSwitchesFromAHalfOn) {
+TEST(ParameterTexts, SwitchTheNamesOfTwoWayParametersAtAHalf) {
     EXPECT_EQ(Text::link(below(0.5f)), "Separate");
     EXPECT_EQ(Text::link(0.5f), "Linked");
     EXPECT_EQ(Text::deEsserBand(below(0.5f)), "Wide");
@@ -124,7 +124,7 @@ TEST(ParameterTexts, ShowSmallRoomsWithDecimals) {
     EXPECT_EQ(Text::roomSize(400.0f), "400");
 }
 
-TEST(ParameterTexts, ShowTheRest) {
+TEST(ParameterTexts, ShowRatiosPercentagesAndTheOtherForms) {
     EXPECT_EQ(Text::percent(0.5f), "50");
     EXPECT_EQ(Text::percent(1.0f), "100");
     EXPECT_EQ(Text::deEsserSpeed(0.0f), "100");
@@ -135,7 +135,7 @@ TEST(ParameterTexts, ShowTheRest) {
     EXPECT_EQ(Text::none(3.0f), "");
 }
 
-TEST(ParameterTexts, ShowAValueBeyondEveryRangeWhole) {
+TEST(ParameterTexts, ShowAllDigitsOfTheLargestValue) {
     const float greatest = std::numeric_limits<float>::max();
     EXPECT_EQ(Text::twoDecimals(greatest), "340282346638528859811704183484516925440.00");
     EXPECT_EQ(Text::whole(std::numeric_limits<float>::infinity()), "inf");

@@ -7,7 +7,7 @@
 #include <gtest/gtest.h>
 #include <new>
 
-/// A module and the buffers of a host.
+/// A module with host buffers.
 template <typename Module, typename Sample>
 class TAllocation : public testing::Test {
 protected:
@@ -25,7 +25,7 @@ protected:
     std::array<Sample *, 2> in = input.pointers(), out = output.pointers();
 };
 
-/// A strip with every module in its chain.
+/// A strip with all modules in its chain.
 template <typename Sample>
 class StripAllocation : public TAllocation<CDSPMultiFX, Sample> {
 protected:
@@ -37,7 +37,7 @@ protected:
 using Precisions = testing::Types<float, double>;
 TYPED_TEST_SUITE(StripAllocation, Precisions);
 
-TYPED_TEST(StripAllocation, HappensOnlyForABlockLongerThanAnyBefore) {
+TYPED_TEST(StripAllocation, HappensOnlyForABlockLongerThanAllBefore) {
     EXPECT_GT(this->countWhileProcessing(64), 0u);
     EXPECT_EQ(this->countWhileProcessing(64), 0u);
     EXPECT_GT(this->countWhileProcessing(65), 0u);
@@ -50,7 +50,7 @@ TYPED_TEST(StripAllocation, HappensOnlyForABlockLongerThanAnyBefore) {
     EXPECT_EQ(this->countWhileProcessing(this->longest), 0u);
 }
 
-TYPED_TEST(StripAllocation, DoesNotHappenForAChangeOfTempoResetOrOrder) {
+TYPED_TEST(StripAllocation, DoesNotHappenWhenTempoOrOrderChangesOrOnReset) {
     this->countWhileProcessing(this->longest);
     const std::uint64_t before = allocationsOfThisThread();
     for (const float bpm : {60.0f, 90.0f, 180.0f})
@@ -63,7 +63,7 @@ TYPED_TEST(StripAllocation, DoesNotHappenForAChangeOfTempoResetOrOrder) {
     EXPECT_EQ(this->countWhileProcessing(this->longest), 0u);
 }
 
-TYPED_TEST(StripAllocation, ThatFailsLeavesTheStripAsItWas) {
+TYPED_TEST(StripAllocation, LeavesTheStripUnchangedWhenItFails) {
     this->countWhileProcessing(64);
     {
         const CFailingAllocation failing(0);
@@ -73,7 +73,7 @@ TYPED_TEST(StripAllocation, ThatFailsLeavesTheStripAsItWas) {
     EXPECT_GT(this->countWhileProcessing(65), 0u);
 }
 
-/// A de-esser by itself: its side buffers have room for 512 frames from the start.
+/// A de-esser alone. Its side-chain buffers hold 512 frames from the start.
 template <typename Sample>
 class CDSPDeEsserAllocation : public TAllocation<CDSPDeEsser, Sample> {};
 TYPED_TEST_SUITE(CDSPDeEsserAllocation, Precisions);
@@ -86,7 +86,7 @@ TYPED_TEST(CDSPDeEsserAllocation, HappensForABlockLongerThanAnyBefore) {
     EXPECT_EQ(this->countWhileProcessing(514), 2u);
 }
 
-TYPED_TEST(CDSPDeEsserAllocation, ThatFailsIsTriedAgain) {
+TYPED_TEST(CDSPDeEsserAllocation, IsTriedAgainAfterItFailed) {
     for (const int buffer : {0, 1}) {
         const int frames = 600 + 100 * buffer;
         {

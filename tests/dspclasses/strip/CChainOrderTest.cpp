@@ -33,7 +33,7 @@ protected:
     CChainOrder order;
 };
 
-TEST_F(CChainOrderTest, BeginsWithTheFixedHeadAndNothingBehind) {
+TEST_F(CChainOrderTest, StartsWithOnlyTheFixedHead) {
     EXPECT_EQ(linksOf(order, kInGainSlot), Links(kNoSlot, kInMonoSlot));
     EXPECT_EQ(linksOf(order, kInMonoSlot), Links(kInGainSlot, kNoSlot));
     for (int slot = kFirstModuleSlot; slot <= kLastModuleSlot; ++slot)
@@ -41,7 +41,7 @@ TEST_F(CChainOrderTest, BeginsWithTheFixedHeadAndNothingBehind) {
     EXPECT_EQ(order.getCount(), 0);
 }
 
-TEST_F(CChainOrderTest, ComesBackToTheEmptyChain) {
+TEST_F(CChainOrderTest, ReturnsToTheEmptyChain) {
     append({k3BandSlot, kParametricSlot});
     order.initialise();
     EXPECT_TRUE(chainOf(order).empty());
@@ -72,7 +72,7 @@ TEST_F(CChainOrderTest, InsertsBeforeATarget) {
     EXPECT_EQ(order.getCount(), 4);
 }
 
-TEST_F(CChainOrderTest, InsertsBehindATargetThatIsNotTheLast) {
+TEST_F(CChainOrderTest, InsertsAfterATargetThatIsNotTheLast) {
     append({kRumbleFilterSlot, kCompressorSlot});
     order.insertAfter(kRumbleFilterSlot, kGainSlot);
     EXPECT_EQ(chainOf(order), (std::vector<int>{kRumbleFilterSlot, kGainSlot, kCompressorSlot}));
@@ -90,7 +90,7 @@ TEST_F(CChainOrderTest, RemovesFromTheMiddle) {
     EXPECT_EQ(order.getCount(), 2);
 }
 
-TEST_F(CChainOrderTest, EndsAtThePredecessorOfARemovedLastNode) {
+TEST_F(CChainOrderTest, EndsAtThePredecessorWhenTheLastModuleIsRemoved) {
     append({kRumbleFilterSlot, kCompressorSlot});
     order.remove(kCompressorSlot);
     EXPECT_EQ(linksOf(order, kRumbleFilterSlot), Links(kInMonoSlot, kNoSlot));
@@ -98,7 +98,7 @@ TEST_F(CChainOrderTest, EndsAtThePredecessorOfARemovedLastNode) {
     EXPECT_EQ(order.getCount(), 1);
 }
 
-TEST_F(CChainOrderTest, MovesBothWays) {
+TEST_F(CChainOrderTest, MovesInBothDirections) {
     append({kRumbleFilterSlot, kCompressorSlot, k3BandSlot});
     order.moveBefore(kRumbleFilterSlot, k3BandSlot);
     EXPECT_EQ(chainOf(order), (std::vector<int>{k3BandSlot, kRumbleFilterSlot, kCompressorSlot}));
@@ -110,7 +110,7 @@ TEST_F(CChainOrderTest, MovesBothWays) {
     EXPECT_EQ(order.getCount(), 3);
 }
 
-TEST_F(CChainOrderTest, LeavesTheListAsItIsWhenASlotMovesBeforeItsSuccessor) {
+TEST_F(CChainOrderTest, StaysTheSameWhenASlotMovesBeforeItsSuccessor) {
     append({kRumbleFilterSlot, kCompressorSlot, k3BandSlot});
     order.moveBefore(k3BandSlot, kCompressorSlot);
     EXPECT_EQ(chainOf(order), (std::vector<int>{kRumbleFilterSlot, kCompressorSlot, k3BandSlot}));
@@ -118,7 +118,7 @@ TEST_F(CChainOrderTest, LeavesTheListAsItIsWhenASlotMovesBeforeItsSuccessor) {
     EXPECT_EQ(order.getCount(), 3);
 }
 
-TEST_F(CChainOrderTest, ReplacesWithoutTellingTheSuccessorOrTheTarget) {
+TEST_F(CChainOrderTest, LeavesStaleLinksInSuccessorAndTargetAfterReplace) {
     append({kRumbleFilterSlot, kCompressorSlot, k3BandSlot});
     order.replace(kCompressorSlot, kPresenceSlot);
     EXPECT_EQ(chainOf(order), (std::vector<int>{kRumbleFilterSlot, kPresenceSlot, k3BandSlot}));
@@ -128,11 +128,12 @@ TEST_F(CChainOrderTest, ReplacesWithoutTellingTheSuccessorOrTheTarget) {
     EXPECT_EQ(order.getCount(), 3);
 }
 
-TEST_F(CChainOrderTest, GoesAstrayWhenTheSuccessorOfAReplacementIsRemoved) {
+TEST_F(CChainOrderTest, KeepsRunningTheRemovedSuccessorOfAReplacement) {
     append({kRumbleFilterSlot, kCompressorSlot, k3BandSlot, kHiPassSlot});
     order.replace(kCompressorSlot, kPresenceSlot);
     order.remove(k3BandSlot);
-    // The removed slot is marked free and counted out, and yet it runs; what followed is lost.
+    // The removed slot is marked free and no longer counted, but it still runs, and the slots after
+    // it are lost.
     EXPECT_EQ(chainOf(order), (std::vector<int>{kRumbleFilterSlot, kPresenceSlot, k3BandSlot}));
     EXPECT_EQ(linksOf(order, k3BandSlot), freeSlot);
     EXPECT_EQ(linksOf(order, kCompressorSlot), Links(kNoSlot, kHiPassSlot));
@@ -140,7 +141,7 @@ TEST_F(CChainOrderTest, GoesAstrayWhenTheSuccessorOfAReplacementIsRemoved) {
     EXPECT_EQ(order.getCount(), 3);
 }
 
-TEST_F(CChainOrderTest, RecountsWhatWasWritten) {
+TEST_F(CChainOrderTest, CountsLinksThatWereWrittenDirectly) {
     order.entry(kInMonoSlot).next = kParametricSlot;
     order.entry(kParametricSlot) = {kInMonoSlot, kGainSlot};
     order.entry(kGainSlot) = {kParametricSlot, kNoSlot};
@@ -149,22 +150,22 @@ TEST_F(CChainOrderTest, RecountsWhatWasWritten) {
     EXPECT_EQ(order.getCount(), 2);
 }
 
-TEST_F(CChainOrderTest, CountsALongestChain) {
+TEST_F(CChainOrderTest, CountsAllSixteenModules) {
     for (int slot = kFirstModuleSlot; slot <= kLastModuleSlot; ++slot)
         order.append(slot);
     order.recount();
     EXPECT_EQ(order.getCount(), 16);
 }
 
-TEST_F(CChainOrderTest, CountsACycleAsNothing) {
+TEST_F(CChainOrderTest, CountsACycleAsZero) {
     append({kRumbleFilterSlot, kCompressorSlot});
     order.entry(kCompressorSlot).next = kRumbleFilterSlot;
     order.recount();
     EXPECT_EQ(order.getCount(), 0);
 }
 
-/// Every edit against a plain sequence; without replacements the list stays intact.
-TEST_F(CChainOrderTest, FollowsAPlainSequenceThroughRandomEdits) {
+/// Compares every edit with a std::vector. Without replacements the list stays consistent.
+TEST_F(CChainOrderTest, MatchesAVectorThroughRandomEdits) {
     for (std::uint64_t seed = 1; seed <= 50; ++seed) {
         SCOPED_TRACE(testing::Message() << "seed " << seed);
         CRandom random(seed);
@@ -205,16 +206,16 @@ TEST_F(CChainOrderTest, FollowsAPlainSequenceThroughRandomEdits) {
     }
 }
 
-TEST_F(CChainOrderTest, LetsASlotThatRunsThoughFreeBeAppendedToItself) {
+TEST_F(CChainOrderTest, AppendsASlotToItselfIfItRunsButIsMarkedFree) {
     append({kRumbleFilterSlot, kCompressorSlot, k3BandSlot});
     order.replace(kCompressorSlot, kPresenceSlot);
-    order.remove(k3BandSlot);  // runs on behind slot 8, marked free
+    order.remove(k3BandSlot);  // is marked free but still runs
     order.append(k3BandSlot);
     EXPECT_EQ(chainOf(order), (std::vector<int>{kRumbleFilterSlot, kPresenceSlot, k3BandSlot}));
     EXPECT_EQ(linksOf(order, k3BandSlot), Links(k3BandSlot, kNoSlot));
 }
 
-TEST_F(CChainOrderTest, LetsASlotWithoutAPredecessorBeRemovedAndInsertedBefore) {
+TEST_F(CChainOrderTest, RemovesAndInsertsBeforeASlotWithoutAPredecessor) {
     append({kRumbleFilterSlot, kCompressorSlot, k3BandSlot});
     order.replace(kCompressorSlot, kPresenceSlot);
     order.remove(k3BandSlot);
@@ -226,7 +227,7 @@ TEST_F(CChainOrderTest, LetsASlotWithoutAPredecessorBeRemovedAndInsertedBefore) 
     EXPECT_EQ(linksOf(order, k3BandSlot), Links(kParametricSlot, kNoSlot));
 }
 
-TEST_F(CChainOrderTest, LinksAReplacedSlotInAgain) {
+TEST_F(CChainOrderTest, AppendsAReplacedSlotAgain) {
     append({kRumbleFilterSlot, kCompressorSlot, k3BandSlot});
     order.replace(kCompressorSlot, kPresenceSlot);
     order.append(kCompressorSlot);

@@ -26,7 +26,7 @@ TEST(CDSPMultiFX, StartsWithTheEmptyChain) {
     EXPECT_EQ(strip.getFXCount(), 0);
 }
 
-TEST(CDSPMultiFX, TellsTheDelayOfATempoOf120AndNobodyOfAnythingElse) {
+TEST(CDSPMultiFX, SetsOnlyTheTempoOfTheDelayAtTheStart) {
     SWitnessLog log;
     CDSPMultiFX strip(makeWitnesses(log));
     EXPECT_EQ(log.take(), (Calls{"Delay: set 6 120.000000"}));
@@ -71,7 +71,7 @@ TEST(CDSPMultiFX, PassesOnlyAChangeOfTempoToTheDelay) {
     EXPECT_EQ(log.take(), (Calls{"Delay: set 6 95.500000", "Delay: set 6 0.000000"}));
 }
 
-TEST(CDSPMultiFX, ResetsTheModulesOfTheChainOnly) {
+TEST(CDSPMultiFX, ResetsOnlyTheModulesInTheChain) {
     SWitnessLog log;
     CDSPMultiFX strip(makeWitnesses(log));
     strip.appendFX(kParametricSlot);
@@ -94,7 +94,7 @@ TEST(CDSPMultiFX, ResetsAllModulesInSlotOrder) {
     EXPECT_EQ(log.take(), expected);
 }
 
-TEST(CDSPMultiFX, ResetsAModuleOnlyWhereTheInsertionAsksForIt) {
+TEST(CDSPMultiFX, ResetsAModuleOnlyWhenInsertFXIsToldTo) {
     SWitnessLog log;
     CDSPMultiFX strip(makeWitnesses(log));
     log.take();
@@ -143,7 +143,7 @@ TEST(CDSPMultiFX, RunsTheHeadAndThenTheChainInItsOrder) {
     EXPECT_EQ(slotsOfARun(strip, log), (Calls{"InGain", "MonoType"}));
 }
 
-TEST(CDSPMultiFX, RunsARemovedSuccessorOfAReplacementOnAndLosesWhatFollowed) {
+TEST(CDSPMultiFX, KeepsRunningTheRemovedSuccessorOfAReplacement) {
     SWitnessLog log;
     CDSPMultiFX strip(makeWitnesses(log));
     for (const int slot : {kRumbleFilterSlot, kCompressorSlot, k3BandSlot, kHiPassSlot})
@@ -158,7 +158,7 @@ TEST(CDSPMultiFX, RunsARemovedSuccessorOfAReplacementOnAndLosesWhatFollowed) {
     EXPECT_EQ(strip.getFXCount(), 3);
 }
 
-TEST(CDSPMultiFX, RunsAnOrderThatWasWrittenEntryByEntry) {
+TEST(CDSPMultiFX, RunsAnOrderWrittenEntryByEntry) {
     SWitnessLog log;
     CDSPMultiFX strip(makeWitnesses(log));
     strip.setOrderEntry(kInMonoSlot, kInGainSlot, kModulator1Slot);
@@ -179,7 +179,7 @@ TEST(CDSPMultiFX, RunsAllSixteenModules) {
     EXPECT_EQ(slotsOfARun(strip, log).size(), 18u);
 }
 
-TEST(CDSPMultiFX, OnlySwapsThePairsBetweenModules) {
+TEST(CDSPMultiFX, SwapsTheBufferPairsBetweenModules) {
     SWitnessLog log;
     CDSPMultiFX strip(makeWitnesses(log));
     for (const int slot : {kRumbleFilterSlot, kCompressorSlot})
@@ -197,7 +197,7 @@ TEST(CDSPMultiFX, OnlySwapsThePairsBetweenModules) {
     }
 }
 
-TEST(CDSPMultiFX, HandsEveryModuleTheLengthOfTheBlock) {
+TEST(CDSPMultiFX, PassesTheLengthOfTheBlockToEveryModule) {
     SWitnessLog log;
     CDSPMultiFX strip(makeWitnesses(log));
     log.take();
@@ -229,7 +229,7 @@ protected:
 using Precisions = testing::Types<float, double>;
 TYPED_TEST_SUITE(CDSPMultiFXRun, Precisions);
 
-TYPED_TEST(CDSPMultiFXRun, LetsTheSignalThroughAnEmptyChain) {
+TYPED_TEST(CDSPMultiFXRun, PassesTheSignalThroughAnEmptyChain) {
     EXPECT_EQ(render(this->strip, this->input, 64), this->input);
 }
 
@@ -263,7 +263,7 @@ TYPED_TEST(CDSPMultiFXRun, RoutesTheInputAndTheOutput) {
     }
 }
 
-TYPED_TEST(CDSPMultiFXRun, StartsWithBothRoutingsAtCombine) {
+TYPED_TEST(CDSPMultiFXRun, StartsWithBothRoutingsSetToCombine) {
     CDSPMultiFX fresh;
     TStereo<TypeParam> sum = render(fresh, this->input, 64);
     const TypeParam rootHalf = 0.70710677f;
@@ -271,7 +271,7 @@ TYPED_TEST(CDSPMultiFXRun, StartsWithBothRoutingsAtCombine) {
     EXPECT_EQ(sum.left(7), (once + once) * rootHalf);
 }
 
-TYPED_TEST(CDSPMultiFXRun, FeedsBothChannelsFromTheLeftOfAMonoInput) {
+TYPED_TEST(CDSPMultiFXRun, FeedsBothChannelsFromAMonoInput) {
     this->strip.setMonoInput(true);
     TStereo<TypeParam> output(64);
     TypeParam *in[] = {this->input.channels[0].data(), nullptr};
@@ -282,7 +282,7 @@ TYPED_TEST(CDSPMultiFXRun, FeedsBothChannelsFromTheLeftOfAMonoInput) {
     EXPECT_EQ(render(this->strip, this->input, 64), this->input);
 }
 
-TYPED_TEST(CDSPMultiFXRun, GivesHalfTheSumForAMonoInputWithoutASecondOutput) {
+TYPED_TEST(CDSPMultiFXRun, OutputsHalfTheSumWithMonoInputAndOneOutput) {
     this->strip.setMonoInput(true);
     this->strip.setStripParameter(kBalance, 0.125f);  // the balance halves the right channel
     this->strip.appendFX(kBalanceSlot);
@@ -297,19 +297,19 @@ TYPED_TEST(CDSPMultiFXRun, GivesHalfTheSumForAMonoInputWithoutASecondOutput) {
     EXPECT_EQ(output.left(64), 7);
 }
 
-TYPED_TEST(CDSPMultiFXRun, DoesNothingWithoutAnArrayOfChannels) {
+TYPED_TEST(CDSPMultiFXRun, DoesNothingIfAnArrayOfChannelsIsNull) {
     TStereo<TypeParam> output(64, 7);
     TypeParam **none = nullptr;
     process(this->strip, none, output.pointers().data(), 64);
     EXPECT_EQ(output, TStereo<TypeParam>(64, 7));
     process(this->strip, this->input.pointers().data(), none, 64);
     process(this->strip, none, none, 64);
-    // The buffers have grown all the same, so a block of no frames finds some.
+    // The buffers have grown all the same, so a block of no frames is now accepted.
     process(this->strip, this->input.pointers().data(), output.pointers().data(), 0);
     EXPECT_EQ(output, TStereo<TypeParam>(64, 7));
 }
 
-TYPED_TEST(CDSPMultiFXRun, LosesNothingWhenABlockIsLongerThanAllBefore) {
+TYPED_TEST(CDSPMultiFXRun, KeepsTheSignalWholeWhenBlocksGrow) {
     TStereo<TypeParam> longer = makeSignal<TypeParam>(ESignal::Noise, 4, 3000);
     EXPECT_EQ(render(this->strip, longer, 7), longer);
     EXPECT_EQ(render(this->strip, longer, 513), longer);
@@ -327,7 +327,7 @@ TYPED_TEST(CDSPMultiFXRun, WorksInTheHostsOwnBuffers) {
     EXPECT_EQ(this->input, expected);
 }
 
-TYPED_TEST(CDSPMultiFXRun, TakesOneStageMoreForAnOutputRoutingThatIsNotStereo) {
+TYPED_TEST(CDSPMultiFXRun, RunsTheOutputRoutingUnlessItIsStereo) {
     SWitnessLog log;
     CDSPMultiFX witnessed(makeWitnesses(log));
     witnessed.appendFX(kGainSlot);
@@ -349,13 +349,13 @@ static void processNoFrames() {
     strip.processReplacing(input.pointers().data(), output.pointers().data(), 0);
 }
 
-TEST(CDSPMultiFXDeathTest, StopsAtAFirstBlockOfNoFrames) {
+TEST(CDSPMultiFXDeathTest, AssertsThatTheFirstBlockHasFrames) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     EXPECT_DEATH(processNoFrames(),
                  testing::HasSubstr("DryBuf[0]!=(float *)0, file DSPMultiFX, line 503"));
 }
 
-TEST(CDSPMultiFX, TakesAFirstBlockOfNoFramesInDoublePrecision) {
+TEST(CDSPMultiFX, AcceptsAFirstBlockOfNoFramesInDoublePrecision) {
     CDSPMultiFX strip;
     TStereo<double> input(1, 3.0), output(1, 7.0);
     strip.processDoubleReplacing(input.pointers().data(), output.pointers().data(), 0);
@@ -378,7 +378,7 @@ TEST(CDSPMultiFX, FillsItsCacheFromTheModules) {
     EXPECT_EQ(strip.getStripParameter(kParameterCount), 0.0f);
 }
 
-TEST(CDSPMultiFX, SendsEveryIdToItsModuleByItsLaw) {
+TEST(CDSPMultiFX, SendsEachParameterToItsModuleThroughItsLaw) {
     SWitnessLog log;
     CDSPMultiFX strip(makeWitnesses(log));
     log.take();
@@ -393,7 +393,7 @@ TEST(CDSPMultiFX, SendsEveryIdToItsModuleByItsLaw) {
     }
 }
 
-TEST(CDSPMultiFX, SendsNothingForTheValueThatItHasSeenLast) {
+TEST(CDSPMultiFX, SendsNothingForAnUnchangedValue) {
     SWitnessLog log;
     CDSPMultiFX strip(makeWitnesses(log));
     strip.setStripParameter(k3EQLo, 0.3f);
@@ -404,10 +404,10 @@ TEST(CDSPMultiFX, SendsNothingForTheValueThatItHasSeenLast) {
     EXPECT_EQ(log.calls.size(), 1u);
 }
 
-TEST(CDSPMultiFX, DropsAFirstValueThatEqualsWhatTheModuleWasBuiltWith) {
+TEST(CDSPMultiFX, DropsAFirstValueThatEqualsTheModulesInitialOne) {
     CDSPMultiFX strip;
     char text[32];
-    strip.setStripParameter(kGain, 0.0f);  // the gain was built with 0 dB
+    strip.setStripParameter(kGain, 0.0f);  // the initial value of the gain is 0 dB
     strip.getParameterDisplay(kGain, text);
     EXPECT_STREQ(text, "0.00");
     strip.setStripParameter(kGain, 0.5f);
@@ -416,7 +416,7 @@ TEST(CDSPMultiFX, DropsAFirstValueThatEqualsWhatTheModuleWasBuiltWith) {
     EXPECT_STREQ(text, "-oo");
 }
 
-TEST(CDSPMultiFX, KeepsTheTwoIdsThatDriveNothing) {
+TEST(CDSPMultiFX, StoresTheTwoUnusedParameters) {
     SWitnessLog log;
     CDSPMultiFX strip(makeWitnesses(log));
     log.take();
@@ -436,7 +436,7 @@ TEST(CDSPMultiFX, KeepsTheTwoIdsThatDriveNothing) {
     EXPECT_TRUE(log.calls.empty());
 }
 
-TEST(CDSPMultiFX, LeavesATextForAnIdBeyondTheLast) {
+TEST(CDSPMultiFX, LeavesTheTextAloneForAnUnknownParameter) {
     CDSPMultiFX strip;
     for (const int id : {kParameterCount, 1000}) {
         char text[16] = "untouched";
@@ -447,7 +447,7 @@ TEST(CDSPMultiFX, LeavesATextForAnIdBeyondTheLast) {
     }
 }
 
-TEST(CDSPMultiFX, WritesNamesAndUnitsWhole) {
+TEST(CDSPMultiFX, WritesCompleteNamesAndUnits) {
     const CDSPMultiFX strip;
     for (int id = 0; id < kParameterCount; ++id) {
         const SParameter &row = parameterTable[static_cast<std::size_t>(id)];
@@ -478,7 +478,7 @@ TEST(CDSPMultiFX, ShowsWhatTheModuleHolds) {
 
 static std::string displayAt(int id, float value) {
     CDSPMultiFX strip;
-    // A first value of any other kind, since one that equals the module's own would be dropped.
+    // Another value first: one that equals the module's initial value would be dropped.
     strip.setStripParameter(id, value < 0.5f ? 0.9f : 0.1f);
     strip.setStripParameter(id, value);
     char text[32];
@@ -503,20 +503,20 @@ TEST(CDSPMultiFX, ShowsTheLevelAndStereoModules) {
     }
 }
 
-TEST(CDSPMultiFX, ShowsTheEndsOfTheModulatorsAndTheDelay) {
-    EXPECT_EQ(displayAt(kMod1Dpth, 1.0f), "50");  // a law that ends at 0.5, as a percentage
+TEST(CDSPMultiFX, ShowsModulatorAndDelayAtTheEndsOfTheirRanges) {
+    EXPECT_EQ(displayAt(kMod1Dpth, 1.0f), "50");  // the law ends at 0.5, shown as a percentage
     EXPECT_EQ(displayAt(kDlySync, 0.999f), "Quaver");
     EXPECT_EQ(displayAt(kDlyDry, 0.0f), "-oo");
     EXPECT_EQ(displayAt(kDlyDry, 1.0f), "0.0");
 }
 
-TEST(CDSPMultiFX, ShowsMinusZeroDecibelsOnTheWayBackToTheMiddle) {
+TEST(CDSPMultiFX, ShowsMinusZeroDecibelsWhenReturningToTheMiddle) {
     EXPECT_EQ(displayAt(kInGain, 0.5f), "-0.00");
 }
 
-// Against the plain reading
+// Comparison with the plain version
 
-/// A strip as an oracle case takes it.
+/// Gives a strip the interface that the oracle expects.
 class CStripCase {
 public:
     void setParameter(int id, float value) { strip.setStripParameter(id, value); }
@@ -550,20 +550,20 @@ static std::vector<int> drawChain(CRandom &random) {
     return chain;
 }
 
-/// The next case of a series: a chain, a kind of input and a tempo that both sides are given alike.
+/// Sets up the next random case, the same for both sides: chain, mono input or not, tempo.
 template <typename Strip>
 static std::unique_ptr<Strip> setUp(std::unique_ptr<Strip> strip, std::uint64_t seed) {
     CRandom random(seed);
     strip->setChain(drawChain(random));
     strip->setMonoInput(random.chance(0.2));
     strip->setTempo(static_cast<float>(random.real(40.0, 200.0)));
-    // The oracle may begin with a block of no frames, which a fresh strip doesn't take.
+    // The oracle may start with a block of no frames, which a new strip does not accept.
     TStereo<float> input(1), output(1);
     strip->processReplacing(input.pointers().data(), output.pointers().data(), 1);
     return strip;
 }
 
-TEST(CDSPMultiFX, EqualsThePlainReadingBitForBit) {
+TEST(CDSPMultiFX, EqualsThePlainVersionBitForBit) {
     std::uint64_t stripSeed = 0, plainSeed = 0;
     std::vector<SParameterRange> ranges(kParameterCount);
     for (int id = 0; id < kParameterCount; ++id)

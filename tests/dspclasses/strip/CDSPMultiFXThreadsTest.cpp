@@ -5,10 +5,10 @@
 #include <gtest/gtest.h>
 #include <thread>
 
-// What ThreadSanitizer looks on at: the audio runs while another thread does what the editor and
-// the host do without a lock. kRvSpread is left out, since the effect guards it.
+// For ThreadSanitizer: the audio runs while another thread does everything that editor and host do
+// without a lock. kRvSpread is left out, since the effect sets it under its lock.
 
-/// One edit of any kind that keeps the list intact, or the load of another chain.
+/// Makes a random edit that keeps the list consistent, or loads another chain.
 static void editOrder(CDSPMultiFX &strip, CRandom &random, std::vector<int> &chain) {
     const auto place = [&] {
         return chain.begin() + random.whole(0, static_cast<int>(chain.size()) - 1);
@@ -61,7 +61,7 @@ static void runBeside(std::uint64_t seed) {
     CRandom random(seed);
     std::vector<int> chain;
     char text[32];
-    // No latch: in the run-time of the Windows build its wake-up can be lost.
+    // Not a std::latch: with the MinGW-w64 run-time of g++ 12 its waiter may never wake up.
     while (!started)
         std::this_thread::yield();
     for (int edit = 0; edit < edits; ++edit) {
@@ -78,7 +78,7 @@ static void runBeside(std::uint64_t seed) {
     }
     audio.join();
 
-    // The list has come through, and an empty chain lets the signal through as ever.
+    // The list is still consistent, and an empty chain passes the signal.
     EXPECT_EQ(strip.getFXCount(), static_cast<int>(chain.size()));
     strip.recountFX();
     EXPECT_EQ(strip.getFXCount(), static_cast<int>(chain.size()));
@@ -92,10 +92,10 @@ static void runBeside(std::uint64_t seed) {
     EXPECT_EQ(render(strip, input, 64), input);
 }
 
-TEST(CDSPMultiFXThreads, RunInSinglePrecisionBesideParametersAndEdits) {
+TEST(CDSPMultiFXThreads, MayEditTheStripWhileItRunsInSinglePrecision) {
     runBeside<float>(21);
 }
 
-TEST(CDSPMultiFXThreads, RunInDoublePrecisionBesideParametersAndEdits) {
+TEST(CDSPMultiFXThreads, MayEditTheStripWhileItRunsInDoublePrecision) {
     runBeside<double>(22);
 }

@@ -5,7 +5,7 @@
 
 namespace {
 
-/// Scales by its parameter, with faults to find.
+/// Scales the signal by its parameter, with one of several faults built in.
 class CScale : public CDSPBase {
 public:
     enum EFault { None, LateFrame, RightChannel, DoubleOnly, InputWritten, SkippedFrame, Getter };
@@ -55,7 +55,7 @@ TEST(Oracle, FindsADifferenceOfOneBitWhereverItIs) {
     EXPECT_NONFATAL_FAILURE(compareWith(CScale::DoubleOnly), "double output");
 }
 
-TEST(Oracle, FindsASampleThatNobodyWrites) {
+TEST(Oracle, FindsASampleThatWasNotWritten) {
     EXPECT_NONFATAL_FAILURE(compareWith(CScale::SkippedFrame), "got 77");
 }
 

@@ -11,8 +11,8 @@
 #include <memory>
 #include <vector>
 
-/// The plain reading of the strip over any eighteen modules: every step of its own, every channel
-/// copied frame by frame. Takes part in an oracle case with parameter ids for indices.
+/// The plain version of the strip, over any eighteen modules. For the oracle, the index of a
+/// parameter is its id.
 class CPlainStrip : public CDSPBase {
 public:
     using Modules = std::array<std::unique_ptr<CDSPBase>, kSlotCount>;
@@ -33,7 +33,7 @@ public:
     }
     float getParameter(int id) override { return paramCache[index(id)]; }
 
-    /// What the module itself holds.
+    /// The value that the module holds.
     float getModuleParameter(int id) { return moduleOf(id).getParameter(rowOf(id).index); }
 
     void processReplacing(float **in, float **out, int frames) override {
@@ -48,7 +48,7 @@ public:
             modules[index(slot)]->reset();
     }
 
-    /// Of the modules outside the chain too.
+    /// Including modules outside the chain.
     void resetAllModules() {
         for (auto &module : modules)
             module->reset();

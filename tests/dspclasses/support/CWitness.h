@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-/// What the eighteen witnesses of a strip have seen, in order: "Delay: reset".
+/// The calls that the eighteen witnesses of a strip received, in order, such as "Delay: reset".
 struct SWitnessLog {
     std::vector<std::string> calls;
     std::vector<const void *> buffers;  // in[0], in[1], out[0], out[1] of each run
@@ -18,8 +18,8 @@ struct SWitnessLog {
     std::vector<std::string> take() { return std::exchange(calls, {}); }
 };
 
-/// Stands in a slot, notes every call, and lets the signal through. A parameter that was never set
-/// reads 100 * (slot + 1) + index.
+/// A module that logs every call and passes the signal. A parameter that was never set reads
+/// 100 * (slot + 1) + index.
 class CWitness : public CDSPBase {
 public:
     CWitness(int place, SWitnessLog &log) : slot(place), seen(log) {}

@@ -12,19 +12,19 @@
 #include <string>
 #include <vector>
 
-/// One parameter to draw: both ends come up often, and so does the value it has already.
+/// A parameter and the range of its random values. Both ends and the current value come up often.
 struct SParameterRange {
     int index;
     float low;
     float high;
 };
 
-/// Runs a module and the plain reading of it side by side and compares every bit: outputs, the
-/// inputs that a module may write, and getParameter.
+/// Runs a module and its plain version side by side and compares every bit of the outputs, of the
+/// inputs (which some modules write) and of getParameter.
 ///
-/// A case is a chain of blocks of 0 to 4096 frames, in one precision or changing from block to
-/// block, with parameter changes and a rare reset between them. Both sides are made by functions,
-/// so that they can be set up alike; both offer setParameter, getParameter, processReplacing,
+/// A case is a series of blocks of 0 to 4096 frames, in one precision or alternating, with
+/// parameter changes and an occasional reset in between. Two functions create the two sides, so
+/// that both can be set up alike; each side has setParameter, getParameter, processReplacing,
 /// processDoubleReplacing and reset.
 ///
 ///     expectSameBits([] { return std::make_unique<CDSPHiPass>(); },
@@ -35,7 +35,7 @@ public:
     COracle(MakeModule makeModule, MakePlain makePlain, std::vector<SParameterRange> ranges)
         : m_makeModule(makeModule), m_makePlain(makePlain), m_ranges(std::move(ranges)) {}
 
-    /// Stops at the first case that differs; its message holds the seed that repeats it.
+    /// Stops at the first case that differs. The message contains the seed that repeats it.
     void runCases(std::uint64_t firstSeed, int cases) {
         for (int number = 0; number < cases; ++number) {
             const std::uint64_t seed = firstSeed + static_cast<std::uint64_t>(number);
@@ -87,7 +87,7 @@ private:
             }
             const bool single = precision == EPrecision::Single ||
                                 (precision == EPrecision::Changing && random.chance(0.5));
-            // An offset off the vector's alignment: a module is promised none.
+            // Deliberately misaligned: modules may not rely on alignment.
             const int offset = random.whole(0, 3);
             difference = single ? runBlock<float>(*module, *plain, signal, done, length, offset)
                                 : runBlock<double>(*module, *plain, signal, done, length, offset);
@@ -135,7 +135,7 @@ private:
                            [](double sample) { return static_cast<Sample>(sample); });
         }
         TStereo<Sample> plainIn = moduleIn;
-        // Different fillings, so that a sample that nobody writes differs too.
+        // Filled differently, so that a sample that is not written differs as well.
         TStereo<Sample> moduleOut(offset + length, 77), plainOut(offset + length, 99);
         renderPart(module, moduleIn, moduleOut, offset, length);
         renderPart(plain, plainIn, plainOut, offset, length);

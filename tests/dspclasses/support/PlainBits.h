@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <cstring>
 
-/// The denormal tests as the plain readings make them: the exponent bits, masked out.
+/// The denormal test of the plain versions: all exponent bits are zero.
 
 inline bool exponentIsZero(float value) {
     std::uint32_t bits;

@@ -23,11 +23,11 @@ public:
         mixed = (mixed ^ (mixed >> 27)) * 0x94D049BB133111EBu;
         return mixed ^ (mixed >> 31);
     }
-    /// @return from low up to high, high itself excluded.
+    /// @return a value from low to high, excluding high.
     double real(double low, double high) {
         return low + (high - low) * static_cast<double>(bits() >> 11) * 0x1p-53;
     }
-    /// @return from low to high, both included.
+    /// @return a value from low to high, including both.
     int whole(int low, int high) {
         return low + static_cast<int>(bits() % static_cast<std::uint64_t>(high - low + 1));
     }
@@ -46,7 +46,7 @@ enum class ESignal {
     Denormals,  // below the normal range of float or of double, and negative zeros
     Loud,       // noise up to +24 dBFS
     Mixed,      // any of the above, changing every few dozen frames
-    Wild,       // what no voice holds: huge samples, infinities, NaNs among noise
+    Wild,       // noise with huge samples, infinities and NaNs
 };
 inline constexpr int signalCount = static_cast<int>(ESignal::Wild) + 1;
 
@@ -166,7 +166,7 @@ TStereo<Sample> makeSignal(ESignal kind, std::uint64_t seed, int frames) {
     return stereo;
 }
 
-/// A level that stands still in each channel.
+/// A constant level in each channel.
 template <typename Sample>
 TStereo<Sample> steady(int frames, Sample left, Sample right) {
     TStereo<Sample> stereo(frames, left);
@@ -174,8 +174,8 @@ TStereo<Sample> steady(int frames, Sample left, Sample right) {
     return stereo;
 }
 
-/// Equal to the last bit, so that 0 and -0 differ. Any NaN equals any other: which of two NaNs an
-/// addition hands on is the processor's choice.
+/// Compares bits, so 0 and -0 differ. Any NaN equals any other, since the processor chooses which
+/// of two NaNs an addition returns.
 template <typename Sample>
 bool sameBits(Sample a, Sample b) {
     using Bits = std::conditional_t<sizeof(Sample) == 4, std::uint32_t, std::uint64_t>;
@@ -202,7 +202,7 @@ void process(Module &module, double **in, double **out, int frames) {
     module.processDoubleReplacing(in, out, frames);
 }
 
-/// Runs the frames from `start` on, out of one signal into the other.
+/// Processes frames of one signal into another, from `start` on.
 template <typename Module, typename Sample>
 void renderPart(Module &module, TStereo<Sample> &input, TStereo<Sample> &output, int start,
                 int frames) {
@@ -210,7 +210,8 @@ void renderPart(Module &module, TStereo<Sample> &input, TStereo<Sample> &output,
     process(module, in.data(), out.data(), frames);
 }
 
-/// @return the output of the whole input, taken in blocks of blockLength and a rest.
+/// @return the output for the whole input, processed in blocks of blockLength and a shorter last
+/// one.
 template <typename Module, typename Sample>
 TStereo<Sample> render(Module &module, TStereo<Sample> input, int blockLength) {
     TStereo<Sample> output(input.frames());
