@@ -123,7 +123,7 @@ TEST(CEffectInstance, GivesTextsAndChunks) {
 }
 
 TEST(CEffectInstance, RefusesWhatHasNoValidRecord) {
-    EXPECT_THAT(refusal("Refusing"), HasSubstr("Refusing.so: the effect refuses to start"));
+    EXPECT_THAT(refusal("Refusing"), HasSubstr("Refusing.so: the effect does not start"));
     EXPECT_THAT(refusal("NoMagic"), HasSubstr("NoMagic.so: not a VST 2 effect"));
 }
 

@@ -52,7 +52,7 @@ TEST(CEffectLibrary, RefusesALibraryThatIsCutShortAnywhere) {
     const CTemporaryFolder folder;
     const std::size_t length = std::filesystem::file_size(testEffect("Whole"));
     copyHead(testEffect("Whole"), folder / "short.so", length - 1);
-    EXPECT_THAT(refusal(folder / "short.so"), HasSubstr("short.so: cut short"));
+    EXPECT_THAT(refusal(folder / "short.so"), HasSubstr("short.so: truncated"));
     for (std::size_t bytes = 0; bytes < length; bytes += 1 + bytes / 5) {
         copyHead(testEffect("Whole"), folder / "short.so", bytes);
         EXPECT_THAT(refusal(folder / "short.so"), HasSubstr("cannot be loaded as an effect"))

@@ -91,7 +91,8 @@ TEST_F(CEffectSettingsTest, AWrongAssignmentIsRefused) {
     EXPECT_THAT(refusal({{}, {}, {"Gain"}}), HasSubstr("\"Gain\" is not NAME=VALUE"));
     EXPECT_THAT(refusal({{}, {}, {"Gian=0"}}), HasSubstr("no parameter \"Gian\""));
     EXPECT_THAT(refusal({{}, {}, {"=0"}}), HasSubstr("no parameter \"\""));
-    EXPECT_THAT(refusal({{}, {}, {"Gain=30dB"}}), HasSubstr("--set Gain: \"30dB\" is not shown"));
+    EXPECT_THAT(refusal({{}, {}, {"Gain=30dB"}}),
+                HasSubstr("--set Gain: \"30dB\" is not possible"));
 }
 
 TEST_F(CEffectSettingsTest, OnlyTheChannelStripHasAChain) {

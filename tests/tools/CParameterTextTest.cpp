@@ -194,13 +194,13 @@ TEST(CParameterText, ANumberBeyondOneIsATextWhereThereIsNoUnit) {
 TEST(CParameterText, ANumberWithoutItsUnitIsRefusedWithAHint) {
     const CParameterText parameter("dB", threshold);
     EXPECT_EQ(refusal(parameter, "-18"),
-              "\"-18\" is not from 0 to 1 and has no unit, as \"-18dB\" has");
+              "\"-18\" needs a unit, as in \"-18dB\"; without one, a value is from 0 to 1");
 }
 
 TEST(CParameterText, ANumberBeyondTheEndsIsRefused) {
     const CParameterText parameter("Hz", frequency);
     EXPECT_EQ(refusal(parameter, "7000Hz"),
-              "\"7000Hz\" is not shown; it shows \"100Hz\" to \"6000Hz\"");
+              "\"7000Hz\" is not possible; the effect shows \"100Hz\" to \"6000Hz\"");
     EXPECT_NE(refusal(CParameterText("dB", threshold), "-70dB"), "");
     EXPECT_NE(refusal(CParameterText("dB", threshold), "0.5dB"), "");
 }
@@ -211,10 +211,11 @@ TEST(CParameterText, ANumberOfAnotherUnitIsRefused) {
 
 TEST(CParameterText, AnUnknownTextIsRefusedWithTheKnownOnes) {
     EXPECT_EQ(refusal(CParameterText("", linkage), "Linkd"),
-              "\"Linkd\" is not shown; it shows \"Separate\" and \"Linked\"");
-    EXPECT_EQ(refusal(CParameterText("", route), "Mono"),
-              "\"Mono\" is not shown; it shows \"Combine\", \"AllLeft\", \"AllRight\" and "
-              "\"Stereo\"");
+              "\"Linkd\" is not possible; the effect shows \"Separate\" and \"Linked\"");
+    EXPECT_EQ(
+        refusal(CParameterText("", route), "Mono"),
+        "\"Mono\" is not possible; the effect shows \"Combine\", \"AllLeft\", \"AllRight\" and "
+        "\"Stereo\"");
 }
 
 TEST(CParameterText, NeitherNothingNorNoNumberIsAValue) {

@@ -64,7 +64,7 @@ TEST_F(RenderErrors, InputThatIsMissing) {
 
 TEST_F(RenderErrors, InputThatIsShort) {
     copyHead(folder / "in.wav", folder / "short.wav", 5000);
-    expectFailureOfInput("short.wav", "cut short, ");
+    expectFailureOfInput("short.wav", "truncated, ");
 }
 
 TEST_F(RenderErrors, CompressedInputThatIsShort) {
@@ -72,7 +72,7 @@ TEST_F(RenderErrors, CompressedInputThatIsShort) {
     sound.format = SF_FORMAT_FLAC | SF_FORMAT_PCM_16;
     writeSound(folder / "whole.flac", sound);
     copyHead(folder / "whole.flac", folder / "short.flac", 60000);
-    expectFailureOfInput("short.flac", "cut short or damaged, ends after ");
+    expectFailureOfInput("short.flac", "truncated or damaged, it ends after ");
 }
 
 TEST_F(RenderErrors, InputOfTheWrongKind) {
@@ -146,8 +146,7 @@ TEST_F(RenderErrors, EffectThatIsMissing) {
 TEST_F(RenderErrors, EffectThatIsNone) {
     expectFailure(1, "NoEntry.so: not a VST 2 effect", renderTo("out.wav", {}, "NoEntry"));
     expectFailure(1, "NoMagic.so: not a VST 2 effect", renderTo("out.wav", {}, "NoMagic"));
-    expectFailure(1, "Refusing.so: the effect refuses to start",
-                  renderTo("out.wav", {}, "Refusing"));
+    expectFailure(1, "Refusing.so: the effect does not start", renderTo("out.wav", {}, "Refusing"));
     expectFailure(1, "in.wav: cannot be loaded as an effect",
                   {"render", folder / "in.wav", folder / "out.wav", "--plugin", folder / "in.wav"});
 }
@@ -171,15 +170,15 @@ TEST_F(RenderErrors, WrongSettings) {
     expectFailure(2, "--program: no program \"3\"", renderTo("out.wav", {"--program", "3"}));
     expectFailure(2, "--set: no parameter \"Gian\"", renderTo("out.wav", {"--set", "Gian=1"}));
     expectFailure(2, "--set: \"Gain\" is not NAME=VALUE", renderTo("out.wav", {"--set", "Gain"}));
-    expectFailure(2, "--set Gain: \"9dB\" is not shown",
+    expectFailure(2, "--set Gain: \"9dB\" is not possible",
                   renderTo("out.wav", {"--set", "Gain=9dB"}));
-    expectFailure(2, "--set Gain: \"-6\" is not from 0 to 1",
-                  renderTo("out.wav", {"--set", "Gain=-6"}));
+    expectFailure(2, "--set Gain: \"-6\" needs a unit", renderTo("out.wav", {"--set", "Gain=-6"}));
     expectFailure(2, "--chain: no module \"Flanger\"",
                   renderTo("out.wav", {"--chain", "Gate,Flanger"}));
-    expectFailure(2, "--chain: Gate can stand in the chain once only",
+    expectFailure(2, "--chain: Gate may appear only once",
                   renderTo("out.wav", {"--chain", "Gate,gate"}));
-    expectFailure(2, "is not a Corvel", renderTo("out.wav", {"--chain", "Gate"}, "Stranger"));
+    expectFailure(2, "is not a Corvel effect",
+                  renderTo("out.wav", {"--chain", "Gate"}, "Stranger"));
 }
 
 TEST_F(RenderErrors, WrongNumbers) {
@@ -197,15 +196,15 @@ TEST_F(RenderErrors, WrongFormat) {
 }
 
 TEST_F(RenderErrors, OutputThatIsAnInput) {
-    expectFailure(2, "in.wav: is an input, it would be written over", renderTo("in.wav"));
-    expectFailure(2, "in.wav: is an input, it would be written over", renderTo("."));
+    expectFailure(2, "in.wav: is also an input and would be overwritten", renderTo("in.wav"));
+    expectFailure(2, "in.wav: is also an input and would be overwritten", renderTo("."));
 }
 
 TEST_F(RenderErrors, SeveralInputsToOneFile) {
-    expectFailure(2, "out.wav: several inputs need a folder to go to",
+    expectFailure(2, "out.wav: several inputs need a folder as output",
                   {"render", folder / "in.wav", folder / "in.wav", folder / "out.wav", "--plugin",
                    testEffect("Whole")});
-    expectFailure(2, "two inputs would be written to it",
+    expectFailure(2, "two inputs would be written to this file",
                   {"render", folder / "in.wav", folder / "in.wav", folder / "batch", "--plugin",
                    testEffect("Whole")});
 }

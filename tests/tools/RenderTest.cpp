@@ -199,9 +199,9 @@ TEST_F(Render, AnotherRateIsKeptAndRemarkedOnInOneLine) {
     EXPECT_EQ(out.sampleRate, 48000);
     EXPECT_EQ(out.samples, sound.samples);
     EXPECT_THAT(readFile(folder / "log"), HasSubstr(" rate 48000\n"));
-    EXPECT_EQ(run.errors, "corvel: note: " + (folder / "in.wav").string() +
-                              ": 48000 Hz, while the strip's constants are those of 44100 Hz "
-                              "(--resample converts)\n");
+    EXPECT_EQ(run.errors,
+              "corvel: note: " + (folder / "in.wav").string() +
+                  ": 48000 Hz, but the strip is tuned for 44100 Hz; --resample converts\n");
 }
 
 class RenderRates : public Render, public testing::WithParamInterface<int> {};

@@ -34,11 +34,11 @@ CAudioReader::CAudioReader(const fs::path &file)
         throw CJobError(file.string() + ": has " + std::to_string(m_info.channels) +
                         " channels; only mono and stereo can be rendered");
     if (const auto missing = bytesMissing(file))
-        throw CJobError(file.string() + ": cut short, " + std::to_string(missing) +
-                        " bytes of its sound are missing");
+        throw CJobError(file.string() + ": truncated, " + std::to_string(missing) +
+                        " bytes of audio are missing");
     // The length of an Ogg file stands in its last page.
     if (!knowsLength() && (m_info.format & SF_FORMAT_TYPEMASK) == SF_FORMAT_OGG)
-        throw CJobError(file.string() + ": cut short, the end of its sound is missing");
+        throw CJobError(file.string() + ": truncated, the end of the audio is missing");
 }
 
 std::int64_t CAudioReader::read(float *samples, std::int64_t frames) {
@@ -52,7 +52,7 @@ std::int64_t CAudioReader::read(double *samples, std::int64_t frames) {
 std::int64_t CAudioReader::handleRead(std::int64_t frames, std::int64_t asked) {
     m_framesRead += frames;
     if (frames < asked && knowsLength() && m_framesRead < m_info.frames) {
-        throw CJobError(m_path.string() + ": cut short or damaged, ends after " +
+        throw CJobError(m_path.string() + ": truncated or damaged, it ends after " +
                         std::to_string(m_framesRead) + " of " + std::to_string(m_info.frames) +
                         " frames");
     }

@@ -75,7 +75,7 @@ void CAudioWriter::finish() {
     // What goes wrong at the end of an encoder's work is not always reported.
     if (framesIn(m_pending.path()) < m_frames)
         fail(systemError != 0 ? std::system_category().message(systemError)
-                              : "it could not be completed");
+                              : "the file could not be completed");
     m_pending.commit();
 }
 

@@ -12,7 +12,7 @@ AEffect *enter(const CEffectLibrary &library) {
     const std::lock_guard guard(library.lifetimeLock());
     AEffect *effect = library.enter(hostCallback);
     if (effect == nullptr)
-        throw CJobError(library.file().string() + ": the effect refuses to start");
+        throw CJobError(library.file().string() + ": the effect does not start");
     // Nothing of a record without its mark can be trusted, its closing call included.
     if (effect->magic != kEffectMagic || effect->dispatcher == nullptr)
         throw CJobError(library.file().string() + ": not a VST 2 effect (no valid record)");
@@ -57,7 +57,7 @@ std::span<const std::byte> CEffectInstance::programChunk() {
     void *data = nullptr;
     const std::intptr_t bytes = dispatch(effGetChunk, 1, 0, &data);
     if (data == nullptr || bytes <= 0)
-        throw CJobError(fileName() + ": the effect gives no state of its program");
+        throw CJobError(fileName() + ": the effect returned no program state");
     return {static_cast<const std::byte *>(data), static_cast<std::size_t>(bytes)};
 }
 

@@ -18,7 +18,7 @@ void *openLibrary(const fs::path &file) {
     if (!fs::is_regular_file(file))
         throw CJobError(file.string() + ": not a file");
     if (isLibraryCutShort(file))
-        throw CJobError(file.string() + ": cut short, cannot be loaded as an effect");
+        throw CJobError(file.string() + ": truncated, it cannot be loaded as an effect");
     std::string reason;
     void *library = openNativeLibrary(fs::absolute(file).string(), reason);
     if (library == nullptr)
@@ -57,7 +57,7 @@ fs::path CEffectLibrary::choose(const std::optional<std::string> &named) {
         if (fs::exists(place))
             return place;
     throw CJobError("no effect found: neither " + places[0].string() + " nor " +
-                    places[1].string() + " is there (--plugin names one)");
+                    places[1].string() + " exists (name it with --plugin)");
 }
 
 }  // namespace Tessitor::Tool

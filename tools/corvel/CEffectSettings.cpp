@@ -14,8 +14,7 @@ std::int32_t parameterFromName(CEffectInstance &effect, std::string_view name) {
     for (std::int32_t index = 0; index < effect.record().numParams; ++index)
         if (!name.empty() && equalInAnyCapitals(effect.text(effGetParamName, index), name))
             return index;
-    throw CCallError("--set: no parameter \"" + std::string(name) +
-                     "\" (corvel params lists them)");
+    throw CCallError("--set: no parameter \"" + std::string(name) + "\"; corvel params lists them");
 }
 
 std::string displayWithUnit(CEffectInstance &effect, std::int32_t index) {
@@ -40,7 +39,7 @@ std::int32_t programFromText(CEffectInstance &effect, const std::string &text) {
         if (equalInAnyCapitals(programName(effect, program), trimmed(text)))
             return program;
     throw CCallError("--program: no program \"" + text +
-                     "\": a name (corvel programs lists them) or 0 to " +
+                     "\"; expected a name from corvel programs or a number from 0 to " +
                      std::to_string(programs - 1));
 }
 
@@ -49,7 +48,8 @@ CEffectSettings::CEffectSettings(const SSettingsRequest &request, CEffectInstanc
         m_program = programFromText(trial, *request.program);
     if (request.chain) {
         if (!hasChain(trial))
-            throw CCallError("--chain: " + trial.fileName() + " is not a Corvel, it has no chain");
+            throw CCallError("--chain: " + trial.fileName() +
+                             " is not a Corvel effect and has no chain");
         m_newChain = chainFromText(*request.chain);
     }
     for (const std::string &text : request.set)

@@ -94,8 +94,9 @@ float CParameterText::valueOf(std::string_view text) const {
         if (*asked.number >= 0.0 && *asked.number <= 1.0)
             return static_cast<float>(*asked.number);
         if (!m_unit.empty())
-            throw CCallError(quoted(text) + " is not from 0 to 1 and has no unit, as " +
-                             quoted(std::string(text) + m_unit) + " has");
+            throw CCallError(quoted(text) + " needs a unit, as in " +
+                             quoted(std::string(text) + m_unit) +
+                             "; without one, a value is from 0 to 1");
     }
 
     std::vector<SPoint> showing = pointsShowing(asked);
@@ -232,7 +233,7 @@ void CParameterText::refuse(std::string_view text) const {
             texts.push_back(std::move(shown));
     }
     constexpr std::size_t fewEnoughToList = 8;
-    std::string reason = quoted(text) + " is not shown; it shows ";
+    std::string reason = quoted(text) + " is not possible; the effect shows ";
     if (texts.size() <= fewEnoughToList) {
         for (std::size_t i = 0; i < texts.size(); ++i)
             reason += (i == 0 ? "" : i + 1 == texts.size() ? " and " : ", ") + quoted(texts[i]);

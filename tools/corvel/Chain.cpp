@@ -19,7 +19,7 @@ int slotFromLabel(std::string_view label) {
             return slot;
         known += (known.empty() ? "" : ", ") + std::string(moduleLabel(slot));
     }
-    throw CCallError("--chain: no module \"" + std::string(label) + "\": " + known);
+    throw CCallError("--chain: no module \"" + std::string(label) + "\"; the modules are " + known);
 }
 
 SProgram programOf(CEffectInstance &effect) {
@@ -44,7 +44,7 @@ Chain chainFromText(std::string_view text) {
         const int slot = slotFromLabel(trimmed(label));
         if (std::find(chain.begin(), chain.end(), slot) != chain.end())
             throw CCallError("--chain: " + std::string(moduleLabel(slot)) +
-                             " can stand in the chain once only");
+                             " may appear only once");
         chain.push_back(slot);
     }
     return chain;

@@ -24,7 +24,7 @@ std::vector<SRenderJob> jobsFromFiles(const std::vector<std::string> &files,
     const fs::path target = files.back();
     const bool several = files.size() > 2;
     if (several && fs::exists(target) && !fs::is_directory(target))
-        throw CCallError(target.string() + ": several inputs need a folder to go to");
+        throw CCallError(target.string() + ": several inputs need a folder as output");
     const bool intoFolder = several || fs::is_directory(target);
 
     std::vector<SRenderJob> jobs;
@@ -33,11 +33,12 @@ std::vector<SRenderJob> jobsFromFiles(const std::vector<std::string> &files,
         jobs.push_back({*in, intoFolder ? nameInFolder(target, *in, format) : target});
         inputs.insert(fs::weakly_canonical(*in));
         if (!outputs.insert(fs::weakly_canonical(jobs.back().out)).second)
-            throw CCallError(jobs.back().out.string() + ": two inputs would be written to it");
+            throw CCallError(jobs.back().out.string() +
+                             ": two inputs would be written to this file");
     }
     for (const SRenderJob &job : jobs)
         if (inputs.contains(fs::weakly_canonical(job.out)))
-            throw CCallError(job.out.string() + ": is an input, it would be written over");
+            throw CCallError(job.out.string() + ": is also an input and would be overwritten");
     return jobs;
 }
 

@@ -134,7 +134,7 @@ SFormatRequest formatFromText(std::string_view text) {
         std::find_if(containers.begin(), containers.end(),
                      [&](const SContainer &candidate) { return candidate.name == name; });
     if (container == containers.end())
-        throw CCallError("--format: no container \"" + name + "\": wav, aiff, flac or ogg");
+        throw CCallError("--format: no container \"" + name + "\"; use wav, aiff, flac or ogg");
     if (colon == std::string_view::npos)
         return {container->format, 0};
 
@@ -145,7 +145,7 @@ SFormatRequest formatFromText(std::string_view text) {
             return {container->format, candidate};
         known += (known.empty() ? "" : ", ") + std::string(findSampleType(candidate).name);
     }
-    throw CCallError("--format: " + name + " has no sample type \"" + type + "\": " + known);
+    throw CCallError("--format: " + name + " has no sample type \"" + type + "\"; use " + known);
 }
 
 int outputFormat(int inputFormat, const SFormatRequest &request, const std::filesystem::path &out) {
@@ -173,7 +173,7 @@ int formatForLength(int format, std::int64_t frames, int channels,
     if (frames <= limit / bytes / channels)
         return format;
     if (containerOf(format) == SF_FORMAT_AIFF)
-        throw CJobError(out.string() + ": too long for an AIFF file, which ends at 4 GiB");
+        throw CJobError(out.string() + ": too long for AIFF, which cannot exceed 4 GiB");
     if (containerOf(format) == SF_FORMAT_WAV || containerOf(format) == SF_FORMAT_WAVEX)
         return SF_FORMAT_RF64 | sampleTypeOf(format);
     return format;

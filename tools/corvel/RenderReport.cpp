@@ -92,8 +92,7 @@ std::vector<std::string> remarks(const SRenderOutcome &outcome, const SRenderOpt
     if (result.sampleRate != stripRate && !options.resample) {
         lines.push_back("note: " + outcome.job.in.string() + ": " +
                         std::to_string(result.sampleRate) +
-                        " Hz, while the strip's constants are those of 44100 Hz (--resample "
-                        "converts)");
+                        " Hz, but the strip is tuned for 44100 Hz; --resample converts");
     }
     if (result.clippedSamples > 0)
         lines.push_back("warning: " + outcome.job.out.string() + ": " +

@@ -13,47 +13,47 @@ using namespace Tessitor::Tool;
 namespace {
 
 constexpr const char *generalHelp = R"(
-The effect is the file that --plugin names, else ../plugin/Corvel.so as seen from the
-folder of this program, else Corvel.so in that folder.
+The effect is the file named with --plugin. By default it is ../plugin/Corvel.so, seen from
+this program's folder, or Corvel.so in the same folder.
 
-Exit status: 0 when all was done, 1 when a job failed, 2 when the call was wrong.
+Exit status: 0 on success, 1 if a job failed, 2 if the call was wrong.
 
-corvel COMMAND --help tells the rest about a command.
+See corvel COMMAND --help for the options of a command.
 )";
 
 constexpr const char *renderHelp = R"(
 Files
-  OUT is a file, or a folder for outputs that are named after their inputs. With several
-  inputs it is always a folder, made if it is not there, and they are rendered on all
-  cores, each through an instance of its own. An output takes its place when it is
-  complete; until then, and after a failure, what was there stays.
+  OUT is a file or a folder. With a folder, outputs are named after their inputs. Several
+  inputs always need a folder, which is created if necessary; they are rendered on all
+  cores, each through its own instance of the effect. An output replaces an existing file
+  only when it is complete; after a failure the existing file is unchanged.
 
-  WAV, AIFF, FLAC and Ogg files of any rate with one or two channels are read. The output
-  keeps the rate of its input. A mono file comes to the effect as from a host that has no
-  right input connected, and comes out in stereo; --mono gives the strip's own mono sum.
+  Inputs are WAV, AIFF, FLAC and Ogg files with one or two channels at any sample rate. The
+  output keeps the rate of its input. A mono file is processed as if the host had connected
+  only the left input, and the output is stereo; with --mono it is the strip's mono sum.
 
-  The container is that of --format, else that of OUT's extension, else that of the
-  input. The sample type is that of --format, else that of the input, else the nearest
-  that the container has. Integers are clipped, with a warning that counts the samples;
-  floating-point samples are not.
+  The container is taken from --format, else from OUT's extension, else from the input. The
+  sample type is taken from --format, else from the input, else it is the closest that the
+  container supports. Integer samples are clipped, and a warning counts them;
+  floating-point samples are not clipped.
     wav, aiff   8, 16, 24, 32, float, double
     flac        8, 16, 24
     ogg         vorbis, opus
 
 Settings
-  --set NAME=VALUE finds the parameter by its name in any capitals (corvel params lists
-  them) and may be repeated. A plain VALUE from 0 to 1 is the normalised value, as a host
-  stores it. Any other is the text that the effect shows, with its unit: -18dB, "120 Hz",
-  3:1, Linked, 100:80. Of the values that show the text, the middle one is taken, or 0, 1
-  or 0.5 if that is one of them. If none shows it, the nearest number that is shown is
-  taken; beyond the ends of the range is an error.
+  --set NAME=VALUE sets a parameter and may be repeated. corvel params lists the names;
+  upper and lower case are the same. A plain VALUE from 0 to 1 is the normalised value
+  that hosts store. Any other VALUE is a text as the effect displays it, with its unit:
+  -18dB, "120 Hz", 3:1, Linked, 100:80. If several values display that text, the middle
+  one is used, or 0, 1 or 0.5 if it is among them. If no value displays it, the closest
+  displayed number is used. A number outside the range is an error.
 
-  --chain takes the modules by their labels in running order, "none" for no module, each
-  once at most: Balance, Pan, Gain, 3Band, Rumble Filter, HiPass, Presence, Parametric,
-  Gate, Compressor, DeEsser, Modulator 1, Modulator 2, Warmer, Delay, Reverb. The strip
-  runs as many as are given; its editor shows the first six.
+  --chain lists the modules in running order, separated by commas: Balance, Pan, Gain,
+  3Band, Rumble Filter, HiPass, Presence, Parametric, Gate, Compressor, DeEsser,
+  Modulator 1, Modulator 2, Warmer, Delay, Reverb. Each may appear only once; "none" is the
+  empty chain. The strip runs any number of them.
 
-  The program comes first, then the chain, then the parameters in their order.
+  The program is set first, then the chain, then the parameters in the given order.
 
 Examples
   corvel render voice.wav out.wav --program "Lead Vocal" --set CmpThresh=-24dB
@@ -105,15 +105,13 @@ SCommand addRender(CLI::App &app, SRenderCall &call) {
         ->type_name("BPM")
         ->check(between(10.0, 1000.0))
         ->capture_default_str();
-    render
-        .add_option("--block", options.blockSize,
-                    "Frames that the effect gets at a time, up to 1048576")
+    render.add_option("--block", options.blockSize, "Frames per block, up to 1048576")
         ->type_name("N")
         ->check(between(1, 1 << 20))
         ->capture_default_str();
     render
         .add_option("--tail", options.tailSeconds,
-                    "Go on behind the end of the input, up to an hour")
+                    "Keep rendering past the end of the input, up to an hour")
         ->type_name("SECONDS")
         ->check(between(0.0, 3600.0));
     render
@@ -124,8 +122,9 @@ SCommand addRender(CLI::App &app, SRenderCall &call) {
         ->type_name("CONTAINER[:TYPE]");
     render.add_flag("--double", options.doublePrecision, "Process in double precision");
     render.add_flag("--resample", options.resample,
-                    "Process at 44100 Hz, for which the strip is made, and convert back");
-    render.add_flag("--mono", options.mono, "Write the strip's mono sum of a mono file");
+                    "Process at 44100 Hz, which the strip is tuned for, and convert back");
+    render.add_flag("--mono", options.mono,
+                    "Write a mono file as the mono sum of the strip's output");
     addPlugin(render, call.plugin);
     addJson(render, call.json);
     render.footer(renderHelp);
@@ -141,15 +140,16 @@ SCommand addPrograms(CLI::App &app, SProgramsCall &call) {
 
 SCommand addParams(CLI::App &app, SParamsCall &call) {
     CLI::App &params = *app.add_subcommand("params", "List the effect's parameters");
-    params.add_option("--program", call.program, "As this program has them")->type_name("N|NAME");
+    params.add_option("--program", call.program, "Show the values of this program")
+        ->type_name("N|NAME");
     addPlugin(params, call.plugin);
     addJson(params, call.json);
     return {&params, [&call] { return runParams(call); }};
 }
 
 SCommand addInfo(CLI::App &app, SInfoCall &call) {
-    CLI::App &info = *app.add_subcommand("info", "Tell what a host sees of an effect");
-    info.add_option("FILE", call.file, "The effect's file, else the one beside corvel")
+    CLI::App &info = *app.add_subcommand("info", "Show what a host sees of an effect");
+    info.add_option("FILE", call.file, "The effect's file; by default the one beside corvel")
         ->type_name("");
     addJson(info, call.json);
     return {&info, [&call] { return runInfo(call); }};
@@ -177,7 +177,7 @@ int parseAndRun(int argc, char **argv) {
     for (const SCommand &command : commands)
         if (command.app->parsed())
             return command.run();
-    throw CCallError("no command: render, programs, params or info (corvel --help tells more)");
+    throw CCallError("no command; use render, programs, params or info (see corvel --help)");
 }
 
 }  // namespace
