@@ -1,11 +1,25 @@
+#include "abi/HeapInUse.h"
 #include "abi/LoadedPlugin.h"
 #include "dspclasses/parameters/ParameterIds.h"
+#include "dspclasses/support/Signals.h"
 #include "hostlayer/FakeHost.h"
 
 #include <cstring>
 #include <gtest/gtest.h>
 #include <set>
 #include <string>
+
+namespace {
+
+void loadRunAndUnload() {
+    const CPluginFile file;
+    const CLoadedEffect effect(file, FakeHost::callback);
+    effect.send(effMainsChanged, 0, 1);
+    TStereo<float> voice = makeSignal<float>(ESignal::Bursts, 1, 500), out(500);
+    effect.processReplacing(voice.pointers().data(), out.pointers().data(), 500);
+}
+
+}  // namespace
 
 TEST(PluginFile, HasOneEntryUnderTwoNames) {
     const CPluginFile file;
@@ -46,6 +60,18 @@ TEST(PluginFile, MayBeLoadedAndUnloadedRepeatedly) {
         const CLoadedEffect effect(file, FakeHost::callback);
         EXPECT_EQ(effect.text(effGetEffectName), "Corvel");
     }
+}
+
+TEST(PluginFile, GivesAllItsMemoryBackWhenItIsUnloaded) {
+    FakeHost host;
+    host.logging = false;
+    loadRunAndUnload();  // what the loader sets up for the first library stays
+    const std::size_t before = heapInUse();
+    constexpr std::size_t loads = 20;
+    for (std::size_t i = 0; i < loads; ++i)
+        loadRunAndUnload();
+    constexpr std::size_t bytesPerLoad = 1024;
+    EXPECT_LT(heapInUse(), before + loads * bytesPerLoad);
 }
 
 TEST(LoadedEffect, NamesItself) {

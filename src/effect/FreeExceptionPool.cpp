@@ -1,0 +1,19 @@
+// NOLINTBEGIN(bugprone-reserved-identifier): libstdc++ exports it and declares it in no header.
+namespace __gnu_cxx {
+void __freeres();
+}  // namespace __gnu_cxx
+// NOLINTEND(bugprone-reserved-identifier)
+
+namespace {
+
+/// The C++ run-time that is linked into this library sets 71 kB aside for exceptions that are
+/// thrown when memory has run out. It never frees them, so each load would cost the host that much.
+struct SExceptionPool {
+    ~SExceptionPool() { __gnu_cxx::__freeres(); }
+};
+
+// Built before every other static object, so destroyed after all of them: until then an exception
+// could still need the pool. 101 is the first priority that the compiler does not keep for itself.
+[[gnu::init_priority(101)]] SExceptionPool exceptionPool;
+
+}  // namespace
