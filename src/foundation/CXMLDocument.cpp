@@ -79,27 +79,23 @@ bool CXMLDocument::readFile(const CSystemString &path) {
     return !stream.hasFailed();
 }
 
-bool CXMLDocument::parseLine(const CString &line) {
+void CXMLDocument::parseLine(const CString &line) {
     if (line[0] != '<')
-        return false;
+        return;
     const CString tag = line.getSubString(1, line.getNumberOfCharacters() - 1);
     if (tag[0] == '!' || tag[0] == '?')
-        return true;
+        return;
     if (tag[0] == '/') {
         closeCurrentNode();
-        return true;
-    }
-    if (const std::int32_t blank = tag.findForward(' '); blank != -1) {
+    } else if (const std::int32_t blank = tag.findForward(' '); blank != -1) {
         addNode(tag.getSubString(0, blank - 1), true);
-        return parseAttributes(tag.getSubString(blank + 1, tag.getNumberOfCharacters() - 1));
-    }
-    if (const std::int32_t slash = tag.findBackwards('/'); slash != -1) {
+        parseAttributes(tag.getSubString(blank + 1, tag.getNumberOfCharacters() - 1));
+    } else if (const std::int32_t slash = tag.findBackwards('/'); slash != -1) {
         addNode(tag.getSubString(0, slash - 1), false);
-        return true;
+    } else {
+        const std::int32_t end = tag.findBackwards('>');
+        addNode(end == -1 ? tag : tag.getSubString(0, end - 1), true);
     }
-    const std::int32_t end = tag.findBackwards('>');
-    addNode(end == -1 ? tag : tag.getSubString(0, end - 1), true);
-    return true;
 }
 
 void CXMLDocument::addNode(CString name, bool becomesCurrent) {
@@ -121,7 +117,7 @@ void CXMLDocument::closeCurrentNode() {
         m_currentNode = m_currentNode->getParent();
 }
 
-bool CXMLDocument::parseAttributes(const CString &text) {
+void CXMLDocument::parseAttributes(const CString &text) {
     std::string buffer;
     std::unique_ptr<CXMLAttribute> pending;
     bool isQuoted = false;
@@ -150,11 +146,8 @@ bool CXMLDocument::parseAttributes(const CString &text) {
             buffer += *character;
         }
     }
-    if (pending != nullptr) {
+    if (pending != nullptr)
         trace("Failed to close XML attribute tag");
-        return false;
-    }
-    return true;
 }
 
 bool CXMLDocument::writeFile(const CSystemString &path) {

@@ -49,8 +49,8 @@ public:
     static bool isValidXMLFile(CTextStream &stream);
 
 private:
-    bool parseLine(const Basics::CString &line);
-    bool parseAttributes(const Basics::CString &text);
+    void parseLine(const Basics::CString &line);
+    void parseAttributes(const Basics::CString &text);
     void addNode(Basics::CString name, bool becomesCurrent);
     void closeCurrentNode();
     void writeTree(CTextStream &stream);
