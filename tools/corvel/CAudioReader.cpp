@@ -1,6 +1,6 @@
 #include "corvel/CAudioReader.h"
 
-#include "corvel/DeclaredLength.h"
+#include "corvel/BytesMissing.h"
 #include "corvel/Errors.h"
 #include "corvel/OutputFormat.h"
 

@@ -1,7 +1,7 @@
 #include "corvel/CEffectLibrary.h"
 
 #include "corvel/Errors.h"
-#include "corvel/LibraryLength.h"
+#include "corvel/IsLibraryCutShort.h"
 #include "platform/NativeLibrary.h"
 #include "platform/NativeModule.h"
 

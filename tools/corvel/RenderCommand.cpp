@@ -5,7 +5,7 @@
 #include "corvel/Print.h"
 #include "corvel/RenderReport.h"
 #include "corvel/Workers.h"
-#include "platform/Terminal.h"
+#include "platform/IsErrorStreamTerminal.h"
 
 #include <algorithm>
 #include <mutex>

@@ -1,4 +1,4 @@
-#include "corvel/LibraryLength.h"
+#include "corvel/IsLibraryCutShort.h"
 
 #include <array>
 #include <cstddef>

@@ -1,4 +1,4 @@
-#include "corvel/DeclaredLength.h"
+#include "corvel/BytesMissing.h"
 
 #include <array>
 #include <fstream>

@@ -1,4 +1,4 @@
-#include "platform/Terminal.h"
+#include "platform/IsErrorStreamTerminal.h"
 
 #include <cstdio>
 #include <io.h>

@@ -1,4 +1,4 @@
-#include "corvel/DeclaredLength.h"
+#include "corvel/BytesMissing.h"
 
 #include "tools/support/AudioFiles.h"
 #include "tools/support/CTemporaryFolder.h"
@@ -18,9 +18,9 @@ void overwriteSize(const std::filesystem::path &file, const char *chunk, const s
 
 }  // namespace
 
-class DeclaredLengthContainers : public testing::TestWithParam<int> {};
+class BytesMissingContainers : public testing::TestWithParam<int> {};
 
-TEST_P(DeclaredLengthContainers, AWholeFileMissesNothing) {
+TEST_P(BytesMissingContainers, AWholeFileMissesNothing) {
     const CTemporaryFolder folder;
     SSound sound = voice(1, 1001, 1);  // an odd number of bytes in 8 and 24 bits
     for (const int type : {SF_FORMAT_PCM_16, SF_FORMAT_PCM_24, SF_FORMAT_FLOAT}) {
@@ -30,7 +30,7 @@ TEST_P(DeclaredLengthContainers, AWholeFileMissesNothing) {
     }
 }
 
-TEST_P(DeclaredLengthContainers, MissingBytesAreCounted) {
+TEST_P(BytesMissingContainers, MissingBytesAreCounted) {
     const CTemporaryFolder folder;
     SSound sound = voice(1, 1000);
     sound.format = GetParam() | SF_FORMAT_PCM_16;
@@ -40,11 +40,11 @@ TEST_P(DeclaredLengthContainers, MissingBytesAreCounted) {
     EXPECT_EQ(bytesMissing(folder / "cut"), 100u);
 }
 
-INSTANTIATE_TEST_SUITE_P(Containers, DeclaredLengthContainers,
+INSTANTIATE_TEST_SUITE_P(Containers, BytesMissingContainers,
                          testing::Values(SF_FORMAT_WAV, SF_FORMAT_WAVEX, SF_FORMAT_AIFF,
                                          SF_FORMAT_WAV | SF_ENDIAN_BIG));
 
-TEST(DeclaredLength, ChunksBeginAtEvenPlaces) {
+TEST(BytesMissing, ChunksBeginAtEvenPlaces) {
     const CTemporaryFolder folder;
     SSound sound = voice(1, 1000);
     sound.format = SF_FORMAT_WAV | SF_FORMAT_PCM_16;
@@ -57,7 +57,7 @@ TEST(DeclaredLength, ChunksBeginAtEvenPlaces) {
     EXPECT_EQ(bytesMissing(folder / "cut"), 10u);
 }
 
-TEST(DeclaredLength, AWriterIntoAPipeDoesNotKnowTheLength) {
+TEST(BytesMissing, AWriterIntoAPipeDoesNotKnowTheLength) {
     const CTemporaryFolder folder;
     SSound sound = voice(1, 1000);
     sound.format = SF_FORMAT_WAV | SF_FORMAT_PCM_16;
@@ -69,7 +69,7 @@ TEST(DeclaredLength, AWriterIntoAPipeDoesNotKnowTheLength) {
     }
 }
 
-TEST(DeclaredLength, OtherFilesMissNothing) {
+TEST(BytesMissing, OtherFilesMissNothing) {
     const CTemporaryFolder folder;
     for (const std::string &bytes :
          {std::string(), std::string("RI"), std::string("RIFF"), std::string("RIFF1234WAVE"),
