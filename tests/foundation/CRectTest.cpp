@@ -81,6 +81,7 @@ TEST(CRect, CentreIsHalfTheSizeFromTheOrigin) {
     EXPECT_EQ(CRect(10, 20, 5, 8).getCentreX(), 12);
     EXPECT_EQ(CRect(10, 20, 5, 8).getCentreY(), 24);
     EXPECT_EQ(CRect(-10, 0, -5, 0).getCentreX(), -12);
+    EXPECT_EQ(CRect(0, -10, 0, -5).getCentreY(), -12);
 }
 
 TEST(CRect, WrapsAtTheEndsOfTheRange) {

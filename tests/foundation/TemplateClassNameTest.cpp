@@ -19,6 +19,7 @@ TEST(TemplateClassName, TakesWhatFollowsTheLastColon) {
 TEST(TemplateClassName, TakesWhatFollowsTheLastBlankIfThereIsNoColon) {
     EXPECT_EQ(templateClassName("TList<TypeName>", "class CClass"sv), "TList<CClass>");
     EXPECT_EQ(templateClassName("TList<TypeName>", "class Tessitor::CClass"sv), "TList<CClass>");
+    EXPECT_EQ(templateClassName("TList<TypeName>", "unsigned long int"sv), "TList<int>");
 }
 
 TEST(TemplateClassName, TakesAPlainNameWhole) {

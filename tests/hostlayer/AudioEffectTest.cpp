@@ -135,6 +135,12 @@ TEST(AudioEffect, IgnoresAProgramThatIsNotBelowTheirNumber) {
     EXPECT_EQ(effect.call(3), 2);
 }
 
+TEST(AudioEffect, SetsAProgramBelowZeroAsTheHostSays) {
+    ProbeEffect effect;
+    effect.call(2, 0, -1);
+    EXPECT_EQ(effect.call(3), -1);
+}
+
 TEST(AudioEffect, SwitchesMainsAsOftenAsTheHostSays) {
     RecordingEffect effect;
     for (const int value : {0, 1, 1, 0, 0}) {

@@ -87,6 +87,15 @@ TEST(CVstMidiEventList, ScalesPitchBend) {
     EXPECT_EQ(event.getDelta(), 7);
 }
 
+TEST(CVstMidiEventList, APitchBendClearsValueAndSubValueOfItsSlot) {
+    CVstMidiEventList list;
+    list.readEvents(*EventBlock().midi(0x90, 60, 100).get());
+    list.clear();
+    list.readEvents(*EventBlock().midi(0xE0, 5, 6).get());
+    EXPECT_EQ(list.getEventAtIndex(0)->getValue(), 0);
+    EXPECT_EQ(list.getEventAtIndex(0)->getSubValue(), 0);
+}
+
 TEST(CVstMidiEventList, LeavesTheSlotsChannelToAPitchBend) {
     EXPECT_EQ(eventOf(0xE0, 0, 64).getChannel(), 1);
 
