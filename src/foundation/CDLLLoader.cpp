@@ -2,6 +2,7 @@
 
 #include "foundation/CException.h"
 #include "foundation/FileExists.h"
+#include "foundation/Trace.h"
 #include "platform/NativeLibrary.h"
 
 #include <string>
@@ -31,8 +32,11 @@ void CDLLLoader::loadDll(const Basics::CString &path) {
     }
     closeNativeLibrary(m_module);
     m_fileName.setString(path);
-    std::string refusal;
-    m_module = openNativeLibrary(m_fileName.getString(), refusal);
+    std::string reason;
+    m_module = openNativeLibrary(m_fileName.getString(), reason);
+    if (m_module == nullptr)
+        IO::trace("Failed to load library with path = %s: %s", m_fileName.getString(),
+                  reason.c_str());
 }
 
 void *CDLLLoader::getFunction(const Basics::CString &name) const {

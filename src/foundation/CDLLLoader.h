@@ -14,9 +14,10 @@ public:
     ~CDLLLoader() override;  ///< gives the library back, and its functions with it
     Basics::CClass &getClass() const override { return s_class; }
 
-    /// Gives back what is loaded and loads the file. One that the system refuses, for it is no
-    /// library or lacks another, is no failure: it has no functions.
-    /// Throws CException, and keeps what is loaded, if there is no such file.
+    /// Gives back the library that is loaded and loads this file. If the system refuses it, because
+    /// it is not a library or needs one that is missing, the reason goes to the trace and there are
+    /// no functions.
+    /// @throws CException if there is no such file; the old library then stays loaded.
     void loadDll(const Basics::CString &path);
     /// @return the exported function, to be cast to its type; null if there is none of that name.
     void *getFunction(const Basics::CString &name) const;

@@ -1,5 +1,6 @@
 #include "foundation/CApplicationInformation.h"
 
+#include "foundation/CDLLLoader.h"
 #include "foundation/ProcessorFeatures.h"
 #include "platform/NativeModule.h"
 
@@ -8,6 +9,7 @@
 
 using Tessitor::Basics::CApplicationInformation;
 using Tessitor::Basics::CString;
+using Tessitor::Host::CDLLLoader;
 
 namespace {
 
@@ -63,12 +65,14 @@ TEST_F(CApplicationInformationStore, ReadsTheProcessor) {
 }
 
 TEST_F(CApplicationInformationStore, NamesTheFilesOfProgramAndModule) {
-    set();
+    const CDLLLoader library(SAMPLE_MODULE);
+    const auto handle = reinterpret_cast<void *(*)()>(library.getFunction("sampleModuleHandle"))();
+    CApplicationInformation::setApplicationInformation("", "", "", "", "", "", handle);
     CString program, module;
     CApplicationInformation::getApplicationFileName(program);
     CApplicationInformation::getPluginFileName(module);
-    EXPECT_EQ(program.getString(), nativeModulePath(nullptr));
-    EXPECT_EQ(module.getString(), nativeModulePath(nativeModuleHandle()));
+    EXPECT_EQ(std::filesystem::path(program.getString()).stem(), "foundation_tests");
+    EXPECT_TRUE(std::filesystem::equivalent(module.getString(), SAMPLE_MODULE));
 }
 
 TEST_F(CApplicationInformationStore, DestroyingEmptiesItAndFreesEveryText) {

@@ -2,6 +2,9 @@
 
 #include "CTemporaryFolder.h"
 #include "foundation/CException.h"
+#include "foundation/ReadFile.h"
+#include "foundation/Trace.h"
+#include "platform/NativeLibrary.h"
 
 #include <fstream>
 #include <gtest/gtest.h>
@@ -18,6 +21,11 @@ bool hasSample(const CDLLLoader &loader) {
         loader.getFunction("sampleModulePath"));
     char path[4096];
     return ask != nullptr && ask(path, sizeof path) > 0;
+}
+
+/// How often this has been called since the sample was loaded.
+int sampleCalls(const CDLLLoader &loader) {
+    return reinterpret_cast<int (*)()>(loader.getFunction("sampleCalls"))();
 }
 
 TEST(CDLLLoader, FindsTheFunctionsOfALibrary) {
@@ -61,8 +69,29 @@ TEST(CDLLLoader, AFileThatIsNoLibraryHasNoFunctions) {
     const std::string path = (folder / "text.dll").string();
     std::ofstream(path) << "no library";
     CDLLLoader loader(SAMPLE_MODULE);
+    EXPECT_EQ(sampleCalls(loader), 1);
     loader.loadDll(path.c_str());
     EXPECT_EQ(loader.getFunction("sampleModulePath"), nullptr);
+    EXPECT_EQ(sampleCalls(CDLLLoader(SAMPLE_MODULE)), 1) << "the first library was not unloaded";
+}
+
+TEST(CDLLLoader, UnloadsTheLibraryWhenItIsDestroyed) {
+    EXPECT_EQ(sampleCalls(CDLLLoader(SAMPLE_MODULE)), 1);
+    EXPECT_EQ(sampleCalls(CDLLLoader(SAMPLE_MODULE)), 1);
+}
+
+TEST(CDLLLoader, TracesWhyTheSystemRefusesAFile) {
+    const CTemporaryFolder folder;
+    const std::string path = (folder / "text.dll").string(), log = (folder / "log").string();
+    std::ofstream(path) << "no library";
+    std::string reason;
+    openNativeLibrary(path, reason);
+    ASSERT_NE(reason, "");
+
+    Tessitor::IO::openTrace(log.c_str());
+    { const CDLLLoader refused(path.c_str()), loaded(SAMPLE_MODULE); }
+    Tessitor::IO::openTrace("");
+    EXPECT_EQ(readFile(log), "Failed to load library with path = " + path + ": " + reason + "\n");
 }
 
 TEST(CDLLLoader, EveryConstructorCounts) {

@@ -32,8 +32,15 @@ TEST(NativeLibrary, SaysWhyAFileIsRefused) {
     EXPECT_NE(reason, "");
 }
 
-TEST(NativeLibrary, ClosingNullIsIgnored) {
-    closeNativeLibrary(nullptr);
+TEST(NativeLibrary, ClosingUnloadsTheLibrary) {
+    for (int load = 0; load < 2; ++load) {
+        std::string reason;
+        void *library = openNativeLibrary(SAMPLE_MODULE, reason);
+        ASSERT_NE(library, nullptr) << reason;
+        const auto calls = reinterpret_cast<int (*)()>(nativeSymbol(library, "sampleCalls"));
+        EXPECT_EQ(calls(), 1) << "the library of the load before is still there";
+        closeNativeLibrary(library);
+    }
 }
 
 }  // namespace

@@ -1,7 +1,19 @@
 #include "platform/NativeModule.h"
 
-/// A library that says where it is, for NativeModuleTest. @return the length of its own path.
+// A library for tests to load.
+
+/// Writes the path of this library. @return its length.
 extern "C" [[gnu::visibility("default")]] std::size_t sampleModulePath(char *path,
                                                                        std::size_t size) {
     return nativeModulePath(nativeModuleHandle()).copy(path, size);
+}
+
+extern "C" [[gnu::visibility("default")]] void *sampleModuleHandle() {
+    return nativeModuleHandle();
+}
+
+/// @return the number of calls since the library was loaded, this one included.
+extern "C" [[gnu::visibility("default")]] int sampleCalls() {
+    static int calls = 0;
+    return ++calls;
 }
