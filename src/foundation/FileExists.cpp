@@ -20,8 +20,7 @@ bool fileExists(const Basics::CSystemString &folder, const Basics::CString &name
 }
 
 bool folderExists(const Basics::CSystemString &path) {
-    const std::optional<SNativeFile> found = nativeFile(path.getString());
-    return found.has_value() && (found->attributes & nativeFolderAttribute) != 0;
+    return isNativeFolder(path.getString());
 }
 
 }  // namespace Tessitor::Host

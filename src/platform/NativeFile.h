@@ -26,5 +26,9 @@ inline constexpr std::uint32_t nativeFolderAttribute = 16;
 /// @return nothing if there is no such file.
 std::optional<SNativeFile> nativeFile(const std::string &path);
 
+/// @return whether the path leads to a folder. Links are followed, a separator at the end is allowed,
+///         and a pattern is not a path.
+bool isNativeFolder(const std::string &path);
+
 /// @return how many entries of the folder are no folders themselves; 0 if it cannot be read.
 int nativeFileCount(const std::string &folder);

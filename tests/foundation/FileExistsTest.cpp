@@ -45,4 +45,17 @@ TEST(FolderExists, IsTrueForAFolderOnly) {
     EXPECT_FALSE(folderExists(""));
 }
 
+TEST(FolderExists, AllowsASeparatorAtTheEnd) {
+    const CTemporaryFolder folder;
+    EXPECT_TRUE(folderExists(text(folder / "")));
+    EXPECT_TRUE(folderExists(text(folder.path().root_path()))) << "the root of the drive";
+}
+
+TEST(FolderExists, APatternIsNotAFolder) {
+    const CTemporaryFolder folder;
+    std::filesystem::create_directory(folder / "inner");
+    EXPECT_FALSE(folderExists(text(folder / "*")));
+    EXPECT_FALSE(folderExists(text(folder / "inn?r")));
+}
+
 }  // namespace

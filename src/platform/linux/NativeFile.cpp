@@ -41,6 +41,11 @@ std::optional<SNativeFile> nativeFile(const std::string &path) {
                        ""};
 }
 
+bool isNativeFolder(const std::string &path) {
+    struct stat status {};
+    return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
 int nativeFileCount(const std::string &folder) {
     std::error_code failed;
     int count = 0;

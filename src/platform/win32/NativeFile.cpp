@@ -29,6 +29,19 @@ std::optional<SNativeFile> nativeFile(const std::string &path) {
                        found.cAlternateFileName};
 }
 
+bool isNativeFolder(const std::string &path) {
+    // The attributes that belong to the path itself would be those of a link.
+    const HANDLE handle =
+        CreateFileA(path.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                    nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    if (handle == INVALID_HANDLE_VALUE)
+        return false;
+    BY_HANDLE_FILE_INFORMATION information{};
+    const bool isKnown = GetFileInformationByHandle(handle, &information) != 0;
+    CloseHandle(handle);
+    return isKnown && (information.dwFileAttributes & nativeFolderAttribute) != 0;
+}
+
 int nativeFileCount(const std::string &folder) {
     WIN32_FIND_DATAA found;
     const HANDLE search = FindFirstFileA((folder + "\\*").c_str(), &found);

@@ -2,9 +2,11 @@
 
 #include "CTemporaryFolder.h"
 
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 namespace {
 
@@ -18,6 +20,22 @@ TEST(NativeFileOnLinux, MarksWhatBeginsWithADotAsHidden) {
     EXPECT_EQ(nativeFile((folder / ".both").string())->attributes, 18u);
 }
 
+TEST(NativeFileOnLinux, TellsItsTimesApartToATick) {
+    const CTemporaryFolder folder;
+    const std::string path = (folder / "Voice.wav").string();
+    std::ofstream{path};
+    constexpr std::uint64_t at1970 = 116'444'736'000'000'000;
+    const timespec times[] = {{1'000'000'000, 123'456'700}, {1'500'000'000, 987'654'300}};
+    ASSERT_EQ(utimensat(AT_FDCWD, path.c_str(), times, 0), 0);
+    const auto file = nativeFile(path);
+    EXPECT_EQ(file->lastAccessTime, at1970 + 10'000'000'001'234'567);
+    EXPECT_EQ(file->lastWriteTime, at1970 + 15'000'000'009'876'543);
+    // Nothing sets the time of creation, and some file systems do not keep it.
+    if (file->creationTime != 0) {
+        EXPECT_GT(file->creationTime, at1970 + 17'000'000'000'000'000);
+    }
+}
+
 TEST(NativeFileOnLinux, CountsALinkAsWhatItLeadsTo) {
     const CTemporaryFolder folder;
     std::filesystem::create_directory(folder / "inner");
@@ -25,6 +43,8 @@ TEST(NativeFileOnLinux, CountsALinkAsWhatItLeadsTo) {
     std::filesystem::create_symlink(folder / "none", folder / "broken");
     EXPECT_EQ(nativeFileCount(folder.path().string()), 1);
     EXPECT_NE(nativeFile((folder / "link").string())->attributes & nativeFolderAttribute, 0u);
+    EXPECT_TRUE(isNativeFolder((folder / "link").string()));
+    EXPECT_FALSE(isNativeFolder((folder / "broken").string()));
 }
 
 }  // namespace
