@@ -7,6 +7,10 @@ namespace Tessitor::Host {
 using Basics::CString;
 using Basics::CSystemString;
 
+CSystemString getDriveOf(const CSystemString &path) {
+    return nativeDriveOf(path.getString()).c_str();
+}
+
 CString getVolumeName(const CSystemString &drive) {
     return nativeVolume(drive.getString()).name.c_str();
 }

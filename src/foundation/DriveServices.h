@@ -3,9 +3,13 @@
 #include "foundation/CSystemString.h"
 #include "platform/NativeDrive.h"
 
-/// Drives and folders of the system. A drive is told by a path: on Windows the root of one, "C:\\";
-/// on Linux any path, which stands for the file system mounted there. [any thread]
+/// Drives and folders of the system. On Windows a drive is named by its root, "C:\\"; on Linux any
+/// path on it will do. [one thread at a time]
 namespace Tessitor::Host {
+
+/// @return the drive that holds the path: its root on Windows, its mount point on Linux; "" if there
+///         is none.
+Basics::CSystemString getDriveOf(const Basics::CSystemString &path);
 
 /// @return the label of the drive; "" if it has none or is not there.
 Basics::CString getVolumeName(const Basics::CSystemString &drive);

@@ -18,7 +18,7 @@ constexpr char fileName[] = "CPUStats.txt";
 void writeDriveReport(CSystemString &path) {
     IO::writeReport(path, fileName, "Tessitor Host drive info extraction tool\n",
                     [&path](CTextStream &report) {
-                        const CSystemString drive = path.getDrive(true);
+                        const CSystemString drive = getDriveOf(path);
                         report << "Drive      : " << drive << "\n";
                         report << "Volume name: " << getVolumeName(drive) << "\n";
                         report << "File system: " << getFileSystem(drive) << "\n";

@@ -2,10 +2,14 @@
 
 #include <string>
 
-/// The file systems that files lie on. [any thread]
+/// Drives, that is, mounted file systems. [any thread]
 ///
-/// A drive is told by a path: on Windows the root of one with its separator, "C:\\"; on Linux any
-/// path, which stands for the file system that is mounted there.
+/// On Windows a drive is named by its root with the separator, "C:\\". On Linux any path on it will
+/// do: the mount that holds the path is meant.
+
+/// @return the drive that holds the path: on Windows its root, on Linux its mount point. "" if there
+///         is none, and on Linux also if nothing exists at the path.
+std::string nativeDriveOf(const std::string &path);
 
 /// What a file system is called; both "" if there is none at that path.
 struct SNativeVolume {

@@ -1,20 +1,28 @@
 #include "foundation/CFileInformation.h"
 
-#include "CTemporaryFolder.h"
-
-#include <fstream>
-#include <gtest/gtest.h>
+#include "foundation/FakeMachine.h"
 
 using Tessitor::Host::CFileInformation;
 
 namespace {
 
-class CFileInformationTest : public testing::Test {
-protected:
-    CFileInformationTest() { std::ofstream(folder / "Voice 1.wav") << "seven b"; }
+constexpr std::uint64_t second = 10'000'000, hour = 3600 * second, millisecond = 10'000;
+constexpr std::uint64_t at1970 = 116'444'736'000'000'000;
 
-    CTemporaryFolder folder;
-    const std::string path = (folder / "Voice 1.wav").string();
+class CFileInformationTest : public CFakeMachineTest {
+protected:
+    CFileInformationTest() {
+        machine.files["/voices/Voice 1.wav"] = {128,
+                                                at1970 + hour + 1 * millisecond,
+                                                at1970 + 2 * hour + 22 * millisecond,
+                                                at1970 + 3 * hour + 333 * millisecond,
+                                                std::uint64_t{1} << 40,
+                                                "Voice 1.wav",
+                                                "VOICE1~1.WAV"};
+        machine.files["/voices"] = {nativeFolderAttribute, 0, 0, 0, 0, "voices", ""};
+    }
+
+    const char *const path = "/voices/Voice 1.wav";
 };
 
 TEST_F(CFileInformationTest, HoldsNothingAtFirst) {
@@ -28,40 +36,59 @@ TEST_F(CFileInformationTest, HoldsNothingAtFirst) {
 }
 
 TEST_F(CFileInformationTest, ReadsAFile) {
-    const CFileInformation file(path.c_str());
+    const CFileInformation file(path);
+    EXPECT_EQ(file.getAttributes(), 128u);
     EXPECT_FALSE(file.isFolder());
-    EXPECT_EQ(file.getFileSize(), 7u);
+    EXPECT_EQ(file.getFileSize(), std::uint64_t{1} << 40);
     EXPECT_STREQ(file.getDisplayName().getString(), "Voice 1.wav");
+    EXPECT_STREQ(file.getShortName().getString(), "VOICE1~1.WAV");
     EXPECT_STREQ(file.getExtension().getString(), ".wav");
-    EXPECT_EQ(file.getFullPath().getString(), path);
-    EXPECT_STRNE(file.getShortName().getString(), "");
-    EXPECT_GE(file.getLastWriteTime().getYear(), 2020);
-    EXPECT_GE(file.getLastAccessTime().getYear(), 2020);
+    EXPECT_STREQ(file.getFullPath().getString(), path);
+}
+
+TEST_F(CFileInformationTest, ReadsThreeTimesToTheMillisecond) {
+    const CFileInformation file(path);
+    EXPECT_STREQ(file.getCreationTime().getDate().getString(), "01/01/1970");
+    EXPECT_STREQ(file.getCreationTime().getTime().getString(), "01:00:00:01");
+    EXPECT_STREQ(file.getLastAccessTime().getTime().getString(), "02:00:00:22");
+    EXPECT_STREQ(file.getLastWriteTime().getTime().getString(), "03:00:00:333");
+}
+
+TEST_F(CFileInformationTest, ATimeThatIsNotRecordedIsAllZero) {
+    const CFileInformation folder("/voices");
+    EXPECT_STREQ(folder.getCreationTime().getDate().getString(), "00/00/0000");
+    EXPECT_STREQ(folder.getLastAccessTime().getDate().getString(), "00/00/0000");
+    EXPECT_STREQ(folder.getLastWriteTime().getDate().getString(), "00/00/0000");
 }
 
 TEST_F(CFileInformationTest, ReadsAFolder) {
-    const CFileInformation file(folder.path().string().c_str());
-    EXPECT_TRUE(file.isFolder());
-    EXPECT_EQ(file.getDisplayName().getString(), folder.path().filename());
-    EXPECT_STREQ(file.getExtension().getString(), "");
+    const CFileInformation folder("/voices");
+    EXPECT_TRUE(folder.isFolder());
+    EXPECT_STREQ(folder.getDisplayName().getString(), "voices");
+    EXPECT_STREQ(folder.getExtension().getString(), "");
 }
 
-TEST_F(CFileInformationTest, AFileThatIsNotThereChangesNothing) {
-    CFileInformation file(path.c_str());
-    EXPECT_FALSE(file.readInformation((folder / "none").string().c_str()));
+TEST_F(CFileInformationTest, UsesTheNameIfThereIsNoShortName) {
+    EXPECT_STREQ(CFileInformation("/voices").getShortName().getString(), "voices");
+}
+
+TEST_F(CFileInformationTest, AMissingFileChangesNothing) {
+    CFileInformation file(path);
+    EXPECT_FALSE(file.readInformation("/voices/none"));
     EXPECT_STREQ(file.getDisplayName().getString(), "Voice 1.wav");
-    EXPECT_EQ(CFileInformation((folder / "none").string().c_str()).getAttributes(), 11u);
+    EXPECT_EQ(CFileInformation("/voices/none").getAttributes(), 11u);
 }
 
 TEST_F(CFileInformationTest, ReadsAgain) {
-    CFileInformation file(path.c_str());
-    EXPECT_TRUE(file.readInformation(folder.path().string().c_str()));
+    CFileInformation file(path);
+    EXPECT_TRUE(file.readInformation("/voices"));
     EXPECT_TRUE(file.isFolder());
     EXPECT_STREQ(file.getExtension().getString(), "");
+    EXPECT_EQ(file.getLastWriteTime().getYear(), 0);
 }
 
 TEST_F(CFileInformationTest, AssignsAndCopiesEverything) {
-    const CFileInformation file(path.c_str());
+    const CFileInformation file(path);
     CFileInformation assigned;
     assigned = file;
     for (const CFileInformation &other : {assigned, CFileInformation(file)}) {
@@ -82,7 +109,7 @@ TEST_F(CFileInformationTest, EveryConstructorCounts) {
     EXPECT_TRUE(file.getClass() == "CFileInformation");
     const auto instances = file.getClass().getInstanceCount();
     {
-        const CFileInformation copy(file), read(path.c_str());
+        const CFileInformation copy(file), read(path);
         EXPECT_EQ(file.getClass().getInstanceCount(), instances + 2);
     }
     EXPECT_EQ(file.getClass().getInstanceCount(), instances);

@@ -1,52 +1,45 @@
 #include "foundation/DriveServices.h"
 
-#include "CTemporaryFolder.h"
-
-#include <filesystem>
-#include <fstream>
-#include <gtest/gtest.h>
+#include "foundation/FakeMachine.h"
 
 using namespace Tessitor::Host;
-using Tessitor::Basics::CSystemString;
 
 namespace {
 
-TEST(DriveServices, TellTheDriveOfTheSystem) {
-    const CSystemString drive = getWindowsFolder().getDrive(true);
-    EXPECT_STRNE(getFileSystem(drive).getString(), "");
-    EXPECT_NE(getDriveType(drive), ENativeDriveType::NoRoot);
-    EXPECT_STREQ(getVolumeName(drive).getString(), nativeVolume(drive.getString()).name.c_str());
+class DriveServices : public CFakeMachineTest {};
+
+TEST_F(DriveServices, FindTheDriveOfAPath) {
+    machine.drives["/voices"];
+    EXPECT_STREQ(getDriveOf("/voices/lead.wav").getString(), "/voices");
+    EXPECT_STREQ(getDriveOf("/choirs/lead.wav").getString(), "");
 }
 
-TEST(DriveServices, ADriveIsOfOneKindAtMost) {
-    const CSystemString drive = getWindowsFolder().getDrive(true);
-    const ENativeDriveType type = getDriveType(drive);
-    EXPECT_EQ(isFixedDrive(drive), type == ENativeDriveType::Fixed);
-    EXPECT_EQ(isRemoteDrive(drive), type == ENativeDriveType::Remote);
-    EXPECT_EQ(isOpticalDrive(drive), type == ENativeDriveType::Optical);
-    EXPECT_LE(isFixedDrive(drive) + isRemoteDrive(drive) + isOpticalDrive(drive), 1);
+TEST_F(DriveServices, GiveVolumeNameAndFileSystem) {
+    machine.drives["/voices"].volume = {"Voices", "ext4"};
+    EXPECT_STREQ(getVolumeName("/voices").getString(), "Voices");
+    EXPECT_STREQ(getFileSystem("/voices").getString(), "ext4");
 }
 
-TEST(DriveServices, ADriveThatIsNotThereIsOfNoKind) {
-    const CTemporaryFolder folder;
-    const CSystemString drive = (folder / "none").string().c_str();
-    EXPECT_EQ(getDriveType(drive), ENativeDriveType::NoRoot);
-    EXPECT_FALSE(isFixedDrive(drive) || isRemoteDrive(drive) || isOpticalDrive(drive));
-    EXPECT_STREQ(getFileSystem(drive).getString(), "");
-    EXPECT_STREQ(getVolumeName(drive).getString(), "");
+TEST_F(DriveServices, DistinguishAllTypesOfDrive) {
+    using enum ENativeDriveType;
+    for (const auto type : {Unknown, NoRoot, Removable, Fixed, Remote, Optical, RamDisk}) {
+        machine.drives["/voices"].type = type;
+        EXPECT_EQ(getDriveType("/voices"), type);
+        EXPECT_EQ(isFixedDrive("/voices"), type == Fixed);
+        EXPECT_EQ(isRemoteDrive("/voices"), type == Remote);
+        EXPECT_EQ(isOpticalDrive("/voices"), type == Optical);
+    }
 }
 
-TEST(DriveServices, WindowsFolderIsTheSystems) {
-    EXPECT_TRUE(std::filesystem::is_directory(getWindowsFolder().getString()));
+TEST_F(DriveServices, GiveTheFolderOfTheSystem) {
+    machine.systemFolder = "/system";
+    EXPECT_STREQ(getWindowsFolder().getString(), "/system");
 }
 
-TEST(DriveServices, CountFilesButNoFolders) {
-    const CTemporaryFolder folder;
-    std::ofstream{folder / "one"};
-    std::ofstream{folder / "two"};
-    std::filesystem::create_directory(folder / "three");
-    EXPECT_EQ(getFileCount(folder.path().string().c_str()), 2);
-    EXPECT_EQ(getFileCount((folder / "none").string().c_str()), 0);
+TEST_F(DriveServices, CountTheFilesOfAFolder) {
+    machine.fileCounts["/voices"] = 7;
+    EXPECT_EQ(getFileCount("/voices"), 7);
+    EXPECT_EQ(getFileCount("/choirs"), 0);
 }
 
 }  // namespace

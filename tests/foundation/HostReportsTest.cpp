@@ -1,61 +1,64 @@
 #include "foundation/HostReports.h"
 
-#include "foundation/DriveServices.h"
+#include "foundation/FakeMachine.h"
 #include "foundation/ReportText.h"
 #include "foundation/VirtualScreen.h"
-#include "platform/NativeScreen.h"
 
 #include <filesystem>
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include <string>
 
 using namespace Tessitor::Host;
 using Tessitor::Basics::CSystemString;
 
 namespace {
 
-TEST(HostReports, TellTheDriveOfTheReport) {
-    const CSystemString here = std::filesystem::temp_directory_path().string().c_str();
-    const CSystemString drive = here.getDrive(true);
-    EXPECT_THAT(reportText(writeDriveReport, "CPUStats.txt"),
-                testing::AllOf(
-                    testing::StartsWith("Tessitor Host drive info extraction tool\n"
-                                        "----------------------------------\n"
-                                        "Drive      : " +
-                                        std::string(drive.getString()) + "\n"),
-                    testing::HasSubstr(
-                        "\nFile system: " + std::string(getFileSystem(drive).getString()) + "\n"),
-                    testing::HasSubstr(isFixedDrive(drive) ? "\nIs fixed   : true\n"
-                                                           : "\nIs fixed   : false\n"),
-                    testing::EndsWith("\n----------------------------------\n")));
+class HostReports : public CFakeMachineTest {};
+
+TEST_F(HostReports, DescribeTheDriveThatHoldsTheReport) {
+    // reportText() writes into a folder in here.
+    const std::string drive = std::filesystem::temp_directory_path().string();
+    const std::string rule = "----------------------------------\n";
+    using enum ENativeDriveType;
+    for (const auto &[type, kinds] :
+         {std::pair{Fixed, "Is fixed   : true\nIs remote  : false\nIs optical : false\n"},
+          std::pair{Remote, "Is fixed   : false\nIs remote  : true\nIs optical : false\n"},
+          std::pair{Optical, "Is fixed   : false\nIs remote  : false\nIs optical : true\n"}}) {
+        machine.drives[drive] = {{"Voices", "ext4"}, type};
+        EXPECT_EQ(reportText(writeDriveReport, "CPUStats.txt"),
+                  "Tessitor Host drive info extraction tool\n" + rule + "Drive      : " + drive +
+                      "\nVolume name: Voices\nFile system: ext4\n" + kinds + rule);
+    }
 }
 
-TEST(HostReports, TellTheVirtualScreen) {
-    const Tessitor::MathTools::CRect screen = getVirtualScreen();
+TEST_F(HostReports, DescribeTheVirtualScreen) {
+    machine.virtualScreen = {-1920, -120, 1280, 1024};
     EXPECT_EQ(reportText(writeDisplayReport, "CPUStats.txt"),
               "Tessitor Host display info extraction tool\n"
               "----------------------------------\n"
-              "Left  : " +
-                  std::to_string(screen.getLeft()) +
-                  "\nTop   : " + std::to_string(screen.getTop()) +
-                  "\nWidth : " + std::to_string(screen.getWidth()) + "\nHeight: " +
-                  std::to_string(screen.getHeight()) + "\n----------------------------------\n");
+              "Left  : -1920\n"
+              "Top   : -120\n"
+              "Width : 3200\n"
+              "Height: 1144\n"
+              "----------------------------------\n");
 }
 
-TEST(HostReports, TheVirtualScreenIsTheSystems) {
-    const SNativeRect native = nativeVirtualScreen(), screen = getVirtualScreen().toNative();
-    EXPECT_EQ(screen.left, native.left);
-    EXPECT_EQ(screen.top, native.top);
-    EXPECT_EQ(screen.right, native.right);
-    EXPECT_EQ(screen.bottom, native.bottom);
-}
-
-TEST(HostReports, AFileThatCannotBeMadeIsNoFailure) {
+TEST_F(HostReports, AreNotWrittenIfTheFileCannotBeCreated) {
     const CTemporaryFolder folder;
     CSystemString path = (folder / "none" / "report.txt").string().c_str();
     writeDriveReport(path);
     writeDisplayReport(path);
     EXPECT_TRUE(std::filesystem::is_empty(folder.path()));
+}
+
+class VirtualScreen : public CFakeMachineTest {};
+
+TEST_F(VirtualScreen, HasTheEdgesThatTheSystemReports) {
+    machine.virtualScreen = {-1920, -120, 1280, 1024};
+    const Tessitor::MathTools::CRect screen = getVirtualScreen();
+    EXPECT_EQ(screen.getLeft(), -1920);
+    EXPECT_EQ(screen.getTop(), -120);
+    EXPECT_EQ(screen.getRight(), 1280);
+    EXPECT_EQ(screen.getBottom(), 1024);
 }
 
 }  // namespace

@@ -29,8 +29,13 @@ bool liesIn(const fs::path &folder, const fs::path &path) {
            folder.end();
 }
 
-/// The kind of the file system that holds the path; nothing if there is no such path.
-std::optional<std::string> fileSystemOf(const std::string &path) {
+struct SMount {
+    std::string folder;
+    std::string fileSystem;
+};
+
+/// The deepest mount that holds the path; nothing if there is no such path.
+std::optional<SMount> mountOf(const std::string &path) {
     std::error_code failed;
     const fs::path target = fs::canonical(path, failed);
     const std::unique_ptr<FILE, SCloseTable> table(setmntent("/proc/self/mounts", "r"));
@@ -38,17 +43,14 @@ std::optional<std::string> fileSystemOf(const std::string &path) {
         return {};
     mntent mount;
     char text[4096];
-    std::string kind;
-    std::size_t deepest = 0;
+    SMount deepest;
     while (getmntent_r(table.get(), &mount, text, sizeof text) != nullptr) {
-        // Of two at one place, the later hides the earlier.
-        const std::size_t depth = std::string_view(mount.mnt_dir).size();
-        if (depth >= deepest && liesIn(mount.mnt_dir, target)) {
-            deepest = depth;
-            kind = mount.mnt_type;
-        }
+        // A later mount on the same folder hides the earlier one.
+        const std::string_view folder = mount.mnt_dir;
+        if (folder.size() >= deepest.folder.size() && liesIn(folder, target))
+            deepest = {mount.mnt_dir, mount.mnt_type};
     }
-    return kind;
+    return deepest;
 }
 
 /// What the file system itself says: not every kind answers.
@@ -88,22 +90,27 @@ constexpr std::array<std::string_view, 10> remoteKinds{
 
 }  // namespace
 
+std::string nativeDriveOf(const std::string &path) {
+    const std::optional<SMount> mount = mountOf(path);
+    return mount ? mount->folder : "";
+}
+
 SNativeVolume nativeVolume(const std::string &drive) {
-    const std::optional<std::string> kind = fileSystemOf(drive);
-    if (!kind)
+    const std::optional<SMount> mount = mountOf(drive);
+    if (!mount)
         return {};
-    return {labelOf(drive), *kind};
+    return {labelOf(drive), mount->fileSystem};
 }
 
 ENativeDriveType nativeDriveType(const std::string &drive) {
-    const std::optional<std::string> kind = fileSystemOf(drive);
-    if (!kind)
+    const std::optional<SMount> mount = mountOf(drive);
+    if (!mount)
         return ENativeDriveType::NoRoot;
-    if (isOneOf(opticalKinds, *kind))
+    if (isOneOf(opticalKinds, mount->fileSystem))
         return ENativeDriveType::Optical;
-    if (isOneOf(remoteKinds, *kind))
+    if (isOneOf(remoteKinds, mount->fileSystem))
         return ENativeDriveType::Remote;
-    if (isOneOf(memoryKinds, *kind))
+    if (isOneOf(memoryKinds, mount->fileSystem))
         return ENativeDriveType::RamDisk;
     return isOnRemovableDisk(drive) ? ENativeDriveType::Removable : ENativeDriveType::Fixed;
 }

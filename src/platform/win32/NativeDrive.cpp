@@ -2,6 +2,13 @@
 
 #include <windows.h>
 
+std::string nativeDriveOf(const std::string &path) {
+    char root[MAX_PATH + 1] = {};
+    if (GetVolumePathNameA(path.c_str(), root, sizeof root) == 0)
+        return {};
+    return root;
+}
+
 SNativeVolume nativeVolume(const std::string &drive) {
     char name[MAX_PATH + 1] = {}, fileSystem[MAX_PATH + 1] = {};
     if (GetVolumeInformationA(drive.c_str(), name, sizeof name, nullptr, nullptr, nullptr,

@@ -10,7 +10,15 @@ TEST(NativeDrive, GoesByTheDeepestMountThatHoldsThePath) {
     EXPECT_NE(nativeVolume("/").fileSystem, "proc");
 }
 
+TEST(NativeDrive, IsTheMountPointThatHoldsThePath) {
+    EXPECT_EQ(nativeDriveOf("/proc/self/status"), "/proc");
+    EXPECT_EQ(nativeDriveOf("/dev/shm"), "/dev/shm");
+    EXPECT_EQ(nativeDriveOf("/"), "/");
+    EXPECT_EQ(nativeDriveOf("/no such folder"), "");
+}
+
 TEST(NativeDrive, FollowsSymbolicLinks) {
+    EXPECT_EQ(nativeDriveOf("/dev/fd"), "/proc");
     EXPECT_EQ(nativeVolume("/dev/fd").fileSystem, "proc");
 }
 

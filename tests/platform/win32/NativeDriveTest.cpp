@@ -14,6 +14,12 @@ TEST(NativeDrive, NumbersAreWindowsOwn) {
     EXPECT_EQ(static_cast<UINT>(ENativeDriveType::RamDisk), UINT{DRIVE_RAMDISK});
 }
 
+TEST(NativeDrive, IsTheRootThatHoldsThePath) {
+    const std::string root = nativeSystemFolder().substr(0, 3);
+    EXPECT_EQ(nativeDriveOf(nativeSystemFolder()), root);
+    EXPECT_EQ(nativeDriveOf(root + "no such folder\\file.txt"), root);
+}
+
 TEST(NativeDrive, ALetterThatNoDriveHasHasNothing) {
     std::string drive = "A:\\";
     for (DWORD taken = GetLogicalDrives(); (taken & 1) != 0; taken >>= 1)
