@@ -4,22 +4,22 @@
 
 namespace Tessitor::Host {
 
-/// A shared library, open as long as this lives. [one thread at a time]
+/// A shared library, loaded for as long as this object lives. [one thread at a time]
 class CDLLLoader : public Basics::CCountedObject {
 public:
     CDLLLoader();
-    explicit CDLLLoader(const Basics::CString &path);  ///< loads at once, and may throw
+    explicit CDLLLoader(const Basics::CString &path);  ///< calls loadDll()
     CDLLLoader(const CDLLLoader &) = delete;
     CDLLLoader &operator=(const CDLLLoader &) = delete;
-    ~CDLLLoader() override;  ///< gives the library back, and its functions with it
+    ~CDLLLoader() override;  ///< unloads the library; its functions are then gone
     Basics::CClass &getClass() const override { return s_class; }
 
-    /// Gives back the library that is loaded and loads this file. If the system refuses it, because
-    /// it is not a library or needs one that is missing, the reason goes to the trace and there are
-    /// no functions.
-    /// @throws CException if there is no such file; the old library then stays loaded.
+    /// Unloads the present library and loads this file. If the system refuses the file, because it
+    /// is not a library or needs one that is missing, the reason goes to the trace and there are no
+    /// functions.
+    /// @throws CException if there is no such file. The present library then stays loaded.
     void loadDll(const Basics::CString &path);
-    /// @return the exported function, to be cast to its type; null if there is none of that name.
+    /// @return the exported function, to be cast to its type; null if none has that name.
     void *getFunction(const Basics::CString &name) const;
 
 private:

@@ -5,7 +5,7 @@
 
 namespace Tessitor::Host {
 
-/// What the system knows of a file or a folder, copied when it is read. [one thread at a time]
+/// A copy of what the system says about a file or folder. [one thread at a time]
 class CFileInformation : public Basics::CCountedObject {
 public:
     CFileInformation();
@@ -16,18 +16,18 @@ public:
 
     virtual CFileInformation &operator=(const CFileInformation &other);
 
-    /// @return false, and nothing changed, if there is no such file or folder.
+    /// @return false if there is no such file or folder; nothing is changed then.
     bool readInformation(const Basics::CSystemString &path);
 
-    /// Windows' bits, as SNativeFile tells them; 11 before anything is read.
+    /// See SNativeFile::attributes. 11 before anything is read.
     std::uint32_t getAttributes() const { return m_attributes; }
     bool isFolder() const;
-    // UTC, as file systems keep them; all zero where one does not.
+    // UTC. All zero if the file system does not record that time.
     const CTime &getCreationTime() const { return m_creationTime; }
     const CTime &getLastAccessTime() const { return m_lastAccessTime; }
     const CTime &getLastWriteTime() const { return m_lastWriteTime; }
     std::uint64_t getFileSize() const { return m_fileSize; }  ///< bytes
-    /// The second name, of eight and three characters, that Windows may keep; else the name.
+    /// The 8.3 name if Windows keeps one, otherwise the name.
     const Basics::CString &getShortName() const { return m_shortName; }
     const Basics::CString &getExtension() const { return m_extension; }  ///< with its dot, or ""
     const Basics::CString &getDisplayName() const { return m_displayName; }  ///< without the folder

@@ -4,7 +4,7 @@
 
 namespace Tessitor::MathTools {
 
-/// A place in pixels; y grows downwards. [one thread at a time]
+/// A position in pixels; y grows downwards. [one thread at a time]
 class CPoint : public Basics::CCountedObject {
 public:
     CPoint() : CPoint(0, 0) {}
@@ -27,7 +27,7 @@ public:
     CPoint &operator-=(const CPoint &other);
 
     bool operator==(const CPoint &other) const { return m_x == other.m_x && m_y == other.m_y; }
-    bool hasCommonCoordinate(const CPoint &point) const;  ///< x is equal, or y is
+    bool hasCommonCoordinate(const CPoint &point) const;  ///< x or y is equal
 
 private:
     static Basics::TClassRecord<CPoint> s_class;

@@ -41,7 +41,7 @@ void CPolygon::addPoint(const CPoint &point) {
 }
 
 void CPolygon::offset(const CPoint &by) {
-    // By value: the caller may hand in a point of this polygon.
+    // Copied first: the argument may be a point of this polygon.
     const std::int32_t x = by.getXPosition(), y = by.getYPosition();
     for (int i = 0; i < getNumberOfPoints(); ++i)
         getPoint(i)->offset(x, y);

@@ -10,19 +10,19 @@ namespace Tessitor::MathTools {
 /// A list of points; the polygon owns them. [one thread at a time]
 class CPolygon : public Basics::CCountedObject {
 public:
-    explicit CPolygon(int numberOfPoints);  ///< all at 0, 0; none if the number is below 1
-    CPolygon(const CPolygon &other);        ///< with points of its own
+    explicit CPolygon(int numberOfPoints);  ///< all at 0, 0; no points if the number is below 1
+    CPolygon(const CPolygon &other);        ///< copies the points
     ~CPolygon() override { s_class.decrementInstanceCount(); }
     Basics::CClass &getClass() const override { return s_class; }
 
-    /// Takes the places of the other's points. The points themselves are new if their number
-    /// changes, and stay if it does not.
+    /// Copies the positions of the other's points. Pointers to points of this polygon stay valid if
+    /// the number of points does not change.
     virtual CPolygon &operator=(const CPolygon &other);
-    virtual bool operator==(const CPolygon &other) const;  ///< as many points, at the same places
+    virtual bool operator==(const CPolygon &other) const;  ///< same number, same positions
 
     CPoint *getPoint(int index) const;  ///< null outside 0 to getNumberOfPoints() - 1
     int getNumberOfPoints() const { return m_points->getInsertIndex(); }
-    void addPoint(const CPoint &point);  ///< a copy of it, at the end
+    void addPoint(const CPoint &point);  ///< appends a copy
     void offset(const CPoint &by);       ///< moves every point
 
 private:

@@ -9,14 +9,14 @@
 
 namespace Tessitor::MathTools {
 
-/// A rectangle in pixels; y grows downwards. Its size and its four edges are kept in step:
-/// right = left + width, bottom = top + height. [one thread at a time]
+/// A rectangle in pixels; y grows downwards. Size and edges always agree: right = left + width,
+/// bottom = top + height. [one thread at a time]
 class CRect : public Basics::CCountedObject {
 public:
     CRect() : CRect(0, 0, 0, 0) {}
     CRect(std::int32_t left, std::int32_t top, std::int32_t width, std::int32_t height);
     CRect(const CPoint &origin, const CDimension &dimension);
-    /// Reads what toString() writes. All zero unless the text has four tokens.
+    /// Parses the result of toString(). All zero unless the text has four tokens.
     explicit CRect(const Basics::CString &text);
     CRect(const CRect &other);
     ~CRect() override { s_class.decrementInstanceCount(); }
@@ -26,8 +26,8 @@ public:
 
     CRect &operator=(const CRect &other) = default;
     void setRect(std::int32_t left, std::int32_t top, std::int32_t width, std::int32_t height);
-    void setLeft(std::int32_t left);  ///< moves: the width stays
-    void setTop(std::int32_t top);    ///< moves: the height stays
+    void setLeft(std::int32_t left);  ///< moves the rectangle; the width stays
+    void setTop(std::int32_t top);    ///< moves the rectangle; the height stays
     void setWidth(std::int32_t width);
     void setHeight(std::int32_t height);
     void setOrigin(const CPoint &origin);
@@ -39,24 +39,24 @@ public:
     std::int32_t getBottom() const { return m_bottom; }
     std::int32_t getWidth() const { return m_width; }
     std::int32_t getHeight() const { return m_height; }
-    std::int32_t getCentreX() const;  ///< left and half the width, without its fraction
+    std::int32_t getCentreX() const;  ///< left + width / 2, an integer division
     std::int32_t getCentreY() const;
 
     void offset(const CPoint &by);
-    void inset(std::int32_t by);  ///< each edge moves in; below 0 they move out
-    /// Multiplies left, top, width and height, and cuts off the fractions.
+    void inset(std::int32_t by);  ///< moves each edge inwards, or outwards if negative
+    /// Multiplies left, top, width and height, and truncates each.
     void scale(double factor);
-    /// Makes this the rectangle from the lesser left and top on. Kept: the width is the greater of
-    /// this right edge, as it stands, and of the other's distance from the new left, so that a
-    /// rectangle away from the origin may reach too far; the height likewise.
+    /// Left and top become the smaller of the two. Kept: the width becomes the larger of this right
+    /// edge and the distance from the new left to the other right edge, which is too large for a
+    /// rectangle away from the origin. The height likewise.
     void unionWith(const CRect &rect);
-    bool pointIsInside(const CPoint &point) const;  ///< all four edges are inside
+    bool pointIsInside(const CPoint &point) const;  ///< the edges count as inside
 
-    /// Whether they meet; sharing an edge is enough.
+    /// @return true if the rectangles overlap or share an edge.
     static bool intersects(const CRect &a, const CRect &b);
-    /// What both cover. Where they do not meet, the size is below 0.
+    /// The area that both cover. If they do not meet, its width or height is negative.
     static void getIntersection(const CRect &a, const CRect &b, CRect &out);
-    /// The same on the heap, but all zero where they do not meet.
+    /// The same on the heap, but all zero if they do not meet.
     static std::unique_ptr<CRect> getNewIntersection(const CRect &a, const CRect &b);
 
     SNativeRect toNative() const { return {m_left, m_top, m_right, m_bottom}; }

@@ -26,7 +26,7 @@ CStringTokeniser::CStringTokeniser(const char *text, char delimiter) : CStringTo
 
 std::int32_t CStringTokeniser::countTokens() {
     m_numberOfTokens = 0;
-    // Kept: the underscore does not depend on the delimiter.
+    // Kept: a leading "_" is special whatever the delimiter is.
     bool isAfterDelimiter = m_text[0] != '_';
     for (const char *character = m_text; *character != '\0'; ++character) {
         if (*character == m_delimiter) {
@@ -64,7 +64,7 @@ char *CStringTokeniser::getNextToken() {
     auto token = std::make_unique<char[]>(static_cast<std::size_t>(end - m_readPosition) + 1);
     std::copy(m_text + m_readPosition, m_text + end, token.get());
 
-    // At the end of the text the position stays, and the count ends the reading.
+    // At the end of the text the position stays; the count ends the reading.
     if (m_text[end] != '\0')
         m_readPosition = end + 1;
     ++m_numberOfTokensRead;

@@ -4,15 +4,14 @@
 
 namespace Tessitor::Basics {
 
-/// Splits a text at each place of a delimiter, so that two delimiters in a row have an empty token
-/// between them. Counting is another matter: it skips what is empty, and reading ends when as many
-/// tokens have been read as were counted, whatever is left of the text.
+/// Splits a text at every delimiter, so two delimiters in a row have an empty token between them.
+/// Counting, however, skips empty tokens, and reading ends after as many tokens as were counted,
+/// even if text is left.
 ///
-/// The text is held in the object. One of 2,048 bytes or more is cut to 2,047, so a longer path is
-/// split as though it ended there.
+/// The object holds a copy of the text, cut to 2,047 bytes. The tokens of a longer path end there.
 class CStringTokeniser : public CCountedObject {
 public:
-    /// These two split at "," and count nothing: there are no tokens until countTokens() is called.
+    /// These two split at "," and do not count: there are no tokens until countTokens() is called.
     explicit CStringTokeniser(const char *text);
     explicit CStringTokeniser(const CString &text);
     /// These two count the tokens.
@@ -23,13 +22,13 @@ public:
     ~CStringTokeniser() override { s_class.decrementInstanceCount(); }
     CClass &getClass() const override { return s_class; }
 
-    /// Counts and remembers the runs of other characters between delimiters. What stands before the
+    /// Counts the non-empty tokens of the whole text and remembers the number. The token before the
     /// first delimiter is not counted if it begins with "_".
-    /// @return their number, from the text's start, however many have been read.
+    /// @return the number, including tokens that have been read already.
     virtual std::int32_t countTokens();
     virtual bool hasMoreTokens() const;
-    virtual void setDelimiter(char delimiter);  ///< the count stays as it is
-    /// A new text, read from its start. No tokens until countTokens() is called.
+    virtual void setDelimiter(char delimiter);  ///< does not count again
+    /// Sets a new text. There are no tokens until countTokens() is called.
     virtual void setText(const char *text);
     /// @return the next token on the heap, for the caller to free with delete[]; null if
     ///         hasMoreTokens() is false.

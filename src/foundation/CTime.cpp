@@ -40,7 +40,7 @@ CTime::CTime(const CTime &other) : CTime() {
 
 void CTime::getObjectDescription(char *array, long size) const {
     Basics::CString text;
-    // A month of 0 wraps to an index beyond the names.
+    // A month of 0 wraps to an index past the end.
     text.setStringWithFormat("%s %d %s %d", nameAt(dayNames, m_time.dayOfWeek), m_time.day,
                              nameAt(monthNames, std::size_t{m_time.month} - 1), m_time.year);
     text.getString(array, size);

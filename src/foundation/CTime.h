@@ -5,19 +5,19 @@
 
 namespace Tessitor::Host {
 
-/// A date and a time of day, all zero at first. The fields are kept as they are set: nothing checks
-/// that such a day exists. [one thread at a time]
+/// A date and a time of day, all zero at first. The setters do not check that the date exists.
+/// [one thread at a time]
 class CTime : public Basics::CCountedObject {
 public:
     CTime() { s_class.incrementInstanceCount(); }
     CTime(const CTime &other);
     ~CTime() override { s_class.decrementInstanceCount(); }
     Basics::CClass &getClass() const override { return s_class; }
-    /// "Sunday 1 March 2026"; a day of the week or a month that does not exist has no name.
+    /// "Sunday 1 March 2026". A day of the week or month that does not exist gives "".
     void getObjectDescription(char *array, long size) const override;
 
     CTime &operator=(const CTime &other) = default;
-    void setCurrentTime();  ///< what the user's clock shows
+    void setCurrentTime();  ///< local time
 
     std::uint16_t getYear() const { return m_time.year; }
     std::uint16_t getMonth() const { return m_time.month; }          ///< 1 for January
@@ -36,14 +36,14 @@ public:
     void setSecond(std::uint16_t second) { m_time.second = second; }
     void setMillisecond(std::uint16_t millisecond) { m_time.millisecond = millisecond; }
 
-    /// Windows' FILETIME as one number: steps of 100 ns since the beginning of 1601. The time zone
-    /// stays: a local time gives a local number.
-    /// @return 0 if there is no such time from 1601 to 30827; the day of the week is not looked at.
+    /// Converts to a Windows FILETIME: units of 100 ns since 1 January 1601, in the same time zone.
+    /// @return 0 if the time does not exist or its year is not from 1601 to 30827. The day of the
+    ///         week is ignored.
     std::uint64_t toFileTime() const;
-    void fromFileTime(std::uint64_t fileTime);  ///< one above 2^63 - 1 is ignored
+    void fromFileTime(std::uint64_t fileTime);  ///< values above 2^63 - 1 are ignored
 
-    Basics::CString getDate() const;  ///< "day/month/year" in 2, 2 and 4 digits
-    Basics::CString getTime() const;  ///< "hour:minute:second:millisecond", each 2 digits at least
+    Basics::CString getDate() const;  ///< "day/month/year" with 2, 2 and 4 digits
+    Basics::CString getTime() const;  ///< "hour:minute:second:millisecond", at least 2 digits each
 
 private:
     static Basics::TClassRecord<CTime> s_class;

@@ -107,7 +107,7 @@ void CXMLDocument::addNode(CString name, bool becomesCurrent) {
         m_currentNode->addChild(node.get());
     else
         return;
-    CXMLNode *const added = node.release();  // held by the tree from here
+    CXMLNode *const added = node.release();  // owned by the tree now
     if (becomesCurrent)
         m_currentNode = added;
 }
@@ -127,7 +127,7 @@ void CXMLDocument::parseAttributes(const CString &text) {
         if (pending != nullptr && m_currentNode != nullptr) {
             pending->setValue(value);
             m_currentNode->addAttribute(pending.get());
-            static_cast<void>(pending.release());  // held by the node from here
+            static_cast<void>(pending.release());  // owned by the node now
         }
         pending.reset();
     };
@@ -138,7 +138,7 @@ void CXMLDocument::parseAttributes(const CString &text) {
                 endValue();
             isQuoted = !isQuoted;
         } else if (*character == '=') {
-            // Kept: inside quotes as well.
+            // Kept: even inside quotes.
             pending = std::make_unique<CXMLAttribute>(takeBuffer(), "");
         } else if (character[0] == '/' && character[1] == '>') {
             closeCurrentNode();
@@ -164,7 +164,7 @@ bool CXMLDocument::writeFile(const CSystemString &path) {
     return !stream.hasFailed();
 }
 
-// Without recursion: nodes may be nested deeper than the stack has room for calls.
+// Not recursive: deeply nested nodes would overflow the stack.
 void CXMLDocument::writeTree(CTextStream &stream) {
     struct SOpenNode {
         const CXMLNode *node;

@@ -6,24 +6,23 @@
 
 namespace Tessitor::IO {
 
-/// A tree of nodes and its file: one tag on each line, and no text between tags. Failures go to the
-/// trace and into the results; nothing throws. [one thread at a time]
+/// A tree of nodes, read from or written to a file with one tag per line and no text between tags.
+/// Failures are returned and traced; nothing throws. [one thread at a time]
 ///
-/// The file is read line by line, white space at both ends removed:
-/// - What does not begin with "<" is ignored, as are lines that begin with "<!" and "<?".
+/// The file is read line by line, without the white space at both ends of a line:
+/// - Lines that do not begin with "<" are ignored, and so are those that begin with "<!" or "<?".
 /// - "</" closes the current node, whatever name follows.
-/// - "<name attributes" opens a node inside the current one, and makes it current.
-/// - "<name/" without a blank makes a node that does not become current; anything else without one
-///   opens a node named by what stands before the line's last ">".
-/// - Where there is no root yet, the node becomes it. Beside the root there is nothing to be added
-///   to: a tag there is dropped with all inside it.
+/// - "<name attributes" opens a node inside the current one and makes it current.
+/// - "<name/" without a blank adds a node but does not make it current. Any other tag without a
+///   blank opens a node whose name is the text before the last ">" of the line.
+/// - The first node becomes the root. A tag after the end of the root is dropped with its contents.
 ///
-/// Attributes are scanned over what follows the first blank. Every "=" makes what precedes it the
-/// name of an attribute, one inside a value as well. A closing quote ends the value and adds the
-/// attribute to the node that is then current, and "/" before ">" closes that, in quotes or not.
-/// Without an "=" before it a quoted text is dropped, and without a current node an attribute.
-/// A name of one letter, of a tag or an attribute, is read as "": CString::getSubString() and the
-/// removal of white space leave nothing of one.
+/// The text after the first blank is scanned for attributes. Each "=", even inside quotes, makes
+/// the text before it the name of an attribute. A closing quote ends the value and adds the
+/// attribute to the current node. "/>" closes the current node, even inside quotes. A quoted text
+/// without a name is dropped, and so is an attribute without a current node. The name of a tag or
+/// attribute is read as "" if it is a single letter: CString::getSubString() and the removal of
+/// white space return nothing for one character.
 class CXMLDocument : public Basics::CCountedObject {
 public:
     CXMLDocument();
@@ -35,17 +34,17 @@ public:
     CXMLNode *getRootNode() const { return m_rootNode; }  ///< null if there is none
     void setRootNode(CXMLNode *node);                     ///< references it; null for none
 
-    /// Drops the old tree and reads one. A file that cannot be opened, or does not begin with
-    /// "<?xml", leaves the old one in place.
-    /// @return false also if the file could not be read to its end. A line above 2047 bytes ends
-    ///         it, and is parsed as far as it goes.
+    /// Replaces the tree with the one in the file. If the file cannot be opened or does not begin
+    /// with "<?xml", the old tree stays.
+    /// @return false if that happens, or if the file could not be read to its end. A line of more
+    ///         than 2047 bytes ends the reading; its first 2047 bytes are still parsed.
     bool readFile(const Basics::CSystemString &path);
-    /// Tags are indented by one tab for each level; the root's closing tag has no line end.
-    /// @return false if there is no root, or if not all of the file could be written.
+    /// Indents tags by one tab per level. The closing tag of the root has no line end.
+    /// @return false if there is no root, or if the file could not be written completely.
     bool writeFile(const Basics::CSystemString &path);
 
     /// Reads the first line of a stream.
-    /// @return whether it begins with "<?xml", white space aside.
+    /// @return true if it begins with "<?xml" after any white space.
     static bool isValidXMLFile(CTextStream &stream);
 
 private:

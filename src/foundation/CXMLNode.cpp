@@ -21,7 +21,7 @@ CXMLNode::CXMLNode(const Basics::CString &name, CXMLNode *parent) : m_parent(par
     s_class.incrementInstanceCount();
 }
 
-// One node after the other: a file can nest them deeper than the stack has room for destructors.
+// Not recursive: the destructors of deeply nested nodes would overflow the stack.
 CXMLNode::~CXMLNode() {
     CXMLNode *abandoned = nullptr;
     handOverChildren(abandoned);
@@ -34,9 +34,9 @@ CXMLNode::~CXMLNode() {
     s_class.decrementInstanceCount();
 }
 
-/// Lets the children go.
-/// @param abandoned  list of those whom nobody else holds, each with one reference left and linked
-///                   to the next by its pointer to the parent, which it no longer needs.
+/// Releases the children.
+/// @param abandoned  list of the children that nobody else references, each with one reference
+///                   left. They are linked by m_parent, which they no longer need.
 void CXMLNode::handOverChildren(CXMLNode *&abandoned) {
     for (int i = 0; i < m_children.getInsertIndex(); ++i) {
         CXMLNode *child = m_children.elementAtIndex(i);

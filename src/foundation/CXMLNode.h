@@ -5,11 +5,12 @@
 
 namespace Tessitor::IO {
 
-/// A tag with its attributes and the tags inside it, on which it holds references.
+/// A tag with its attributes and the tags inside it. It holds references on both.
 class CXMLNode : public Basics::CCountedObject {
 public:
-    /// @param parent  null for none. Not referenced, and not told: addChild() is what puts the node
-    ///                into it. If it is destroyed before a node that it holds, that has none.
+    /// @param parent  null for none. It is not referenced and does not get the node as a child:
+    ///                call its addChild(). When a parent dies before its child, the child has no
+    ///                parent.
     CXMLNode(const Basics::CString &name, CXMLNode *parent);
     CXMLNode(const CXMLNode &) = delete;
     CXMLNode &operator=(const CXMLNode &) = delete;
@@ -25,7 +26,7 @@ public:
     getAttribute(const Basics::CString &name) const;  ///< the first; null if there is none
     int getNumberOfAttributes() const { return m_attributes.getInsertIndex(); }
 
-    /// @param child  null is ignored; not this node, nor one that it is inside of.
+    /// @param child  null is ignored. Must not be this node or one of its ancestors.
     void addChild(CXMLNode *child);
     CXMLNode *getChild(int index) const;                    ///< null if there is none
     CXMLNode *getChild(const Basics::CString &name) const;  ///< the first; null if there is none

@@ -2,8 +2,8 @@
 
 namespace Tessitor::Basics {
 
-/// Copies a text into a field of fixed size, cut to size - 1 bytes; what is left is zeroed, so the
-/// field is always terminated. A null target, or a size below 1, is ignored.
+/// Copies at most size - 1 bytes of a text into a field of that size and fills the rest with zeros,
+/// so the field is always terminated. Does nothing if target is null or size is below 1.
 void copyText(char *target, long size, const char *text);
 
 }  // namespace Tessitor::Basics

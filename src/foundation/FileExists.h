@@ -4,13 +4,14 @@
 
 namespace Tessitor::Host {
 
-// What a path leads to. Links are followed. [any thread]
+// All of these follow links. [one thread at a time]
 
-/// @return true if the file can be opened for reading. A folder is no file on any system, though
-///         Linux would open one and fail only at the first byte.
+/// @return true if the file can be opened for reading. False for a folder, although Linux can open
+///         one.
 bool fileExists(const Basics::CSystemString &path);
-/// The same for the file of that name in the folder.
+/// The same for a file in that folder.
 bool fileExists(const Basics::CSystemString &folder, const Basics::CString &name);
+/// A trailing separator is allowed; "*" and "?" are not expanded.
 bool folderExists(const Basics::CSystemString &path);
 
 }  // namespace Tessitor::Host

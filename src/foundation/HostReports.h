@@ -4,14 +4,14 @@
 
 namespace Tessitor::Host {
 
-// Both take the file to write; without an extension it is a folder, and becomes its "CPUStats.txt".
-// A file that is there is replaced, so each of the two writes over the other's. If it cannot be
-// made nothing is written, and nothing told.
+// Both write to the file at the path. A path without an extension is taken as a folder, and
+// "CPUStats.txt" is appended to it. An existing file is replaced, also one that the other report
+// wrote. If the file cannot be created, nothing happens.
 
-/// Writes what is known of the drive that the path begins with.
+/// Describes the drive that holds the report.
 void writeDriveReport(Basics::CSystemString &path);
 
-/// Writes where the virtual screen lies and how large it is.
+/// Writes position and size of the virtual screen.
 void writeDisplayReport(Basics::CSystemString &path);
 
 }  // namespace Tessitor::Host

@@ -4,9 +4,10 @@
 
 namespace Tessitor::Basics {
 
-/// Writes which features of the processor readProcessorFeatures() has found. Nothing is written,
-/// and nothing told, if the file cannot be made.
-/// @param path  the file; without an extension it is a folder, and becomes its "FPUStats.txt".
+/// Writes the processor features that readProcessorFeatures() found. If the file cannot be created,
+/// nothing happens.
+/// @param path  the file. Without an extension it is taken as a folder, and "FPUStats.txt" is
+///              appended.
 void writeProcessorReport(CSystemString &path);
 
 }  // namespace Tessitor::Basics

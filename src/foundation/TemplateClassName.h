@@ -6,13 +6,14 @@
 
 namespace Tessitor::Basics {
 
-/// Names the record of an instantiated template: "TPointerDeleter<TypeName>" and a type called
-/// `Tessitor::Basics::CClass` make "TPointerDeleter<CClass>".
-/// @param templateName  the literal; without a "<" it is the result as it stands.
-/// @param argumentName  cut to what follows its last ":", or else its last blank.
+/// @return the record name of an instantiated template: "TPointerDeleter<TypeName>" and
+///         "Tessitor::Basics::CClass" give "TPointerDeleter<CClass>".
+/// @param templateName  returned unchanged if it has no "<".
+/// @param argumentName  only the part after its last ":" is used, or if there is none, after its
+///                      last blank.
 std::string templateClassName(std::string_view templateName, std::string_view argumentName);
 
-/// The same with the name that the compiler keeps of a type, unmangled.
+/// The same with the demangled name of a type.
 std::string templateClassName(std::string_view templateName, const std::type_info &argument);
 
 }  // namespace Tessitor::Basics

@@ -15,7 +15,7 @@ CTextStream &traceStream() {
     return stream;
 }
 
-// Built with the other static objects, or before by the first of them that traces.
+// Built during static initialisation, or earlier if another static object traces.
 [[maybe_unused]] const CTextStream &builtEarly = traceStream();
 
 void writeLine(const std::string &text) {

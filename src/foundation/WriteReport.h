@@ -4,11 +4,12 @@
 
 namespace Tessitor::IO {
 
-/// Writes a small report: the heading, a rule, the details and the rule again. Writes nothing if
-/// the file cannot be made.
-/// @param path      the file; without an extension it is a folder, and the name is added to it.
-/// @param heading   with its line end.
-/// @param details   void(CTextStream &), which writes them.
+/// Writes a small report: the heading, a rule, the details and the rule again. If the file cannot
+/// be created, nothing happens.
+/// @param path      the file. Without an extension it is taken as a folder, and fileName is
+///                  appended.
+/// @param heading   ends in a line feed.
+/// @param details   void(CTextStream &): writes the details.
 template <typename Details>
 void writeReport(Basics::CSystemString &path, const char *fileName, const char *heading,
                  Details details) {

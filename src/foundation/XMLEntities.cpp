@@ -36,7 +36,7 @@ Basics::CString decodeEntities(const Basics::CString &text) {
     std::string decoded = text.getString();
     for (const SEntity &entity : entities) {
         std::size_t position = 0;
-        // From the same place again: what was put there may begin another.
+        // Search again from the same place: the new character may begin another entity.
         while ((position = decoded.find(entity.text, position)) != std::string::npos)
             decoded.replace(position, entity.text.size(), 1, entity.character);
     }

@@ -4,14 +4,14 @@
 
 namespace Tessitor::IO {
 
-/// The texts that stand for characters which mean something in an XML file.
+/// Entities: the encoded forms of characters that have a meaning in XML.
 
-/// Replaces & " > < and the two bytes of line ends with their texts.
+/// Replaces & " > < line feed and carriage return with their entities.
 Basics::CString encodeEntities(const Basics::CString &text);
 
-/// Puts the characters back, one kind after the other and & first, so that the text of one that was
-/// itself encoded, "&amp;lt;", becomes the character. Each is found wherever it stands, which
-/// CString::replaceStringWithChar() would not do: it looks at the first "&" only.
+/// Replaces the entities with their characters, one kind after the other and "&amp;" first, so
+/// "&amp;lt;" becomes "<". Finds all of them; CString::replaceStringWithChar() would look only at
+/// the first "&".
 Basics::CString decodeEntities(const Basics::CString &text);
 
 }  // namespace Tessitor::IO

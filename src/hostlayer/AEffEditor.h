@@ -4,34 +4,34 @@
 
 class AudioEffect;
 
-/// An effect's editor, as the dispatcher drives it. Hosts differ in what they ask first, so the
-/// rectangle is right whether the editor is open or not. [gui thread], which need not be the thread
-/// that made the effect.
+/// An effect's editor as the dispatcher sees it. The rectangle is valid whether the editor is open
+/// or not: Audacity 3.2.4 asks for it before it opens the editor, Ardour 7.3 afterwards.
+/// [gui thread], which in Ardour is not the thread that made the effect.
 class AEffEditor {
 public:
     /// @param owner  outlives the editor; may be null.
     explicit AEffEditor(AudioEffect *owner = nullptr) : effect(owner) {}
-    /// Takes the editor out of its effect, so that one whose construction fails is not deleted
-    /// twice.
+    /// Removes the editor from its effect: if a constructor throws, the effect must not delete the
+    /// editor again.
     virtual ~AEffEditor();
     AEffEditor(const AEffEditor &) = delete;
     AEffEditor &operator=(const AEffEditor &) = delete;
 
     AudioEffect *getEffect() const { return effect; }
 
-    /// Points `rect` at a record that stays the editor's. @return false if there is none.
+    /// Points `rect` at a record that the editor owns. @return false if there is none.
     virtual bool getRect(ERect **rect) = 0;
-    /// @param parent  HWND or X window id; need not be mapped nor have its size yet.
-    /// @return whether the editor is open.
+    /// @param parent  HWND or X window id. It may not be mapped yet, or not have its size.
+    /// @return true if the editor is open.
     virtual bool open(void *parent);
     virtual void close() { systemWindow = nullptr; }
     virtual bool isOpen() { return systemWindow != nullptr; }
     virtual void idle() {}
 
-    /// @return whether the key was used; the host takes it otherwise.
+    /// @return true if the key was used; otherwise the host handles it.
     virtual bool onKeyDown(VstKeyCode &) { return false; }
     virtual bool onKeyUp(VstKeyCode &) { return false; }
-    /// @param mode  VstKnobMode. @return whether the editor follows it.
+    /// @param mode  VstKnobMode. @return true if the editor adopts it.
     virtual bool setKnobMode(int /*mode*/) { return false; }
 
 protected:

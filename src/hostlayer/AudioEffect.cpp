@@ -6,7 +6,7 @@ AudioEffect *effectOf(AEffect *record) {
     return static_cast<AudioEffect *>(record->object);
 }
 
-// The record's plain functions, each on its way to the virtual operation of the same name.
+// The plain functions in the record. Each calls the virtual operation of the same name.
 
 void processEntry(AEffect *record, float **inputs, float **outputs, std::int32_t sampleFrames) {
     effectOf(record)->process(inputs, outputs, sampleFrames);
@@ -127,7 +127,7 @@ std::intptr_t AudioEffect::dispatcher(int opcode, int index, std::intptr_t value
     }
 }
 
-// Kept empty: this is what the record's accumulating entry reaches, and it adds nothing.
+// Kept empty: the record's accumulating entry ends here and adds nothing to the outputs.
 void AudioEffect::process(float ** /*inputs*/, float ** /*outputs*/, int /*sampleFrames*/) {}
 
 void AudioEffect::processDoubleReplacing(double ** /*inputs*/, double ** /*outputs*/,

@@ -5,16 +5,17 @@
 
 #include <cstdint>
 
-/// The published base class of every effect: owns the AEffect record, receives the host's calls and
-/// turns them into virtual operations. What a subclass leaves alone gives the published answer.
+/// The published base class of every effect. It owns the AEffect record, receives the host's calls
+/// and turns them into virtual operations. An operation that is not overridden gives the published
+/// answer.
 ///
-/// The host is trusted: indices, pointers and lengths are not checked. Parameters come on
-/// [any thread], in several hosts on two at once and beside the audio; programs and settings come
-/// on any thread too, but one at a time.
+/// The host is trusted: indices, pointers and lengths are not checked. Parameters are set and read
+/// on [any thread], also on two at once and during a process call (Ardour 7.3). Programs and
+/// settings come on any thread too, but one at a time.
 class AudioEffect {
 public:
-    /// 44100 Hz, blocks of 1024, program 0, processReplacing; usable as it stands, since hosts ask
-    /// things before effOpen.
+    /// Starts at 44100 Hz, blocks of 1024 frames, program 0 and processReplacing. The effect is
+    /// usable at once, since hosts call it before effOpen.
     AudioEffect(audioMasterCallback host, int programs, int parameters);
     virtual ~AudioEffect();
     AudioEffect(const AudioEffect &) = delete;
@@ -23,12 +24,12 @@ public:
     /// The record for the host. Lives as long as the effect.
     AEffect *getAeffect() { return &cEffect; }
 
-    /// @return the published result of `opcode`; 0 for one that is not known, with nothing touched.
+    /// @return the published result of `opcode`. An unknown opcode gives 0 and changes nothing.
     virtual std::intptr_t dispatcher(int opcode, int index, std::intptr_t value, void *ptr,
                                      float opt);
 
     virtual void open() {}
-    virtual void close() {}    ///< the host's last call; the effect is deleted behind it
+    virtual void close() {}    ///< the host's last call; the effect is then deleted
     virtual void suspend() {}  ///< mains off; may come twice, or first
     virtual void resume() {}   ///< mains on; may come twice
 
@@ -39,10 +40,10 @@ public:
     /// [audio thread] As above; called only after canDoubleReplacing.
     virtual void processDoubleReplacing(double **inputs, double **outputs, int sampleFrames);
 
-    /// @param value  0 to 1. Some hosts call both on the audio thread.
+    /// @param value  0 to 1. MusE 4.1 calls both on the audio thread.
     virtual void setParameter(int /*index*/, float /*value*/) {}
     virtual float getParameter(int /*index*/) { return 0.0f; }
-    /// For changes that the editor makes: sets the parameter, then tells the host.
+    /// For changes made in the editor: sets the parameter, then informs the host.
     virtual void setParameterAutomated(int index, float value);
     virtual bool canParameterBeAutomated(int /*index*/) { return true; }
 
@@ -55,11 +56,11 @@ public:
     virtual void getParameterDisplay(int /*index*/, char *text) { *text = '\0'; }
     virtual void getParameterName(int /*index*/, char *text) { *text = '\0'; }
 
-    /// @param data      receives memory that stays the effect's.
-    /// @param isPreset  the current program alone, else the whole bank.
-    /// @return bytes, 0 if there is no chunk.
+    /// @param data      receives a pointer to memory that the effect owns.
+    /// @param isPreset  true for the current program alone, false for the whole bank.
+    /// @return the number of bytes; 0 if there is no chunk.
     virtual int getChunk(void ** /*data*/, bool /*isPreset*/) { return 0; }
-    /// @return not 0 if the data were taken.
+    /// @return 0 if the data were rejected.
     virtual int setChunk(void * /*data*/, int /*byteSize*/, bool /*isPreset*/) { return 0; }
 
     virtual void setSampleRate(float rate) { sampleRate = rate; }  ///< Hz
@@ -67,8 +68,8 @@ public:
     float getSampleRate() const { return sampleRate; }
     int getBlockSize() const { return blockSize; }
 
-    /// Lets the host know by effFlagsHasEditor, and deletes the editor with the effect. An editor
-    /// that was set before is the caller's again. Null for none.
+    /// Sets effFlagsHasEditor and takes ownership: the effect's destructor deletes the editor. The
+    /// caller owns the previous editor again. Null removes the editor.
     void setEditor(AEffEditor *newEditor);
     AEffEditor *getEditor() const { return editor; }
 

@@ -7,7 +7,7 @@ VstKeyCode keyCodeOf(int index, std::intptr_t value, float opt) {
             static_cast<unsigned char>(static_cast<int>(opt))};
 }
 
-/// Some pointers travel as numbers in this interface.
+/// This interface passes some pointers as numbers.
 template <typename Record>
 Record *recordAt(std::intptr_t value) {
     return reinterpret_cast<Record *>(value);  // NOLINT(performance-no-int-to-ptr)
@@ -31,7 +31,7 @@ std::intptr_t AudioEffectX::dispatcher(int opcode, int index, std::intptr_t valu
     case effGetNumProgramCategories:
     case effConnectInput:
     case effConnectOutput:
-    case effKeysRequired:  // turned round for old hosts: 1 says that no keys are required
+    case effKeysRequired:  // inverted for old hosts: 1 means that no keys are required
         return 1;
     case effGetInputProperties:
         return getInputProperties(index, static_cast<VstPinProperties *>(ptr));
@@ -150,7 +150,7 @@ int AudioEffectX::getHostVendorVersion() {
 }
 
 bool AudioEffectX::isInputConnected(int input) {
-    // 0 means connected, so that hosts which do not know the question connect everything.
+    // 0 means connected, so a host without this opcode has everything connected.
     return askHost(audioMasterPinConnected, input) == 0;
 }
 

@@ -4,9 +4,9 @@
 
 #include <cstdint>
 
-/// The published second base class: the operations behind the later opcodes, and the questions that
-/// an effect may ask its host. Opcodes that are deprecated or that need records which are not
-/// declared here give their published default.
+/// The published second base class: the operations for the later opcodes, and the questions that an
+/// effect may ask its host. Deprecated opcodes, and those whose records are not declared here, give
+/// their published default.
 class AudioEffectX : public AudioEffect {
 public:
     using AudioEffect::AudioEffect;
@@ -14,28 +14,29 @@ public:
     std::intptr_t dispatcher(int opcode, int index, std::intptr_t value, void *ptr,
                              float opt) override;
 
-    /// Asks for MIDI if the effect is a synth or says yes to "receiveVstMidiEvent".
+    /// Asks the host for MIDI if the effect is a synth or answers 1 to "receiveVstMidiEvent".
     void resume() override;
 
-    /// Comes ahead of the process call that the events belong to. @return 1 if they were taken.
+    /// Called before the process call that the events belong to. @return 1 if they were taken.
     virtual int processEvents(VstEvents * /*events*/) { return 0; }
 
-    /// @param text  null asks whether the effect can read texts at all.
+    /// @param text  null to ask whether the effect can convert texts at all.
     virtual bool string2parameter(int /*index*/, char * /*text*/) { return false; }
     virtual bool getParameterProperties(int /*index*/, VstParameterProperties *) { return false; }
-    /// @param category  -1 or 0 from most hosts. @return whether there is such a program.
+    /// @param category  0 from Ardour 7.3 and Audacity 3.2.4; other hosts may send -1.
+    /// @return true if there is such a program.
     virtual bool getProgramNameIndexed(int /*category*/, int /*index*/, char * /*text*/) {
         return false;
     }
-    /// Around setProgram, or around many setParameter.
+    /// Called around setProgram, or around a run of setParameter calls.
     virtual bool beginSetProgram() { return false; }
     virtual bool endSetProgram() { return false; }
-    /// Before setChunk. @return 1 can load, -1 cannot, 0 not known.
+    /// Called before setChunk. @return 1 if the effect can load it, -1 if it cannot, 0 if unknown.
     virtual int beginLoadBank(VstPatchChunkInfo *) { return 0; }
     virtual int beginLoadProgram(VstPatchChunkInfo *) { return 0; }
 
-    /// Fill with fillPinProperties, since some hosts' record is short.
-    /// @return whether it was filled.
+    /// Fill the record with fillPinProperties: Giada's ends before its last field.
+    /// @return true if it was filled.
     virtual bool getInputProperties(int /*index*/, VstPinProperties *) { return false; }
     virtual bool getOutputProperties(int /*index*/, VstPinProperties *) { return false; }
     virtual bool setSpeakerArrangement(VstSpeakerArrangement * /*in*/,
@@ -49,7 +50,7 @@ public:
     virtual bool getProductString(char * /*text*/) { return false; }  ///< kVstMaxProductStrLen
     virtual int getVendorVersion() { return 0; }
     virtual int getVstVersion() { return kVstVersion; }
-    /// kPlugCategSynth after isSynth, else kPlugCategUnknown.
+    /// kPlugCategSynth after isSynth(), otherwise kPlugCategUnknown.
     virtual VstPlugCategory getPlugCategory();
     virtual int canDo(char * /*text*/) { return 0; }  ///< 1 yes, 0 unknown, -1 no
     virtual int getTailSize() { return 0; }           ///< frames; 0 default, 1 none
@@ -57,7 +58,8 @@ public:
                                          float /*opt*/) {
         return 0;
     }
-    /// @return the unique id of the next effect in a shell, its name in `name`; 0 at the end.
+    /// @param name  receives the name of the next effect in a shell.
+    /// @return its unique id; 0 after the last.
     virtual int getNextShellPlugin(char * /*name*/) { return 0; }
 
     virtual bool setBypass(bool /*on*/) { return false; }
@@ -73,34 +75,35 @@ public:
 
     void isSynth(bool state = true) { setFlag(effFlagsIsSynth, state); }
 
-    // Questions to the host. Without a host they answer 0, false or null.
+    // Questions to the host. Without a host they return 0, false or null.
 
-    /// [audio thread] @param filter  VstTimeInfoFlags that are wanted; the host may give others.
-    /// @return null if the host keeps no time. Valid during the process call.
+    /// [audio thread] @param filter  the VstTimeInfoFlags wanted; the host may set others.
+    /// @return valid during the process call; null if the host has no time information.
     VstTimeInfo *getTimeInfo(int filter);
-    /// @return as the host gives it: 1 yes, 0 unknown, -1 no.
+    /// @return the host's answer unchanged: 1 yes, 0 unknown, -1 no.
     int canHostDo(const char *text);
-    /// @param text  receives at most kVstMaxProductStrLen. Some hosts leave it, so it is zeroed.
+    /// @param text  receives at most kVstMaxProductStrLen bytes. Pass it zeroed: the plug-in
+    ///              scanners of Ardour 7.3 and Qtractor 0.9.31 write nothing.
     bool getHostProductString(char *text);
     bool getHostVendorString(char *text);
     int getHostVendorVersion();
-    /// @return true as well if the host does not know.
+    /// @return true also if the host does not know.
     bool isInputConnected(int input);
     void wantEvents();
     bool sendVstEventsToHost(VstEvents *events);
 
-    float updateSampleRate();  ///< takes over the host's rate, unless it gives none
-    int updateBlockSize();     ///< takes over the host's block size, unless it gives none
+    float updateSampleRate();  ///< adopts the host's rate if it gives one
+    int updateBlockSize();     ///< adopts the host's block size if it gives one
     int getInputLatency();     ///< frames
     int getOutputLatency();    ///< frames
     VstProcessLevel getCurrentProcessLevel();
     VstAutomationState getAutomationState();
     int getHostLanguage();       ///< 1 is English
-    const char *getDirectory();  ///< the host's memory
+    const char *getDirectory();  ///< owned by the host
 
     bool ioChanged();  ///< after a change of pins or latency
     bool updateDisplay();
     bool sizeWindow(int width, int height);  ///< pixels
-    bool beginEdit(int index);               ///< around the setParameterAutomated of one gesture
-    bool endEdit(int index);
+    bool beginEdit(int index);               ///< before the setParameterAutomated of one gesture
+    bool endEdit(int index);                 ///< after them
 };

@@ -23,7 +23,8 @@ constexpr std::array<const char *, numberOfHostCapabilities> words{"sendVstEvent
                                                                    "closeFileSelector",
                                                                    "startStopProcess"};
 
-/// Room for a host that writes more than the published 64, and zeroed for one that writes nothing.
+/// Larger than the published 64 bytes, in case a host writes more. Zeroed, in case it writes
+/// nothing.
 using HostText = std::array<char, 256>;
 
 }  // namespace
@@ -34,7 +35,7 @@ void CHostCanDo::setFromAudioEffectX(AudioEffectX *effect) {
     if (effect == nullptr)
         throw Exceptions::CException("Effect is NULL",
                                      "CHostCanDo::setFromAudioEffectX(AudioEffectX *)", true);
-    // Kept: any answer but 0 counts, so a host's -1 is a yes.
+    // Kept: every answer but 0 counts as yes, also a host's -1 for no.
     for (std::size_t i = 0; i < words.size(); ++i)
         m_capabilities[i] = effect->canHostDo(words[i]) != 0;
 

@@ -7,7 +7,7 @@
 
 namespace Tessitor::Vst {
 
-/// What a host may say that it can do, in the order in which it is asked.
+/// The capabilities that a host may report, in the order in which they are asked.
 enum EHostCapability {
     hostSendsVstEvents,
     hostSendsVstMidiEvent,
@@ -28,7 +28,7 @@ enum EHostCapability {
     numberOfHostCapabilities
 };
 
-/// What the host is and can do, as it said when it was asked.
+/// The host's identity and capabilities, as it reported them.
 class CHostCanDo : public Basics::CCountedObject {
 public:
     CHostCanDo() { s_class.incrementInstanceCount(); }
@@ -37,7 +37,7 @@ public:
     ~CHostCanDo() override { s_class.decrementInstanceCount(); }
     Basics::CClass &getClass() const override { return s_class; }
 
-    /// Asks the effect's host everything. @throws CException if the effect is null.
+    /// Asks the effect's host for all of it. @throws CException if the effect is null.
     void setFromAudioEffectX(AudioEffectX *effect);
     void clear();
 

@@ -6,7 +6,7 @@
 
 namespace Tessitor::Midi {
 
-/// The kinds of message that CMidiEvent::getStatus() tells apart; the channel is taken off.
+/// The status of a message without its channel, see CMidiEvent::getStatus().
 enum EMidiStatus : std::int32_t {
     midiAllNotesOff = 123,
     midiNoteOff = 128,
@@ -15,7 +15,7 @@ enum EMidiStatus : std::int32_t {
     midiPitchBend = 224
 };
 
-/// One MIDI message of a block. Events compare by their place in the block alone.
+/// One MIDI message of a block. Comparison looks only at the position in the block.
 class CMidiEvent : public Basics::CCountedObject {
 public:
     CMidiEvent() { s_class.incrementInstanceCount(); }
@@ -37,10 +37,10 @@ public:
     std::int32_t getSubValue() const { return m_subValue; }  ///< velocity or controller value
     std::int32_t getChannel() const { return m_channel; }
     std::int32_t getDelta() const { return m_delta; }    ///< frames from the start of the block
-    double getPitchBend() const { return m_pitchBend; }  ///< -1 to just under 1, of a midiPitchBend
+    double getPitchBend() const { return m_pitchBend; }  ///< -1 to just under 1; midiPitchBend only
 
     bool isNoteOn() const { return m_status == midiNoteOn && m_subValue != 0; }
-    /// A note on of velocity 0 is one as well.
+    /// True also for a note on with velocity 0.
     bool isNoteOff() const;
     bool isController() const { return m_status == midiController; }
 
@@ -49,8 +49,9 @@ public:
         return m_delta <=> other.m_delta;
     }
 
-    /// For sorting, nulls last: 0 for one and the same pointer, 1 for a null first, -1 for a null
-    /// second, else -1, 0 or 1 by place in the block.
+    /// For sorting by position in the block, with null pointers last.
+    /// @return -1, 0 or 1; 0 for the same pointer, 1 if only `first` is null, -1 if only `second`
+    ///         is.
     static int compare(const CMidiEvent *first, const CMidiEvent *second);
 
 private:

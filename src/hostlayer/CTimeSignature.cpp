@@ -20,7 +20,7 @@ void CTimeSignature::setTimeSignature(std::int32_t numerator, std::int32_t denom
 }
 
 double CTimeSignature::getBeats() const {
-    // Kept: the division is one of whole numbers.
+    // Kept: an integer division.
     const std::int32_t wholeBeats = m_numerator / m_denominator;
     return wholeBeats;
 }

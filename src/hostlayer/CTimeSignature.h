@@ -4,7 +4,7 @@
 
 namespace Tessitor::Music {
 
-/// Beats in a bar over the note that counts as one. 4/4 unless told otherwise; nothing is checked.
+/// Beats per bar over the note value of one beat, 4/4 by default. The values are not checked.
 class CTimeSignature : public Basics::CCountedObject {
 public:
     CTimeSignature() { s_class.incrementInstanceCount(); }
@@ -20,7 +20,8 @@ public:
     std::int32_t getNumerator() const { return m_numerator; }
     std::int32_t getDenominator() const { return m_denominator; }
 
-    /// The whole part of numerator / denominator: 0 for 3/4, 1 for 6/4. The denominator is not 0.
+    /// @return numerator / denominator, rounded towards 0: 0 for 3/4, 1 for 6/4. The denominator
+    ///         must not be 0.
     double getBeats() const;
 
 private:

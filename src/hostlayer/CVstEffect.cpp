@@ -28,7 +28,7 @@ void copyDefaultProgramName(char *name) {
     copyWhole(name, "Default");
 }
 
-// Nine bytes where the published length is eight: hosts keep more room.
+// Nine bytes, although the published length is eight: hosts have larger buffers.
 void copyDefaultParameterText(char *text) {
     copyWhole(text, "No param");
 }
@@ -47,7 +47,7 @@ CVstEffect::CVstEffect(audioMasterCallback host, int parameters, int programs)
     for (int note = 0; note < numberOfNotes; ++note) {
         auto values = std::make_unique<NoteValues>();
         m_notes.addElement(values.get());
-        values.release();  // the collection's now, and not before it had room for it
+        values.release();  // owned by the collection now; addElement() may have thrown before
     }
     m_midiEvents.setChannel(0);
     m_criticalSection = new Threading::CCriticalSection;
@@ -106,7 +106,7 @@ bool CVstEffect::getProductString(char *text) {
     return copyName(text, Basics::CApplicationInformation::getDescription());
 }
 
-// Kept: the name is not taken, and the caller's text becomes the one that stands in for it.
+// Kept: the name is not stored, and the caller's text is overwritten with "Default".
 void CVstEffect::setProgramName(char *name) {
     copyDefaultProgramName(name);
 }

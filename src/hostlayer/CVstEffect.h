@@ -10,24 +10,24 @@
 
 namespace Tessitor::Vst {
 
-/// An effect with the library's host services: what the host can do, its transport, the MIDI of the
-/// coming block, and the lock. It makes no sound of its own.
+/// An effect with the library's host services: the host's capabilities, its transport, the MIDI of
+/// the coming block, and a lock. It does no signal processing.
 ///
-/// It takes no lock itself. The host sets rate and block size on any thread, one at a time; the
-/// audio thread alone uses the tempo and, from processEvents to the end of the block, the MIDI
+/// This class never takes the lock. The host sets rate and block size on any thread, one at a time.
+/// Only the audio thread uses the tempo and, from processEvents to the end of the block, the MIDI
 /// list.
 class CVstEffect : public AudioEffectX, public Basics::CCountedObject {
 public:
-    /// Asks the host what it can do and who it is, this once; a later change is not noticed.
-    /// @param host  answers from now on, or null.
+    /// Asks the host for its capabilities and names. Later changes are not noticed.
+    /// @param host  must already answer; null for none.
     CVstEffect(audioMasterCallback host, int parameters, int programs);
     ~CVstEffect() override;
     Basics::CClass &getClass() const override { return s_class; }
 
-    void setSampleRate(float rate) override;  ///< recorded, and nothing further
-    void setBlockSize(int frames) override;   ///< recorded, and nothing further
+    void setSampleRate(float rate) override;  ///< recorded only
+    void setBlockSize(int frames) override;   ///< recorded only
 
-    /// [audio thread] Each ends the block: it clears the MIDI list and touches no buffer.
+    /// [audio thread] Each ends the block: it clears the MIDI list and leaves the buffers alone.
     void processReplacing(float **inputs, float **outputs, int sampleFrames) override;
     void processDoubleReplacing(double **inputs, double **outputs, int sampleFrames) override;
     using AudioEffectX::process;
@@ -35,12 +35,12 @@ public:
     /// [audio thread] Reads the events for the coming block.
     int processEvents(VstEvents *events) override;
 
-    /// From the application's information, at most 24 characters. @return false for a null text.
+    /// From CApplicationInformation, at most 24 characters. @return false if the pointer is null.
     bool getEffectName(char *name) override;
     bool getVendorString(char *text) override;
     bool getProductString(char *text) override;
 
-    /// What stands in for the texts of an effect that has none: "Default" and "No param".
+    /// The texts of an effect without programs and parameters: "Default" and "No param".
     void setProgramName(char *name) override;
     void getProgramName(char *name) override;
     bool getProgramNameIndexed(int category, int index, char *text) override;
@@ -50,8 +50,8 @@ public:
 
     int getNumMidiInputChannels() override { return 1; }
 
-    /// Kept: for its type of count this is not the operation that the record's process entry
-    /// reaches, but one more behind all the published ones, and no host calls it.
+    /// Kept: its frame count is a long, so it does not override AudioEffect::process(). The
+    /// record's process entry does not reach it, and no host calls it.
     virtual void process(float **inputs, float **outputs, long sampleFrames);
     virtual void setMidiChannel(int channel) { m_midiEvents.setChannel(channel); }
 

@@ -25,7 +25,7 @@ void CVstMidiEventList::readEvents(const VstEvents &block) {
 }
 
 void CVstMidiEventList::readEvent(const VstMidiEvent &event) {
-    // Kept: one bit of the four that name the channel, so channel 0 stands for the first eight.
+    // Kept: one of the channel's four bits, so channel 0 receives the first eight channels.
     const int channel = byteOf(event, 0) & 8;
     if (channel != m_channel)
         return;
@@ -45,7 +45,7 @@ void CVstMidiEventList::readEvent(const VstMidiEvent &event) {
         break;
     }
     case midiPitchBend: {
-        // Kept: the slot's channel stays that of the event before.
+        // Kept: the slot keeps the channel of the event that it held before.
         CMidiEvent &stored = addEvent();
         stored.setStatus(midiPitchBend);
         stored.setValue(0);

@@ -5,15 +5,15 @@
 
 namespace Tessitor::Midi {
 
-/// A list that the host's events are read into.
+/// A list filled from the host's events.
 class CVstMidiEventList : public CMidiEventList {
 public:
     CVstMidiEventList() { s_class.incrementInstanceCount(); }
     ~CVstMidiEventList() override { s_class.decrementInstanceCount(); }
     Basics::CClass &getClass() const override { return s_class; }
 
-    /// Adds the notes, controllers and pitch bends of the block that are for this list's channel.
-    /// Events beyond the capacity are lost. The order is the host's.
+    /// Adds the notes, controllers and pitch bends for this list's channel, in the host's order.
+    /// Events beyond the capacity are lost.
     void readEvents(const VstEvents &block);
 
 private:

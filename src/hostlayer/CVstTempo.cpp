@@ -10,7 +10,7 @@ namespace Tessitor::Vst {
 
 namespace {
 
-/// Beats from the position to the start of the next bar.
+/// @return beats from the position to the start of the next bar.
 double beatsToNextBar(const STempoInformation &information) {
     if (information.barStartPosition == information.ppqPosition)
         return 0.0;
@@ -18,7 +18,7 @@ double beatsToNextBar(const STempoInformation &information) {
     const double beats = beatsInBar + information.barStartPosition - information.ppqPosition;
     if (beatsInBar <= 0.0 || (beats >= 0.0 && beats <= beatsInBar))
         return beats;
-    // To the bits of a bar added or taken away again and again, however far away the bar is.
+    // Gives the same bits as adding or subtracting one bar at a time, however far away the bar is.
     const double rest = std::fmod(beats, beatsInBar);
     if (beats < 0.0)
         return rest < 0.0 ? rest + beatsInBar : 0.0;

@@ -10,7 +10,7 @@ namespace Tessitor::Vst {
 /// Reads the host's transport, once per block. [audio thread]
 class CVstTempo : public Basics::CCountedObject {
 public:
-    CVstTempo();  ///< without an effect; set one before reading
+    CVstTempo();  ///< has no effect yet; set one before reading
     /// @throws CException if the effect is null.
     explicit CVstTempo(AudioEffectX *effect);
     CVstTempo(const CVstTempo &) = delete;
@@ -18,15 +18,16 @@ public:
     ~CVstTempo() override { s_class.decrementInstanceCount(); }
     Basics::CClass &getClass() const override { return s_class; }
 
-    void setEffect(AudioEffectX *effect) { m_theEffect = effect; }  ///< outlives the reader
+    void setEffect(AudioEffectX *effect) { m_theEffect = effect; }  ///< must outlive this object
 
-    /// Asks the host and renews the record; a host that gives no time leaves it as it stands.
-    /// @param mask  VstTimeInfoFlags to ask for; what the host gives beyond them is read too.
+    /// Asks the host and updates the record. If the host gives no time, the record keeps its
+    /// values.
+    /// @param mask  the VstTimeInfoFlags to ask for; others that the host sets are read too.
     /// @return isValid()
-    /// @throws CException without an effect; nothing is allocated otherwise.
+    /// @throws CException without an effect; otherwise it allocates nothing.
     bool getTempoInformation(int mask);
 
-    bool isValid() const { return m_valid; }  ///< whether the host gave a time when last asked
+    bool isValid() const { return m_valid; }  ///< the host gave a time when it was last asked
     const STempoInformation &getInformation() const { return *m_information; }
 
 private:

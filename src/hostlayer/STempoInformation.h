@@ -4,8 +4,8 @@
 
 namespace Tessitor::Vst {
 
-/// What the host last said about tempo and transport. A value whose flag it did not set is 0, the
-/// time signature 4/4; samplesToNextBar alone goes on as it was.
+/// The host's latest tempo and transport. A value whose flag the host did not set is 0, the time
+/// signature 4/4. Only samplesToNextBar keeps its old value.
 struct STempoInformation {
     bool tempoValid = false;
     bool timeSignatureValid = false;
@@ -16,7 +16,7 @@ struct STempoInformation {
     bool transportChanged = false;
     bool transportPlaying = false;
     Music::CTimeSignature timeSignature;
-    double tempo = 120.0;           // beats per minute; 120 until the host gives a time
+    double tempo = 120.0;           // beats per minute; 120 until the host first gives its time
     double ppqPosition = 0.0;       // quarter notes
     double barStartPosition = 0.0;  // quarter notes
     double samplePosition = 0.0;    // frames

@@ -4,12 +4,12 @@
 
 #include <cstdint>
 
-/// The published plug-in interface, version 2.4, as host and effect lay it out in memory on 64-bit
-/// systems. Names are the published ones. VstInterface.cpp proves every size and offset.
+/// The published plug-in interface, version 2.4, in its 64-bit memory layout. Names are the
+/// published ones. VstInterface.cpp checks every size and offset.
 
 struct AEffect;
 
-/// The host's side of the conversation. A null effect goes with audioMasterVersion only.
+/// The host's entry. The effect may be null for audioMasterVersion only.
 using audioMasterCallback = std::intptr_t (*)(AEffect *effect, std::int32_t opcode,
                                               std::int32_t index, std::intptr_t value, void *ptr,
                                               float opt);
@@ -27,7 +27,7 @@ constexpr std::int32_t kEffectMagic = 0x56737450;     // 'VstP'
 constexpr std::int32_t kEffectIdentity = 0x4E764566;  // 'NvEf', the answer to effIdentify
 constexpr std::int32_t kVstVersion = 2400;
 
-/// Published lengths of texts, terminator included.
+/// Published sizes of text buffers, with the terminator.
 enum VstStringLength : std::int32_t {
     kVstMaxParamStrLen = 8,
     kVstMaxShortLabelLen = 8,
@@ -55,7 +55,7 @@ enum VstAEffectFlags : std::int32_t {
     effFlagsCanDoubleReplacing = 1 << 12
 };
 
-/// What an entry function returns. It lives inside the effect and dies with effClose.
+/// What the entry function returns. It is part of the effect, and effClose destroys it.
 struct AEffect {
     std::int32_t magic;  ///< kEffectMagic
     AEffectDispatcherProc dispatcher;
@@ -108,8 +108,8 @@ enum VstTimeInfoFlags : std::int32_t {
     kVstClockValid = 1 << 15
 };
 
-/// The host's transport. A field counts only if its flag is set; samplePos and sampleRate always
-/// do.
+/// The host's transport. A field is valid only if its flag is set; samplePos and sampleRate always
+/// are.
 struct VstTimeInfo {
     double samplePos;   ///< frames
     double sampleRate;  ///< Hz
@@ -132,10 +132,10 @@ enum VstEventType : std::int32_t { kVstMidiType = 1, kVstSysExType = 6 };
 /// VstMidiEvent::flags
 enum VstMidiEventFlags : std::int32_t { kVstMidiEventIsRealtime = 1 << 0 };
 
-/// The head that all events share; `type` says which one follows.
+/// The header common to all events; `type` gives the kind.
 struct VstEvent {
     std::int32_t type;         ///< VstEventType
-    std::int32_t byteSize;     ///< not to be relied on: some hosts count less than the structure
+    std::int32_t byteSize;     ///< not reliable: may be less than the size of the structure
     std::int32_t deltaFrames;  ///< from the start of the coming block
     std::int32_t flags;
     char data[16];
@@ -166,8 +166,8 @@ struct VstMidiSysexEvent {
     std::intptr_t resvd2;
 };
 
-/// The events of the coming block, as many pointers as numEvents says: the array runs on behind
-/// its declared end.
+/// The events of the coming block. The array has numEvents pointers and may be longer than
+/// declared.
 struct VstEvents {
     std::int32_t numEvents;
     std::intptr_t reserved;
@@ -177,12 +177,11 @@ struct VstEvents {
 /// VstPinProperties::flags
 enum VstPinPropertiesFlags : std::int32_t {
     kVstPinIsActive = 1 << 0,
-    kVstPinIsStereo = 1 << 1,  ///< first of a stereo pair, or its second
+    kVstPinIsStereo = 1 << 1,  ///< one of a stereo pair
     kVstPinUseSpeaker = 1 << 2
 };
 
-/// One input or output. Some hosts' record ends before `future`: an effect writes what stands
-/// before it and nothing more.
+/// One input or output. Giada's record ends before `future`, so an effect must not write to that.
 struct VstPinProperties {
     char label[kVstMaxLabelLen];
     std::int32_t flags;            ///< VstPinPropertiesFlags
@@ -250,10 +249,10 @@ struct VstSpeakerProperties {
 struct VstSpeakerArrangement {
     std::int32_t type;  ///< VstSpeakerArrangementType
     std::int32_t numChannels;
-    VstSpeakerProperties speakers[8];  ///< more of them follow if numChannels says so
+    VstSpeakerProperties speakers[8];  ///< more follow if numChannels is above 8
 };
 
-struct VstVariableIo;  ///< handed through to an effect that knows it
+struct VstVariableIo;  ///< only passed through
 
 /// A key, made of the arguments of effEditKeyDown and effEditKeyUp.
 struct VstKeyCode {

@@ -2,9 +2,9 @@
 
 #include <cstdint>
 
-/// What a host asks of an effect, through AEffect::dispatcher. `index`, `value`, `ptr` and `opt`
-/// are the call's arguments, `->` its result. Lengths of texts include the terminator. A host may
-/// send any of these before effOpen, and nothing after effClose.
+/// Calls from the host to the effect, through AEffect::dispatcher. `index`, `value`, `ptr` and
+/// `opt` are the arguments, `->` is the result. Lengths of texts include the terminator. A host may
+/// send any of these before effOpen, and none after effClose.
 enum AEffectOpcode : std::int32_t {
     effOpen = 0,
     effClose = 1,           ///< the effect deletes itself
@@ -33,8 +33,8 @@ enum AEffectOpcode : std::int32_t {
     effSetChunk = 24,   ///< index as above; ptr = data, value = bytes -> 1
 
     effProcessEvents = 25,            ///< ptr = VstEvents * -> 1
-    effCanBeAutomated = 26,           ///< index -> 1 or 0; one host has the parameter in value
-    effString2Parameter = 27,         ///< index; ptr = text, or null to ask whether it can be done
+    effCanBeAutomated = 26,           ///< index (in Audacity 3.2.4 value) = parameter -> 1 or 0
+    effString2Parameter = 27,         ///< index; ptr = text, or null to ask if texts are supported
     effGetNumProgramCategories = 28,  ///< deprecated
     effGetProgramNameIndexed = 29,  ///< index = program, value = category; ptr as effGetProgramName
     effCopyProgram = 30,            ///< deprecated
@@ -64,7 +64,7 @@ enum AEffectOpcode : std::int32_t {
     effGetIcon = 54,                 ///< deprecated
     effSetViewPosition = 55,         ///< deprecated
     effGetParameterProperties = 56,  ///< index; ptr = VstParameterProperties * -> 1 if filled
-    effKeysRequired = 57,            ///< deprecated; 1 means that none are
+    effKeysRequired = 57,            ///< deprecated; inverted: 1 means that no keys are required
     effGetVstVersion = 58,           ///< -> kVstVersion
 
     effEditKeyDown = 59,  ///< index = character, value = virtual key, opt = modifiers -> 1 if used
@@ -92,11 +92,11 @@ enum AEffectOpcode : std::int32_t {
     effGetNumMidiOutputChannels = 79
 };
 
-/// What an effect asks of its host, through audioMasterCallback. Every answer may be 0 and every
-/// text may be left unwritten.
+/// Calls from the effect to the host, through audioMasterCallback. A host may answer 0 to any of
+/// them and may leave any text unwritten.
 enum AudioMasterOpcode : std::int32_t {
     audioMasterAutomate = 0,  ///< index, opt = value
-    /// -> the host's version; the only one to ask before there is an effect
+    /// -> the host's version; the only call allowed before there is an effect
     audioMasterVersion = 1,
     audioMasterCurrentId = 2,  ///< -> the unique id to make, in a shell
     audioMasterIdle = 3,

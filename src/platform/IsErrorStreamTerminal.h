@@ -1,4 +1,4 @@
 #pragma once
 
-/// @return true if what the program writes to standard error is shown on a terminal. [any thread]
+/// @return true if standard error is a terminal. [any thread]
 bool isErrorStreamTerminal();

@@ -2,23 +2,23 @@
 
 #include <string>
 
-/// Drives, that is, mounted file systems. [any thread]
+/// Drives: mounted file systems. [any thread]
 ///
-/// On Windows a drive is named by its root with the separator, "C:\\". On Linux any path on it will
-/// do: the mount that holds the path is meant.
+/// On Windows, name a drive by its root with the separator, "C:\\". On Linux, any path on the drive
+/// will do.
 
-/// @return the drive that holds the path: on Windows its root, on Linux its mount point. "" if there
-///         is none, and on Linux also if nothing exists at the path.
+/// @return the drive that holds the path: its root on Windows, its mount point on Linux. "" if
+///         there is no such drive. On Linux also "" if the path does not exist.
 std::string nativeDriveOf(const std::string &path);
 
-/// What a file system is called; both "" if there is none at that path.
+/// Both are empty if there is no drive at that path.
 struct SNativeVolume {
     std::string name;        // its label; "" if it has none
     std::string fileSystem;  // "NTFS", "ext4"
 };
 SNativeVolume nativeVolume(const std::string &drive);
 
-/// The numbers are Windows' own.
+/// The numbers are those of GetDriveType() on Windows.
 enum class ENativeDriveType {
     Unknown = 0,
     NoRoot = 1,  // nothing at that path
@@ -30,6 +30,6 @@ enum class ENativeDriveType {
 };
 ENativeDriveType nativeDriveType(const std::string &drive);
 
-/// @return the folder that the system is installed in, without a separator at its end: on Windows
-///         the Windows folder, on Linux "/usr".
+/// @return the folder of the operating system without a trailing separator: the Windows folder on
+///         Windows, "/usr" on Linux.
 std::string nativeSystemFolder();

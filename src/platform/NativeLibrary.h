@@ -2,17 +2,16 @@
 
 #include <string>
 
-/// Shared libraries of the system. [any thread]
+/// Shared libraries. [any thread]
 
-/// @param path    file in the system's own narrow encoding; one without a folder lies in the
-/// current
-///                one, though Windows prefers one of that name beside the program.
-/// @param reason  the system's words when the result is null.
-/// @return a handle for the two functions below, null if the system refuses the file.
+/// @param path    in the system's narrow encoding. A bare file name means the current folder, but
+///                Windows prefers a file of that name beside the program.
+/// @param reason  receives the system's error message if the result is null.
+/// @return a handle for the two functions below; null if the system refuses the file.
 void *openNativeLibrary(const std::string &path, std::string &reason);
 
-/// @return the exported function or datum, null if the library has none of that name.
+/// @return the exported function or variable; null if the library exports none of that name.
 void *nativeSymbol(void *library, const char *name);
 
-/// Gives the handle back; null is ignored.
+/// Releases the handle. Null is ignored.
 void closeNativeLibrary(void *library);

@@ -1,4 +1,4 @@
 #pragma once
 
-/// What stands between the folders of a path: a text of one byte, "/" or "\\".
+/// The separator in paths, a string of one byte: "/" or "\\".
 extern const char nativePathSeparator[2];

@@ -2,7 +2,7 @@
 
 #include <cpuid.h>
 
-// The compiler's own header, the same on every system.
+// <cpuid.h> comes with the compiler and is the same on every system.
 SProcessorRegisters nativeProcessorRegisters(std::uint32_t function) {
     SProcessorRegisters registers;
     __get_cpuid(function, &registers.eax, &registers.ebx, &registers.ecx, &registers.edx);

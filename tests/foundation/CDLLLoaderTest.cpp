@@ -15,7 +15,7 @@ using Tessitor::Host::CDLLLoader;
 
 namespace {
 
-/// Whether the loader has the sample's function, and it runs.
+/// @return true if the loader has the function of the sample library and it works.
 bool hasSample(const CDLLLoader &loader) {
     const auto ask = reinterpret_cast<std::size_t (*)(char *, std::size_t)>(
         loader.getFunction("sampleModulePath"));
@@ -23,7 +23,7 @@ bool hasSample(const CDLLLoader &loader) {
     return ask != nullptr && ask(path, sizeof path) > 0;
 }
 
-/// How often this has been called since the sample was loaded.
+/// @return the number of calls since the sample library was loaded, this one included.
 int sampleCalls(const CDLLLoader &loader) {
     return reinterpret_cast<int (*)()>(loader.getFunction("sampleCalls"))();
 }
@@ -39,7 +39,7 @@ TEST(CDLLLoader, WithoutALibraryHasNoFunctions) {
     EXPECT_EQ(CDLLLoader().getFunction("malloc"), nullptr);
 }
 
-TEST(CDLLLoader, TellsOfAFileThatDoesNotExist) {
+TEST(CDLLLoader, ThrowsIfTheFileDoesNotExist) {
     CDLLLoader loader;
     try {
         loader.loadDll("none.dll");
@@ -52,13 +52,13 @@ TEST(CDLLLoader, TellsOfAFileThatDoesNotExist) {
     EXPECT_THROW(CDLLLoader("none.dll"), CException);
 }
 
-TEST(CDLLLoader, KeepsTheLibraryWhenAnotherDoesNotExist) {
+TEST(CDLLLoader, KeepsTheLibraryIfTheNextFileDoesNotExist) {
     CDLLLoader loader(SAMPLE_MODULE);
     EXPECT_THROW(loader.loadDll("none.dll"), CException);
     EXPECT_TRUE(hasSample(loader));
 }
 
-TEST(CDLLLoader, LoadsAgain) {
+TEST(CDLLLoader, LoadsTheSameLibraryAgain) {
     CDLLLoader loader(SAMPLE_MODULE);
     loader.loadDll(SAMPLE_MODULE);
     EXPECT_TRUE(hasSample(loader));

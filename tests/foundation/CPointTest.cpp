@@ -55,7 +55,7 @@ TEST(CPoint, WrapsAtTheEndsOfTheRange) {
     EXPECT_EQ(point, CPoint(greatest, least));
 }
 
-TEST(CPoint, EqualsAPointAtTheSamePlaceOnly) {
+TEST(CPoint, EqualsOnlyAPointAtTheSamePosition) {
     EXPECT_TRUE(CPoint(1, 2) == CPoint(1, 2));
     EXPECT_FALSE(CPoint(1, 2) == CPoint(1, 3));
     EXPECT_FALSE(CPoint(1, 2) == CPoint(3, 2));
@@ -79,7 +79,7 @@ TEST(CPoint, EveryConstructorCounts) {
     EXPECT_EQ(point.getClass().getInstanceCount(), instances);
 }
 
-TEST(CPoint, ACopyBeginsWithNoReference) {
+TEST(CPoint, ACopyStartsWithoutReferences) {
     CPoint point;
     point.reference();
     EXPECT_EQ(CPoint(point).getReferenceCount(), 0);

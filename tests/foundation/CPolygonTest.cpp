@@ -17,15 +17,15 @@ CPolygon triangle() {
     return polygon;
 }
 
-std::string told(const CPolygon &polygon) {
+std::string textOf(const CPolygon &polygon) {
     std::string text;
     for (int i = 0; i < polygon.getNumberOfPoints(); ++i)
         text += descriptionOf(*polygon.getPoint(i));
     return text;
 }
 
-TEST(CPolygon, IsMadeOfPointsAtZero) {
-    EXPECT_EQ(told(CPolygon(3)), "[0,0][0,0][0,0]");
+TEST(CPolygon, StartsWithPointsAtZero) {
+    EXPECT_EQ(textOf(CPolygon(3)), "[0,0][0,0][0,0]");
     EXPECT_EQ(CPolygon(0).getNumberOfPoints(), 0);
     EXPECT_EQ(CPolygon(-1).getNumberOfPoints(), 0);
 }
@@ -33,10 +33,10 @@ TEST(CPolygon, IsMadeOfPointsAtZero) {
 TEST(CPolygon, AddsPointsAtTheEnd) {
     CPolygon polygon(1);
     polygon.addPoint(CPoint(7, 8));
-    EXPECT_EQ(told(polygon), "[0,0][7,8]");
+    EXPECT_EQ(textOf(polygon), "[0,0][7,8]");
 }
 
-TEST(CPolygon, HasNoPointOutside) {
+TEST(CPolygon, HasNoPointOutOfRange) {
     const CPolygon polygon(2);
     EXPECT_EQ(polygon.getPoint(-1), nullptr);
     EXPECT_EQ(polygon.getPoint(2), nullptr);
@@ -46,38 +46,38 @@ TEST(CPolygon, HasNoPointOutside) {
 TEST(CPolygon, MovesEveryPoint) {
     CPolygon polygon = triangle();
     polygon.offset(CPoint(10, -1));
-    EXPECT_EQ(told(polygon), "[11,1][13,3][15,5]");
+    EXPECT_EQ(textOf(polygon), "[11,1][13,3][15,5]");
     polygon.offset(*polygon.getPoint(0));
-    EXPECT_EQ(told(polygon), "[22,2][24,4][26,6]");
+    EXPECT_EQ(textOf(polygon), "[22,2][24,4][26,6]");
 }
 
 TEST(CPolygon, ACopyHasPointsOfItsOwn) {
     CPolygon polygon = triangle();
     const CPolygon copy(polygon);
     polygon.getPoint(0)->setPoint(9, 9);
-    EXPECT_EQ(told(copy), "[1,2][3,4][5,6]");
+    EXPECT_EQ(textOf(copy), "[1,2][3,4][5,6]");
 }
 
-TEST(CPolygon, AssignmentTakesTheNumberOfPoints) {
+TEST(CPolygon, AssignmentAdoptsTheNumberOfPoints) {
     CPolygon polygon(5);
     polygon = triangle();
-    EXPECT_EQ(told(polygon), "[1,2][3,4][5,6]");
+    EXPECT_EQ(textOf(polygon), "[1,2][3,4][5,6]");
     polygon = CPolygon(0);
     EXPECT_EQ(polygon.getNumberOfPoints(), 0);
 }
 
-TEST(CPolygon, AssignmentOfAsManyPointsKeepsThePoints) {
+TEST(CPolygon, AssignmentOfTheSameNumberKeepsThePointObjects) {
     CPolygon polygon(3);
     const CPoint *const first = polygon.getPoint(0);
     polygon = triangle();
     EXPECT_EQ(polygon.getPoint(0), first);
-    EXPECT_EQ(told(polygon), "[1,2][3,4][5,6]");
+    EXPECT_EQ(textOf(polygon), "[1,2][3,4][5,6]");
     const CPolygon &itself = polygon;
     polygon = itself;
-    EXPECT_EQ(told(polygon), "[1,2][3,4][5,6]");
+    EXPECT_EQ(textOf(polygon), "[1,2][3,4][5,6]");
 }
 
-TEST(CPolygon, EqualsTheSamePlacesInTheSameOrder) {
+TEST(CPolygon, EqualsTheSamePositionsInTheSameOrder) {
     CPolygon polygon = triangle();
     EXPECT_TRUE(polygon == triangle());
     EXPECT_TRUE(CPolygon(0) == CPolygon(0));
@@ -87,7 +87,7 @@ TEST(CPolygon, EqualsTheSamePlacesInTheSameOrder) {
     EXPECT_FALSE(CPolygon(3) == CPolygon(2));
 }
 
-TEST(CPolygon, LeavesNothingBehind) {
+TEST(CPolygon, LeaksNothing) {
     const CPoint probe;
     const CPolygon other(0);
     EXPECT_TRUE(other.getClass() == "CPolygon");

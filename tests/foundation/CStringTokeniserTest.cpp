@@ -33,7 +33,7 @@ TEST(CStringTokeniser, SplitsAtItsDelimiter) {
     EXPECT_EQ(split("a,"), Tokens{"a"});
 }
 
-TEST(CStringTokeniser, CountsRunsButReadsToEachDelimiter) {
+TEST(CStringTokeniser, SkipsEmptyTokensWhenCountingButNotWhenReading) {
     CStringTokeniser tokeniser(",,a,,b,", ',');
     EXPECT_EQ(tokeniser.countTokens(), 2);
     EXPECT_EQ(tokensOf(tokeniser), (Tokens{"", ""}));
@@ -44,10 +44,10 @@ TEST(CStringTokeniser, DoesNotCountAFirstTokenThatBeginsWithAnUnderscore) {
     EXPECT_EQ(split("_a,b,c"), (Tokens{"_a", "b"}));
     EXPECT_EQ(split("_a"), Tokens{});
     EXPECT_EQ(split("a,_b"), (Tokens{"a", "_b"}));
-    EXPECT_EQ(split("_a", '_'), Tokens{""}) << "there the underscore is a delimiter as well";
+    EXPECT_EQ(split("_a", '_'), Tokens{""}) << "here the underscore is also the delimiter";
 }
 
-TEST(CStringTokeniser, HasNoTokensBeforeTheyAreCountedIfMadeFromATextAlone) {
+TEST(CStringTokeniser, MustCountFirstIfBuiltWithoutADelimiter) {
     CStringTokeniser fromText("a,b");
     EXPECT_FALSE(fromText.hasMoreTokens());
     EXPECT_EQ(fromText.getNextToken(), nullptr);
@@ -61,7 +61,7 @@ TEST(CStringTokeniser, HasNoTokensBeforeTheyAreCountedIfMadeFromATextAlone) {
     EXPECT_EQ(fromString.countTokens(), 2);
 }
 
-TEST(CStringTokeniser, HasTokensAtOnceIfMadeWithADelimiter) {
+TEST(CStringTokeniser, HasTokensAtOnceIfBuiltWithADelimiter) {
     EXPECT_TRUE(CStringTokeniser("a|b", '|').hasMoreTokens());
     CStringTokeniser fromString(CString("a|b"), '|');
     EXPECT_EQ(tokensOf(fromString), (Tokens{"a", "b"}));
@@ -80,14 +80,14 @@ TEST(CStringTokeniser, StoresTokensInAString) {
     EXPECT_STREQ(token.getString(), "c");
 }
 
-TEST(CStringTokeniser, CountingAgainDoesNotReadAgain) {
+TEST(CStringTokeniser, CountingAgainDoesNotRestartTheReading) {
     CStringTokeniser tokeniser("a,b,c", ',');
     std::unique_ptr<char[]> first(tokeniser.getNextToken());
     EXPECT_EQ(tokeniser.countTokens(), 3);
     EXPECT_EQ(tokensOf(tokeniser), (Tokens{"b", "c"}));
 }
 
-TEST(CStringTokeniser, ANewDelimiterLeavesTheCountAndTheEndIsReadAgain) {
+TEST(CStringTokeniser, ANewDelimiterKeepsTheCountAndRepeatsTheEnd) {
     CStringTokeniser tokeniser("a,b;c", ',');
     tokeniser.setDelimiter('|');
     EXPECT_EQ(tokensOf(tokeniser), (Tokens{"a,b;c", "a,b;c"}));
@@ -95,7 +95,7 @@ TEST(CStringTokeniser, ANewDelimiterLeavesTheCountAndTheEndIsReadAgain) {
     EXPECT_EQ(tokeniser.countTokens(), 2);
 }
 
-TEST(CStringTokeniser, ANewTextIsReadFromItsStartOnceCounted) {
+TEST(CStringTokeniser, ANewTextIsReadFromItsStartAfterCounting) {
     CStringTokeniser tokeniser("a;b", ';');
     EXPECT_EQ(tokensOf(tokeniser), (Tokens{"a", "b"}));
     tokeniser.setText("c;d;e");

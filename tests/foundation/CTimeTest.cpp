@@ -11,7 +11,7 @@ using Tessitor::Host::CTime;
 namespace {
 
 /// year-month-day(day of the week) hour:minute:second.millisecond
-std::string told(const CTime &time) {
+std::string textOf(const CTime &time) {
     char text[128];
     std::snprintf(text, sizeof text, "%d-%d-%d(%d) %d:%d:%d.%d", time.getYear(), time.getMonth(),
                   time.getDay(), time.getDayOfWeek(), time.getHour(), time.getMinute(),
@@ -33,15 +33,15 @@ CTime sample() {
 }
 
 TEST(CTime, IsZeroAtFirst) {
-    EXPECT_EQ(told(CTime()), "0-0-0(0) 0:0:0.0");
+    EXPECT_EQ(textOf(CTime()), "0-0-0(0) 0:0:0.0");
 }
 
 TEST(CTime, KeepsWhatItIsGiven) {
-    EXPECT_EQ(told(sample()), "2026-3-1(0) 7:8:9.5");
-    EXPECT_EQ(told(CTime(sample())), "2026-3-1(0) 7:8:9.5");
+    EXPECT_EQ(textOf(sample()), "2026-3-1(0) 7:8:9.5");
+    EXPECT_EQ(textOf(CTime(sample())), "2026-3-1(0) 7:8:9.5");
     CTime time;
     time = sample();
-    EXPECT_EQ(told(time), "2026-3-1(0) 7:8:9.5");
+    EXPECT_EQ(textOf(time), "2026-3-1(0) 7:8:9.5");
 }
 
 TEST(CTime, DescribesTheDay) {
@@ -64,7 +64,7 @@ TEST(CTime, NamesEveryDayAndEveryMonth) {
     }
 }
 
-TEST(CTime, WhatDoesNotExistHasNoName) {
+TEST(CTime, ADayOrMonthThatDoesNotExistHasNoName) {
     CTime time = sample();
     time.setDayOfWeek(7);
     time.setMonth(13);
@@ -73,7 +73,7 @@ TEST(CTime, WhatDoesNotExistHasNoName) {
     EXPECT_EQ(descriptionOf(time), " 1  2026");
 }
 
-TEST(CTime, DateAndTimeAreFilledWithZeros) {
+TEST(CTime, PadsDateAndTimeWithZeros) {
     EXPECT_STREQ(sample().getDate().getString(), "01/03/2026");
     EXPECT_STREQ(sample().getTime().getString(), "07:08:09:05");
     EXPECT_STREQ(CTime().getDate().getString(), "00/00/0000");
@@ -86,26 +86,26 @@ TEST(CTime, ConvertsToFileTimeAndBack) {
     constexpr std::uint64_t at1970 = 116'444'736'000'000'000;
     CTime time;
     time.fromFileTime(at1970);
-    EXPECT_EQ(told(time), "1970-1-1(4) 0:0:0.0");
+    EXPECT_EQ(textOf(time), "1970-1-1(4) 0:0:0.0");
     EXPECT_EQ(time.toFileTime(), at1970);
     time.fromFileTime(0);
-    EXPECT_EQ(told(time), "1601-1-1(1) 0:0:0.0");
+    EXPECT_EQ(textOf(time), "1601-1-1(1) 0:0:0.0");
     EXPECT_EQ(time.toFileTime(), 0u);
     // 29 February 2024, a Thursday, 23:59:59.999 and 9,999 ticks of the next millisecond
     constexpr std::uint64_t leapDay = 133'537'247'999'999'999;
     time.fromFileTime(leapDay);
-    EXPECT_EQ(told(time), "2024-2-29(4) 23:59:59.999");
+    EXPECT_EQ(textOf(time), "2024-2-29(4) 23:59:59.999");
     EXPECT_EQ(time.toFileTime(), leapDay - 9'999);
 }
 
-TEST(CTime, ConvertsTheLastOfAllFileTimes) {
+TEST(CTime, ConvertsTheLargestFileTime) {
     constexpr auto last = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
     CTime time;
     time.fromFileTime(last);
-    EXPECT_EQ(told(time), "30828-9-14(4) 2:48:5.477");
+    EXPECT_EQ(textOf(time), "30828-9-14(4) 2:48:5.477");
     time = sample();
     time.fromFileTime(last + 1);
-    EXPECT_EQ(told(time), "2026-3-1(0) 7:8:9.5");
+    EXPECT_EQ(textOf(time), "2026-3-1(0) 7:8:9.5");
 }
 
 TEST(CTime, ATimeThatDoesNotExistHasNoFileTime) {
@@ -125,17 +125,17 @@ TEST(CTime, ATimeThatDoesNotExistHasNoFileTime) {
     }
 }
 
-TEST(CTime, TheDayOfTheWeekFollowsFromTheDate) {
+TEST(CTime, IgnoresTheDayOfTheWeekInTheConversion) {
     CTime time = sample();
     time.setDayOfWeek(5);
     EXPECT_EQ(time.toFileTime(), sample().toFileTime());
 }
 
-TEST(CTime, TakesTheTimeOfTheUsersClock) {
+TEST(CTime, TakesTheLocalTime) {
     fakeMachine().localTime = {2026, 3, 0, 1, 7, 8, 9, 5};
     CTime time;
     time.setCurrentTime();
-    EXPECT_EQ(told(time), "2026-3-1(0) 7:8:9.5");
+    EXPECT_EQ(textOf(time), "2026-3-1(0) 7:8:9.5");
 }
 
 TEST(CTime, EveryConstructorCounts) {

@@ -19,7 +19,7 @@ using Tessitor::IO::openTrace;
 
 namespace {
 
-/// A node and all below it: name(attribute=value, ...)[children].
+/// A node and its descendants as text: name(attribute=value, ...)[children].
 std::string sketch(const CXMLNode *node) {
     if (node == nullptr)
         return "none";
@@ -48,20 +48,20 @@ protected:
         std::ofstream(path.getString(), std::ios::binary) << text;
     }
 
-    /// What is read from these lines behind the declaration.
+    /// @return the tree read from a declaration and these lines.
     std::string readTree(const std::string &lines) {
         write("<?xml version=\"1.0\"?>\n" + lines);
         EXPECT_TRUE(document.readFile(path));
         return sketch(document.getRootNode());
     }
 
-    /// What is read from attributes as they stand in a tag.
+    /// @return the tree read from a tag with these attributes.
     std::string readAttributes(const std::string &attributes) {
         return readTree("<root>\n<tag " + attributes + "\n");
     }
 
     std::string written() {
-        // Some file systems wait for the disk when an old file is emptied.
+        // Some file systems wait for the disk when an existing file is truncated.
         std::filesystem::remove(path.getString());
         EXPECT_TRUE(document.writeFile(path));
         return readFile(path.getString());
@@ -69,7 +69,7 @@ protected:
 
     std::string traced() const { return readFile(tracePath.getString()); }
 
-    ~CXMLDocumentFile() override { openTrace(""); }  // so that the folder can go
+    ~CXMLDocumentFile() override { openTrace(""); }  // closes it, so the folder can be deleted
 
     CTemporaryFolder folder;
     CSystemString path{(folder / "document.xml").string().c_str()};
@@ -98,7 +98,7 @@ TEST_F(CXMLDocumentFile, WritesOneTagPerLineAndTabsForLevels) {
                          "\t</strip>\n"
                          "\t<last/>\n"
                          "</root>");
-    EXPECT_EQ(written(), readFile(path.getString())) << "a second time the same";
+    EXPECT_EQ(written(), readFile(path.getString())) << "writing again gives the same";
 }
 
 TEST_F(CXMLDocumentFile, WritesARootWithoutChildrenAsOneTagWithALineEnd) {
@@ -115,7 +115,7 @@ TEST_F(CXMLDocumentFile, EncodesNamesAndValues) {
                          "<a&lt;b c&amp;d=\"&quot;e&quot;&gt;&#13;&#10;\">\n"
                          "\t<child/>\n"
                          "</a&lt;b>");
-    EXPECT_STREQ(root->getName().getString(), "a<b") << "the tree stays as it is";
+    EXPECT_STREQ(root->getName().getString(), "a<b") << "the tree does not change";
 }
 
 TEST_F(CXMLDocumentFile, WritesNothingWithoutARoot) {
@@ -170,7 +170,7 @@ TEST_F(CXMLDocumentFile, AValueWithMarkupSurvives) {
     }
 }
 
-TEST_F(CXMLDocumentFile, AnEqualsSignInsideAValueMakesWhatPrecedesItTheName) {
+TEST_F(CXMLDocumentFile, AnEqualsSignInsideAValueStartsANewAttribute) {
     EXPECT_EQ(readAttributes("gain=\"left=right\">"), "root[tag(left=right)]");
     EXPECT_EQ(readAttributes("gain=\"left=mid=right\" pan=\"1\">"), "root[tag(mid=right, pan=1)]");
 }
@@ -215,24 +215,24 @@ TEST_F(CXMLDocumentFile, IgnoresCommentsDeclarationsAndText) {
               "root[child]");
 }
 
-TEST_F(CXMLDocumentFile, DropsWhatStandsBesideTheRoot) {
+TEST_F(CXMLDocumentFile, DropsTagsAfterTheRoot) {
     EXPECT_EQ(readTree("<root>\n</root>\n<other gain=\"1\">\n<inner/>\n</other>\n"), "root");
     EXPECT_EQ(readTree("<root/>\n<other>\n<inner/>\n"), "root") << "an empty root is not current";
     EXPECT_EQ(readTree("<root gain=\"1\"/>\n<other/>\n"), "root(gain=1)");
 }
 
-TEST_F(CXMLDocumentFile, AnAttributeBehindTheEndOfTheRootIsDropped) {
+TEST_F(CXMLDocumentFile, DropsAttributesAfterTheEndOfTheRoot) {
     EXPECT_EQ(readTree("<root gain=\"1\"/> pan=\"2\"\n"), "root(gain=1)");
     EXPECT_EQ(readTree("<root>\n<tag gain=\"1\"/> pan=\"2\"\n"), "root(>pan=2)[tag(gain=1)]")
-        << "inside it the parent takes it";
+        << "inside the root, the parent gets the attribute";
 }
 
-TEST_F(CXMLDocumentFile, ASlashBeforeABracketClosesInsideQuotesAsWell) {
+TEST_F(CXMLDocumentFile, ASlashAndABracketCloseEvenInsideQuotes) {
     EXPECT_EQ(readTree("<root>\n<tag path=\"a/>b\">\n<next>\n"), "root(path=a>b)[tag next]");
     EXPECT_EQ(readAttributes("path=\"a/b\" kind=\"/\">"), "root[tag(path=a/b, kind=/)]");
 }
 
-TEST_F(CXMLDocumentFile, BlanksCountInsideQuotesOnly) {
+TEST_F(CXMLDocumentFile, KeepsBlanksOnlyInsideQuotes) {
     EXPECT_EQ(readAttributes("  gain  =  \" 1 2 \"  pan=\"3\"  >"), "root[tag(gain= 1 2 , pan=3)]");
 }
 
@@ -259,7 +259,7 @@ TEST_F(CXMLDocumentFile, ReadsLineEndsOfWindows) {
     EXPECT_EQ(readTree("<root>\r\n\t<child gain=\"1\"/>\r\n</root>\r\n"), "root[child(gain=1)]");
 }
 
-TEST_F(CXMLDocumentFile, WantsADeclarationInTheFirstLine) {
+TEST_F(CXMLDocumentFile, RequiresADeclarationInTheFirstLine) {
     openTrace(tracePath);
     const std::string line = std::string("Failed to read XML DTD on path = ") + path.getString();
     document.setRootNode(new CXMLNode("kept", nullptr));
@@ -278,7 +278,7 @@ TEST_F(CXMLDocumentFile, WantsADeclarationInTheFirstLine) {
     }
 }
 
-TEST_F(CXMLDocumentFile, TellsByTheFirstLineWhetherAStreamIsValid) {
+TEST_F(CXMLDocumentFile, ChecksAStreamByItsFirstLine) {
     write("<?xml?>\n<root>\n");
     CTextStream stream(path, EStreamMode::Read);
     EXPECT_TRUE(CXMLDocument::isValidXMLFile(stream));
@@ -293,13 +293,13 @@ TEST_F(CXMLDocumentFile, ReadsALineOf2047Bytes) {
               "root[tag(gain=" + value + ") last]");
 }
 
-TEST_F(CXMLDocumentFile, ALongerLineEndsTheReadingAndIsParsedAsFarAsItGoes) {
+TEST_F(CXMLDocumentFile, ALongerLineEndsTheReadingAndItsStartIsParsed) {
     const std::string start = "<tag gain=\"1\" pan=\"", filler(5000, 'x');
     for (const std::size_t length : {2048u, 2049u, 5000u}) {
         const std::string value = filler.substr(start.size() + 3 + filler.size() - length);
         write(std::string("<?xml?>\n<root>\n").append(start).append(value) + "\"/>\n<last/>\n");
         EXPECT_FALSE(document.readFile(path));
-        // Of the shorter ones only the end of the tag is missing, so that it stays open.
+        // The shorter lines lose only the end of the tag, so it stays open.
         EXPECT_EQ(sketch(document.getRootNode()),
                   length <= 2049 ? "root[tag(gain=1, pan=" + value + ")]" : "root[tag(gain=1)]");
     }
@@ -312,7 +312,7 @@ TEST_F(CXMLDocumentFile, EndsALineAtAZeroByte) {
     EXPECT_EQ(readTree(std::string("<root>\n<ta\0g>\n<last/>\n", 22)), "root[ta[last]]");
 }
 
-TEST_F(CXMLDocumentFile, DropsTheOldTreeAndItsPlace) {
+TEST_F(CXMLDocumentFile, ReplacesTheOldTree) {
     readTree("<root>\n<open>\n");
     EXPECT_EQ(readTree("<next>\n<child/>\n"), "next[child]");
     EXPECT_EQ(document.getRootNode()->getParent(), nullptr);
@@ -339,12 +339,12 @@ TEST_F(CXMLDocumentFile, WritesNodesNestedDeeperThanTheStack) {
         root = addedTo(root, "tag");
     ASSERT_TRUE(document.writeFile(path));
     CXMLDocument read;
-    EXPECT_FALSE(read.readFile(path)) << "the indent makes lines too long to be read";
+    EXPECT_FALSE(read.readFile(path)) << "the indent makes the lines too long";
 }
 
 // Round trips
 
-/// Texts that come back: no "=" in a value, no single letters, no entities of their own.
+/// Texts that survive writing and reading: no "=", no single letters, no entities.
 std::string randomText(std::mt19937 &random, std::string_view characters, std::size_t atLeast) {
     std::string text(atLeast + random() % 12, ' ');
     for (char &character : text)
@@ -365,7 +365,7 @@ void addRandomNodes(std::mt19937 &random, CXMLNode *parent, int levels) {
     }
 }
 
-TEST_F(CXMLDocumentFile, GeneratedDocumentsComeBack) {
+TEST_F(CXMLDocumentFile, ReadsGeneratedDocumentsBack) {
     for (unsigned seed = 0; seed < 50; ++seed) {
         std::mt19937 random(seed);
         auto *root = new CXMLNode("root", nullptr);
@@ -382,7 +382,7 @@ TEST_F(CXMLDocumentFile, GeneratedDocumentsComeBack) {
 
 // The tree
 
-TEST_F(CXMLDocumentFile, HoldsItsRoot) {
+TEST_F(CXMLDocumentFile, ReferencesItsRoot) {
     auto *root = new CXMLNode("root", nullptr);
     document.setRootNode(root);
     EXPECT_EQ(root->getReferenceCount(), 1);
@@ -396,7 +396,7 @@ TEST_F(CXMLDocumentFile, HoldsItsRoot) {
     EXPECT_EQ(document.getRootNode(), nullptr);
 }
 
-TEST_F(CXMLDocumentFile, LosesNoNodeAndNoAttribute) {
+TEST_F(CXMLDocumentFile, LeaksNoNodeAndNoAttribute) {
     const auto counted = [](const auto &object) {
         return object.getClass().getInstanceCount() - 1;
     };

@@ -7,7 +7,7 @@ using Tessitor::IO::CXMLNode;
 
 namespace {
 
-/// A node that somebody else holds, as everyone does who does not put it into a tree at once.
+/// Creates a node and holds a reference on it.
 class CHeldNode {
 public:
     explicit CHeldNode(CXMLNode *parent = nullptr) : m_node(new CXMLNode("held", parent)) {
@@ -33,8 +33,8 @@ TEST(CXMLNode, KnowsItsNameAndItsParent) {
     EXPECT_STREQ(parent->getName().getString(), "held");
     EXPECT_EQ(parent->getParent(), nullptr);
     EXPECT_EQ(child->getParent(), parent.get());
-    EXPECT_EQ(parent->getReferenceCount(), 1) << "the pointer to it does not count";
-    EXPECT_EQ(parent->getNumberOfChildren(), 0) << "and does not add";
+    EXPECT_EQ(parent->getReferenceCount(), 1) << "the child does not reference it";
+    EXPECT_EQ(parent->getNumberOfChildren(), 0) << "nor is it added";
 }
 
 TEST(CXMLNode, FindsAttributesByIndexAndByName) {
@@ -72,7 +72,7 @@ TEST(CXMLNode, FindsChildrenByIndexAndByName) {
     EXPECT_EQ(node->getChild("none"), nullptr);
 }
 
-TEST(CXMLNode, TakesItsTreeAlong) {
+TEST(CXMLNode, DestroysItsTree) {
     const auto before = nodes();
     {
         const CHeldNode root;
@@ -87,7 +87,7 @@ TEST(CXMLNode, TakesItsTreeAlong) {
     EXPECT_EQ(nodes(), before);
 }
 
-TEST(CXMLNode, LeavesAChildThatSomebodyHoldsWithoutAParent) {
+TEST(CXMLNode, AChildThatIsStillReferencedLosesItsParent) {
     const auto before = nodes();
     {
         auto *root = new CXMLNode("root", nullptr);
@@ -106,7 +106,7 @@ TEST(CXMLNode, LeavesAChildThatSomebodyHoldsWithoutAParent) {
     EXPECT_EQ(nodes(), before);
 }
 
-TEST(CXMLNode, MayStandInMoreThanOnePlace) {
+TEST(CXMLNode, MayHaveSeveralParents) {
     const auto before = nodes();
     {
         const CHeldNode root;

@@ -4,7 +4,7 @@
 
 #include <string>
 
-/// The description that an object writes of itself.
+/// @return the description of an object.
 inline std::string descriptionOf(const Tessitor::Basics::ICountedObject &object) {
     char text[256];
     object.getObjectDescription(text, sizeof text);

@@ -4,7 +4,7 @@
 
 namespace {
 
-TEST(DisplayMessage, HandsTextAndCaptionToTheSystem) {
+TEST(DisplayMessage, PassesTextAndCaptionToTheSystem) {
     testing::internal::CaptureStderr();
     Tessitor::displayMessage("It has failed.", "Sorry", true);
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "Sorry: It has failed.\n");

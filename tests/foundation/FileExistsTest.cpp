@@ -15,7 +15,7 @@ CSystemString text(const std::filesystem::path &path) {
     return path.string().c_str();
 }
 
-TEST(FileExists, IsTrueOnceTheFileIsThere) {
+TEST(FileExists, IsTrueForAnExistingFile) {
     const CTemporaryFolder folder;
     EXPECT_FALSE(fileExists(text(folder / "file.txt")));
     std::ofstream(folder / "file.txt").flush();
@@ -26,11 +26,11 @@ TEST(FileExists, JoinsFolderAndName) {
     const CTemporaryFolder folder;
     std::ofstream(folder / "file.txt").flush();
     EXPECT_TRUE(fileExists(text(folder.path()), "file.txt"));
-    EXPECT_TRUE(fileExists(text(folder / ""), "file.txt")) << "with a separator of its own";
+    EXPECT_TRUE(fileExists(text(folder / ""), "file.txt")) << "folder with a trailing separator";
     EXPECT_FALSE(fileExists(text(folder.path()), "other.txt"));
 }
 
-TEST(FileExists, AFolderIsNoFile) {
+TEST(FileExists, IsFalseForAFolder) {
     const CTemporaryFolder folder;
     EXPECT_FALSE(fileExists(text(folder.path())));
     EXPECT_FALSE(fileExists(""));

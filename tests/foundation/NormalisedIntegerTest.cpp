@@ -17,14 +17,14 @@ TEST(NormalisedInteger, KeepsTheMaximumBelowOne) {
     EXPECT_EQ(normalisedToInteger(0, 10, 1.0), 10);
 }
 
-TEST(NormalisedInteger, TakesTheNextIntegerUp) {
+TEST(NormalisedInteger, RoundsUp) {
     EXPECT_EQ(normalisedToInteger(0, 10, 0.0), 0);
     EXPECT_EQ(normalisedToInteger(0, 10, 0.01), 1);
     EXPECT_EQ(normalisedToInteger(0, 10, 0.1), 1);
     EXPECT_EQ(normalisedToInteger(-5, 5, 0.25), -2);
 }
 
-TEST(NormalisedInteger, GoesThereAndBack) {
+TEST(NormalisedInteger, ConvertsBackToTheSameInteger) {
     for (std::int32_t index = -3; index <= 20; ++index)
         EXPECT_EQ(normalisedToInteger(-3, 20, integerToNormalised(-3, 20, index)), index);
 }
@@ -35,7 +35,7 @@ TEST(NormalisedInteger, MapsTheWholeRange) {
     EXPECT_DOUBLE_EQ(integerToNormalised(least, greatest, greatest), 0.99999);
 }
 
-TEST(NormalisedInteger, WhatNoIntegerHoldsIsTheLeast) {
+TEST(NormalisedInteger, AnOverflowGivesTheSmallestInteger) {
     EXPECT_EQ(normalisedToInteger(0, greatest, 2.0), least);
     EXPECT_EQ(normalisedToInteger(0, 10, std::nan("")), least);
 }

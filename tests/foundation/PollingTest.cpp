@@ -11,7 +11,7 @@ struct SPoll {
     bool succeeded = false;
 };
 
-/// Polls with attempts of which only the one with this number, from 1, succeeds.
+/// Polls; only the attempt with this number, counted from 1, succeeds.
 SPoll poll(long milliseconds, int successful) {
     SPoll result;
     result.succeeded = pollUntil(

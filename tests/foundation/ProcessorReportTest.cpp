@@ -35,7 +35,7 @@ TEST(ProcessorReport, APathWithAnExtensionIsTheFile) {
     EXPECT_EQ(readFile(file).substr(0, 12), "Tessitor FPU");
 }
 
-TEST(ProcessorReport, AFileThatCannotBeMadeIsNoFailure) {
+TEST(ProcessorReport, IsNotWrittenIfTheFileCannotBeCreated) {
     const CTemporaryFolder folder;
     CSystemString path = (folder / "none" / "report.txt").string().c_str();
     writeProcessorReport(path);

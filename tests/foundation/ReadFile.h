@@ -4,7 +4,7 @@
 #include <iterator>
 #include <string>
 
-/// Every byte of a file as it is; "" if it cannot be read.
+/// @return all bytes of a file; "" if it cannot be read.
 inline std::string readFile(const std::string &path) {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};

@@ -4,7 +4,8 @@
 #include "foundation/CSystemString.h"
 #include "foundation/ReadFile.h"
 
-/// What a report writes when it is given a folder, which must become a file of that name.
+/// @return what a report writes if it is given a folder, or the path that it writes to if that is
+///         not the file of that name in the folder.
 inline std::string reportText(void (*writeReport)(Tessitor::Basics::CSystemString &path),
                               const char *fileName) {
     const CTemporaryFolder folder;

@@ -16,20 +16,20 @@ namespace {
 
 class TraceFile : public testing::Test {
 protected:
-    ~TraceFile() override { openTrace(""); }  // so that the folder can go
+    ~TraceFile() override { openTrace(""); }  // closes it, so the folder can be deleted
 
     CTemporaryFolder folder;
     CSystemString path{(folder / "trace.txt").string().c_str()};
 };
 
-TEST_F(TraceFile, GoesNowhereUntilItIsOpened) {
+TEST_F(TraceFile, WritesNothingUntilItIsOpened) {
     trace("lost");
     trace(CLong(7), "lost ");
     ASSERT_TRUE(openTrace(path));
     EXPECT_EQ(readFile(path.getString()), "");
 }
 
-TEST_F(TraceFile, HoldsALineForEachCallAtOnce) {
+TEST_F(TraceFile, WritesALineAtOnceForEachCall) {
     openTrace(path);
     trace("plain");
     EXPECT_EQ(readFile(path.getString()), "plain\n");
@@ -39,7 +39,7 @@ TEST_F(TraceFile, HoldsALineForEachCallAtOnce) {
     EXPECT_EQ(readFile(path.getString()), "plain\nformat has 3 of 1.5\nnumber = -42\n\n");
 }
 
-TEST_F(TraceFile, HoldsALineOfAnyLength) {
+TEST_F(TraceFile, WritesALineOfAnyLength) {
     openTrace(path);
     const std::string text(100000, 'x');
     trace("%s", text.c_str());
@@ -53,7 +53,7 @@ TEST_F(TraceFile, CutsADescriptionTo1023Bytes) {
     EXPECT_EQ(readFile(path.getString()), "text = " + text.substr(0, 1023) + "\n");
 }
 
-TEST_F(TraceFile, BeginsAnewWithEachOpening) {
+TEST_F(TraceFile, StartsAnewWhenItIsOpened) {
     const CSystemString other((folder / "other.txt").string().c_str());
     openTrace(path);
     trace("first");

@@ -17,7 +17,7 @@ std::string decoded(const char *text) {
     return decodeEntities(text).getString();
 }
 
-TEST(XMLEntities, StandForSixCharacters) {
+TEST(XMLEntities, EncodeAndDecodeSixCharacters) {
     EXPECT_EQ(encoded("a&b\"c>d<e\nf\rg"), "a&amp;b&quot;c&gt;d&lt;e&#10;f&#13;g");
     EXPECT_EQ(decoded("a&amp;b&quot;c&gt;d&lt;e&#10;f&#13;g"), "a&b\"c>d<e\nf\rg");
     EXPECT_EQ(encoded("'\t plain"), "'\t plain");
@@ -25,10 +25,10 @@ TEST(XMLEntities, StandForSixCharacters) {
     EXPECT_EQ(decoded(""), "");
 }
 
-TEST(XMLEntities, AreFoundWhereverTheyStand) {
+TEST(XMLEntities, AreFoundAnywhereInTheText) {
     EXPECT_EQ(decoded("&lt;&amp;&lt;"), "<&<");
     EXPECT_EQ(decoded("&&lt;"), "&<");
-    EXPECT_EQ(decoded("x&lt;"), "x<") << "and nothing before them is lost";
+    EXPECT_EQ(decoded("x&lt;"), "x<") << "the text before the entity is kept";
     EXPECT_EQ(decoded("&nbsp;&gt;"), "&nbsp;>");
     EXPECT_EQ(decoded("&am&amp;p;"), "&am&p;");
     EXPECT_EQ(decoded("&LT; &#11; &lt"), "&LT; &#11; &lt");
@@ -41,7 +41,7 @@ TEST(XMLEntities, AreDecodedOneKindAfterTheOther) {
     EXPECT_EQ(decoded("&#3&lt;8;"), "&#3<8;");
 }
 
-TEST(XMLEntities, BringBackEveryTextWithoutASemicolon) {
+TEST(XMLEntities, RestoreEveryTextWithoutASemicolon) {
     constexpr std::string_view characters = "&\"><\n\ra #1l";
     for (unsigned seed = 0; seed < 500; ++seed) {
         std::mt19937 random(seed);

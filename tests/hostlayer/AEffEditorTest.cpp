@@ -21,7 +21,7 @@ TEST(AEffEditor, IsOpenBetweenOpenAndClose) {
     EXPECT_FALSE(editor.isOpen());
 }
 
-TEST(AEffEditor, AnswersItsRectangleOpenOrNot) {
+TEST(AEffEditor, GivesItsRectangleOpenOrClosed) {
     ProbeEffect effect;
     auto *editor = new ProbeEditor(&effect);
     effect.setEditor(editor);
@@ -39,7 +39,7 @@ TEST(AEffEditor, AnswersItsRectangleOpenOrNot) {
     EXPECT_FALSE(editor->isOpen());
 }
 
-TEST(AEffEditor, AnswersNoToARectangleOrAWindowThatItDoesNotHave) {
+TEST(AEffEditor, ReportsThatItHasNoRectangleOrWindow) {
     class Editor : public ProbeEditor {
     public:
         using ProbeEditor::ProbeEditor;
@@ -53,7 +53,7 @@ TEST(AEffEditor, AnswersNoToARectangleOrAWindowThatItDoesNotHave) {
     EXPECT_EQ(effect.call(14), 0);
 }
 
-TEST(AEffEditor, HearsIdleKeysAndKnobMode) {
+TEST(AEffEditor, ReceivesIdleKeysAndKnobMode) {
     class Editor : public ProbeEditor {
     public:
         using ProbeEditor::ProbeEditor;
@@ -99,7 +99,7 @@ TEST(AEffEditor, LeavesKeysAndKnobModeToTheHost) {
     EXPECT_EQ(effect.call(61, 0, kLinearMode), 0);
 }
 
-TEST(AEffEditor, TakesItselfOutOfItsEffect) {
+TEST(AEffEditor, RemovesItselfFromItsEffectIfAConstructorThrows) {
     class Editor : public ProbeEditor {
     public:
         Editor(AudioEffect *owner) : ProbeEditor(owner) {
@@ -113,7 +113,7 @@ TEST(AEffEditor, TakesItselfOutOfItsEffect) {
     EXPECT_EQ(effect.getAeffect()->flags, 0x10);
 }
 
-TEST(AEffEditor, LeavesTheEditorInPlaceThatFollowedIt) {
+TEST(AEffEditor, LeavesALaterEditorInPlace) {
     ProbeEffect effect;
     auto *second = new ProbeEditor(&effect);
     {

@@ -34,7 +34,7 @@ TEST(AudioEffect, StartsWithThePublishedRecord) {
     EXPECT_TRUE(std::ranges::all_of(record.future, [](char byte) { return byte == 0; }));
 }
 
-TEST(AudioEffect, IsUsableBeforeTheHostSaysARateOrABlockSize) {
+TEST(AudioEffect, HasARateAndABlockSizeBeforeTheHostSetsThem) {
     ProbeEffect effect;
     EXPECT_EQ(effect.getSampleRate(), 44100.0f);
     EXPECT_EQ(effect.getBlockSize(), 1024);
@@ -88,7 +88,7 @@ TEST(AudioEffect, SetsAndClearsOneFlagAtATime) {
     EXPECT_EQ(record.flags, 0x10);
 }
 
-TEST(AudioEffect, LeadsTheRecordsEntriesToTheOperationsOfTheSameName) {
+TEST(AudioEffect, TheRecordsEntriesCallTheOperationsOfTheSameName) {
     RecordingEffect effect;
     AEffect *record = effect.getAeffect();
     float *in[2]{}, *out[2]{};
@@ -106,7 +106,7 @@ TEST(AudioEffect, LeadsTheRecordsEntriesToTheOperationsOfTheSameName) {
     EXPECT_EQ(effect.reached, (SReached{"getParameter 1"}));
 }
 
-TEST(AudioEffect, LeavesTheBuffersOfTheAccumulatingEntryAlone) {
+TEST(AudioEffect, TheAccumulatingEntryLeavesTheBuffersAlone) {
     ProbeEffect effect;
     float input[]{0.5f, 0.25f}, output[]{1.0f, 2.0f};
     float *in[]{input, input}, *out[]{output, output};
@@ -117,7 +117,7 @@ TEST(AudioEffect, LeavesTheBuffersOfTheAccumulatingEntryAlone) {
     EXPECT_EQ(output[1], 2.0f);
 }
 
-TEST(AudioEffect, LeavesTheBuffersAloneWhereTheEffectHasNoDoublePrecision) {
+TEST(AudioEffect, WithoutDoublePrecisionLeavesTheBuffersAlone) {
     ProbeEffect effect;
     double input[]{0.5}, output[]{1.0};
     double *in[]{input, input}, *out[]{output, output};
@@ -125,7 +125,7 @@ TEST(AudioEffect, LeavesTheBuffersAloneWhereTheEffectHasNoDoublePrecision) {
     EXPECT_EQ(output[0], 1.0);
 }
 
-TEST(AudioEffect, IgnoresAProgramThatIsNotBelowTheirNumber) {
+TEST(AudioEffect, IgnoresAProgramNumberThatIsTooHigh) {
     ProbeEffect effect;
     effect.call(2, 0, 2);
     EXPECT_EQ(effect.call(3), 2);
@@ -135,13 +135,13 @@ TEST(AudioEffect, IgnoresAProgramThatIsNotBelowTheirNumber) {
     EXPECT_EQ(effect.call(3), 2);
 }
 
-TEST(AudioEffect, SetsAProgramBelowZeroAsTheHostSays) {
+TEST(AudioEffect, PassesOnANegativeProgramNumber) {
     ProbeEffect effect;
     effect.call(2, 0, -1);
     EXPECT_EQ(effect.call(3), -1);
 }
 
-TEST(AudioEffect, SwitchesMainsAsOftenAsTheHostSays) {
+TEST(AudioEffect, SuspendsAndResumesAtEveryCall) {
     RecordingEffect effect;
     for (const int value : {0, 1, 1, 0, 0}) {
         effect.reached = {};
@@ -150,7 +150,7 @@ TEST(AudioEffect, SwitchesMainsAsOftenAsTheHostSays) {
     }
 }
 
-TEST(AudioEffect, SetsAnAutomatedParameterBeforeTheHostHearsOfIt) {
+TEST(AudioEffect, SetsAnAutomatedParameterBeforeInformingTheHost) {
     class Effect : public ProbeEffect {
     public:
         Effect(FakeHost &host) : ProbeEffect(FakeHost::callback), m_host(host) {}
@@ -225,7 +225,7 @@ TEST(AudioEffect, SaysWhetherItHasAnEditor) {
     EXPECT_EQ(effect.getAeffect()->flags, 0x10);
 }
 
-TEST(AudioEffect, LetsAnExceptionThrough) {
+TEST(AudioEffect, PassesExceptionsOn) {
     class Effect : public ProbeEffect {
     public:
         void open() override { throw std::runtime_error("cannot open"); }

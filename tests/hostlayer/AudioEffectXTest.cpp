@@ -10,8 +10,8 @@
 #include <ostream>
 #include <vector>
 
-// What the published classes answer when an effect overrides nothing. The opcodes are numbers here,
-// so that the table checks their names as well.
+// The answers of the published classes if an effect overrides nothing. The table has the opcodes as
+// numbers too, so it also checks their names.
 
 namespace {
 
@@ -125,7 +125,7 @@ std::array<char, sizeof(AEffect)> bytesOf(const AEffect &record) {
 
 class AudioEffectXDefaults : public testing::TestWithParam<SDefault> {};
 
-TEST_P(AudioEffectXDefaults, AreAnsweredBeforeOpenAndWriteNoMoreThanAnEmptyText) {
+TEST_P(AudioEffectXDefaults, AreGivenBeforeOpenAndWriteAtMostAnEmptyText) {
     const SDefault &entry = GetParam();
     FakeHost host;
     ProbeEffect effect(FakeHost::callback);
@@ -149,7 +149,7 @@ TEST(AudioEffectX, GivesNoSpeakerArrangement) {
     EXPECT_EQ(out, nullptr);
 }
 
-TEST(AudioEffectX, AnswersZeroToWhatItDoesNotKnowAndTouchesNothing) {
+TEST(AudioEffectX, AnswersZeroToUnknownOpcodesAndWritesNothing) {
     ProbeEffect effect;
     Memory memory = filledMemory();
     const auto before = bytesOf(*effect.getAeffect());
@@ -159,7 +159,7 @@ TEST(AudioEffectX, AnswersZeroToWhatItDoesNotKnowAndTouchesNothing) {
     EXPECT_EQ(bytesOf(*effect.getAeffect()), before);
 }
 
-TEST(AudioEffectX, IsASynthOnlyIfItSaysSo) {
+TEST(AudioEffectX, HasTheSynthCategoryOnlyAfterIsSynth) {
     ProbeEffect effect;
     effect.isSynth();
     EXPECT_EQ(effect.call(35), 2);
@@ -167,7 +167,7 @@ TEST(AudioEffectX, IsASynthOnlyIfItSaysSo) {
     EXPECT_EQ(effect.call(35), 0);
 }
 
-// How each opcode's arguments arrive at its operation, and the operation's answer at the host.
+// Each opcode passes its arguments to an operation and returns the result.
 
 namespace {
 
@@ -238,7 +238,7 @@ const SRoute routes[] = {
 
 class AudioEffectXRoutes : public testing::TestWithParam<SRoute> {};
 
-TEST_P(AudioEffectXRoutes, LeadToTheOperationAndBack) {
+TEST_P(AudioEffectXRoutes, CallTheOperationAndReturnItsResult) {
     const SRoute &route = GetParam();
     RecordingEffect effect;
     Memory memory = filledMemory();
@@ -286,7 +286,7 @@ TEST(AudioEffectX, AsksForMidiAtResumeIfItReceivesMidi) {
     EXPECT_EQ(host.calls(audioMasterWantMidi).size(), 1u);
 }
 
-// The questions to the host.
+// The questions to the host
 
 namespace {
 
@@ -341,7 +341,7 @@ const SQuestion questions[] = {
 
 class AudioEffectXQuestions : public testing::TestWithParam<SQuestion> {};
 
-TEST_P(AudioEffectXQuestions, ReachTheHostAndBringItsAnswer) {
+TEST_P(AudioEffectXQuestions, ReachTheHostAndReturnItsAnswer) {
     const SQuestion &question = GetParam();
     FakeHost host;
     host.answers[question.opcode] = question.answer;
@@ -355,14 +355,14 @@ TEST_P(AudioEffectXQuestions, ReachTheHostAndBringItsAnswer) {
     EXPECT_EQ(call.value, question.value);
 }
 
-TEST_P(AudioEffectXQuestions, AreAnsweredByZeroWithoutAHost) {
+TEST_P(AudioEffectXQuestions, ReturnZeroWithoutAHost) {
     ProbeEffect effect;
     EXPECT_EQ(GetParam().ask(effect), 0);
 }
 INSTANTIATE_TEST_SUITE_P(Wrappers, AudioEffectXQuestions, testing::ValuesIn(questions),
                          [](const auto &entry) { return std::string(entry.param.name); });
 
-TEST(AudioEffectX, PassesTheMaskAndTheRecordOfTheTime) {
+TEST(AudioEffectX, PassesTheTimeMaskAndReturnsTheTimeRecord) {
     FakeHost host;
     ProbeEffect effect(FakeHost::callback);
     EXPECT_EQ(effect.getTimeInfo(kVstTempoValid), nullptr);
@@ -375,7 +375,7 @@ TEST(AudioEffectX, PassesTheMaskAndTheRecordOfTheTime) {
     EXPECT_EQ(ProbeEffect().getTimeInfo(kVstTempoValid), nullptr);
 }
 
-TEST(AudioEffectX, BringsTheHostsAnswerToAWordAsItIs) {
+TEST(AudioEffectX, ReturnsTheHostsCanDoAnswerUnchanged) {
     FakeHost host;
     host.canDo = {{"sizeWindow", 1}, {"offline", -1}};
     ProbeEffect effect(FakeHost::callback);
@@ -386,7 +386,7 @@ TEST(AudioEffectX, BringsTheHostsAnswerToAWordAsItIs) {
     EXPECT_EQ(host.calls(audioMasterCanDo).back().text, "editFile");
 }
 
-TEST(AudioEffectX, BringsTheHostsNames) {
+TEST(AudioEffectX, ReturnsTheHostsNames) {
     FakeHost host;
     ProbeEffect effect(FakeHost::callback);
     char text[kVstMaxProductStrLen] = "as it was";
@@ -429,7 +429,7 @@ TEST(AudioEffectX, KeepsRateAndBlockSizeIfTheHostGivesNone) {
     EXPECT_EQ(effect.getBlockSize(), 256);
 }
 
-TEST(AudioEffectX, BringsTheHostsDirectory) {
+TEST(AudioEffectX, ReturnsTheHostsDirectory) {
     FakeHost host;
     char directory[] = "effects";
     host.answers[audioMasterGetDirectory] = reinterpret_cast<std::intptr_t>(directory);

@@ -46,7 +46,7 @@ TEST(CHostCanDo, KnowsNothingAtFirst) {
     expectNothing(CHostCanDo());
 }
 
-TEST(CHostCanDo, AsksSixteenWordsInOrderThenWhoTheHostIs) {
+TEST(CHostCanDo, AsksForSixteenCapabilitiesInOrderThenForTheNames) {
     FakeHost host;
     ProbeEffect effect(FakeHost::callback);
     CHostCanDo canDo;
@@ -64,7 +64,7 @@ TEST(CHostCanDo, AsksSixteenWordsInOrderThenWhoTheHostIs) {
     EXPECT_EQ(calls[17].text, std::string(64, '\0'));
 }
 
-TEST(CHostCanDo, SetsOneFlagForOneWord) {
+TEST(CHostCanDo, SetsOneFlagPerCapability) {
     FakeHost host;
     ProbeEffect effect(FakeHost::callback);
     CHostCanDo canDo;
@@ -76,7 +76,7 @@ TEST(CHostCanDo, SetsOneFlagForOneWord) {
     }
 }
 
-TEST(CHostCanDo, TakesAHostsNoForAYes) {
+TEST(CHostCanDo, TreatsAHostsNoAsYes) {
     FakeHost host;
     host.canDo = {{"offline", -1}};
     ProbeEffect effect(FakeHost::callback);
@@ -85,7 +85,7 @@ TEST(CHostCanDo, TakesAHostsNoForAYes) {
     EXPECT_TRUE(canDo.canDo(hostWorksOffline));
 }
 
-TEST(CHostCanDo, TakesTheNamesOfAHostThatForgetsTheirEnd) {
+TEST(CHostCanDo, ReadsNamesWithoutATerminator) {
     FakeHost host;
     host.product = std::string(64, 'p');
     host.vendor = "Some vendor";
@@ -98,7 +98,7 @@ TEST(CHostCanDo, TakesTheNamesOfAHostThatForgetsTheirEnd) {
     EXPECT_EQ(canDo.getVersion(), 50463744);
 }
 
-TEST(CHostCanDo, ForgetsEverything) {
+TEST(CHostCanDo, ClearsEverything) {
     FakeHost host;
     for (const char *word : words)
         host.canDo[word] = 1;
@@ -114,7 +114,7 @@ TEST(CHostCanDo, ForgetsEverything) {
     expectNothing(canDo);
 }
 
-TEST(CHostCanDo, LearnsNothingWithoutAHost) {
+TEST(CHostCanDo, StaysEmptyWithoutAHost) {
     ProbeEffect effect;
     CHostCanDo canDo;
     canDo.setFromAudioEffectX(&effect);

@@ -30,7 +30,7 @@ TEST(CMidiEventList, StartsEmptyOnChannelZero) {
     EXPECT_EQ(list.getFramesToNext(), 0);
 }
 
-TEST(CMidiEventList, HasEventsOnlyBelowTheirCount) {
+TEST(CMidiEventList, HasNoEventAtOrAboveTheCount) {
     const SampleList list{10, 20};
     EXPECT_EQ(list.getEventAtIndex(-1), nullptr);
     EXPECT_EQ(list.getEventAtIndex(0)->getDelta(), 10);
@@ -39,7 +39,7 @@ TEST(CMidiEventList, HasEventsOnlyBelowTheirCount) {
     EXPECT_EQ(list.getEventAtIndex(128), nullptr);
 }
 
-TEST(CMidiEventList, AdvancesPastTheLastEventAndIsBackAtTheFirst) {
+TEST(CMidiEventList, WrapsToTheFirstEventAfterTheLast) {
     SampleList list{10, 20, 35};
     EXPECT_EQ(list.getCurrentEvent()->getDelta(), 10);
     EXPECT_TRUE(list.hasNext());
@@ -60,7 +60,7 @@ TEST(CMidiEventList, AdvancesPastTheLastEventAndIsBackAtTheFirst) {
     EXPECT_EQ(list.getCurrentEvent()->getDelta(), 10);
 }
 
-TEST(CMidiEventList, StaysAtTheStartOfNothing) {
+TEST(CMidiEventList, AdvancingAnEmptyListStaysAtZero) {
     CMidiEventList list;
     EXPECT_EQ(list.advance(), 1);
     EXPECT_EQ(list.getPosition(), 0);
@@ -78,7 +78,7 @@ TEST(CMidiEventList, HasNoCurrentEventBeforeTheFirst) {
     EXPECT_EQ(list.getCurrentEvent()->getDelta(), 10);
 }
 
-TEST(CMidiEventList, ClearsCountAndPositionAndLeavesTheEventsAsTheyAre) {
+TEST(CMidiEventList, ClearingResetsCountAndPositionButNotTheEvents) {
     SampleList list{10, 20};
     list.advance();
     list.clear();

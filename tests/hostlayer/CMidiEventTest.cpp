@@ -19,7 +19,7 @@ static CMidiEvent message(int status, int value, int subValue, int channel = 0, 
     return event;
 }
 
-TEST(CMidiEvent, StartsAsNothingOnChannelOne) {
+TEST(CMidiEvent, StartsEmptyOnChannelOne) {
     const CMidiEvent event;
     EXPECT_EQ(event.getStatus(), 0);
     EXPECT_EQ(event.getValue(), 0);
@@ -31,7 +31,7 @@ TEST(CMidiEvent, StartsAsNothingOnChannelOne) {
     EXPECT_FALSE(event.isController());
 }
 
-TEST(CMidiEvent, TakesANoteOnWithoutVelocityForANoteOff) {
+TEST(CMidiEvent, ANoteOnWithVelocityZeroIsANoteOff) {
     EXPECT_TRUE(message(144, 60, 1).isNoteOn());
     EXPECT_FALSE(message(144, 60, 1).isNoteOff());
     EXPECT_FALSE(message(144, 60, 0).isNoteOn());
@@ -40,13 +40,13 @@ TEST(CMidiEvent, TakesANoteOnWithoutVelocityForANoteOff) {
     EXPECT_TRUE(message(128, 60, 64).isNoteOff());
 }
 
-TEST(CMidiEvent, KnowsAController) {
+TEST(CMidiEvent, RecognisesAController) {
     EXPECT_TRUE(message(176, 7, 100).isController());
     EXPECT_FALSE(message(123, 0, 0).isController());
     EXPECT_FALSE(message(224, 0, 0).isController());
 }
 
-TEST(CMidiEvent, ComparesItsPlaceInTheBlockAlone) {
+TEST(CMidiEvent, ComparesOnlyThePositionInTheBlock) {
     const CMidiEvent early = message(144, 60, 100, 0, 3), late = message(144, 60, 100, 0, 4),
                      alsoEarly = message(176, 7, 1, 8, 3);
     EXPECT_TRUE(early == alsoEarly);
@@ -63,7 +63,7 @@ TEST(CMidiEvent, ComparesItsPlaceInTheBlockAlone) {
     EXPECT_FALSE(early >= late);
 }
 
-TEST(CMidiEvent, PutsNullsLast) {
+TEST(CMidiEvent, SortsNullsLast) {
     const CMidiEvent early = message(144, 60, 100, 0, 3), late = message(144, 60, 100, 0, 4),
                      alsoEarly = early;
     EXPECT_EQ(CMidiEvent::compare(&early, &early), 0);

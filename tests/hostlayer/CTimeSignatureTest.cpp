@@ -5,13 +5,13 @@
 
 using Tessitor::Music::CTimeSignature;
 
-TEST(CTimeSignature, IsFourFourUnlessToldOtherwise) {
+TEST(CTimeSignature, IsFourFourByDefault) {
     const CTimeSignature signature;
     EXPECT_EQ(signature.getNumerator(), 4);
     EXPECT_EQ(signature.getDenominator(), 4);
 }
 
-TEST(CTimeSignature, TakesBothNumbersOrEach) {
+TEST(CTimeSignature, SetsBothNumbersOrOneOfThem) {
     CTimeSignature signature(7, 8);
     EXPECT_EQ(signature.getNumerator(), 7);
     EXPECT_EQ(signature.getDenominator(), 8);
@@ -38,7 +38,7 @@ TEST(CTimeSignature, CopiesBothNumbers) {
     EXPECT_EQ(assigned.getDenominator(), 8);
 }
 
-TEST(CTimeSignature, GivesTheWholePartOfItsBeats) {
+TEST(CTimeSignature, RoundsBeatsTowardsZero) {
     EXPECT_EQ(CTimeSignature(3, 4).getBeats(), 0.0);
     EXPECT_EQ(CTimeSignature(4, 4).getBeats(), 1.0);
     EXPECT_EQ(CTimeSignature(6, 4).getBeats(), 1.0);

@@ -15,7 +15,7 @@ using Tessitor::Vst::CVstEffect;
 
 namespace {
 
-/// Shows what a derived effect sees of its base.
+/// Makes the protected members public.
 class SampleEffect : public CVstEffect {
 public:
     explicit SampleEffect(audioMasterCallback host = nullptr) : CVstEffect(host, 64, 20) {}
@@ -38,7 +38,7 @@ public:
     using CVstEffect::m_tempo;
 };
 
-/// The application's information for the time of a test.
+/// Sets the application information during a test.
 class CVstEffectNames : public testing::Test {
 protected:
     static void setNames(const char *company, const char *application, const char *description) {
@@ -58,7 +58,7 @@ TEST(CVstEffect, TakesParametersBeforePrograms) {
     EXPECT_EQ(effect.getAeffect()->numPrograms, 20);
 }
 
-TEST(CVstEffect, AsksItsHostForWordsAndNamesWhenItIsBuiltAndNothingElse) {
+TEST(CVstEffect, AsksOnlyForCapabilitiesAndNamesDuringConstruction) {
     FakeHost host;
     host.canDo = {{"sizeWindow", 1}};
     host.product = "Product";
@@ -82,7 +82,7 @@ TEST(CVstEffect, AsksItsHostForWordsAndNamesWhenItIsBuiltAndNothingElse) {
     EXPECT_EQ(effect.m_hostCanDo.getVersion(), 900);
 }
 
-TEST(CVstEffect, DoesNotNoticeThatAHostChangesItsAnswers) {
+TEST(CVstEffect, DoesNotNoticeLaterAnswersOfTheHost) {
     FakeHost host;
     SampleEffect effect(FakeHost::callback);
     host.canDo = {{"offline", 1}};
@@ -117,7 +117,7 @@ TEST(CVstEffect, HoldsOneReferenceOnItsLock) {
     EXPECT_EQ(effect.m_criticalSection->getReferenceCount(), 1);
 }
 
-TEST(CVstEffect, GivesBackEverythingItMade) {
+TEST(CVstEffect, ReleasesEverythingItCreated) {
     Basics::CClass &effects = SampleEffect().getClass();
     Basics::CClass &locks = SampleEffect().m_criticalSection->getClass();
     Basics::CClass &notes = SampleEffect().m_notes.elementAtIndex(0)->getClass();
@@ -136,7 +136,7 @@ TEST(CVstEffect, GivesBackEverythingItMade) {
     EXPECT_STREQ(effects.getClassName(), "CVstEffect");
 }
 
-TEST(CVstEffect, DiesByCloseAsAnAudioEffect) {
+TEST(CVstEffect, IsDeletedByClose) {
     auto *effect = new SampleEffect;
     const Basics::CClass &record = effect->getClass();
     const auto before = record.getInstanceCount();
@@ -202,7 +202,7 @@ TEST(CVstEffect, HoldsTheHostsEventsUntilTheEndOfTheBlock) {
     EXPECT_EQ(effect.m_midiEvents.getCount(), 0);
 }
 
-TEST(CVstEffect, IsNotReachedByTheRecordsAccumulatingEntry) {
+TEST(CVstEffect, TheAccumulatingEntryDoesNotReachItsProcess) {
     SampleEffect effect;
     AEffect *record = effect.getAeffect();
     effect.call(effProcessEvents, 0, 0, EventBlock().midi(0x90, 60, 100).get());
@@ -214,7 +214,7 @@ TEST(CVstEffect, IsNotReachedByTheRecordsAccumulatingEntry) {
     EXPECT_EQ(samples[1], 0.25f);
 }
 
-TEST(CVstEffect, TouchesNoBuffer) {
+TEST(CVstEffect, LeavesTheBuffersAlone) {
     SampleEffect effect;
     AEffect *record = effect.getAeffect();
     float samples[]{0.5f};
@@ -228,7 +228,7 @@ TEST(CVstEffect, TouchesNoBuffer) {
     EXPECT_EQ(doubles[0], 0.25);
 }
 
-TEST(CVstEffect, ListensToTheMidiChannelItIsTold) {
+TEST(CVstEffect, ListensToTheMidiChannelThatIsSet) {
     SampleEffect effect;
     effect.setMidiChannel(8);
     effect.call(effProcessEvents, 0, 0, EventBlock().midi(0x90, 60, 100).midi(0x9F, 61, 100).get());
@@ -263,7 +263,7 @@ TEST(CVstEffect, AllocatesNothingInABlock) {
     EXPECT_EQ(allocationsOfThisThread(), allocations);
 }
 
-TEST(CVstEffect, AnswersWithWhatASubclassIsToReplace) {
+TEST(CVstEffect, GivesDefaultAnswersForSubclassesToReplace) {
     SampleEffect effect;
     AEffect *record = effect.getAeffect();
     record->setParameter(record, 3, 0.5f);
@@ -287,7 +287,7 @@ TEST(CVstEffect, AnswersWithWhatASubclassIsToReplace) {
     }
 }
 
-TEST(CVstEffect, AnswersTheHostAsAnEffectWithoutExtras) {
+TEST(CVstEffect, HasNoOptionalFeatures) {
     SampleEffect effect;
     char text[] = "0.5";
     EXPECT_EQ(effect.call(effString2Parameter, 0, 0, text), 0);
@@ -328,7 +328,7 @@ TEST_F(CVstEffectNames, AreNotWrittenToANullText) {
     EXPECT_EQ(m_effect.call(effGetProductString), 0);
 }
 
-TEST(CVstEffect, LeavesAShortPinRecordWhole) {
+TEST(CVstEffect, DoesNotWritePastAShortPinRecord) {
     class Effect : public SampleEffect {
     public:
         bool getInputProperties(int, VstPinProperties *pin) override {

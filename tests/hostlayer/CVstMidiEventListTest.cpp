@@ -9,7 +9,7 @@ using namespace Tessitor::Midi;
 
 namespace {
 
-/// The one event that a list on channel 0 makes of a message; status 0 if it skips it.
+/// @return the event that a list on channel 0 stores for a message; status 0 if it stores none.
 CMidiEvent eventOf(int byte0, int byte1, int byte2, std::int32_t delta = 0) {
     CVstMidiEventList list;
     list.readEvents(*EventBlock().midi(byte0, byte1, byte2, delta).get());
@@ -36,7 +36,7 @@ TEST(CVstMidiEventList, StoresNotes) {
     EXPECT_TRUE(off.isNoteOff());
 }
 
-TEST(CVstMidiEventList, StoresANoteOnWithoutVelocityAsItCame) {
+TEST(CVstMidiEventList, StoresANoteOnWithVelocityZeroUnchanged) {
     const CMidiEvent event = eventOf(0x90, 60, 0);
     EXPECT_EQ(event.getStatus(), 144);
     EXPECT_TRUE(event.isNoteOff());
@@ -51,7 +51,7 @@ TEST(CVstMidiEventList, StoresControllers) {
     EXPECT_EQ(event.getDelta(), 5);
 }
 
-TEST(CVstMidiEventList, StoresTwoControllersAsAllNotesOffWhateverTheirValue) {
+TEST(CVstMidiEventList, StoresControllers123And126AsAllNotesOff) {
     for (const int controller : {123, 126}) {
         const CMidiEvent event = eventOf(0xB0, controller, 64, 9);
         EXPECT_EQ(event.getStatus(), 123);
@@ -64,13 +64,13 @@ TEST(CVstMidiEventList, StoresTwoControllersAsAllNotesOffWhateverTheirValue) {
         EXPECT_EQ(eventOf(0xB0, controller, 64).getStatus(), 176) << controller;
 }
 
-TEST(CVstMidiEventList, TakesSevenBitsOfData) {
+TEST(CVstMidiEventList, UsesSevenBitsOfData) {
     for (const int status : {0x80, 0x90, 0xB0}) {
         const CMidiEvent event = eventOf(status, 0x80 | 60, 0x80 | 100);
         EXPECT_EQ(event.getValue(), 60);
         EXPECT_EQ(event.getSubValue(), 100);
     }
-    // All eight bits say which controller it is.
+    // All eight bits of the controller number are compared.
     EXPECT_EQ(eventOf(0xB0, 0x80 | 123, 0).getStatus(), 176);
 }
 
@@ -96,7 +96,7 @@ TEST(CVstMidiEventList, APitchBendClearsValueAndSubValueOfItsSlot) {
     EXPECT_EQ(list.getEventAtIndex(0)->getSubValue(), 0);
 }
 
-TEST(CVstMidiEventList, LeavesTheSlotsChannelToAPitchBend) {
+TEST(CVstMidiEventList, APitchBendKeepsTheChannelOfItsSlot) {
     EXPECT_EQ(eventOf(0xE0, 0, 64).getChannel(), 1);
 
     CVstMidiEventList list;
@@ -109,7 +109,7 @@ TEST(CVstMidiEventList, LeavesTheSlotsChannelToAPitchBend) {
     EXPECT_EQ(list.getEventAtIndex(0)->getStatus(), 224);
 }
 
-TEST(CVstMidiEventList, HearsHalfOfTheChannels) {
+TEST(CVstMidiEventList, ReceivesHalfOfTheChannels) {
     for (int channel = 0; channel < 16; ++channel) {
         for (const int listening : {0, 8}) {
             CVstMidiEventList list;
@@ -124,7 +124,7 @@ TEST(CVstMidiEventList, HearsHalfOfTheChannels) {
     }
 }
 
-TEST(CVstMidiEventList, HearsNothingOnAnyOtherChannel) {
+TEST(CVstMidiEventList, ReceivesNothingOnAnyOtherChannel) {
     CVstMidiEventList list;
     list.setChannel(1);
     EventBlock block;
@@ -156,7 +156,7 @@ TEST(CVstMidiEventList, KeepsTheHostsOrder) {
     EXPECT_EQ(list.getEventAtIndex(1)->getDelta(), 10);
 }
 
-TEST(CVstMidiEventList, DropsWhatComesBehindTheHundredAndTwentyEighth) {
+TEST(CVstMidiEventList, DropsEventsAfterThe128th) {
     CVstMidiEventList list;
     EventBlock block;
     for (int i = 0; i < 131; ++i)
@@ -178,7 +178,7 @@ TEST(CVstMidiEventList, CountsOnlyWhatItStoresTowardsTheLimit) {
     EXPECT_EQ(list.getEventAtIndex(127)->getDelta(), 127);
 }
 
-TEST(CVstMidiEventList, PilesUpBlocksUntilItIsCleared) {
+TEST(CVstMidiEventList, CollectsBlocksUntilItIsCleared) {
     CVstMidiEventList list;
     EventBlock block;
     for (int i = 0; i < 100; ++i)
@@ -209,7 +209,7 @@ TEST(CVstMidiEventList, AllocatesNothing) {
     EXPECT_EQ(record.getTotalCount(), instances);
 }
 
-TEST(CVstMidiEventList, IsAClassOfItsOwn) {
+TEST(CVstMidiEventList, HasItsOwnRecord) {
     const CVstMidiEventList list;
     EXPECT_STREQ(list.getClass().getClassName(), "CVstMidiEventList");
     EXPECT_EQ(list.getClass().getInstanceCount(), 1u);

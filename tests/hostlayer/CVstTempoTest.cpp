@@ -60,7 +60,7 @@ TEST_F(CVstTempoTest, StartsAtATempoOf120InFourFour) {
     EXPECT_EQ(information.tempo, 120.0);
 }
 
-TEST_F(CVstTempoTest, AsksForWhatTheMaskSays) {
+TEST_F(CVstTempoTest, PassesTheMaskToTheHost) {
     m_tempo.getTempoInformation(kVstTempoValid);
     ASSERT_EQ(m_host.calls().size(), 1u);
     EXPECT_EQ(m_host.calls().front().opcode, audioMasterGetTime);
@@ -77,14 +77,14 @@ TEST_F(CVstTempoTest, ReadsTheTempo) {
     EXPECT_EQ(information.samplePosition, 1000.5);
 }
 
-TEST_F(CVstTempoTest, CutsTheFractionOffTheSamplesOfABeat) {
+TEST_F(CVstTempoTest, TruncatesTheSamplesPerBeat) {
     VstTimeInfo time = timeWith(kVstTempoValid);
     time.sampleRate = 44100.0;
     time.tempo = 133.0;  // 19894.7 frames
     EXPECT_EQ(read(time).samplesPerBeat, 19894);
 }
 
-TEST_F(CVstTempoTest, FallsToNothingWithoutTheFlags) {
+TEST_F(CVstTempoTest, ResetsValuesWhoseFlagIsMissing) {
     read(timeWith(everything));
     const STempoInformation &information = read(timeWith(0));
     EXPECT_TRUE(m_tempo.isValid());
@@ -102,7 +102,7 @@ TEST_F(CVstTempoTest, FallsToNothingWithoutTheFlags) {
     EXPECT_EQ(information.samplePosition, 1000.5);
 }
 
-TEST_F(CVstTempoTest, LeavesTheRecordAsItStandsIfTheHostGivesNoTime) {
+TEST_F(CVstTempoTest, KeepsItsValuesIfTheHostGivesNoTime) {
     VstTimeInfo time = timeWith(everything | kVstTransportPlaying | kVstTransportChanged);
     time.tempo = 93.0;
     read(time);
@@ -123,7 +123,7 @@ TEST_F(CVstTempoTest, LeavesTheRecordAsItStandsIfTheHostGivesNoTime) {
     EXPECT_EQ(information.samplePosition, 1000.5);
 }
 
-TEST_F(CVstTempoTest, ReadsEachFlagByItself) {
+TEST_F(CVstTempoTest, ReadsEachFlagOnItsOwn) {
     const STempoInformation &information = m_tempo.getInformation();
     read(timeWith(kVstTransportChanged));
     EXPECT_TRUE(information.transportChanged);
@@ -146,7 +146,7 @@ TEST_F(CVstTempoTest, ReadsEachFlagByItself) {
     EXPECT_FALSE(information.ppqPositionValid);
 }
 
-TEST_F(CVstTempoTest, CountsToTheNextBarOnlyFromAllFour) {
+TEST_F(CVstTempoTest, NeedsAllFourFlagsForTheNextBar) {
     for (const int missing : {kVstTempoValid, kVstTimeSigValid, kVstPpqPosValid, kVstBarsValid}) {
         const STempoInformation &information = read(timeWith(everything & ~missing));
         EXPECT_FALSE(information.samplesToNextBarValid) << missing;
@@ -155,7 +155,7 @@ TEST_F(CVstTempoTest, CountsToTheNextBarOnlyFromAllFour) {
     EXPECT_TRUE(read(timeWith(everything)).samplesToNextBarValid);
 }
 
-TEST_F(CVstTempoTest, NeverTakesTheNextBarBack) {
+TEST_F(CVstTempoTest, NeverClearsTheSamplesToTheNextBar) {
     EXPECT_EQ(read(timeWith(everything)).samplesToNextBar, 36000);
     const STempoInformation &information = read(timeWith(0));
     EXPECT_TRUE(information.samplesToNextBarValid);
@@ -183,10 +183,10 @@ const SBar bars[] = {
     {"ThreeBarsBehind", 4, 0.0, 13.0, 120.0, 72000},
     {"AheadOfThePosition", 4, 20.0, 2.0, 120.0, 48000},
     {"AWholeBarAhead", 4, 8.0, 4.0, 120.0, 96000},
-    {"AThousandMillionBarsBehind", 4, 0.0, 4e9 + 1.0, 120.0, 72000},
-    {"FartherBehindThanABeatCounts", 4, 0.0, 1e300, 120.0, 0},
-    {"FartherAheadThanABeatCounts", 4, 1e300, 0.0, 120.0, 96000},
-    {"EndlesslyFar", 4, 0.0, std::numeric_limits<double>::infinity(), 120.0, 0},
+    {"ABillionBarsBehind", 4, 0.0, 4e9 + 1.0, 120.0, 72000},
+    {"TooFarBehindForSingleBeats", 4, 0.0, 1e300, 120.0, 0},
+    {"TooFarAheadForSingleBeats", 4, 1e300, 0.0, 120.0, 96000},
+    {"InfinitelyFarBehind", 4, 0.0, std::numeric_limits<double>::infinity(), 120.0, 0},
     {"InThree", 3, 9.0, 9.25, 90.0, 88000},
     {"WithAFraction", 4, 0.0, 1.0, 133.0, 64962},
     {"WithoutBeatsBehind", 0, 8.0, 9.5, 120.0, 0},
@@ -199,7 +199,7 @@ const SBar bars[] = {
 
 class CVstTempoBars : public CVstTempoTest, public testing::WithParamInterface<SBar> {};
 
-TEST_P(CVstTempoBars, GiveTheSamplesToTheNext) {
+TEST_P(CVstTempoBars, GiveTheSamplesToTheNextBar) {
     const SBar &bar = GetParam();
     VstTimeInfo time = timeWith(everything);
     time.timeSigNumerator = bar.numerator;
@@ -212,7 +212,7 @@ TEST_P(CVstTempoBars, GiveTheSamplesToTheNext) {
 INSTANTIATE_TEST_SUITE_P(Positions, CVstTempoBars, testing::ValuesIn(bars),
                          [](const auto &entry) { return std::string(entry.param.name); });
 
-TEST_F(CVstTempoTest, GivesTheLeastIntegerForWhatHasNoLength) {
+TEST_F(CVstTempoTest, GivesTheSmallestIntegerForABeatWithoutALength) {
     VstTimeInfo time = timeWith(kVstTempoValid);
     for (const double tempo : {0.0, -0.0, 1e-9, std::numeric_limits<double>::quiet_NaN()}) {
         time.tempo = tempo;

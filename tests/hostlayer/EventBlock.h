@@ -8,7 +8,7 @@
 #include <new>
 #include <vector>
 
-/// A block of events as a host hands it over. Lives as long as the block is used.
+/// A block of MIDI events in the layout of a host. It must outlive the use of get().
 class EventBlock {
 public:
     EventBlock &midi(int byte0, int byte1, int byte2, std::int32_t delta = 0) {
@@ -23,7 +23,7 @@ public:
         return *this;
     }
 
-    /// Where a MIDI event has its bytes, this one has those of a note on.
+    /// Its bytes would be a note on if it were read as a MIDI event.
     EventBlock &sysex() {
         VstMidiSysexEvent event{};
         event.type = kVstSysExType;

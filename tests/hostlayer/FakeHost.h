@@ -12,19 +12,19 @@
 #include <string>
 #include <vector>
 
-/// A call that an effect made to its host.
+/// A call from an effect to its host.
 struct SHostCall {
     AEffect *effect;
     std::int32_t opcode;
     std::int32_t index;
     std::intptr_t value;
     float opt;
-    std::string text;  // the word of audioMasterCanDo, or the text buffer as it came in
+    std::string text;  // the word of audioMasterCanDo, or a text buffer before it is written
 };
 
-/// A host to hand to an effect: answers as it is told to, and logs every call. One at a time, since
-/// a host is a plain function to the effect. Set the answers while no effect is calling; the log
-/// may be written from several threads.
+/// A host with answers that a test sets, and a log of all calls. Only one can exist at a time,
+/// since an effect sees its host as a plain function. Set the answers while no effect is calling;
+/// the log may be written from several threads.
 class FakeHost {
 public:
     FakeHost() {
@@ -35,19 +35,19 @@ public:
     FakeHost(const FakeHost &) = delete;
     FakeHost &operator=(const FakeHost &) = delete;
 
-    /// Give this to the effect's entry point or constructor.
+    /// For the entry point or the constructor of an effect.
     static std::intptr_t callback(AEffect *effect, std::int32_t opcode, std::int32_t index,
                                   std::intptr_t value, void *ptr, float opt) {
         return s_current->answer({effect, opcode, index, value, opt, {}}, ptr);
     }
 
     std::map<std::int32_t, std::intptr_t> answers{{audioMasterVersion, 2400}};  // others are 0
-    std::map<std::string, std::intptr_t> canDo;  // words that are not here are 0
+    std::map<std::string, std::intptr_t> canDo;  // other words give 0
     std::set<std::int32_t> unconnectedInputs;
-    std::optional<VstTimeInfo> time;     // without it the host keeps no time
-    std::optional<std::string> product;  // without it the effect's buffer is left alone; written
-    std::optional<std::string> vendor;   // without a terminator, as a careless host would
-    bool logging = true;                 // off where a test counts allocations
+    std::optional<VstTimeInfo> time;  // none: the host has no time information
+    // Written without a terminator, as a bad host might. None: the buffer is not written.
+    std::optional<std::string> product, vendor;
+    bool logging = true;  // off if a test counts allocations
 
     std::vector<SHostCall> calls() const {
         const std::lock_guard lock(m_mutex);

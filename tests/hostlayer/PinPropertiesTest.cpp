@@ -16,7 +16,7 @@ TEST(PinProperties, FillsEightyBytesAndLeavesTheRestAlone) {
     EXPECT_EQ(future.find_first_not_of('\x5A'), std::string_view::npos);
 }
 
-TEST(PinProperties, LeavesNothingOfTheHostsBytesInTheLabels) {
+TEST(PinProperties, PadsTheLabelsWithZeros) {
     VstPinProperties pin;
     std::memset(&pin, 0x5A, sizeof pin);
     fillPinProperties(pin, "", "", kVstPinIsActive);

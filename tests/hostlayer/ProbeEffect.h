@@ -2,7 +2,7 @@
 
 #include "hostlayer/AudioEffectX.h"
 
-/// Overrides nothing but what it must: answers as the published classes do.
+/// Overrides only what it must, so it answers like the published classes.
 class ProbeEffect : public AudioEffectX {
 public:
     explicit ProbeEffect(audioMasterCallback host = nullptr) : AudioEffectX(host, 3, 2) {}

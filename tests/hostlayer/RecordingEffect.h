@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <string>
 
-/// What reached a virtual operation: its name with the plain arguments, and the pointers.
+/// A call of a virtual operation: its name with the plain arguments, and the pointers.
 struct SReached {
     std::string text;
     const void *first = nullptr;
@@ -14,7 +14,7 @@ struct SReached {
     bool operator==(const SReached &) const = default;
 };
 
-/// Notes the operation that was reached last, and answers 7 or true where there is an answer.
+/// Records the last operation called. Every result is 7 or true.
 class RecordingEffect : public ProbeEffect {
 public:
     using ProbeEffect::ProbeEffect;

@@ -20,7 +20,7 @@ protected:
     CTemporaryFolder folder;
 };
 
-TEST_F(NativeFile, TellsNameAndSize) {
+TEST_F(NativeFile, ReadsNameAndSize) {
     const auto file = nativeFile(make("Voice.long extension", "12345"));
     ASSERT_TRUE(file);
     EXPECT_EQ(file->name, "Voice.long extension");
@@ -28,9 +28,9 @@ TEST_F(NativeFile, TellsNameAndSize) {
     EXPECT_EQ(file->attributes & nativeFolderAttribute, 0u);
 }
 
-TEST_F(NativeFile, CountsTimeInTenthsOfMicrosecondsSince1601) {
+TEST_F(NativeFile, CountsTimeFrom1601) {
     const std::string path = make("Voice.wav");
-    // A moment of 2026, for which both ways of counting are known.
+    // A time in 2026, counted from 1970 and from 1601.
     constexpr std::int64_t from1970 = 1'780'000'000;
     constexpr std::uint64_t from1601 = (from1970 + 11'644'473'600) * 10'000'000ull;
     const auto now = fs::file_time_type::clock::now();
@@ -52,7 +52,7 @@ TEST_F(NativeFile, MarksAFolder) {
     EXPECT_EQ(file->name, folder.path().filename());
 }
 
-TEST_F(NativeFile, MarksAFileThatNobodyMayWrite) {
+TEST_F(NativeFile, MarksAReadOnlyFile) {
     const std::string path = make("Voice.wav");
     fs::permissions(path, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
     EXPECT_EQ(nativeFile(path)->attributes & 1, 1u);
@@ -60,12 +60,12 @@ TEST_F(NativeFile, MarksAFileThatNobodyMayWrite) {
     EXPECT_EQ(nativeFile(path)->attributes & 1, 0u);
 }
 
-TEST_F(NativeFile, WhatIsNotThereGivesNothing) {
+TEST_F(NativeFile, AMissingFileGivesNothing) {
     EXPECT_FALSE(nativeFile((folder / "none").string()));
     EXPECT_FALSE(nativeFile((folder / "none" / "none").string()));
 }
 
-TEST_F(NativeFile, CountsTheFilesOfAFolderAndNoFolders) {
+TEST_F(NativeFile, CountsFilesButNotFolders) {
     EXPECT_EQ(nativeFileCount(folder.path().string()), 0);
     make("one");
     make("two.wav");

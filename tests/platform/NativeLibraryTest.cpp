@@ -5,7 +5,7 @@
 
 namespace {
 
-TEST(NativeLibrary, FindsWhatALibraryExports) {
+TEST(NativeLibrary, FindsExportedSymbols) {
     std::string reason;
     void *library = openNativeLibrary(SAMPLE_MODULE, reason);
     ASSERT_NE(library, nullptr) << reason;
@@ -15,7 +15,7 @@ TEST(NativeLibrary, FindsWhatALibraryExports) {
     closeNativeLibrary(library);
 }
 
-TEST(NativeLibrary, OpensAFileOfTheCurrentFolder) {
+TEST(NativeLibrary, OpensAFileInTheCurrentFolder) {
     namespace fs = std::filesystem;
     const fs::path before = fs::current_path(), file = SAMPLE_MODULE;
     fs::current_path(file.parent_path());
@@ -26,7 +26,7 @@ TEST(NativeLibrary, OpensAFileOfTheCurrentFolder) {
     closeNativeLibrary(library);
 }
 
-TEST(NativeLibrary, SaysWhyAFileIsRefused) {
+TEST(NativeLibrary, GivesTheReasonWhenAFileIsRefused) {
     std::string reason;
     EXPECT_EQ(openNativeLibrary("no such folder/no such library", reason), nullptr);
     EXPECT_NE(reason, "");

@@ -4,7 +4,7 @@
 
 namespace {
 
-TEST(NativeMessageLoop, ReturnsWhatTheQuitWasPostedWith) {
+TEST(NativeMessageLoop, ReturnsTheResultOfTheQuit) {
     quitNativeMessageLoop(7);
     EXPECT_EQ(runNativeMessageLoop(), 7);
 }

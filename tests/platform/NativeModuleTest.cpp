@@ -10,7 +10,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// The path that the sample library gives of itself when it is opened under this one.
+/// @return the path that the sample library reports for itself if it is opened by this one.
 std::string askSample(const std::string &path) {
     std::string reason;
     void *library = openNativeLibrary(path, reason);
@@ -24,26 +24,26 @@ std::string askSample(const std::string &path) {
     return answer;
 }
 
-TEST(NativeModule, NamesTheProgramOfTheProcess) {
+TEST(NativeModule, GivesThePathOfTheProgram) {
     const fs::path path = nativeModulePath(nullptr);
     EXPECT_EQ(path.stem(), "platform_tests");
     EXPECT_TRUE(path.is_absolute());
     EXPECT_TRUE(fs::exists(path));
 }
 
-TEST(NativeModule, CodeLinkedIntoTheProgramIsOfTheProgram) {
+TEST(NativeModule, CodeInTheProgramBelongsToTheProgram) {
     ASSERT_NE(nativeModuleHandle(), nullptr);
     EXPECT_EQ(nativeModulePath(nativeModuleHandle()), nativeModulePath(nullptr));
 }
 
-TEST(NativeModule, CodeLinkedIntoALibraryIsOfTheLibrary) {
+TEST(NativeModule, CodeInALibraryBelongsToTheLibrary) {
     const fs::path path = askSample(SAMPLE_MODULE);
     ASSERT_TRUE(path.is_absolute()) << path;
     EXPECT_EQ(path.filename(), fs::path(SAMPLE_MODULE).filename());
     EXPECT_TRUE(fs::equivalent(path, SAMPLE_MODULE));
 }
 
-TEST(NativeModule, ALibraryOpenedByARelativePathHasAFullOne) {
+TEST(NativeModule, GivesTheFullPathOfALibraryOpenedByARelativeOne) {
     const fs::path before = fs::current_path();
     fs::current_path(fs::path(SAMPLE_MODULE).parent_path());
     const fs::path path = askSample((fs::path(".") / fs::path(SAMPLE_MODULE).filename()).string());
@@ -52,12 +52,12 @@ TEST(NativeModule, ALibraryOpenedByARelativePathHasAFullOne) {
     EXPECT_TRUE(fs::equivalent(path, SAMPLE_MODULE));
 }
 
-TEST(NativeModule, WhatIsNoModuleHasNoPath) {
+TEST(NativeModule, AnAddressOutsideEveryModuleHasNoPath) {
     int local = 0;
     EXPECT_EQ(nativeModulePath(&local), "");
 }
 
-TEST(NativePath, SeparatorIsOneByteThatTheSystemUses) {
+TEST(NativePath, SeparatorIsThatOfTheSystem) {
     ASSERT_EQ(std::string(nativePathSeparator).size(), 1u);
     EXPECT_EQ(nativePathSeparator[0], static_cast<char>(fs::path::preferred_separator));
 }

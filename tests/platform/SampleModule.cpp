@@ -2,7 +2,7 @@
 
 // A library for tests to load.
 
-/// Writes the path of this library. @return its length.
+/// @param path  receives the path of this library, without a terminator. @return its length.
 extern "C" [[gnu::visibility("default")]] std::size_t sampleModulePath(char *path,
                                                                        std::size_t size) {
     return nativeModulePath(nativeModuleHandle()).copy(path, size);

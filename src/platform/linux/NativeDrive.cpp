@@ -53,7 +53,7 @@ std::optional<SMount> mountOf(const std::string &path) {
     return deepest;
 }
 
-/// What the file system itself says: not every kind answers.
+/// The label that the file system itself reports. Not every kind can.
 std::string labelOf(const std::string &path) {
     char label[FSLABEL_MAX] = {};
     const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
@@ -71,7 +71,7 @@ bool isOnRemovableDisk(const std::string &path) {
         return false;
     const std::string device = "/sys/dev/block/" + std::to_string(major(status.st_dev)) + ":" +
                                std::to_string(minor(status.st_dev));
-    // A partition leaves the answer to the disk that it is on.
+    // A partition has no such flag, but its disk has.
     for (const char *flag : {"/removable", "/../removable"})
         if (std::ifstream(device + flag).get() == '1')
             return true;

@@ -3,7 +3,7 @@
 #include <dlfcn.h>
 
 void *openNativeLibrary(const std::string &path, std::string &reason) {
-    // A bare name would be looked for among the system's libraries only.
+    // dlopen() searches only the library path for a bare name.
     const std::string file = path.find('/') == std::string::npos ? "./" + path : path;
     void *library = dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);
     if (library == nullptr)

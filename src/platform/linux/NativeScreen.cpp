@@ -13,7 +13,7 @@ struct SDisconnect {
 
 SNativeRect nativeVirtualScreen() {
     int number = 0;
-    // Never null, and to be given back even where there is no server.
+    // xcb_connect() never returns null, and a failed connection needs closing as well.
     const std::unique_ptr<xcb_connection_t, SDisconnect> connection(xcb_connect(nullptr, &number));
     if (xcb_connection_has_error(connection.get()) != 0)
         return {};

@@ -6,6 +6,6 @@
 bool openNativeDocument(const std::string &document) {
     const HINSTANCE result =
         ShellExecuteA(nullptr, "open", document.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
-    constexpr std::intptr_t lastError = 32;  // what the call gives is a code and no handle
+    constexpr std::intptr_t lastError = 32;  // the result is a number, not a handle
     return reinterpret_cast<std::intptr_t>(result) > lastError;
 }

@@ -8,10 +8,10 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-/// An X server of the test's own, without a monitor, to which DISPLAY leads as long as it lives.
+/// Runs an X server without a monitor and points DISPLAY to it.
 class CVirtualDisplay {
 public:
-    /// @param screen  width, height and depth as the server takes them: "640x480x24".
+    /// @param screen  width, height and depth in the server's notation, "640x480x24".
     explicit CVirtualDisplay(const char *screen) {
         int ready[2];
         if (pipe(ready) != 0)
@@ -23,7 +23,7 @@ public:
         const int failed = posix_spawnp(&m_server, "Xvfb", nullptr, nullptr,
                                         const_cast<char *const *>(arguments), environ);
         close(ready[1]);
-        // The server writes its number once it listens; its end closes the pipe as well.
+        // The server writes its number when it is ready. If it dies instead, the pipe is closed.
         std::string number;
         for (char digit = 0; failed == 0 && read(ready[0], &digit, 1) == 1 && digit != '\n';)
             number += digit;

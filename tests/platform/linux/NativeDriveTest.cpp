@@ -4,13 +4,13 @@
 
 namespace {
 
-TEST(NativeDrive, GoesByTheDeepestMountThatHoldsThePath) {
+TEST(NativeDrive, UsesTheDeepestMountThatHoldsThePath) {
     EXPECT_EQ(nativeVolume("/proc").fileSystem, "proc");
     EXPECT_EQ(nativeVolume("/proc/self").fileSystem, "proc");
     EXPECT_NE(nativeVolume("/").fileSystem, "proc");
 }
 
-TEST(NativeDrive, IsTheMountPointThatHoldsThePath) {
+TEST(NativeDrive, FindsTheMountPointOfAPath) {
     EXPECT_EQ(nativeDriveOf("/proc/self/status"), "/proc");
     EXPECT_EQ(nativeDriveOf("/dev/shm"), "/dev/shm");
     EXPECT_EQ(nativeDriveOf("/"), "/");
@@ -22,16 +22,16 @@ TEST(NativeDrive, FollowsSymbolicLinks) {
     EXPECT_EQ(nativeVolume("/dev/fd").fileSystem, "proc");
 }
 
-TEST(NativeDrive, WhatHasNoLabelHasNoName) {
+TEST(NativeDrive, AFileSystemWithoutALabelHasNoName) {
     EXPECT_EQ(nativeVolume("/proc").name, "");
 }
 
-TEST(NativeDrive, WhereNothingIsThereIsNoDrive) {
+TEST(NativeDrive, AMissingPathHasNoDrive) {
     EXPECT_EQ(nativeDriveType("/no such folder"), ENativeDriveType::NoRoot);
     EXPECT_EQ(nativeVolume("/no such folder").fileSystem, "");
 }
 
-TEST(NativeDrive, KnowsTheKindsOfDrive) {
+TEST(NativeDrive, KnowsFixedDrivesAndRamDisks) {
     EXPECT_EQ(nativeDriveType("/proc"), ENativeDriveType::Fixed);
     EXPECT_EQ(nativeDriveType("/dev/shm"), ENativeDriveType::RamDisk);
 }

@@ -10,7 +10,7 @@
 
 namespace {
 
-TEST(NativeFileOnLinux, MarksWhatBeginsWithADotAsHidden) {
+TEST(NativeFileOnLinux, MarksNamesWithALeadingDotAsHidden) {
     const CTemporaryFolder folder;
     std::ofstream(folder / ".hidden");
     std::ofstream(folder / "plain");
@@ -20,7 +20,7 @@ TEST(NativeFileOnLinux, MarksWhatBeginsWithADotAsHidden) {
     EXPECT_EQ(nativeFile((folder / ".both").string())->attributes, 18u);
 }
 
-TEST(NativeFileOnLinux, TellsItsTimesApartToATick) {
+TEST(NativeFileOnLinux, ReadsAccessAndWriteTimeExactly) {
     const CTemporaryFolder folder;
     const std::string path = (folder / "Voice.wav").string();
     std::ofstream{path};
@@ -30,13 +30,13 @@ TEST(NativeFileOnLinux, TellsItsTimesApartToATick) {
     const auto file = nativeFile(path);
     EXPECT_EQ(file->lastAccessTime, at1970 + 10'000'000'001'234'567);
     EXPECT_EQ(file->lastWriteTime, at1970 + 15'000'000'009'876'543);
-    // Nothing sets the time of creation, and some file systems do not keep it.
+    // The time of creation cannot be set, and some file systems do not record it.
     if (file->creationTime != 0) {
         EXPECT_GT(file->creationTime, at1970 + 17'000'000'000'000'000);
     }
 }
 
-TEST(NativeFileOnLinux, CountsALinkAsWhatItLeadsTo) {
+TEST(NativeFileOnLinux, FollowsLinks) {
     const CTemporaryFolder folder;
     std::filesystem::create_directory(folder / "inner");
     std::filesystem::create_directory_symlink(folder / "inner", folder / "link");

@@ -7,7 +7,7 @@ namespace {
 
 TEST(NativeLibrary, ClosingNullIsIgnored) {
     dlerror();
-    closeNativeLibrary(nullptr);  // dlclose() would crash
+    closeNativeLibrary(nullptr);  // dlclose(nullptr) would crash
     EXPECT_EQ(dlerror(), nullptr);
 }
 

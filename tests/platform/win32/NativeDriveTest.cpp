@@ -5,7 +5,7 @@
 
 namespace {
 
-TEST(NativeDrive, NumbersAreWindowsOwn) {
+TEST(NativeDrive, TypesHaveTheNumbersOfWindows) {
     EXPECT_EQ(static_cast<UINT>(ENativeDriveType::NoRoot), UINT{DRIVE_NO_ROOT_DIR});
     EXPECT_EQ(static_cast<UINT>(ENativeDriveType::Removable), UINT{DRIVE_REMOVABLE});
     EXPECT_EQ(static_cast<UINT>(ENativeDriveType::Fixed), UINT{DRIVE_FIXED});
@@ -14,13 +14,13 @@ TEST(NativeDrive, NumbersAreWindowsOwn) {
     EXPECT_EQ(static_cast<UINT>(ENativeDriveType::RamDisk), UINT{DRIVE_RAMDISK});
 }
 
-TEST(NativeDrive, IsTheRootThatHoldsThePath) {
+TEST(NativeDrive, FindsTheRootOfAPath) {
     const std::string root = nativeSystemFolder().substr(0, 3);
     EXPECT_EQ(nativeDriveOf(nativeSystemFolder()), root);
     EXPECT_EQ(nativeDriveOf(root + "no such folder\\file.txt"), root);
 }
 
-TEST(NativeDrive, ALetterThatNoDriveHasHasNothing) {
+TEST(NativeDrive, AnUnusedLetterHasNoDrive) {
     std::string drive = "A:\\";
     for (DWORD taken = GetLogicalDrives(); (taken & 1) != 0; taken >>= 1)
         ++drive[0];

@@ -13,7 +13,7 @@ struct SBox {
     bool hasIcon = false;
 } seen;
 
-// The number of the icon's item is the system's own affair.
+// The id of the icon is not documented, so look at all static items.
 bool hasIcon(HWND box) {
     HWND item = nullptr;
     while ((item = FindWindowExA(box, item, "Static", nullptr)) != nullptr)
@@ -22,7 +22,7 @@ bool hasIcon(HWND box) {
     return false;
 }
 
-// Reads the box once it is made and closes it.
+// Reads the box when it is created, and closes it.
 LRESULT CALLBACK closeBox(int code, WPARAM wParam, LPARAM lParam) {
     const auto *message = reinterpret_cast<const CWPRETSTRUCT *>(lParam);
     if (code == HC_ACTION && message->message == WM_INITDIALOG) {

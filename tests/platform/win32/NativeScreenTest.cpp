@@ -11,7 +11,7 @@ static_assert(offsetof(SNativeRect, top) == offsetof(RECT, top));
 static_assert(offsetof(SNativeRect, right) == offsetof(RECT, right));
 static_assert(offsetof(SNativeRect, bottom) == offsetof(RECT, bottom));
 
-TEST(NativeScreen, HoldsTheMainScreen) {
+TEST(NativeScreen, IncludesTheMainScreen) {
     const SNativeRect screen = nativeVirtualScreen();
     EXPECT_LE(screen.left, 0);
     EXPECT_LE(screen.top, 0);

@@ -4,7 +4,7 @@
 
 namespace {
 
-TEST(NativeShell, RefusesAFileThatIsNotThere) {
+TEST(NativeShell, RefusesAMissingFile) {
     EXPECT_FALSE(openNativeDocument("C:\\no such folder\\no such file.htm"));
 }
 
