@@ -9,7 +9,7 @@ using Tessitor::Tool::bytesMissing;
 
 namespace {
 
-// The four bytes behind a chunk's name.
+// Overwrites the four bytes after a chunk's name.
 void overwriteSize(const std::filesystem::path &file, const char *chunk, const std::string &size) {
     std::string bytes = readFile(file);
     bytes.replace(bytes.find(chunk) + 4, 4, size);
@@ -20,7 +20,7 @@ void overwriteSize(const std::filesystem::path &file, const char *chunk, const s
 
 class BytesMissingContainers : public testing::TestWithParam<int> {};
 
-TEST_P(BytesMissingContainers, AWholeFileMissesNothing) {
+TEST_P(BytesMissingContainers, ACompleteFileMissesNothing) {
     const CTemporaryFolder folder;
     SSound sound = voice(1, 1001, 1);  // an odd number of bytes in 8 and 24 bits
     for (const int type : {SF_FORMAT_PCM_16, SF_FORMAT_PCM_24, SF_FORMAT_FLOAT}) {
@@ -44,7 +44,7 @@ INSTANTIATE_TEST_SUITE_P(Containers, BytesMissingContainers,
                          testing::Values(SF_FORMAT_WAV, SF_FORMAT_WAVEX, SF_FORMAT_AIFF,
                                          SF_FORMAT_WAV | SF_ENDIAN_BIG));
 
-TEST(BytesMissing, ChunksBeginAtEvenPlaces) {
+TEST(BytesMissing, ChunksStartAtEvenOffsets) {
     const CTemporaryFolder folder;
     SSound sound = voice(1, 1000);
     sound.format = SF_FORMAT_WAV | SF_FORMAT_PCM_16;
@@ -57,7 +57,7 @@ TEST(BytesMissing, ChunksBeginAtEvenPlaces) {
     EXPECT_EQ(bytesMissing(folder / "cut"), 10u);
 }
 
-TEST(BytesMissing, AWriterIntoAPipeDoesNotKnowTheLength) {
+TEST(BytesMissing, AFileWrittenIntoAPipeMissesNothing) {
     const CTemporaryFolder folder;
     SSound sound = voice(1, 1000);
     sound.format = SF_FORMAT_WAV | SF_FORMAT_PCM_16;

@@ -33,7 +33,7 @@ std::string refusal(const std::filesystem::path &file) {
 
 class CAudioReaderFormats : public testing::TestWithParam<int> {};
 
-TEST_P(CAudioReaderFormats, GivesEverySampleExactly) {
+TEST_P(CAudioReaderFormats, ReadsEverySampleExactly) {
     const CTemporaryFolder folder;
     SSound sound = voice(3, 4321);
     sound.format = GetParam();
@@ -86,7 +86,7 @@ TEST(CAudioReader, DamageInsideACompressedFileIsRefused) {
     EXPECT_THAT(refusal(folder / "sound"), HasSubstr(folder / "sound"));
 }
 
-TEST(CAudioReader, FlacFromAPipeHasNoLengthAndIsRead) {
+TEST(CAudioReader, FlacWithoutALengthIsRead) {
     const CTemporaryFolder folder;
     SSound sound = voice(3, 5000);
     sound.format = SF_FORMAT_FLAC | SF_FORMAT_PCM_16;

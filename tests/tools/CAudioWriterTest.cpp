@@ -10,7 +10,7 @@ using namespace Tessitor::Tool;
 
 class CAudioWriterFormats : public testing::TestWithParam<int> {};
 
-TEST_P(CAudioWriterFormats, EverySampleStandsInTheFile) {
+TEST_P(CAudioWriterFormats, EverySampleIsWritten) {
     const CTemporaryFolder folder;
     const SSound sound = voice(5, 3000);
     CAudioWriter writer(folder / "out", GetParam(), 48000, 2);
@@ -66,7 +66,7 @@ TEST(CAudioWriter, TheSameSoundGivesTheSameBytes) {
         writer.finish();
     }
     EXPECT_EQ(readFile(folder / "first"), readFile(folder / "second"));
-    // A peak chunk would differ from one second to the next.
+    // A peak chunk would hold the time of day.
     EXPECT_EQ(readFile(folder / "first").find("PEAK"), std::string::npos);
 }
 
@@ -79,7 +79,7 @@ TEST(CAudioWriter, AnUnfinishedFileDoesNotAppear) {
     EXPECT_TRUE(folder.names().empty());
 }
 
-TEST(CAudioWriter, AFormatThatCannotBeWrittenIsAnErrorAndLeavesNothing) {
+TEST(CAudioWriter, AFormatThatCannotBeWrittenLeavesNoFile) {
     const CTemporaryFolder folder;
     EXPECT_THROW(CAudioWriter(folder / "out", SF_FORMAT_OGG | SF_FORMAT_OPUS, 44100, 2), CJobError);
     EXPECT_TRUE(folder.names().empty());

@@ -14,13 +14,13 @@ using testing::HasSubstr;
 
 namespace {
 
-/// Collects what the test effects write down.
+/// Collects the log of the test effects.
 class CEffectInstanceLog : public testing::Test {
 protected:
     CEffectInstanceLog() { setenv("CORVEL_TEST_LOG", (folder / "log").c_str(), 1); }
     ~CEffectInstanceLog() override { unsetenv("CORVEL_TEST_LOG"); }
 
-    /// Without the number of the instance.
+    /// @return the lines without the number of the instance.
     std::vector<std::string> lines() const {
         const std::string text = readFile(folder / "log");
         std::vector<std::string> result;
@@ -45,7 +45,7 @@ std::string refusal(const char *effect) {
 
 }  // namespace
 
-TEST_F(CEffectInstanceLog, IsDrivenAsAHostDoesIt) {
+TEST_F(CEffectInstanceLog, ReceivesTheCallsOfAHost) {
     {
         const CEffectLibrary library(testEffect("Whole"));
         CEffectInstance effect(library);
@@ -65,7 +65,7 @@ TEST_F(CEffectInstanceLog, IsDrivenAsAHostDoesIt) {
                                      "stop", "mains 0", "close"));
 }
 
-TEST_F(CEffectInstanceLog, StopsBeforeItClosesWhateverHappens) {
+TEST_F(CEffectInstanceLog, AlwaysStopsBeforeItCloses) {
     {
         const CEffectLibrary library(testEffect("Whole"));
         CEffectInstance effect(library);
@@ -77,7 +77,7 @@ TEST_F(CEffectInstanceLog, StopsBeforeItClosesWhateverHappens) {
                 ElementsAre("stop", "mains 0", "close"));
 }
 
-TEST_F(CEffectInstanceLog, TellsOfPrecisionAndPins) {
+TEST_F(CEffectInstanceLog, ReportsPrecisionAndPins) {
     {
         const CEffectLibrary library(testEffect("Whole"));
         CEffectInstance effect(library);
@@ -91,7 +91,7 @@ TEST_F(CEffectInstanceLog, TellsOfPrecisionAndPins) {
     EXPECT_THAT(log, testing::Contains("mono"));
 }
 
-TEST(CEffectInstance, TimeGoesOnFromBlockToBlock) {
+TEST(CEffectInstance, TimeAdvancesFromBlockToBlock) {
     const CEffectLibrary library(testEffect("Whole"));
     CEffectInstance effect(library);
     SRunSettings settings;
@@ -118,16 +118,16 @@ TEST(CEffectInstance, GivesTextsAndChunks) {
     CEffectInstance effect(library);
     EXPECT_EQ(effect.text(effGetParamName, 1), "Freq");
     EXPECT_EQ(effect.text(effGetParamLabel, 1), "Hz");
-    EXPECT_EQ(effect.text(effGetErrorText), "");  // not known to the effect
+    EXPECT_EQ(effect.text(effGetErrorText), "");  // unknown to the effect
     EXPECT_EQ(effect.programChunk().size(), 424u);
 }
 
-TEST(CEffectInstance, RefusesWhatHasNoValidRecord) {
+TEST(CEffectInstance, RefusesAnInvalidRecord) {
     EXPECT_THAT(refusal("Refusing"), HasSubstr("Refusing.so: the effect does not start"));
     EXPECT_THAT(refusal("NoMagic"), HasSubstr("NoMagic.so: not a VST 2 effect"));
 }
 
-TEST(CEffectInstance, SeveralLiveSideBySide) {
+TEST(CEffectInstance, SeveralCanExistAtOnce) {
     const CEffectLibrary library(testEffect("Whole"));
     CEffectInstance first(library), second(library);
     first.setParameter(0, 0.25f);

@@ -22,14 +22,14 @@ std::string refusal(const std::filesystem::path &file) {
 
 }  // namespace
 
-TEST(CEffectLibrary, FindsTheEntryUnderBothOfItsNames) {
+TEST(CEffectLibrary, FindsTheEntryUnderBothNames) {
     EXPECT_EQ(CEffectLibrary(testEffect("Whole")).entryNames(),
               std::vector<std::string>{"VSTPluginMain"});
     EXPECT_EQ(CEffectLibrary(testEffect("OldEntry")).entryNames(),
               std::vector<std::string>{"main"});
 }
 
-TEST(CEffectLibrary, ANameWithoutAFolderIsAFileOfTheWorkingFolder) {
+TEST(CEffectLibrary, ANameWithoutAFolderMeansTheCurrentFolder) {
     const CTemporaryFolder folder;
     std::filesystem::copy(testEffect("Whole"), folder / "Here.so");
     const std::filesystem::path before = std::filesystem::current_path();
@@ -38,7 +38,7 @@ TEST(CEffectLibrary, ANameWithoutAFolderIsAFileOfTheWorkingFolder) {
     std::filesystem::current_path(before);
 }
 
-TEST(CEffectLibrary, RefusesWhatIsNoEffect) {
+TEST(CEffectLibrary, RefusesAFileThatIsNotAnEffect) {
     const CTemporaryFolder folder;
     EXPECT_THAT(refusal(folder / "missing.so"), HasSubstr("missing.so: no such file"));
     EXPECT_THAT(refusal(folder.path()), HasSubstr(": not a file"));

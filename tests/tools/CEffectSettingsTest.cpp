@@ -31,7 +31,7 @@ protected:
 
 }  // namespace
 
-TEST_F(CEffectSettingsTest, NothingAskedLeavesTheEffectAsItStarts) {
+TEST_F(CEffectSettingsTest, AnEmptyRequestChangesNothing) {
     const CEffectSettings settings = settingsFor({});
     EXPECT_EQ(settings.programName(), "Plain");
     EXPECT_EQ(settings.chain(), Chain{});
@@ -51,7 +51,7 @@ TEST_F(CEffectSettingsTest, AnUnknownProgramIsRefused) {
         EXPECT_THAT(refusal({text, {}, {}}), HasSubstr("--program: no program")) << text;
 }
 
-TEST_F(CEffectSettingsTest, AppliesProgramChainAndParametersToAFreshInstance) {
+TEST_F(CEffectSettingsTest, AppliesProgramChainAndParametersToANewInstance) {
     const CEffectSettings settings =
         settingsFor({"Loud", "Reverb,Gate", {"gain=-3dB", "Freq = 400Hz", "Link=linked"}});
     CEffectInstance effect(library);
@@ -71,7 +71,7 @@ TEST_F(CEffectSettingsTest, TheChainKeepsTheProgramsParameters) {
     EXPECT_EQ(chainOf(effect), Chain{});
 }
 
-TEST_F(CEffectSettingsTest, SaysWhatWasSetAsTheEffectShowsIt) {
+TEST_F(CEffectSettingsTest, ReportsTheValuesAsTheEffectDisplaysThem) {
     const CEffectSettings settings = settingsFor({{}, {}, {"GAIN=0.75", "ratio=3:1"}});
     ASSERT_EQ(settings.assignments().size(), 2u);
     EXPECT_EQ(settings.assignments()[0].name, "Gain");
@@ -80,7 +80,7 @@ TEST_F(CEffectSettingsTest, SaysWhatWasSetAsTheEffectShowsIt) {
     EXPECT_EQ(settings.assignments()[1].display, "3.0:1");
 }
 
-TEST_F(CEffectSettingsTest, TheLastOfTwoValuesCounts) {
+TEST_F(CEffectSettingsTest, TheLastOfTwoValuesWins) {
     const CEffectSettings settings = settingsFor({{}, {}, {"Gain=0.25", "Gain=0.75"}});
     CEffectInstance effect(library);
     settings.applyTo(effect);

@@ -8,7 +8,7 @@
 using Tessitor::Tool::CLevels;
 using Tessitor::Tool::decibels;
 
-TEST(CLevels, NothingIsSilence) {
+TEST(CLevels, WithoutSamplesTheLevelIsSilence) {
     const CLevels levels;
     EXPECT_EQ(levels.peak(), 0.0);
     EXPECT_EQ(levels.rms(), 0.0);
@@ -22,7 +22,7 @@ TEST(CLevels, FullScaleIsZeroDecibels) {
 
 class CLevelsLengths : public testing::TestWithParam<std::size_t> {};
 
-TEST_P(CLevelsLengths, EverySampleCountsWhereverItStands) {
+TEST_P(CLevelsLengths, EverySampleCountsAtAnyPosition) {
     const std::size_t length = GetParam();
     for (std::size_t place = 0; place < length; ++place) {
         std::vector<float> samples(length, 0.25f);
@@ -36,7 +36,7 @@ TEST_P(CLevelsLengths, EverySampleCountsWhereverItStands) {
 }
 INSTANTIATE_TEST_SUITE_P(Lengths, CLevelsLengths, testing::Values(1, 2, 7, 8, 9, 15, 16, 17, 31));
 
-TEST(CLevels, PiecesAddUp) {
+TEST(CLevels, PartsAddUp) {
     const std::vector<double> samples = {0.1, -0.9, 0.3, 0.2, 0.8, -0.4, 0.6, 0.5, 0.7, -0.3, 0.25};
     CLevels whole, pieces;
     whole.add(samples.data(), samples.size());

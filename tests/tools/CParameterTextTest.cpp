@@ -17,12 +17,12 @@ std::string printed(const char *format, double number) {
     return text;
 }
 
-// As the strip shows decibels.
+// The strip's display of decibels
 std::string decibels(double db) {
     return db > -60.0 ? printed("%.2f", db) : "-oo";
 }
 
-// Falls back from -15 dB to -20 dB at a quarter.
+// A law that drops from -15 dB to -20 dB at 0.25
 double gainLaw(double v) {
     return v > 0.5 ? (v - 0.5) * 12.0 : v < 0.25 ? (0.2 - v) * -180.0 - 24.0 : (0.5 - v) * -80.0;
 }
@@ -82,14 +82,14 @@ TEST(CParameterText, APlainNumberIsTheNormalisedValue) {
     EXPECT_EQ(parameter.valueOf(" .5 "), 0.5f);
 }
 
-TEST(CParameterText, ANumberWithTheUnitIsWhatIsShown) {
+TEST(CParameterText, ANumberWithAUnitIsADisplayedValue) {
     const CParameterText parameter("dB", threshold);
     EXPECT_NEAR(parameter.valueOf("-18dB"), 0.7f, 1e-6f);
     EXPECT_NEAR(parameter.valueOf("-18.00 DB"), 0.7f, 1e-6f);
     EXPECT_EQ(threshold(parameter.valueOf("-0.01dB")), "-0.01");
 }
 
-TEST(CParameterText, EveryShownTextIsFoundAgain) {
+TEST(CParameterText, EveryDisplayedTextIsFound) {
     const CParameterText parameter("Hz", frequency);
     for (int hertz = 100; hertz <= 5975; hertz += 5) {
         const std::string text = std::to_string(hertz);
@@ -104,7 +104,7 @@ TEST(CParameterText, AJumpAtTheEndOfALawIsFound) {
     EXPECT_EQ(frequency(parameter.valueOf("5995Hz")), "6000");
 }
 
-TEST(CParameterText, TheMiddleOfTheValuesThatShowTheTextIsTaken) {
+TEST(CParameterText, TheMiddleOfTheMatchingValuesIsUsed) {
     const CParameterText parameter("Hz", frequency);
     const float value = parameter.valueOf("120Hz");
     // 119.5 to 120.5 Hz
@@ -112,7 +112,7 @@ TEST(CParameterText, TheMiddleOfTheValuesThatShowTheTextIsTaken) {
     EXPECT_NEAR(value, (first + last) / 2.0, 1e-6);
 }
 
-TEST(CParameterText, NeutralValuesComeOutExactly) {
+TEST(CParameterText, NeutralValuesAreExact) {
     EXPECT_EQ(CParameterText("dB", gain).valueOf("0dB"), 0.5f);
     EXPECT_EQ(CParameterText("dB", threshold).valueOf("0.00dB"), 1.0f);
     EXPECT_EQ(CParameterText("", balance).valueOf("100:100"), 0.5f);
@@ -124,16 +124,16 @@ TEST(CParameterText, ASwitchIsSetToItsEnd) {
     EXPECT_EQ(parameter.valueOf("Linked"), 1.0f);
 }
 
-TEST(CParameterText, ATextThatOneValueAloneShowsIsFound) {
+TEST(CParameterText, ATextOfASingleValueIsFound) {
     const CParameterText parameter("", route);
     EXPECT_EQ(parameter.valueOf("Stereo"), 1.0f);
     EXPECT_NEAR(parameter.valueOf("AllRight"), 5.0f / 6.0f, 1e-4f);
 }
 
-TEST(CParameterText, ALawThatFallsBackIsSearchedOnBothSides) {
+TEST(CParameterText, BothBranchesOfAFoldedLawAreSearched) {
     const CParameterText parameter("dB", gain);
-    // -18 dB stands at 0.2333 and at 0.275, where the law is flatter; -22 dB only on the steep
-    // branch, and -10 dB only on the other.
+    // -18 dB is at 0.2333 and at 0.275, where the law is flatter. -22 dB is only on the steep
+    // branch and -10 dB only on the flat one.
     EXPECT_NEAR(parameter.valueOf("-18dB"), 0.275f, 1e-4f);
     EXPECT_NEAR(parameter.valueOf("-22dB"), 0.2f + 2.0f / 180.0f, 1e-4f);
     EXPECT_NEAR(parameter.valueOf("-10dB"), 0.375f, 1e-4f);
@@ -146,23 +146,23 @@ TEST(CParameterText, SilenceHasANameOfItsOwn) {
     EXPECT_EQ(parameter.valueOf("-inf"), 0.0f);
 }
 
-TEST(CParameterText, TheFirstShownNumberAboveSilenceIsFound) {
+TEST(CParameterText, TheFirstNumberAboveSilenceIsFound) {
     const CParameterText parameter("dB", threshold);
     EXPECT_EQ(threshold(parameter.valueOf("-59.99dB")), "-59.99");
 }
 
-TEST(CParameterText, TheNearestShownNumberStandsInForOneBetween) {
+TEST(CParameterText, ANumberBetweenTwoDisplayedOnesGivesTheNearest) {
     const CParameterText parameter("Hz", frequency);
     EXPECT_EQ(frequency(parameter.valueOf("120.4Hz")), "120");
     EXPECT_EQ(frequency(parameter.valueOf("120.6Hz")), "121");
 }
 
-TEST(CParameterText, TheNearestNumberAlsoComesFromTheMiddleOfItsValues) {
+TEST(CParameterText, TheNearestNumberAlsoGivesTheMiddleOfItsValues) {
     const CParameterText parameter("Hz", frequency);
     EXPECT_EQ(parameter.valueOf("120.4Hz"), parameter.valueOf("120Hz"));
 }
 
-TEST(CParameterText, ClosingZerosOfARatioDoNotMatter) {
+TEST(CParameterText, TrailingZerosOfARatioDoNotMatter) {
     const CParameterText parameter("", ratio);
     EXPECT_EQ(ratio(parameter.valueOf("3:1")), "3.0:1");
     EXPECT_EQ(ratio(parameter.valueOf("3.0:1")), "3.0:1");
@@ -175,20 +175,20 @@ TEST(CParameterText, BothSidesOfABalanceAreFound) {
         EXPECT_EQ(balance(parameter.valueOf(text)), text);
 }
 
-TEST(CParameterText, APairThatIsCutToWholeNumbersIsFoundOrNearlyFound) {
+TEST(CParameterText, ATruncatedPairIsFoundOrTheNearestOne) {
     const CParameterText parameter("", mix);
-    EXPECT_EQ(parameter.valueOf("30:70"), 0.7f);  // one value in the world shows it
+    EXPECT_EQ(parameter.valueOf("30:70"), 0.7f);  // the only value with this display
     EXPECT_EQ(mix(parameter.valueOf("100:0")), "100:0");
-    EXPECT_EQ(mix(0.6f), "39:60");  // and none shows 40:60
+    EXPECT_EQ(mix(0.6f), "39:60");  // and no value gives 40:60
     EXPECT_THAT(mix(parameter.valueOf("40:60")), testing::AnyOf("39:60", "40:59"));
     EXPECT_NE(refusal(parameter, "40:40"), "");
     EXPECT_NE(refusal(parameter, "130:0"), "");
 }
 
-TEST(CParameterText, ANumberBeyondOneIsATextWhereThereIsNoUnit) {
+TEST(CParameterText, WithoutAUnitANumberAboveOneIsADisplayedValue) {
     const CParameterText speed("", [](float v) { return printed("%.0f", 100.0 - 100.0 * v); });
     EXPECT_NEAR(speed.valueOf("30"), 0.7f, 1e-3f);
-    EXPECT_EQ(speed.valueOf("1"), 1.0f);  // within 0 to 1 it is the normalised value
+    EXPECT_EQ(speed.valueOf("1"), 1.0f);  // from 0 to 1 it is the normalised value
 }
 
 TEST(CParameterText, ANumberWithoutItsUnitIsRefusedWithAHint) {
@@ -197,7 +197,7 @@ TEST(CParameterText, ANumberWithoutItsUnitIsRefusedWithAHint) {
               "\"-18\" needs a unit, as in \"-18dB\"; without one, a value is from 0 to 1");
 }
 
-TEST(CParameterText, ANumberBeyondTheEndsIsRefused) {
+TEST(CParameterText, ANumberOutOfRangeIsRefused) {
     const CParameterText parameter("Hz", frequency);
     EXPECT_EQ(refusal(parameter, "7000Hz"),
               "\"7000Hz\" is not possible; the effect shows \"100Hz\" to \"6000Hz\"");
@@ -205,11 +205,11 @@ TEST(CParameterText, ANumberBeyondTheEndsIsRefused) {
     EXPECT_NE(refusal(CParameterText("dB", threshold), "0.5dB"), "");
 }
 
-TEST(CParameterText, ANumberOfAnotherUnitIsRefused) {
+TEST(CParameterText, ANumberWithAnotherUnitIsRefused) {
     EXPECT_NE(refusal(CParameterText("Hz", frequency), "120ms"), "");
 }
 
-TEST(CParameterText, AnUnknownTextIsRefusedWithTheKnownOnes) {
+TEST(CParameterText, AnUnknownTextIsRefusedWithAListOfTheKnownOnes) {
     EXPECT_EQ(refusal(CParameterText("", linkage), "Linkd"),
               "\"Linkd\" is not possible; the effect shows \"Separate\" and \"Linked\"");
     EXPECT_EQ(
@@ -218,13 +218,13 @@ TEST(CParameterText, AnUnknownTextIsRefusedWithTheKnownOnes) {
         "\"Stereo\"");
 }
 
-TEST(CParameterText, NeitherNothingNorNoNumberIsAValue) {
+TEST(CParameterText, AnEmptyTextAndANaNAreRefused) {
     const CParameterText parameter("dB", threshold);
     for (const char *text : {"", "nan", "inf", "dB", "-", "1e999", "0x1p-1"})
         EXPECT_NE(refusal(parameter, text), "") << text;
 }
 
-TEST(CParameterText, AParameterThatShowsNothingTakesNormalisedValuesOnly) {
+TEST(CParameterText, AParameterWithoutADisplayTakesOnlyNormalisedValues) {
     const CParameterText parameter("", [](float) { return std::string(); });
     EXPECT_EQ(parameter.valueOf("0.25"), 0.25f);
     EXPECT_NE(refusal(parameter, "On"), "");

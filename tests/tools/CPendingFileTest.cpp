@@ -8,7 +8,7 @@
 using Tessitor::Tool::CJobError;
 using Tessitor::Tool::CPendingFile;
 
-TEST(CPendingFile, ComesIntoItsPlaceWhenCommitted) {
+TEST(CPendingFile, AppearsWhenItIsCommitted) {
     const CTemporaryFolder folder;
     writeFile(folder / "place", "old");
     {
@@ -21,7 +21,7 @@ TEST(CPendingFile, ComesIntoItsPlaceWhenCommitted) {
     EXPECT_EQ(folder.names(), std::vector<std::string>{"place"});
 }
 
-TEST(CPendingFile, LeavesNothingWhenItIsGivenUp) {
+TEST(CPendingFile, LeavesNothingUnlessItIsCommitted) {
     const CTemporaryFolder folder;
     writeFile(folder / "place", "old");
     {
@@ -32,13 +32,13 @@ TEST(CPendingFile, LeavesNothingWhenItIsGivenUp) {
     EXPECT_EQ(folder.names(), std::vector<std::string>{"place"});
 }
 
-TEST(CPendingFile, TwoForOnePlaceDoNotMeet) {
+TEST(CPendingFile, TwoForTheSamePlaceDoNotCollide) {
     const CTemporaryFolder folder;
     const CPendingFile first(folder / "place"), second(folder / "place");
     EXPECT_NE(first.path(), second.path());
 }
 
-TEST(CPendingFile, WritesWhereALinkPoints) {
+TEST(CPendingFile, FollowsLinks) {
     const CTemporaryFolder folder;
     writeFile(folder / "target", "old");
     std::filesystem::create_symlink(folder / "target", folder / "link");
@@ -54,7 +54,7 @@ TEST(CPendingFile, NeedsItsFolder) {
     EXPECT_THROW(CPendingFile(folder / "missing/place"), CJobError);
 }
 
-TEST(CPendingFile, TakesTheNameOfNothingButAFile) {
+TEST(CPendingFile, ReplacesNothingButAFile) {
     const CTemporaryFolder folder;
     std::filesystem::create_directory(folder / "folder");
     EXPECT_THROW(CPendingFile(folder / "folder"), CJobError);

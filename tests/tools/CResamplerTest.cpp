@@ -36,7 +36,7 @@ std::vector<Sample> convertInPieces(CResampler &resampler, const std::vector<Sam
 
 }  // namespace
 
-TEST(CResampler, ASineStaysWhereItWasInTime) {
+TEST(CResampler, ASineKeepsItsPositionInTime) {
     CResampler resampler("file", 48000.0, 44100.0, 2);
     const std::vector<float> converted =
         convertInPieces(resampler, sine(1000.0, 48000.0, 48000, 2), 2 * 1024);
@@ -47,7 +47,7 @@ TEST(CResampler, ASineStaysWhereItWasInTime) {
         ASSERT_NEAR(converted[i], expected[i], 1e-4) << i;
 }
 
-TEST(CResampler, PiecesDoNotMatter) {
+TEST(CResampler, ThePartitionOfTheInputDoesNotMatter) {
     const std::vector<float> samples = sine(700.0, 8000.0, 8000, 1);
     CResampler whole("file", 8000.0, 44100.0, 1), pieces("file", 8000.0, 44100.0, 1);
     const std::vector<float> fromWhole = convertInPieces(whole, samples, samples.size());
@@ -64,7 +64,7 @@ TEST(CResampler, DoublesGoThroughSinglePrecision) {
     EXPECT_EQ(std::vector<double>(fromFloats.begin(), fromFloats.end()), fromDoubles);
 }
 
-TEST(CResampler, NothingGivesNothing) {
+TEST(CResampler, NoInputGivesNoOutput) {
     CResampler resampler("file", 48000.0, 44100.0, 2);
     EXPECT_TRUE(resampler.convert(std::span<const float>()).empty());
 }

@@ -8,7 +8,7 @@
 using namespace Tessitor::Tool;
 using Tessitor::Corvel::SProgram;
 
-TEST(Chain, LabelsAreThoseOfTheStrip) {
+TEST(Chain, LabelsEqualThoseOfTheStrip) {
     CDSPMultiFX strip;
     for (int slot = 2; slot < 18; ++slot) {
         char label[64];
@@ -18,18 +18,18 @@ TEST(Chain, LabelsAreThoseOfTheStrip) {
     }
 }
 
-TEST(Chain, TextIsReadInOrderAndInAnyCapitals) {
+TEST(Chain, TextIsReadInOrderAndCaseIsIgnored) {
     EXPECT_EQ(chainFromText("rumble filter, COMPRESSOR ,3Band,reverb"),
               (Chain{kRumbleFilterSlot, kCompressorSlot, k3BandSlot, kReverbSlot}));
 }
 
-TEST(Chain, NothingAndNoneAreTheEmptyChain) {
+TEST(Chain, AnEmptyTextAndNoneGiveTheEmptyChain) {
     EXPECT_EQ(chainFromText(""), Chain{});
     EXPECT_EQ(chainFromText("  "), Chain{});
     EXPECT_EQ(chainFromText("None"), Chain{});
 }
 
-TEST(Chain, AllSixteenModulesMayStandInIt) {
+TEST(Chain, AllSixteenModulesFit) {
     Chain all;
     std::string text;
     for (int slot = kLastModuleSlot; slot >= kFirstModuleSlot; --slot) {
@@ -44,7 +44,7 @@ TEST(Chain, UnknownFixedAndRepeatedModulesAreRefused) {
         EXPECT_THROW(chainFromText(text), CCallError) << text;
 }
 
-TEST(Chain, WhatIsSetIsFoundAndLinkedBothWays) {
+TEST(Chain, AChainThatIsSetIsLinkedBothWays) {
     SProgram program{};
     setChain(program, {kRumbleFilterSlot, kCompressorSlot, kReverbSlot});
     EXPECT_EQ(chainOf(program), (Chain{kRumbleFilterSlot, kCompressorSlot, kReverbSlot}));
@@ -60,7 +60,7 @@ TEST(Chain, WhatIsSetIsFoundAndLinkedBothWays) {
         EXPECT_EQ(program.order[slot], expected[slot]) << slot;
 }
 
-TEST(Chain, SettingTheEmptyChainLeavesTheHead) {
+TEST(Chain, SettingTheEmptyChainKeepsTheHead) {
     SProgram program{};
     setChain(program, {kPanSlot});
     setChain(program, {});
@@ -69,7 +69,7 @@ TEST(Chain, SettingTheEmptyChainLeavesTheHead) {
     EXPECT_EQ(program.order[kPanSlot].prev, kNoSlot);
 }
 
-TEST(Chain, AnEndlessOrWildListIsCut) {
+TEST(Chain, AnEndlessOrInvalidListIsCut) {
     SProgram program{};
     setChain(program, {kRumbleFilterSlot, kCompressorSlot});
     program.order[kCompressorSlot].next = kRumbleFilterSlot;

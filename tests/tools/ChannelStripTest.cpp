@@ -7,7 +7,7 @@
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
 
-// The program and the effect of this build together.
+// Tests of the program together with the effect of this build
 
 using namespace Tessitor::Tool;
 
@@ -28,7 +28,7 @@ protected:
 
 }  // namespace
 
-TEST_F(ChannelStrip, StandsBesideTheProgram) {
+TEST_F(ChannelStrip, IsFoundNextToTheProgram) {
     const auto info = nlohmann::json::parse(corvel({"info", "--json"}).out);
     EXPECT_EQ(std::filesystem::canonical(info["file"].get<std::string>()),
               std::filesystem::canonical(CORVEL_EFFECT));
@@ -59,7 +59,7 @@ TEST_F(ChannelStrip, ListsTheParametersOfAProgram) {
                                               {"unit", "dB"}}));
 }
 
-TEST_F(ChannelStrip, EveryTextItShowsCanBeSet) {
+TEST_F(ChannelStrip, EveryDisplayedTextCanBeSet) {
     const CEffectLibrary library(CORVEL_EFFECT);
     CEffectInstance effect(library);
     for (std::int32_t index = 0; index < 62; ++index) {
@@ -80,14 +80,14 @@ TEST_F(ChannelStrip, EveryTextItShowsCanBeSet) {
     }
 }
 
-TEST_F(ChannelStrip, TheEmptyProgramGivesAVoiceBackBitForBit) {
+TEST_F(ChannelStrip, TheEmptyProgramKeepsAVoiceBitForBit) {
     const SSound sound = voice(31, 100000);
     EXPECT_EQ(render(sound, {"--program", "Empty"}).samples, sound.samples);
     EXPECT_EQ(render(sound, {"--program", "Empty", "--double"}).samples, sound.samples);
     EXPECT_EQ(render(sound, {"--chain", "none", "--set", "InMono=Stereo"}).samples, sound.samples);
 }
 
-TEST_F(ChannelStrip, TheEmptyProgramGivesIntegersBack) {
+TEST_F(ChannelStrip, TheEmptyProgramKeepsIntegers) {
     for (const int type : {SF_FORMAT_PCM_16, SF_FORMAT_PCM_24}) {
         SSound sound = voice(31, 10000);
         sound.samples[0] = -1.0;
@@ -123,7 +123,7 @@ TEST_F(ChannelStrip, TheMonoSumIsTheMeanOfBothChannels) {
                       0.5f);
 }
 
-TEST_F(ChannelStrip, TheChainIsHeard) {
+TEST_F(ChannelStrip, TheChainChangesTheSound) {
     const SSound sound = voice(31, 20000);
     const SSound dry = render(sound, {"--program", "Empty"});
     const SSound wet = render(
@@ -157,7 +157,7 @@ TEST_F(ChannelStrip, BlockSizesDoNotChangeTheSound) {
             << size;
 }
 
-TEST_F(ChannelStrip, ABatchSoundsAsItsFilesOneByOne) {
+TEST_F(ChannelStrip, ABatchGivesTheSameSoundAsSingleRuns) {
     std::vector<std::string> arguments = {"render"};
     for (unsigned i = 0; i < 5; ++i) {
         arguments.push_back(folder / (std::to_string(i) + ".wav"));

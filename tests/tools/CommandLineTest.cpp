@@ -26,13 +26,13 @@ SProgramRun corvelWith(std::vector<std::string> arguments, const std::string &ef
 
 }  // namespace
 
-TEST(CommandLine, TellsItsVersion) {
+TEST(CommandLine, PrintsItsVersion) {
     const SProgramRun run = corvel({"--version"});
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.out, "corvel " CORVEL_VERSION "\n");
 }
 
-TEST(CommandLine, HelpTellsOfEveryCommandAndOption) {
+TEST(CommandLine, HelpListsEveryCommandAndOption) {
     const SProgramRun general = corvel({"--help"});
     EXPECT_EQ(general.status, 0);
     for (const char *command : {"render", "programs", "params", "info", "Exit status"})
@@ -46,7 +46,7 @@ TEST(CommandLine, HelpTellsOfEveryCommandAndOption) {
         EXPECT_THAT(render.out, HasSubstr(std::string(Tessitor::Tool::moduleLabel(slot))));
 }
 
-TEST(CommandLine, WrongCallsAreRefusedInOneLine) {
+TEST(CommandLine, WrongCommandsAreRefusedInOneLine) {
     expectWrongCall({}, "no command");
     expectWrongCall({"play"}, "play");
     expectWrongCall({"render"}, "required");
@@ -58,7 +58,7 @@ TEST(CommandLine, WrongCallsAreRefusedInOneLine) {
                     "no program \"7\"");
 }
 
-TEST(CommandLine, TheEffectBesideTheProgramIsFound) {
+TEST(CommandLine, TheEffectNextToTheProgramIsFound) {
     const CTemporaryFolder folder;
     std::filesystem::create_directories(folder / "bin");
     std::filesystem::copy(CORVEL_PROGRAM, folder / "bin/corvel");
@@ -78,7 +78,7 @@ TEST(CommandLine, TheEffectBesideTheProgramIsFound) {
     EXPECT_EQ(run.status, 1);
     EXPECT_THAT(run.errors, HasSubstr("plugin/Corvel.so: not a VST 2 effect"));
 
-    // A link to the program does not change where that is.
+    // A link to the program does not change where the effect is looked for.
     std::filesystem::create_symlink(program, folder / "link");
     EXPECT_THAT(runProgram(folder / "link", {"programs"}).errors,
                 HasSubstr("plugin/Corvel.so: not a VST 2 effect"));
@@ -125,7 +125,7 @@ TEST(CommandLine, ParametersAreListed) {
                                        {"unit", "Hz"}}));
 }
 
-TEST(CommandLine, InfoTellsWhatAHostSees) {
+TEST(CommandLine, InfoShowsWhatAHostSees) {
     const SProgramRun run = corvel({"info", testEffect("Late")});
     EXPECT_EQ(run.status, 0);
     for (const char *line :
@@ -140,7 +140,7 @@ TEST(CommandLine, InfoTellsWhatAHostSees) {
         EXPECT_THAT(run.out, HasSubstr(line));
 }
 
-TEST(CommandLine, InfoIsToldAsJson) {
+TEST(CommandLine, InfoIsPrintedAsJson) {
     const nlohmann::json json =
         nlohmann::json::parse(corvel({"info", testEffect("OldEntry"), "--json"}).out);
     EXPECT_EQ(json["entries"], nlohmann::json({"main"}));
@@ -152,7 +152,7 @@ TEST(CommandLine, InfoIsToldAsJson) {
     EXPECT_TRUE(json["editor"].is_null());
 }
 
-TEST(CommandLine, InfoOfWhatIsNoEffectFails) {
+TEST(CommandLine, InfoFailsForAFileThatIsNotAnEffect) {
     const SProgramRun run = corvel({"info", CORVEL_PROGRAM});
     EXPECT_EQ(run.status, 1);
     EXPECT_THAT(run.errors, HasSubstr("cannot be loaded as an effect"));

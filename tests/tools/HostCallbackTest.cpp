@@ -46,7 +46,7 @@ TEST_F(HostCallback, PinsAreConnectedWhenTheAnswerIsZero) {
     EXPECT_NE(ask(audioMasterPinConnected, 1, 1), 0);
 }
 
-TEST_F(HostCallback, GivesTheInstancesTimeRateAndBlockSize) {
+TEST_F(HostCallback, GivesTimeRateAndBlockSizeOfTheInstance) {
     state.time.tempo = 97.0;
     state.time.sampleRate = 48000.0;
     state.blockSize = 256;
@@ -57,7 +57,7 @@ TEST_F(HostCallback, GivesTheInstancesTimeRateAndBlockSize) {
     EXPECT_EQ(ask(audioMasterGetBlockSize), 256);
 }
 
-TEST_F(HostCallback, SaysWhoItIsAndWhatItCanDo) {
+TEST_F(HostCallback, GivesItsNamesAndCapabilities) {
     char text[64] = {};
     EXPECT_EQ(ask(audioMasterGetProductString, 0, 0, text), 1);
     EXPECT_STREQ(text, "corvel");

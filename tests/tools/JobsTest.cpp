@@ -30,7 +30,7 @@ TEST(Jobs, OneInputGoesToTheNamedFile) {
     EXPECT_EQ(jobs[0].out, "b.wav");
 }
 
-TEST(Jobs, AFolderTakesTheNamesOfTheInputs) {
+TEST(Jobs, OutputsInAFolderAreNamedAfterTheInputs) {
     const CTemporaryFolder folder;
     EXPECT_EQ(outputs(jobsFromFiles({"x/a.wav", folder.path()}, noFormat)),
               Names{folder / "a.wav"});
@@ -38,12 +38,12 @@ TEST(Jobs, AFolderTakesTheNamesOfTheInputs) {
               (Names{folder / "a.wav", folder / "b.flac"}));
 }
 
-TEST(Jobs, SeveralInputsNeedNoFolderYet) {
+TEST(Jobs, TheFolderForSeveralInputsMayBeMissing) {
     EXPECT_EQ(outputs(jobsFromFiles({"a.wav", "b.wav", "later"}, noFormat)),
               (Names{"later/a.wav", "later/b.wav"}));
 }
 
-TEST(Jobs, AnotherContainerGivesAnotherExtension) {
+TEST(Jobs, AnotherContainerChangesTheExtension) {
     EXPECT_EQ(outputs(jobsFromFiles({"a.wav", "b.aif", "c", "later"}, {SF_FORMAT_AIFF, 0})),
               (Names{"later/a.aiff", "later/b.aif", "later/c.aiff"}));
 }
@@ -54,12 +54,12 @@ TEST(Jobs, SeveralInputsIntoAFileAreRefused) {
     EXPECT_THROW(jobsFromFiles({"a.wav", "b.wav", folder / "file"}, noFormat), CCallError);
 }
 
-TEST(Jobs, TwoInputsOfOneNameAreRefused) {
+TEST(Jobs, TwoInputsWithTheSameNameAreRefused) {
     EXPECT_THROW(jobsFromFiles({"x/a.wav", "y/a.wav", "later"}, noFormat), CCallError);
     EXPECT_THROW(jobsFromFiles({"a.wav", "a.flac", "later"}, {SF_FORMAT_OGG, 0}), CCallError);
 }
 
-TEST(Jobs, AnInputIsNotWrittenOver) {
+TEST(Jobs, AnInputIsNotOverwritten) {
     const CTemporaryFolder folder;
     writeFile(folder / "a.wav", "");
     std::filesystem::create_symlink(folder / "a.wav", folder / "link.wav");

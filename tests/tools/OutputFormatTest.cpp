@@ -16,7 +16,7 @@ constexpr std::int64_t fourGibibytes = std::int64_t(1) << 32;
 
 }  // namespace
 
-TEST(OutputFormat, TheInputsFormatIsKeptInEveryDetail) {
+TEST(OutputFormat, TheInputsFormatIsKeptExactly) {
     for (const int format :
          {wavFloat, SF_FORMAT_WAVEX | SF_FORMAT_PCM_24,
           SF_FORMAT_AIFF | SF_FORMAT_PCM_16 | SF_ENDIAN_LITTLE, SF_FORMAT_WAV | SF_FORMAT_ULAW,
@@ -28,7 +28,7 @@ TEST(OutputFormat, TheInputsFormatIsKeptInEveryDetail) {
               SF_FORMAT_WAVEX | SF_FORMAT_PCM_24);
 }
 
-TEST(OutputFormat, TheExtensionNamesTheContainer) {
+TEST(OutputFormat, TheExtensionSelectsTheContainer) {
     EXPECT_EQ(outputFormat(wav16, {}, "out.flac"), SF_FORMAT_FLAC | SF_FORMAT_PCM_16);
     EXPECT_EQ(outputFormat(wav16, {}, "out.AIF"), SF_FORMAT_AIFF | SF_FORMAT_PCM_16);
     EXPECT_EQ(outputFormat(wav16, {}, "out.oga"), SF_FORMAT_OGG | SF_FORMAT_VORBIS);
@@ -47,7 +47,7 @@ TEST(OutputFormat, TheNearestSampleTypeIsTaken) {
               SF_FORMAT_WAV | SF_FORMAT_DOUBLE);
 }
 
-TEST(OutputFormat, TheRequestOutranksTheExtension) {
+TEST(OutputFormat, TheRequestOverridesTheExtension) {
     EXPECT_EQ(outputFormat(wav16, formatFromText("flac"), "out.wav"),
               SF_FORMAT_FLAC | SF_FORMAT_PCM_16);
     EXPECT_EQ(outputFormat(SF_FORMAT_WAVEX | SF_FORMAT_PCM_16, formatFromText("wav"), "out.flac"),
@@ -73,7 +73,7 @@ TEST(OutputFormat, UnknownContainersAndTypesAreRefused) {
         EXPECT_THROW(formatFromText(text), CCallError) << text;
 }
 
-TEST(OutputFormat, AWavFileBeyondFourGibibytesTakesItsLongForm) {
+TEST(OutputFormat, AWavFileAbove4GiBBecomesRf64) {
     EXPECT_EQ(formatForLength(wav16, fourGibibytes / 4 - 2000, 2, "out"), wav16);
     EXPECT_EQ(formatForLength(wav16, fourGibibytes / 4, 2, "out"),
               SF_FORMAT_RF64 | SF_FORMAT_PCM_16);
@@ -82,25 +82,25 @@ TEST(OutputFormat, AWavFileBeyondFourGibibytesTakesItsLongForm) {
     EXPECT_EQ(formatForLength(wavFloat, fourGibibytes / 8, 1, "out"), wavFloat);
 }
 
-TEST(OutputFormat, AnAiffFileBeyondFourGibibytesIsRefused) {
+TEST(OutputFormat, AnAiffFileAbove4GiBIsRefused) {
     const int aiff24 = SF_FORMAT_AIFF | SF_FORMAT_PCM_24;
     EXPECT_EQ(formatForLength(aiff24, fourGibibytes / 7, 2, "out"), aiff24);
     EXPECT_THROW(formatForLength(aiff24, fourGibibytes / 6, 2, "out"), CJobError);
 }
 
-TEST(OutputFormat, CompressedContainersHaveNoEnd) {
+TEST(OutputFormat, CompressedContainersHaveNoLimit) {
     for (const int format : {SF_FORMAT_FLAC | SF_FORMAT_PCM_16, SF_FORMAT_OGG | SF_FORMAT_VORBIS})
         EXPECT_EQ(formatForLength(format, fourGibibytes, 2, "out"), format);
 }
 
-TEST(OutputFormat, IsToldToPeople) {
+TEST(OutputFormat, IsDescribedInWords) {
     EXPECT_EQ(describeFormat(wavFloat), "WAV, 32-bit float");
     EXPECT_EQ(describeFormat(SF_FORMAT_WAVEX | SF_FORMAT_PCM_24), "WAV, 24-bit");
     EXPECT_EQ(describeFormat(SF_FORMAT_OGG | SF_FORMAT_VORBIS), "Ogg, Vorbis");
     EXPECT_EQ(describeFormat(SF_FORMAT_WAV | SF_FORMAT_ULAW), "WAV, compressed");
 }
 
-TEST(OutputFormat, OtherContainersAreNotKnown) {
+TEST(OutputFormat, OtherContainersAreUnknown) {
     EXPECT_TRUE(isKnownContainer(SF_FORMAT_RF64 | SF_FORMAT_FLOAT));
     EXPECT_FALSE(isKnownContainer(SF_FORMAT_AU | SF_FORMAT_PCM_16));
 }

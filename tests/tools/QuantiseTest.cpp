@@ -23,7 +23,7 @@ std::vector<std::int32_t> quantised(const std::vector<Sample> &samples, int bits
 
 class QuantiseBits : public testing::TestWithParam<int> {};
 
-TEST_P(QuantiseBits, IntegersComeBackAndNoneIsClipped) {
+TEST_P(QuantiseBits, IntegersStayUnchangedAndUnclipped) {
     const int bits = GetParam();
     const std::int64_t end = std::int64_t(1) << (bits - 1);
     std::vector<double> samples;
@@ -40,7 +40,7 @@ TEST_P(QuantiseBits, IntegersComeBackAndNoneIsClipped) {
 }
 INSTANTIATE_TEST_SUITE_P(Bits, QuantiseBits, testing::Values(8, 16, 24, 32));
 
-TEST(Quantise, FloatsHoldTwentyFourBits) {
+TEST(Quantise, FloatsHold24Bits) {
     std::vector<float> samples;
     std::vector<std::int32_t> expected;
     for (int n = -8388608; n < 8388608; n += 997) {
@@ -50,7 +50,7 @@ TEST(Quantise, FloatsHoldTwentyFourBits) {
     EXPECT_EQ(quantised(samples, 24), expected);
 }
 
-TEST(Quantise, TheNearestIntegerIsTaken) {
+TEST(Quantise, RoundsToTheNearestInteger) {
     const std::vector<double> steps = {0.4, 0.5, 0.6, 1.49, -0.4, -0.5, -0.6, -1.49};
     std::vector<double> samples;
     for (const double step : steps)
@@ -59,7 +59,7 @@ TEST(Quantise, TheNearestIntegerIsTaken) {
     EXPECT_EQ(quantised(samples, 16), expected);
 }
 
-TEST(Quantise, WhatLiesOutsideIsClippedAndCounted) {
+TEST(Quantise, SamplesOutOfRangeAreClippedAndCounted) {
     constexpr std::int32_t highest = 32767 * 65536, lowest = -32768 * 65536;
     const std::vector<float> samples = {1.0f,
                                         -1.0f,
@@ -83,7 +83,7 @@ TEST(Quantise, RoundingAloneDoesNotClip) {
     EXPECT_EQ(clipped, 2u);
 }
 
-TEST(Quantise, NoNumberCountsAsClipped) {
+TEST(Quantise, ANaNCountsAsClipped) {
     std::uint64_t clipped = 0;
     quantised(std::vector<double>{std::numeric_limits<double>::quiet_NaN()}, 24, &clipped);
     EXPECT_EQ(clipped, 1u);

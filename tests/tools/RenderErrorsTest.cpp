@@ -5,15 +5,15 @@
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
 
-// Each error of `corvel render`: one line that says which file and what is wrong, the exit status,
-// and an output that stays what it was.
+// Each error of `corvel render` gives one line with the file and the reason, and an exit status. An
+// existing output file is not changed.
 
 using testing::HasSubstr;
 using testing::StartsWith;
 
 namespace {
 
-constexpr int blocksInKilobyte = 2;  // as the shell's ulimit counts them
+constexpr int blocksInKilobyte = 2;  // the unit of the shell's ulimit is 512 bytes
 
 class RenderErrors : public testing::Test {
 protected:
@@ -22,7 +22,7 @@ protected:
         writeFile(folder / "out.wav", "old");
     }
 
-    /// Expects that a call fails with one line and changes no file.
+    /// Expects that a command fails with one line and changes no file.
     void expectFailure(int status, const std::string &words,
                        const std::vector<std::string> &arguments,
                        const std::string &environment = "") {
@@ -58,16 +58,16 @@ protected:
 
 }  // namespace
 
-TEST_F(RenderErrors, InputThatIsMissing) {
+TEST_F(RenderErrors, AMissingInput) {
     expectFailureOfInput("missing.wav", "no such file");
 }
 
-TEST_F(RenderErrors, InputThatIsShort) {
+TEST_F(RenderErrors, AnInputThatIsCutShort) {
     copyHead(folder / "in.wav", folder / "short.wav", 5000);
     expectFailureOfInput("short.wav", "truncated, ");
 }
 
-TEST_F(RenderErrors, CompressedInputThatIsShort) {
+TEST_F(RenderErrors, ACompressedInputThatIsCutShort) {
     SSound sound = voice(21, 60000);
     sound.format = SF_FORMAT_FLAC | SF_FORMAT_PCM_16;
     writeSound(folder / "whole.flac", sound);
@@ -75,56 +75,56 @@ TEST_F(RenderErrors, CompressedInputThatIsShort) {
     expectFailureOfInput("short.flac", "truncated or damaged, it ends after ");
 }
 
-TEST_F(RenderErrors, InputOfTheWrongKind) {
+TEST_F(RenderErrors, AnInputOfTheWrongKind) {
     writeFile(folder / "text.wav", "Dear Sir or Madam");
     expectFailureOfInput("text.wav", "not a readable audio file");
 }
 
-TEST_F(RenderErrors, InputThatIsAFolder) {
+TEST_F(RenderErrors, AFolderAsInput) {
     std::filesystem::create_directory(folder / "folder");
     expectFailureOfInput("folder", "not a file");
 }
 
-TEST_F(RenderErrors, InputOfThreeChannels) {
+TEST_F(RenderErrors, AnInputWithThreeChannels) {
     writeSound(folder / "three.wav", voice(21, 100, 3));
     expectFailureOfInput("three.wav", "has 3 channels; only mono and stereo can be rendered");
 }
 
-TEST_F(RenderErrors, MonoSumOfAStereoFile) {
+TEST_F(RenderErrors, AMonoSumOfAStereoFile) {
     expectFailureOfInput("in.wav", "is stereo; --mono is for mono files", {"--mono"});
 }
 
-TEST_F(RenderErrors, RateThatCannotBeConverted) {
+TEST_F(RenderErrors, ARateThatCannotBeConverted) {
     SSound sound = voice(21, 100);
     sound.sampleRate = 1;
     writeSound(folder / "slow.wav", sound);
     expectFailureOfInput("slow.wav", "cannot be converted from 1 to 44100 Hz", {"--resample"});
 }
 
-TEST_F(RenderErrors, OutputFolderThatIsMissing) {
+TEST_F(RenderErrors, AMissingOutputFolder) {
     expectFailure(1, "missing/out.wav: cannot be written", renderTo("missing/out.wav"));
 }
 
-TEST_F(RenderErrors, OutputThatIsADevice) {
+TEST_F(RenderErrors, ADeviceAsOutput) {
     expectFailure(1, "/dev/null: cannot be written (not a file)",
                   {"render", folder / "in.wav", "/dev/null", "--plugin", testEffect("Whole")});
 }
 
 class RenderToFullDisk : public RenderErrors, public testing::WithParamInterface<const char *> {};
 
-TEST_P(RenderToFullDisk, FailsWhereverTheDiskEnds) {
+TEST_P(RenderToFullDisk, FailsWhereverTheDiskIsFull) {
     writeSound(folder / "long.wav", voice(21, 40000));
     const std::vector<std::string> arguments = {
         "render",   folder / "long.wav", folder / "out.wav", "--format",
         GetParam(), "--plugin",          testEffect("Whole")};
-    // How long it would be.
+    // The size of the whole file.
     std::vector<std::string> elsewhere = arguments;
     elsewhere[2] = folder / "whole";
     ASSERT_EQ(corvel(elsewhere).status, 0);
     const std::uintmax_t kilobytes = std::filesystem::file_size(folder / "whole") / 1024;
     std::filesystem::remove(folder / "whole");
     ASSERT_GE(kilobytes, 4u);
-    // libsndfile forgets its encoder when the last page cannot be written.
+    // libsndfile leaks its encoder if the last page cannot be written.
     const std::string withoutLeaks = "LSAN_OPTIONS=detect_leaks=0";
     for (const std::uintmax_t room : {std::uintmax_t(1), kilobytes / 2, kilobytes})
         expectFailure(1, "out.wav: cannot be written (File too large)", arguments,
@@ -135,15 +135,15 @@ TEST_P(RenderToFullDisk, FailsWhereverTheDiskEnds) {
 INSTANTIATE_TEST_SUITE_P(Formats, RenderToFullDisk,
                          testing::Values("wav:float", "wav:16", "aiff:24", "flac:16", "ogg"));
 
-TEST_F(RenderErrors, FormatThatTheRateDoesNotAllow) {
+TEST_F(RenderErrors, AFormatThatDoesNotSupportTheRate) {
     expectFailure(1, "out.wav: cannot be written", renderTo("out.wav", {"--format", "ogg:opus"}));
 }
 
-TEST_F(RenderErrors, EffectThatIsMissing) {
+TEST_F(RenderErrors, AMissingEffect) {
     expectFailure(1, "Missing.so: no such file", renderTo("out.wav", {}, "Missing"));
 }
 
-TEST_F(RenderErrors, EffectThatIsNone) {
+TEST_F(RenderErrors, AFileThatIsNotAnEffect) {
     expectFailure(1, "NoEntry.so: not a VST 2 effect", renderTo("out.wav", {}, "NoEntry"));
     expectFailure(1, "NoMagic.so: not a VST 2 effect", renderTo("out.wav", {}, "NoMagic"));
     expectFailure(1, "Refusing.so: the effect does not start", renderTo("out.wav", {}, "Refusing"));
@@ -151,7 +151,7 @@ TEST_F(RenderErrors, EffectThatIsNone) {
                   {"render", folder / "in.wav", folder / "out.wav", "--plugin", folder / "in.wav"});
 }
 
-TEST_F(RenderErrors, EffectThatCannotRender) {
+TEST_F(RenderErrors, AnEffectThatCannotRender) {
     expectFailure(1, "OneChannel.so: has 1 inputs and 1 outputs",
                   renderTo("out.wav", {}, "OneChannel"));
     expectFailure(1, "NoReplacing.so: cannot process", renderTo("out.wav", {}, "NoReplacing"));
@@ -159,7 +159,7 @@ TEST_F(RenderErrors, EffectThatCannotRender) {
                   renderTo("out.wav", {"--double"}, "SingleOnly"));
 }
 
-TEST_F(RenderErrors, EffectWithAStateOfAnotherSize) {
+TEST_F(RenderErrors, AnEffectWithAStateOfAnotherSize) {
     expectFailure(1, "ShortChunk.so: the effect's state has 100 bytes, not 424",
                   renderTo("out.wav", {"--chain", "Gate"}, "ShortChunk"));
 }
@@ -195,12 +195,12 @@ TEST_F(RenderErrors, WrongFormat) {
                   renderTo("out.wav", {"--format", "flac:float"}));
 }
 
-TEST_F(RenderErrors, OutputThatIsAnInput) {
+TEST_F(RenderErrors, AnInputAsOutput) {
     expectFailure(2, "in.wav: is also an input and would be overwritten", renderTo("in.wav"));
     expectFailure(2, "in.wav: is also an input and would be overwritten", renderTo("."));
 }
 
-TEST_F(RenderErrors, SeveralInputsToOneFile) {
+TEST_F(RenderErrors, SeveralInputsForOneFile) {
     expectFailure(2, "out.wav: several inputs need a folder as output",
                   {"render", folder / "in.wav", folder / "in.wav", folder / "out.wav", "--plugin",
                    testEffect("Whole")});
@@ -209,7 +209,7 @@ TEST_F(RenderErrors, SeveralInputsToOneFile) {
                    testEffect("Whole")});
 }
 
-TEST_F(RenderErrors, OneFileOfABatchDoesNotStopTheOthers) {
+TEST_F(RenderErrors, AnErrorInABatchDoesNotStopTheOtherFiles) {
     writeSound(folder / "good.wav", voice(22, 1000));
     writeFile(folder / "bad.wav", "bad");
     const SProgramRun run =
@@ -228,15 +228,16 @@ TEST_F(RenderErrors, OneFileOfABatchDoesNotStopTheOthers) {
     EXPECT_THAT(files[2]["error"].get<std::string>(), HasSubstr("missing.wav: no such file"));
 }
 
-TEST_F(RenderErrors, AWrongCallMakesNoFolder) {
+TEST_F(RenderErrors, AWrongCommandCreatesNoFolder) {
     expectFailure(2, "no program",
                   {"render", folder / "in.wav", folder / "other.wav", folder / "batch", "--program",
                    "Lauter", "--plugin", testEffect("Whole")});
 }
 
-TEST_F(RenderErrors, AnInterruptLeavesNothingBehind) {
+TEST_F(RenderErrors, AnInterruptLeavesNoUnfinishedFile) {
     for (const std::string &signal : {std::string("INT"), std::string("TERM")}) {
-        // An hour in single frames takes long enough. The part is there before the first sample.
+        // An hour in blocks of one frame takes long enough. The temporary file appears before the
+        // first sample.
         const std::string script =
             std::string(CORVEL_PROGRAM " render ") + (folder / "in.wav").string() + " " +
             (folder / "out.wav").string() + " --tail 3600 --block 1 --plugin " +

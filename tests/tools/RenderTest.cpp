@@ -6,7 +6,7 @@
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
 
-// What `corvel render` does with sound, seen from outside, through an effect whose sound is known.
+// `corvel render` as a user runs it, with an effect that does simple arithmetic.
 
 using testing::HasSubstr;
 using testing::Not;
@@ -44,7 +44,7 @@ std::vector<double> scaled(std::vector<double> samples, double gain) {
 
 }  // namespace
 
-TEST_F(Render, NeutralSettingsGiveTheInputBack) {
+TEST_F(Render, NeutralSettingsKeepTheInput) {
     const SSound sound = voice(11, 30000);
     const SSound out = render(sound);
     EXPECT_EQ(out.samples, sound.samples);
@@ -55,9 +55,9 @@ TEST_F(Render, NeutralSettingsGiveTheInputBack) {
 
 class RenderIntegers : public Render, public testing::WithParamInterface<int> {};
 
-TEST_P(RenderIntegers, IntegerFilesComeBackUnchanged) {
+TEST_P(RenderIntegers, IntegersStayUnchanged) {
     SSound sound = voice(11, 30000);
-    sound.samples[0] = -1.0;  // full scale has no room to spare
+    sound.samples[0] = -1.0;  // full scale
     sound.samples[1] = 32767.0 / 32768.0;
     sound.format = GetParam();
     writeSound(folder / "same", sound);
@@ -74,7 +74,7 @@ INSTANTIATE_TEST_SUITE_P(Formats, RenderIntegers,
 
 class RenderOtherIntegers : public Render, public testing::WithParamInterface<int> {};
 
-TEST_P(RenderOtherIntegers, TheContainerChangesAndTheIntegersDoNot) {
+TEST_P(RenderOtherIntegers, IntegersStayUnchangedInAnotherContainer) {
     SSound sound = voice(11, 30000);
     sound.samples[0] = -1.0;
     sound.format = GetParam();
@@ -88,7 +88,7 @@ INSTANTIATE_TEST_SUITE_P(Formats, RenderOtherIntegers,
                                          SF_FORMAT_FLAC | SF_FORMAT_PCM_16,
                                          SF_FORMAT_FLAC | SF_FORMAT_PCM_24));
 
-TEST_F(Render, DoublePrecisionKeepsThirtyTwoBits) {
+TEST_F(Render, DoublePrecisionKeeps32Bits) {
     SSound sound = voice(11, 1000);
     sound.format = SF_FORMAT_WAV | SF_FORMAT_PCM_32;
     for (double &sample : sound.samples)
@@ -97,7 +97,7 @@ TEST_F(Render, DoublePrecisionKeepsThirtyTwoBits) {
     EXPECT_NE(render(sound).samples, sound.samples);
 }
 
-TEST_F(Render, TwentyFourBitsAreKeptToTheLast) {
+TEST_F(Render, SinglePrecisionKeeps24Bits) {
     SSound sound = voice(11, 1000);
     sound.format = SF_FORMAT_WAV | SF_FORMAT_PCM_24;
     for (std::size_t i = 0; i < sound.samples.size(); ++i)
@@ -114,7 +114,7 @@ TEST_F(Render, DoublePrecisionKeepsDoubles) {
     EXPECT_EQ(render(sound).samples[5], static_cast<double>(static_cast<float>(1.0 / 3.0)));
 }
 
-TEST_F(Render, TheProgramAndTheParametersAreHeard) {
+TEST_F(Render, ProgramAndParametersChangeTheSound) {
     const SSound sound = voice(11, 1000);
     const std::vector<double> louder = scaled(sound.samples, std::pow(10.0, 0.3));
     const std::vector<double> byProgram = render(sound, {"--program", "Loud"}).samples;
@@ -127,7 +127,7 @@ TEST_F(Render, TheProgramAndTheParametersAreHeard) {
     }
 }
 
-TEST_F(Render, BlocksAreWholeUpToTheLast) {
+TEST_F(Render, AllBlocksButTheLastAreFull) {
     render(voice(11, 40000), {"--block", "15000"});
     const std::string log = readFile(folder / "log");
     EXPECT_THAT(log, HasSubstr(" block 15000\n"));
@@ -136,7 +136,7 @@ TEST_F(Render, BlocksAreWholeUpToTheLast) {
     EXPECT_THAT(log, HasSubstr(" process 10000 at 30000\n"));
 }
 
-TEST_F(Render, EveryBlockSizeGivesTheSame) {
+TEST_F(Render, TheBlockSizeDoesNotChangeTheSound) {
     const SSound sound = voice(11, 20000);
     for (const char *size : {"1", "333", "1024", "16384", "1000000"})
         EXPECT_EQ(render(sound, {"--block", size}).samples, sound.samples) << size;
@@ -149,7 +149,7 @@ TEST_F(Render, TheTempoReachesTheEffect) {
     EXPECT_THAT(readFile(folder / "log"), HasSubstr(" tempo 77\n"));
 }
 
-TEST_F(Render, ATailOfSilenceIsRendered) {
+TEST_F(Render, TheTailIsRendered) {
     const SSound sound = voice(11, 1000);
     const SSound out = render(sound, {"--tail", "0.5"});
     ASSERT_EQ(out.frames(), 1000u + 22050u);
@@ -158,7 +158,7 @@ TEST_F(Render, ATailOfSilenceIsRendered) {
     EXPECT_EQ(out.samples, expected);
 }
 
-TEST_F(Render, TheEffectsLatencyIsTakenOff) {
+TEST_F(Render, TheEffectsLatencyIsRemoved) {
     effect = "Late";
     const SSound sound = voice(11, 30000);
     EXPECT_EQ(render(sound).samples, sound.samples);
@@ -167,7 +167,7 @@ TEST_F(Render, TheEffectsLatencyIsTakenOff) {
     EXPECT_EQ(render(sound, {"--tail", "1"}).frames(), 30000u + 44100u);
 }
 
-TEST_F(Render, AMonoFileComesOutInStereo) {
+TEST_F(Render, AMonoFileBecomesStereo) {
     const SSound sound = voice(11, 1000, 1);
     const SSound out = render(sound);
     EXPECT_THAT(readFile(folder / "log"), HasSubstr(" mono\n"));
@@ -179,7 +179,7 @@ TEST_F(Render, AMonoFileComesOutInStereo) {
     }
 }
 
-TEST_F(Render, TheStripsMonoSumIsWrittenOnDemand) {
+TEST_F(Render, TheStripsMonoSumIsWrittenOnRequest) {
     const SSound sound = voice(11, 1000, 1);
     const SSound out = render(sound, {"--mono"});
     EXPECT_EQ(out.channels, 1);
@@ -192,7 +192,7 @@ TEST_F(Render, AnEmptyFileGivesAnEmptyFile) {
     EXPECT_TRUE(result()["files"][0]["levelIn"]["peak"].is_null());
 }
 
-TEST_F(Render, AnotherRateIsKeptAndRemarkedOnInOneLine) {
+TEST_F(Render, AnotherRateIsKeptWithAWarning) {
     SSound sound = voice(11, 1000);
     sound.sampleRate = 48000;
     const SSound out = render(sound);
@@ -217,14 +217,14 @@ TEST_P(RenderRates, ResamplingKeepsTimeAndLength) {
     EXPECT_EQ(run.errors, "");
     EXPECT_EQ(out.sampleRate, GetParam());
     ASSERT_EQ(out.frames(), sound.frames());
-    // But for the ends, where the sine breaks off.
+    // Except at the ends, where the sine starts and stops abruptly.
     const auto margin = static_cast<std::size_t>(GetParam() / 50);
     for (std::size_t i = margin; i < out.frames() - margin; ++i)
         ASSERT_NEAR(out.samples[i], sound.samples[i], 1e-4) << i;
 }
 INSTANTIATE_TEST_SUITE_P(Rates, RenderRates, testing::Values(8000, 22050, 48000, 96000, 192000));
 
-TEST_F(Render, ResamplingGoesTogetherWithLatencyTailAndDoubles) {
+TEST_F(Render, ResamplingWorksWithLatencyTailAndDoubles) {
     effect = "Late";
     SSound sound = voice(11, 20000);
     sound.sampleRate = 48000;
@@ -237,7 +237,7 @@ TEST_F(Render, ResamplingGoesTogetherWithLatencyTailAndDoubles) {
     EXPECT_GT(largest, 0.0);
 }
 
-TEST_F(Render, AtTheStripsOwnRateThereIsNothingToConvert) {
+TEST_F(Render, AtTheRateOfTheStripNothingIsResampled) {
     const SSound sound = voice(11, 1000);
     EXPECT_EQ(render(sound, {"--resample"}).samples, sound.samples);
 }
@@ -289,7 +289,7 @@ TEST_F(Render, FloatingPointSamplesAreNotClipped) {
     EXPECT_EQ(run.errors, "");
 }
 
-TEST_F(Render, TheResultIsToldInLines) {
+TEST_F(Render, TheResultIsPrintedAsText) {
     SSound sound;
     sound.samples.assign(2 * 44100, 0.5);
     render(sound, {"--set", "gain=0.25", "--chain", "Gate,Reverb"});
@@ -307,7 +307,7 @@ TEST_F(Render, TheResultIsToldInLines) {
     EXPECT_THAT(run.out, testing::ContainsRegex("speed      [0-9.]+ times real time\n"));
 }
 
-TEST_F(Render, TheResultIsToldAsJson) {
+TEST_F(Render, TheResultIsPrintedAsJson) {
     SSound sound;
     sound.channels = 1;
     sound.samples.assign(22050, -0.5);
@@ -333,7 +333,7 @@ TEST_F(Render, TheResultIsToldAsJson) {
     EXPECT_GT(file["timesRealTime"].get<double>(), 0.0);
 }
 
-TEST_F(Render, SeveralFilesGoToAFolderAndSoundAsOneByOne) {
+TEST_F(Render, SeveralFilesInAFolderEqualSingleRuns) {
     std::vector<std::string> arguments = {"render"};
     for (unsigned i = 0; i < 7; ++i) {
         const std::string in = folder / ("in" + std::to_string(i) + ".wav");
@@ -352,7 +352,7 @@ TEST_F(Render, SeveralFilesGoToAFolderAndSoundAsOneByOne) {
     }
 }
 
-TEST_F(Render, ABatchIsToldInTheOrderOfItsInputs) {
+TEST_F(Render, ABatchIsReportedInTheOrderOfItsInputs) {
     std::vector<std::string> arguments = {"render"};
     std::vector<std::string> names;
     for (unsigned i = 0; i < 6; ++i) {
@@ -394,5 +394,5 @@ TEST_F(Render, AProgressBarIsDrawnOnATerminal) {
     const std::string shown = readFile(folder / "typescript");
     EXPECT_THAT(shown, HasSubstr("[##"));
     EXPECT_THAT(shown, HasSubstr("%"));
-    EXPECT_THAT(shown, HasSubstr("\r\x1b[K"));  // and is taken away again
+    EXPECT_THAT(shown, HasSubstr("\r\x1b[K"));  // and is removed again
 }

@@ -5,18 +5,18 @@
 
 using namespace Tessitor::Tool;
 
-TEST(Text, TrimmingTakesSpacesAtTheEndsOnly) {
+TEST(Text, TrimmingRemovesOnlyLeadingAndTrailingSpaces) {
     EXPECT_EQ(trimmed("  Rumble Filter\t"), "Rumble Filter");
     EXPECT_EQ(trimmed(" \t "), "");
     EXPECT_EQ(trimmed(""), "");
 }
 
-TEST(Text, SplittingGivesOnePartMoreThanSeparators) {
+TEST(Text, SplittingGivesOneMorePartThanSeparators) {
     EXPECT_EQ(split("a,,b,", ','), (std::vector<std::string_view>{"a", "", "b", ""}));
     EXPECT_EQ(split("", ','), std::vector<std::string_view>{""});
 }
 
-TEST(Text, CapitalsDoNotMatterButLengthDoes) {
+TEST(Text, CaseDoesNotMatterButLengthDoes) {
     EXPECT_TRUE(equalInAnyCapitals("CmpThresh", "cmptHRESH"));
     EXPECT_FALSE(equalInAnyCapitals("CmpThresh", "CmpThres"));
     EXPECT_FALSE(equalInAnyCapitals("Gate", "Gain"));

@@ -8,7 +8,7 @@ namespace Tessitor::Tool {
 
 namespace {
 
-// What programs write that stream into a pipe and cannot come back to fill in the length.
+// Programs that write into a pipe put such a length, since they cannot go back and correct it.
 constexpr std::uint32_t unknownFrom = 0x7F000000;
 
 struct SChunkHead {
@@ -57,7 +57,7 @@ std::uint64_t bytesMissing(const std::filesystem::path &path) {
             const bool known = size != 0 && size < unknownFrom;
             return known && position + size > fileBytes ? position + size - fileBytes : 0;
         }
-        position += size + size % 2;  // chunks begin at even places
+        position += size + size % 2;  // chunks start at even offsets
         file.seekg(static_cast<std::streamoff>(position));
     }
     return 0;

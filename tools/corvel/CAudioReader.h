@@ -11,22 +11,22 @@ struct SSoundFileCloser {
     void operator()(SNDFILE *file) const { sf_close(file); }
 };
 
-/// An audio file to read: WAV, AIFF, FLAC or Ogg, of one or two channels.
+/// Reads an audio file: WAV, AIFF, FLAC or Ogg with one or two channels.
 class CAudioReader {
 public:
-    /// @throws CJobError if the file is missing, cut short, of another kind or of more channels.
+    /// @throws CJobError if the file is missing, cut short, of another kind or has more channels.
     explicit CAudioReader(const std::filesystem::path &file);
 
     int sampleRate() const { return m_info.samplerate; }
     int channels() const { return m_info.channels; }
-    int format() const { return m_info.format; }  ///< as libsndfile numbers it
-    /// FLAC that was written into a pipe does not say how long it is.
+    int format() const { return m_info.format; }  ///< of libsndfile
+    /// False for FLAC that was written into a pipe: it does not contain its length.
     bool knowsLength() const { return m_info.frames != SF_COUNT_MAX; }
-    std::int64_t frames() const { return m_info.frames; }  ///< a huge number if not known
+    std::int64_t frames() const { return m_info.frames; }  ///< SF_COUNT_MAX if unknown
 
-    /// Reads on, interleaved; integers become n / 2^(bits - 1).
-    /// @return frames read, fewer than asked for only at the end.
-    /// @throws CJobError if the file is damaged or ends before it should.
+    /// Reads the next samples, interleaved. Integers become n / 2^(bits - 1).
+    /// @return frames read; fewer than requested only at the end.
+    /// @throws CJobError if the file is damaged or ends too early.
     std::int64_t read(float *samples, std::int64_t frames);
     std::int64_t read(double *samples, std::int64_t frames);
 

@@ -20,7 +20,7 @@ std::int64_t writeFrames(SNDFILE *file, const double *samples, std::int64_t fram
     return sf_writef_double(file, samples, frames);
 }
 
-// @return -1 if it is no audio file or does not know its length.
+// @return -1 if the file is not audio or its length is unknown.
 std::int64_t framesIn(const std::filesystem::path &file) {
     SF_INFO info{};
     const std::unique_ptr<SNDFILE, SSoundFileCloser> opened(sf_open(file.c_str(), SFM_READ, &info));
@@ -39,7 +39,7 @@ CAudioWriter::CAudioWriter(const std::filesystem::path &file, int format, int sa
     m_file.reset(sf_open(m_pending.path().c_str(), SFM_WRITE, &info));
     if (m_file == nullptr)
         fail(sf_strerror(nullptr));
-    // That chunk holds the time of day: the same sound would never give the same file twice.
+    // The peak chunk holds the time of day, so equal sounds would give different files.
     sf_command(m_file.get(), SFC_SET_ADD_PEAK_CHUNK, nullptr, SF_FALSE);
 }
 
@@ -72,7 +72,7 @@ void CAudioWriter::finish() {
     errno = 0;
     sf_close(m_file.release());
     const int systemError = errno;
-    // What goes wrong at the end of an encoder's work is not always reported.
+    // libsndfile does not report every error at the end of encoding.
     if (framesIn(m_pending.path()) < m_frames)
         fail(systemError != 0 ? std::system_category().message(systemError)
                               : "the file could not be completed");

@@ -11,22 +11,23 @@
 
 namespace Tessitor::Tool {
 
-/// An audio file to write. It comes into its place by finish(), whole, or not at all.
+/// Writes an audio file. The file appears when finish() is called, complete or not at all.
 class CAudioWriter {
 public:
-    /// @param format  as libsndfile numbers it.
-    /// @throws CJobError if the file cannot be made.
+    /// @param format  of libsndfile.
+    /// @throws CJobError if the file cannot be created.
     CAudioWriter(const std::filesystem::path &file, int format, int sampleRate, int channels);
 
     int channels() const { return m_channels; }
 
-    /// Writes on, interleaved. Integers are rounded and clipped, floating-point samples are not.
+    /// Appends interleaved samples. For integer formats they are rounded and clipped; in
+    /// floating-point formats they are kept.
     /// @throws CJobError if the file cannot be written.
     void write(const float *samples, std::int64_t frames);
     void write(const double *samples, std::int64_t frames);
 
-    /// Completes the file and puts it in its place.
-    /// @throws CJobError if it cannot be completed.
+    /// Completes the file and moves it to its place.
+    /// @throws CJobError if that fails.
     void finish();
 
     std::uint64_t clippedSamples() const { return m_clipped; }
@@ -38,11 +39,11 @@ private:
 
     std::filesystem::path m_place;
     int m_channels;
-    int m_bits;                 // of the integers, 0 for floating-point samples
+    int m_bits;                 // of the integers; 0 for floating-point samples
     std::int64_t m_frames = 0;  // written
     std::uint64_t m_clipped = 0;
     std::vector<std::int32_t> m_integers;
-    CPendingFile m_pending;  // outlives the handle
+    CPendingFile m_pending;  // must outlive m_file
     std::unique_ptr<SNDFILE, SSoundFileCloser> m_file;
 };
 

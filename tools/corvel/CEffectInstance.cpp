@@ -13,7 +13,7 @@ AEffect *enter(const CEffectLibrary &library) {
     AEffect *effect = library.enter(hostCallback);
     if (effect == nullptr)
         throw CJobError(library.file().string() + ": the effect does not start");
-    // Nothing of a record without its mark can be trusted, its closing call included.
+    // Without the magic number nothing in the record can be called, not even to close the effect.
     if (effect->magic != kEffectMagic || effect->dispatcher == nullptr)
         throw CJobError(library.file().string() + ": not a VST 2 effect (no valid record)");
     return effect;
@@ -46,7 +46,7 @@ std::intptr_t CEffectInstance::dispatch(AEffectOpcode opcode, std::int32_t index
 }
 
 std::string CEffectInstance::text(AEffectOpcode opcode, std::int32_t index, std::intptr_t value) {
-    // Effects write past the published lengths, which go up to 64.
+    // Some effects write more than the published lengths, which go up to 64.
     std::array<char, 512> buffer{};
     dispatch(opcode, index, value, buffer.data());
     buffer.back() = '\0';

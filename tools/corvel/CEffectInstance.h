@@ -10,7 +10,7 @@
 
 namespace Tessitor::Tool {
 
-/// How an instance is to run.
+/// Settings for one run of an instance.
 struct SRunSettings {
     double sampleRate = 44100.0;    // Hz
     double tempo = 120.0;           // beats per minute
@@ -20,11 +20,11 @@ struct SRunSettings {
     bool rightOutputConnected = true;
 };
 
-/// One effect, opened and closed as a host does it. One thread at a time.
+/// One effect, opened and closed as a host does it. [one thread at a time]
 class CEffectInstance {
 public:
-    /// Enters the library and opens the effect.
-    /// @throws CJobError if what comes back is no usable effect.
+    /// Calls the library's entry function and opens the effect.
+    /// @throws CJobError if the result is not a usable effect.
     explicit CEffectInstance(const CEffectLibrary &library);
     ~CEffectInstance();
     CEffectInstance(const CEffectInstance &) = delete;
@@ -36,7 +36,7 @@ public:
 
     std::intptr_t dispatch(AEffectOpcode opcode, std::int32_t index = 0, std::intptr_t value = 0,
                            void *ptr = nullptr, float opt = 0.0f);
-    /// The text that an opcode writes to its `ptr`; empty if the effect writes none.
+    /// @return the text that an opcode writes to its `ptr`; empty if the effect writes none.
     std::string text(AEffectOpcode opcode, std::int32_t index = 0, std::intptr_t value = 0);
 
     float parameter(std::int32_t index) { return m_effect->getParameter(m_effect, index); }
@@ -44,17 +44,17 @@ public:
         m_effect->setParameter(m_effect, index, value);
     }
 
-    /// The present program's state. The bytes are the effect's and stand until the next call.
+    /// @return the state of the current program. The effect owns it; valid until the next call.
     /// @throws CJobError if the effect gives none.
     std::span<const std::byte> programChunk();
     void setProgramChunk(std::span<const std::byte> chunk);
 
-    /// Rate, block size, mains on, start. The transport starts at 0.
+    /// Sends rate, block size, mains on and start. The transport starts at 0.
     void start(const SRunSettings &settings);
-    /// Stop, mains off. Does nothing unless started.
+    /// Sends stop and mains off. Does nothing unless started.
     void stop();
 
-    /// Between start and stop only.
+    /// Only between start() and stop().
     /// @param in, out  two channels of `frames` samples; out[1] may be null without a right output.
     /// @param frames   at most the block size.
     void process(float **in, float **out, std::int32_t frames);
@@ -72,7 +72,7 @@ private:
     const CEffectLibrary &m_library;
     SHostState m_host;
     std::unique_ptr<AEffect, SCloser> m_owner;
-    AEffect *m_effect = nullptr;  // what m_owner owns
+    AEffect *m_effect = nullptr;  // owned by m_owner
     bool m_running = false;
 };
 

@@ -11,7 +11,7 @@ namespace Tessitor::Tool {
 
 namespace {
 
-// A name without a folder would be searched for along the system's library path.
+// A name without a folder would be searched for in the system's library path.
 void *openLibrary(const fs::path &file) {
     if (!fs::exists(file))
         throw CJobError(file.string() + ": no such file");
@@ -29,7 +29,7 @@ void *openLibrary(const fs::path &file) {
 }  // namespace
 
 CEffectLibrary::CEffectLibrary(const fs::path &file) : m_file(file), m_handle(openLibrary(file)) {
-    // The second name is the older one; some effects export no other.
+    // The second name is the older one. Debian's own effects export only that.
     for (const char *name : {"VSTPluginMain", "main"}) {
         void *symbol = nativeSymbol(m_handle, name);
         if (symbol == nullptr)

@@ -13,26 +13,26 @@ namespace Tessitor::Tool {
 /// A loaded effect file. It must outlive the instances made from it.
 class CEffectLibrary {
 public:
-    /// @throws CJobError if the file is missing, is no library or exports no entry function.
+    /// @throws CJobError if the file is missing, is not a library or exports no entry function.
     explicit CEffectLibrary(const std::filesystem::path &file);
     ~CEffectLibrary();
     CEffectLibrary(const CEffectLibrary &) = delete;
     CEffectLibrary &operator=(const CEffectLibrary &) = delete;
 
-    /// @return the named file, else the effect beside this program: ../plugin/Corvel.so, or
-    ///         Corvel.so in its own folder.
-    /// @throws CJobError if none is named and neither is there.
+    /// @return the named file, otherwise the effect next to this program: ../plugin/Corvel.so, or
+    ///         Corvel.so in the program's folder.
+    /// @throws CJobError if no file is named and neither of the two exists.
     static std::filesystem::path choose(const std::optional<std::string> &named);
 
     const std::filesystem::path &file() const { return m_file; }
-    /// The entry functions that the file exports; the first is the one in use.
+    /// The entry functions that the file exports. The first one is used.
     const std::vector<std::string> &entryNames() const { return m_entryNames; }
 
     /// Calls the entry function. @return null if the effect refuses.
     AEffect *enter(audioMasterCallback host) const { return m_entry(host); }
 
-    /// To be held while an instance comes to life or ends: effects keep unguarded counts of their
-    /// instances, since hosts do both on one thread.
+    /// Hold it while an instance is created or destroyed. Hosts do both on one thread, so effects
+    /// count their instances without a lock.
     std::mutex &lifetimeLock() const { return m_lifetimeLock; }
 
 private:

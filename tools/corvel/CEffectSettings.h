@@ -10,7 +10,7 @@
 
 namespace Tessitor::Tool {
 
-/// What the call asks the effect to be.
+/// The effect settings on the command line.
 struct SSettingsRequest {
     std::optional<std::string> program;  // number or name
     std::optional<std::string> chain;    // module labels
@@ -20,14 +20,14 @@ struct SSettingsRequest {
 /// @return the name of a program, empty if the effect gives none.
 std::string programName(CEffectInstance &effect, std::int32_t program);
 
-/// @param text  a number from 0, or a name in any capitals.
+/// @param text  a number from 0, or a name in upper or lower case.
 /// @throws CCallError if the effect has no such program.
 std::int32_t programFromText(CEffectInstance &effect, const std::string &text);
 
-/// A request worked out once and then applied to any number of instances alike.
+/// A request, resolved once and then applied to any number of instances.
 class CEffectSettings {
 public:
-    /// A parameter as it was set, and as the effect shows it.
+    /// A parameter's value, and how the effect displays it.
     struct SAssignment {
         std::int32_t index;
         float value;  // normalised
@@ -35,15 +35,16 @@ public:
         std::string display;  // with the unit
     };
 
-    /// @param trial  an instance to try values on; afterwards it is as the request wants it.
-    /// @throws CCallError if the effect has not what the request names.
+    /// @param trial  an instance to try values on. Afterwards the request is applied to it.
+    /// @throws CCallError if the effect has no such program, module or parameter.
     CEffectSettings(const SSettingsRequest &request, CEffectInstance &trial);
 
-    /// To a fresh instance: each parameter is set once, so that none remembers a trial.
+    /// @param effect  a new instance. Each parameter is set only once, so no module keeps a trace
+    ///                of values that were tried.
     void applyTo(CEffectInstance &effect) const;
 
     const std::string &programName() const { return m_programName; }
-    const std::optional<Chain> &chain() const { return m_chain; }  ///< none without a chain
+    const std::optional<Chain> &chain() const { return m_chain; }  ///< none for other effects
     const std::vector<SAssignment> &assignments() const { return m_assignments; }
 
 private:

@@ -9,7 +9,7 @@ namespace Tessitor::Tool {
 
 namespace {
 
-// Independent lanes, so that the compiler may use whole vectors without reordering any sum.
+// Independent lanes let the compiler vectorise without reordering any sum.
 constexpr std::size_t lanes = 8;
 
 }  // namespace

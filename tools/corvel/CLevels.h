@@ -8,7 +8,7 @@ namespace Tessitor::Tool {
 /// 20 log10(amplitude); minus infinity for 0.
 double decibels(double amplitude);
 
-/// Peak and root mean square of all samples that it was given, 1.0 being full scale.
+/// Peak and root mean square of all samples added; 1.0 is full scale.
 class CLevels {
 public:
     void add(const float *samples, std::size_t count);
@@ -22,7 +22,7 @@ private:
     void addAll(const Sample *samples, std::size_t count);
 
     double m_peak = 0.0;
-    double m_squares = 0.0;  // their sum
+    double m_squares = 0.0;  // sum of the squared samples
     std::uint64_t m_count = 0;
 };
 

@@ -13,8 +13,9 @@ namespace Tessitor::Tool {
 
 namespace {
 
-// Fine enough to meet every text that is not a number and to part the branches of a law. Tenths and
-// hundredths are on it: some pairs, such as "30:70", are shown at one such value alone.
+// Fine enough to find every text that is not a number, and to separate the branches of a law. It
+// includes tenths and hundredths: some pairs, such as "30:70", are displayed at a single such
+// value.
 constexpr int gridSteps = 1000;
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
@@ -33,7 +34,7 @@ bool beginsNumber(std::string_view text) {
            (std::isdigit(static_cast<unsigned char>(text[sign])) != 0 || text[sign] == '.');
 }
 
-// Takes a number away from the text's beginning, if there is one.
+// Removes the number at the start of the text, if there is one.
 std::optional<double> takeNumber(std::string_view &text) {
     for (const std::string_view silence : {"-oo", "-inf"}) {
         if (text.starts_with(silence)) {
@@ -110,7 +111,7 @@ float CParameterText::valueOf(std::string_view text) const {
             }));
     }
 
-    // A law that repeats itself: where the text is shown longest, the knob is least delicate.
+    // If a law repeats itself, take the widest range of values: there the knob is least sensitive.
     SPoint within = showing.front();
     SSpan widest = spanAround(within);
     for (const SPoint &point : showing) {
@@ -125,7 +126,7 @@ float CParameterText::valueOf(std::string_view text) const {
     return valueIn(widest, within);
 }
 
-/// One point at least for each stretch of values that show what is asked.
+/// @return at least one point of each range of values that are displayed as asked.
 std::vector<CParameterText::SPoint> CParameterText::pointsShowing(const SReading &asked) const {
     std::vector<SPoint> points;
     for (std::size_t step = 0; step <= gridSteps; ++step) {
@@ -140,9 +141,9 @@ std::vector<CParameterText::SPoint> CParameterText::pointsShowing(const SReading
     return points;
 }
 
-/// Where nothing shows what is asked: the points that come near it.
+/// @return the nearest points if no value is displayed as asked.
 std::vector<CParameterText::SPoint> CParameterText::pointsBeside(const SReading &asked) const {
-    constexpr double oneDigit = 1.0;  // a pair is cut to whole numbers that do not always add up
+    constexpr double oneDigit = 1.0;  // both numbers of a pair are truncated and may not add up
     std::vector<SPoint> points;
     for (std::size_t step = 0; step <= gridSteps; ++step) {
         const SPoint &point = m_grid[step];
@@ -152,7 +153,7 @@ std::vector<CParameterText::SPoint> CParameterText::pointsBeside(const SReading 
         if (step == gridSteps || !between(point, m_grid[step + 1], asked))
             continue;
         const auto [low, high] = narrow(point, m_grid[step + 1], asked);
-        // Silence is near to nothing.
+        // Silence is not near any number.
         if (std::isfinite(*low.shown.number) && std::isfinite(*high.shown.number))
             points.insert(points.end(), {low, high});
     }
@@ -169,7 +170,7 @@ double CParameterText::distance(const SReading &shown, const SReading &asked) {
     return asked.second ? first + std::abs(*shown.second - *asked.second) : first;
 }
 
-/// @return true if a law without a jump would show what is asked somewhere between the two.
+/// @return true if a continuous law would display what is asked somewhere between the two.
 bool CParameterText::between(const SPoint &low, const SPoint &high, const SReading &asked) {
     const auto isUsable = [&](const SReading &shown) {
         return isComparable(shown, asked) && shown.second == asked.second && shown != asked;
@@ -178,7 +179,7 @@ bool CParameterText::between(const SPoint &low, const SPoint &high, const SReadi
            (*low.shown.number < *asked.number) != (*high.shown.number < *asked.number);
 }
 
-/// @return twice a point that shows what is asked, or the two nearest points around it.
+/// @return the same point twice if it is displayed as asked, otherwise the nearest two around it.
 std::pair<CParameterText::SPoint, CParameterText::SPoint>
 CParameterText::narrow(SPoint low, SPoint high, const SReading &asked) const {
     for (;;) {
@@ -197,7 +198,7 @@ CParameterText::narrow(SPoint low, SPoint high, const SReading &asked) const {
 }
 
 CParameterText::SSpan CParameterText::spanAround(const SPoint &point) const {
-    // From a value that shows the text towards one that does not: the last that does.
+    // Find the last value that is displayed like the text, towards one that is not.
     const auto edge = [&](float inside, float outside) {
         for (;;) {
             const float middle = inside + (outside - inside) / 2.0f;
@@ -217,7 +218,7 @@ CParameterText::SSpan CParameterText::spanAround(const SPoint &point) const {
 }
 
 float CParameterText::valueIn(const SSpan &span, const SPoint &within) const {
-    // The ends are what a switch is set to, the middle what a knob rests at.
+    // Switches are set to an end, and knobs rest in the middle.
     for (const float plain : {0.0f, 1.0f, 0.5f})
         if (plain >= span.first && plain <= span.last && pointAt(plain).shown == within.shown)
             return plain;

@@ -9,30 +9,30 @@
 
 namespace Tessitor::Tool {
 
-/// Finds the normalised value that an effect shows as a given text. The effect's law is known by
-/// its display alone: it may rise, fall, jump or repeat itself, and it is rounded for show.
+/// Finds the normalised value that an effect displays as a given text. Only the display is known of
+/// the parameter's law: it may rise, fall, jump or repeat itself, and the display is rounded.
 class CParameterText {
 public:
-    /// What the effect shows for a normalised value, without the unit.
+    /// Returns the effect's display of a normalised value, without the unit.
     using Display = std::function<std::string(float value)>;
 
-    /// @param unit  the unit's text, empty for none.
+    /// @param unit  empty for none.
     CParameterText(std::string unit, Display display);
 
     /// @param text  a plain number from 0 to 1 is the normalised value itself. Anything else is
-    ///              what the display shows, with the unit if there is one; spaces, capitals and
-    ///              closing zeros do not matter.
-    /// @return the value in the middle of those that show the text, or that one of 0, 1 and 0.5
-    ///         which shows it as well; if none does, one that shows the nearest number.
+    ///              compared with the display and the unit; spaces, case and trailing zeros do not
+    ///              matter.
+    /// @return 0, 1 or 0.5 if one of them is displayed as the text, otherwise the middle of the
+    ///         values that are. If no value is, one with the nearest number.
     /// @throws CCallError if the display shows neither the text nor numbers on both sides of it.
     float valueOf(std::string_view text) const;
 
 private:
-    /// A text taken apart: "3.0:1" is 3 and 1, "Linked" has no number.
+    /// A parsed text: "3.0:1" is 3 and 1, "Linked" has no number.
     struct SReading {
         std::optional<double> number;
         std::optional<double> second;
-        std::string rest;  // behind the numbers; small letters, no spaces
+        std::string rest;  // after the numbers; lower case, no spaces
         bool operator==(const SReading &) const = default;
     };
     struct SPoint {

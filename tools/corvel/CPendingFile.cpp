@@ -13,14 +13,14 @@ namespace Tessitor::Tool {
 
 namespace {
 
-// A link is followed: it is its target that is written, and the link stays.
+// Follows links: the target is replaced and the link stays.
 fs::path resolved(const fs::path &place) {
     std::error_code error;
     const fs::path real = fs::weakly_canonical(place, error);
     return error ? place : real;
 }
 
-// Exclusively, so that no file of that name is written over, not even one of another corvel.
+// Exclusively, so that no existing file is overwritten, not even that of another corvel process.
 fs::path makeFileBeside(const fs::path &place) {
     constexpr int attempts = 1000;
     for (int number = 0; number < attempts; ++number) {
@@ -42,14 +42,14 @@ fs::path makeFileBeside(const fs::path &place) {
 }  // namespace
 
 CPendingFile::CPendingFile(const fs::path &place) : m_place(resolved(place)) {
-    // A device or a pipe would be replaced by the renaming.
+    // Renaming would replace a device or a pipe.
     if (fs::exists(m_place) && !fs::is_regular_file(m_place))
         throw CJobError(place.string() + ": cannot be written (not a file)");
     m_path = makeFileBeside(m_place);
 }
 
 CPendingFile::~CPendingFile() {
-    std::error_code ignored;  // nothing can be done about it, and the name says what it is
+    std::error_code ignored;  // nothing can be done about it
     if (!m_committed)
         fs::remove(m_path, ignored);
 }

@@ -4,20 +4,20 @@
 
 namespace Tessitor::Tool {
 
-/// A file that comes into its place when it is complete: it is written beside it under another name
-/// and then renamed. Until then, and for ever if it is not committed, what stands there stays.
+/// A file that appears only when it is complete: it is written under another name in the same
+/// folder and then renamed. Until then an existing file stays as it was.
 class CPendingFile {
 public:
-    /// Makes the empty file to write.
-    /// @throws CJobError if there is no such folder, nothing can be written in it, or something
-    ///         other than a file stands in the place.
+    /// Creates the empty file to write to.
+    /// @throws CJobError if the folder does not exist or is not writable, or if `place` is
+    ///         something other than a file.
     explicit CPendingFile(const std::filesystem::path &place);
-    /// Removes what was written, unless it was committed.
+    /// Deletes the file unless it was committed.
     ~CPendingFile();
     CPendingFile(const CPendingFile &) = delete;
     CPendingFile &operator=(const CPendingFile &) = delete;
 
-    const std::filesystem::path &path() const { return m_path; }  ///< the file to write
+    const std::filesystem::path &path() const { return m_path; }  ///< the file to write to
     /// @throws CJobError if the file cannot be renamed.
     void commit();
 

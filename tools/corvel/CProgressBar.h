@@ -8,24 +8,24 @@
 
 namespace Tessitor::Tool {
 
-/// A line on standard error that shows how far the work is. [any thread]
+/// A progress bar in one line of standard error. [any thread]
 class CProgressBar {
 public:
-    /// @param shown  false to show nothing at all, as in a pipe.
+    /// @param shown  false to show nothing, as in a pipe.
     CProgressBar(std::size_t jobs, bool shown);
     ~CProgressBar();
 
-    /// @param done  of that job, from 0 to 1.
+    /// @param done  the share of that job, from 0 to 1.
     void report(std::size_t job, double done);
 
-    /// Takes the line away, until the next report, so that something can be printed.
+    /// Removes the line until the next report, so that something else can be printed.
     void hide();
 
 private:
     std::string line() const;
 
     std::mutex m_lock;
-    std::vector<double> m_done;  // of each job
+    std::vector<double> m_done;  // by job
     const bool m_shown;
     bool m_visible = false;
     std::chrono::steady_clock::time_point m_lastDrawn;

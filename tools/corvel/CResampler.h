@@ -8,16 +8,16 @@
 
 namespace Tessitor::Tool {
 
-/// Converts a stream of interleaved samples from one rate to another, through single precision.
+/// Converts a stream of interleaved samples from one rate to another, in single precision.
 class CResampler {
 public:
-    /// @param file  the one that errors are about.
-    /// @throws CJobError if the ratio is out of the converter's reach.
+    /// @param file  named in error messages.
+    /// @throws CJobError if the converter does not support the ratio.
     CResampler(std::string file, double fromRate, double toRate, int channels);
 
-    /// Takes samples and gives what is ready, which lags behind by the length of the filter:
-    /// silence pushes the end out.
-    /// @return the converter's own memory, valid until the next call.
+    /// Takes samples and returns those that are ready. They lag by the length of the filter, so
+    /// feed silence at the end.
+    /// @return memory of the converter, valid until the next call.
     std::span<const float> convert(std::span<const float> samples);
     std::span<const double> convert(std::span<const double> samples);
 

@@ -9,27 +9,27 @@
 
 namespace Tessitor::Tool {
 
-/// The user's modules of a channel strip in running order, by slot.
+/// The modules that the user has put into the channel strip, by slot, in running order.
 using Chain = std::vector<int>;
 
-/// @param labels  as the editor shows them, in any capitals, with commas between; empty or "none"
-///                for the empty chain.
-/// @throws CCallError if there is no such module or it stands there twice.
+/// @param labels  module labels as in the editor, in upper or lower case, separated by commas;
+///                empty or "none" for the empty chain.
+/// @throws CCallError if there is no such module, or it appears twice.
 Chain chainFromText(std::string_view labels);
 
 /// @return the label that the editor shows for a slot of 2 to 17.
 std::string_view moduleLabel(int slot);
 
-/// Between the fixed head and the end of a program's running order. A list that does not end is cut
-/// where it comes back to itself.
+/// The part of a program's running order after its fixed head. An endless list is cut where it
+/// repeats.
 Chain chainOf(const Corvel::SProgram &program);
 void setChain(Corvel::SProgram &program, const Chain &chain);
 
-/// @return true if the effect is the channel strip, which alone has a chain.
+/// @return true if the effect is the channel strip, the only one with a chain.
 bool hasChain(const CEffectInstance &effect);
 
-/// The chain of the present program, through its chunk.
-/// @throws CJobError if the chunk is not that of a channel strip.
+/// The chain of the current program, read from or written to its chunk.
+/// @throws CJobError if the chunk is not from a channel strip.
 Chain chainOf(CEffectInstance &effect);
 void setChain(CEffectInstance &effect, const Chain &chain);
 

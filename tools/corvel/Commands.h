@@ -9,11 +9,11 @@
 
 namespace Tessitor::Tool {
 
-// Each command prints its result on standard output and what went wrong on standard error, throws
-// CCallError or CJobError before it has begun, and returns the exit status.
+// Each command prints its result to standard output and errors to standard error, and returns the
+// exit status. Before it starts working it may throw CCallError or CJobError.
 
 struct SRenderCall {
-    std::optional<std::string> plugin;  // the effect's file, else the one beside the program
+    std::optional<std::string> plugin;  // the effect file; none for the one next to the program
     std::vector<std::string> files;     // the last one is the output
     SSettingsRequest settings;
     SRenderOptions options;

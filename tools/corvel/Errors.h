@@ -4,13 +4,13 @@
 
 namespace Tessitor::Tool {
 
-/// The call asks for what does not exist or contradicts itself: exit status 2.
+/// The command line names something that does not exist or contradicts itself: exit status 2.
 class CCallError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
 };
 
-/// The call was right and could not be carried out: exit status 1. The text begins with the file.
+/// A valid command could not be carried out: exit status 1. The text starts with the file name.
 class CJobError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;

@@ -24,7 +24,7 @@ std::intptr_t canDo(const void *ptr) {
     return what == "sendVstTimeInfo" || what == "startStopProcess" ? 1 : 0;
 }
 
-// Turned round in the published interface: 0 is yes, so that hosts which know nothing say yes.
+// Inverted in the published interface: 0 means connected, so a host without this opcode says yes.
 std::intptr_t pinConnected(const SHostState &state, std::int32_t pin, bool output) {
     const bool rightConnected = output ? state.rightOutputConnected : state.rightInputConnected;
     const bool connected = pin == 0 || (pin == 1 && rightConnected);

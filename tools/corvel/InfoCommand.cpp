@@ -34,7 +34,7 @@ constexpr std::array categoryNames = {
     "unknown",     "effect",          "synth",       "analysis",        "mastering", "spatializer",
     "room effect", "surround effect", "restoration", "offline process", "shell",     "generator"};
 
-// What hosts are known to ask.
+// The questions that hosts are known to ask
 constexpr const char *canDoWords[] = {"plugAsChannelInsert",
                                       "plugAsSend",
                                       "mixDryWet",
@@ -69,7 +69,8 @@ std::string hexadecimal(std::int32_t number) {
     return text.data();
 }
 
-// The published order of the letters is from the highest byte; some effects mean that in memory.
+// The published order of the letters starts at the highest byte. Some effects store them in memory
+// order instead.
 std::string lettersInMemory(std::int32_t id) {
     std::string letters;
     for (int byte = 0; byte < 4; ++byte) {
@@ -114,7 +115,7 @@ Json pinsOf(CEffectInstance &effect, AEffectOpcode opcode, std::int32_t count) {
 Json canDoAnswersOf(CEffectInstance &effect) {
     Json answers = Json::object();
     for (const char *word : canDoWords) {
-        std::string text = word;  // the published interface wants letters that may be changed
+        std::string text = word;  // the published argument is not const
         answers[word] = effect.dispatch(effCanDo, 0, 0, text.data());
     }
     return answers;

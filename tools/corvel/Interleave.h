@@ -4,7 +4,7 @@
 
 namespace Tessitor::Tool {
 
-/// From the order of files, frame by frame, to that of effects, channel by channel.
+/// Splits interleaved frames, as in files, into two channels, as for effects.
 template <typename Sample>
 void deinterleave(const Sample *stereo, std::size_t frames, Sample *left, Sample *right) {
     for (std::size_t i = 0; i < frames; ++i) {
@@ -13,7 +13,7 @@ void deinterleave(const Sample *stereo, std::size_t frames, Sample *left, Sample
     }
 }
 
-/// And back.
+/// Joins two channels into interleaved frames.
 template <typename Sample>
 void interleave(const Sample *left, const Sample *right, std::size_t frames, Sample *stereo) {
     for (std::size_t i = 0; i < frames; ++i) {

@@ -8,7 +8,7 @@ namespace Tessitor::Tool {
 namespace {
 
 std::atomic<bool> interrupted = false;
-static_assert(std::atomic<bool>::is_always_lock_free);  // or a signal may not write it
+static_assert(std::atomic<bool>::is_always_lock_free);  // a signal handler writes it
 
 extern "C" void handleInterrupt(int signal) {
     interrupted = true;

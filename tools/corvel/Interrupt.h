@@ -2,8 +2,8 @@
 
 namespace Tessitor::Tool {
 
-/// From here on the first request to end the program (Ctrl-C, a polite kill) is only noted, so that
-/// half written files can be removed; a second one ends it at once.
+/// From now on the first request to end the program (Ctrl-C or SIGTERM) is only recorded, so that
+/// unfinished files can be deleted. A second one ends the program at once.
 void noteInterrupts();
 
 /// [any thread]

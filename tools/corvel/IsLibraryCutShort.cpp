@@ -10,11 +10,11 @@ namespace Tessitor::Tool {
 
 namespace {
 
-// The published layout of a 64-bit ELF file, as far as it says what is loaded.
+// The parts of a 64-bit ELF file that say what is loaded
 struct SFileHeader {
     std::array<char, 32> identityAndType;
-    std::uint64_t segmentTable;  // places in the file
-    std::uint64_t sectionTable;  // the linker's view; the last thing in the file, 0 for none
+    std::uint64_t segmentTable;  // offset in the file
+    std::uint64_t sectionTable;  // offset; for the linker, at the end of the file; 0 for none
     std::array<char, 6> flags;
     std::uint16_t segmentSize;  // bytes of one entry
     std::uint16_t segmentCount;
@@ -27,7 +27,7 @@ static_assert(sizeof(SFileHeader) == 64 && offsetof(SFileHeader, segmentSize) ==
 struct SSegment {
     std::uint32_t type;
     std::uint32_t flags;
-    std::uint64_t place;  // in the file
+    std::uint64_t place;  // offset in the file
     std::uint64_t addresses[2];
     std::uint64_t bytes;  // in the file
 };

@@ -4,10 +4,10 @@
 
 namespace Tessitor::Tool {
 
-/// @return true if a Linux library is not all there. The loader does not look, and the program
-/// would
-///         end by a signal at the first byte that is missing. False for a whole library and for
-///         every other kind of file, which the loader refuses in words.
+/// The loader does not notice if the end of a library is missing, and a signal then kills the
+/// program at the first missing byte.
+/// @return true if a Linux library is cut short. False for a complete library, and for other kinds
+///         of file, which the loader refuses with an error message.
 bool isLibraryCutShort(const std::filesystem::path &file);
 
 }  // namespace Tessitor::Tool

@@ -7,9 +7,9 @@
 
 namespace Tessitor::Tool {
 
-/// From the file names of a call, the last of which is the output, to what is to be done. With an
-/// output folder, or several inputs, each output is named after its input.
-/// @throws CCallError if two inputs would become one file, or an input would be written over.
+/// @param files  inputs and, last, the output. If that is a folder, or if there are several inputs,
+///               each output file is named after its input.
+/// @throws CCallError if two inputs would give the same file, or an input would be overwritten.
 std::vector<SRenderJob> jobsFromFiles(const std::vector<std::string> &files,
                                       const SFormatRequest &format);
 

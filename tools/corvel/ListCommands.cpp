@@ -9,7 +9,7 @@ namespace {
 using Json = nlohmann::ordered_json;
 using Rows = std::vector<std::vector<std::string>>;
 
-// JSON numbers are doubles: through the text, 0.1f becomes 0.1 and not 0.10000000149011612.
+// JSON numbers are doubles. Converted through its text, 0.1f becomes 0.1, not 0.10000000149011612.
 double asWritten(float number) {
     return std::stod(shortest(number));
 }

@@ -14,12 +14,12 @@ namespace Tessitor::Tool {
 namespace {
 
 struct SContainer {
-    const char *name;      // of --format
-    const char *title;     // for people
-    int format;            // what to write
-    std::vector<int> kin;  // read and kept as it is
+    const char *name;      // in --format
+    const char *title;     // in messages
+    int format;            // to write
+    std::vector<int> kin;  // variants: read, and kept in the output
     std::vector<std::string_view> extensions;
-    std::vector<int> sampleTypes;  // from the one that loses the least
+    std::vector<int> sampleTypes;  // the one that loses the least first
 };
 
 const std::array<SContainer, 4> containers = {{
@@ -47,10 +47,10 @@ const std::array<SContainer, 4> containers = {{
 }};
 
 struct SSampleType {
-    const char *name;   // of --format
-    const char *title;  // for people
+    const char *name;   // in --format
+    const char *title;  // in messages
     int format;
-    int bits;  // of the integers, 0 if it holds floating-point samples
+    int bits;  // of the integers; 0 for floating-point samples
 };
 
 constexpr SSampleType sampleTypes[] = {
@@ -65,7 +65,7 @@ constexpr SSampleType sampleTypes[] = {
     {"opus", "Opus", SF_FORMAT_OPUS, 0},
 };
 
-// Companded and adaptive sample types are made from 16-bit integers.
+// Companded and adaptive sample types are encoded from 16-bit integers.
 constexpr SSampleType companded = {"", "compressed", 0, 16};
 
 int containerOf(int format) {
@@ -102,7 +102,7 @@ std::string inSmallLetters(std::string text) {
     return text;
 }
 
-// @return null if the extension is not that of a container.
+// @return null if the extension belongs to no container.
 const SContainer *containerOfExtension(const std::filesystem::path &file) {
     const std::string extension = inSmallLetters(file.extension().string());
     for (const SContainer &container : containers)
@@ -111,7 +111,7 @@ const SContainer *containerOfExtension(const std::filesystem::path &file) {
     return nullptr;
 }
 
-// Integers stay integers where the container has any, since those are what a player expects.
+// Integers stay integers if the container supports them, since players expect them.
 int nearestSampleType(const SContainer &container, int inputFormat) {
     const int sampleType = sampleTypeOf(inputFormat);
     if (contains(container.sampleTypes, sampleType))
@@ -166,7 +166,7 @@ bool isExtensionOf(int container, const std::filesystem::path &file) {
 
 int formatForLength(int format, std::int64_t frames, int channels,
                     const std::filesystem::path &out) {
-    // Rounded up to whole bytes; leaves room for the header.
+    // Rounded up to whole bytes, with room for the header.
     const int bits = integerBits(format);
     const int bytes = bits != 0 ? bits / 8 : sampleTypeOf(format) == SF_FORMAT_DOUBLE ? 8 : 4;
     constexpr std::int64_t limit = std::numeric_limits<std::uint32_t>::max() - 4096;

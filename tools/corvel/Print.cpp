@@ -9,7 +9,7 @@ void print(const std::string &text) {
 }
 
 void printJson(const nlohmann::ordered_json &json) {
-    // File names may be of any encoding.
+    // File names may be in any encoding.
     print(json.dump(4, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n");
 }
 

@@ -5,11 +5,11 @@
 
 namespace Tessitor::Tool {
 
-/// On standard output.
+/// Prints to standard output.
 void print(const std::string &text);
 void printJson(const nlohmann::ordered_json &json);
 
-/// One line on standard error, with the program's name before it.
+/// Prints one line to standard error, after the program's name.
 void printRemark(const std::string &line);
 
 }  // namespace Tessitor::Tool

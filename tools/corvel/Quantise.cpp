@@ -16,10 +16,10 @@ std::uint64_t quantiseAll(const Sample *samples, std::size_t count, int bits,
     for (std::size_t i = 0; i < count; ++i) {
         const double exact = samples[i] * scale;
         const bool above = exact >= highest + 0.5;
-        const bool below = !(exact > lowest - 0.5);  // a NaN as well
+        const bool below = !(exact > lowest - 0.5);  // true for a NaN
         clipped += above || below ? 1 : 0;
         const double kept = above ? highest : below ? lowest : exact;
-        // Half a step away from zero, then cut: that is done in vectors, where lrint is a call.
+        // Adds half a step and truncates: the compiler vectorises that, but not lrint().
         const auto rounded = static_cast<std::int32_t>(kept + (kept < 0.0 ? -0.5 : 0.5));
         integers[i] = static_cast<std::int32_t>(static_cast<std::uint32_t>(rounded) << shift);
     }

@@ -10,18 +10,18 @@
 
 namespace Tessitor::Tool {
 
-/// The only rate that the strip's constants are right for, Hz.
+/// The sample rate that the strip is tuned for, Hz.
 inline constexpr int stripRate = 44100;
 
-/// How every file of a call is rendered.
+/// Settings for all files of a command.
 struct SRenderOptions {
     SFormatRequest format;
     double tempo = 120.0;           // beats per minute
-    double tailSeconds = 0.0;       // of silence behind the input
+    double tailSeconds = 0.0;       // of silence after the input
     std::int32_t blockSize = 1024;  // frames
     bool doublePrecision = false;
     bool resample = false;  // to stripRate and back
-    bool mono = false;      // the strip's own sum, of mono files only
+    bool mono = false;      // the strip's mono sum; for mono files only
 };
 
 std::int64_t tailFrames(const SRenderOptions &options, int sampleRate);
@@ -32,9 +32,9 @@ struct SRenderJob {
 };
 
 struct SRenderResult {
-    int sampleRate = 0;  // Hz, of both files
+    int sampleRate = 0;  // Hz, the same for both files
     int channelsIn = 0, channelsOut = 0;
-    int formatIn = 0, formatOut = 0;  // as libsndfile numbers them
+    int formatIn = 0, formatOut = 0;  // of libsndfile
     std::int64_t framesIn = 0, framesOut = 0;
     CLevels levelsIn, levelsOut;
     std::uint64_t clippedSamples = 0;
@@ -44,16 +44,16 @@ struct SRenderResult {
     double timesRealTime() const { return renderSeconds > 0.0 ? seconds() / renderSeconds : 0.0; }
 };
 
-/// Hears of the progress, from 0 to 1.
+/// Receives the progress, from 0 to 1.
 using RenderListener = std::function<void(double done)>;
 
-/// @throws CJobError if the effect is not stereo, or lacks the process call that is wanted.
+/// @throws CJobError if the effect is not stereo, or lacks the process call that is needed.
 void requireRenderable(const CEffectInstance &effect, const SRenderOptions &options);
 
-/// Renders one file through an instance of its own, so that no file hears what came before it.
-/// @param library  of an effect that is renderable.
-/// @throws CJobError if it cannot be done; the output file is then as it was before.
-/// [any thread] Several at the same time are fine.
+/// Renders one file with a new instance, so that earlier files leave no trace.
+/// @param library  must pass requireRenderable().
+/// @throws CJobError if it fails. The output file is then unchanged.
+/// [any thread] May run several times in parallel.
 SRenderResult render(const SRenderJob &job, const CEffectLibrary &library,
                      const CEffectSettings &settings, const SRenderOptions &options,
                      const RenderListener &listener);

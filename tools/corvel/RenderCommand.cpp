@@ -15,7 +15,7 @@ namespace Tessitor::Tool {
 
 namespace {
 
-/// Prints the outcomes in the order of the jobs, each as soon as all before it are there.
+/// Prints the outcomes in the order of the jobs, each as soon as all earlier ones are printed.
 class COutcomePrinter {
 public:
     COutcomePrinter(std::size_t jobs, const SRenderCall &call, const CEffectSettings &settings,

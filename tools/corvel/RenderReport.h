@@ -9,20 +9,20 @@
 
 namespace Tessitor::Tool {
 
-/// How one job ended: with a result, or with an error and no result.
+/// The outcome of one job: a result or an error.
 struct SRenderOutcome {
     SRenderJob job;
     SRenderResult result;
     std::string error;  // empty if there is a result
 };
 
-/// Some lines for people about a job that has a result.
+/// @return some lines of text about a successful job.
 std::string describe(const SRenderOutcome &outcome, const CEffectSettings &settings);
 
-/// What the user has to be told beside the result, one line each.
+/// @return warnings for the user, one line each.
 std::vector<std::string> remarks(const SRenderOutcome &outcome, const SRenderOptions &options);
 
-/// A whole call for programs. Levels are in dBFS, and null for silence.
+/// @return all outcomes of a command. Levels are in dBFS, and null for silence.
 nlohmann::ordered_json toJson(const std::vector<SRenderOutcome> &outcomes,
                               const CEffectSettings &settings, const CEffectLibrary &library);
 

@@ -16,13 +16,16 @@
 
 namespace Tessitor::Tool {
 
-/// The road of the sound: file, rate of the strip, effect, rate of the file, file. Each station
-/// hands on what it has. The effect and the two rate converters may hold some back, which the
-/// silence behind the end pushes out.
+/// The signal path of a render:
+///
+///     reader -> [resampler to stripRate] -> effect -> [resampler to the file's rate] -> writer
+///
+/// Each stage passes on the samples that it has ready. The effect and the resamplers may hold some
+/// back; silence after the end of the input flushes them.
 template <typename Sample>
 class TRenderLoop {
 public:
-    /// @param effect  started, at the rate of the strip if the options want resampling.
+    /// @param effect  already started, at stripRate if the options ask for resampling.
     TRenderLoop(const SRenderJob &job, const SRenderOptions &options, CAudioReader &reader,
                 CEffectInstance &effect, CAudioWriter &writer);
 
@@ -32,7 +35,7 @@ public:
 private:
     using Samples = std::span<const Sample>;  // interleaved
 
-    // Long enough to be worth a system call, short enough to stay in the cache on the whole road.
+    // Long enough to be worth a system call, short enough to stay in the cache on the whole path.
     static constexpr std::size_t chunkFrames = 16384;
 
     void feed(Samples samples);
@@ -50,13 +53,13 @@ private:
     const std::int64_t m_tailFrames;
     std::optional<CResampler> m_toStrip, m_fromStrip;
 
-    std::vector<Sample> m_chunk;      // what is read at a time
-    std::vector<Sample> m_processed;  // what the effect made of a chunk
+    std::vector<Sample> m_chunk;      // read at a time
+    std::vector<Sample> m_processed;  // the effect's output for a chunk
     std::vector<Sample> m_inLeft, m_inRight, m_outLeft, m_outRight;  // one block
 
-    std::size_t m_latencyLeft;  // frames of the effect's output that precede the sound
+    std::size_t m_latencyLeft;  // frames of the effect's output still to be dropped
     std::int64_t m_framesDelivered = 0;
-    std::int64_t m_framesWanted = std::numeric_limits<std::int64_t>::max();  // until the end is met
+    std::int64_t m_framesWanted = std::numeric_limits<std::int64_t>::max();  // until input ends
     CLevels m_levelsOut;
 };
 
@@ -70,7 +73,7 @@ TRenderLoop<Sample>::TRenderLoop(const SRenderJob &job, const SRenderOptions &op
       m_channelsIn(static_cast<std::size_t>(reader.channels())),
       m_channelsOut(static_cast<std::size_t>(writer.channels())),
       m_blockFrames(static_cast<std::size_t>(options.blockSize)),
-      // Whole blocks, so that only the last one of a file is shorter.
+      // Whole blocks, so that only the last block of a file is shorter.
       m_chunkFrames(m_blockFrames * std::max<std::size_t>(1, chunkFrames / m_blockFrames)),
       m_tailFrames(tailFrames(options, reader.sampleRate())), m_chunk(m_chunkFrames * m_channelsIn),
       m_inLeft(m_blockFrames), m_inRight(m_blockFrames), m_outLeft(m_blockFrames),
@@ -130,8 +133,7 @@ void TRenderLoop<Sample>::process(Samples samples) {
 template <typename Sample>
 void TRenderLoop<Sample>::processBlock(Samples samples, Sample *out) {
     const std::size_t frames = samples.size() / m_channelsIn;
-    // An input that is not connected is silent, one channel of the output that is not has no
-    // buffer.
+    // An unconnected input is silent, and an unconnected output has no buffer.
     if (m_channelsIn == 2)
         deinterleave(samples.data(), frames, m_inLeft.data(), m_inRight.data());
     else

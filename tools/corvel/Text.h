@@ -6,13 +6,13 @@
 
 namespace Tessitor::Tool {
 
-/// @return the text without spaces at its ends.
+/// @return the text without leading and trailing spaces.
 std::string_view trimmed(std::string_view text);
 
-/// @return what stands between the separators: one more part than there are separators.
+/// @return the parts between the separators, one more than there are separators.
 std::vector<std::string_view> split(std::string_view text, char separator);
 
-/// @return the number with as many digits behind the point; "-inf" and the like for what is none.
+/// @return the number with that many decimal places; "-inf" and the like if it is not finite.
 std::string decimal(double number, int places);
 
 /// @return the shortest text that reads back as the same number.
@@ -20,7 +20,7 @@ std::string shortest(float number);
 
 bool equalInAnyCapitals(std::string_view a, std::string_view b);
 
-/// @return the cells in columns, each as wide as its widest cell, one line to a row.
+/// @return a table with one line per row, each column as wide as its widest cell.
 std::string inColumns(const std::vector<std::vector<std::string>> &rows);
 
 }  // namespace Tessitor::Tool

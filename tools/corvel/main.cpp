@@ -61,13 +61,13 @@ Examples
   corvel render phone.wav out.wav --resample --json
 )";
 
-/// Wires the options of one command to its call.
+/// Connects the options of one command to its call.
 struct SCommand {
     CLI::App *app;
     std::function<int()> run;
 };
 
-// CLI::Range lets what is no number pass.
+// CLI::Range accepts a NaN.
 CLI::Validator between(double low, double high) {
     return {[=](std::string &text) -> std::string {
                 double number = 0.0;

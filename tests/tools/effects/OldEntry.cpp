@@ -1,6 +1,6 @@
 #include "tools/effects/TestEffect.h"
 
-// The language reserves the name for programs; this is a library.
+// The language reserves the name main for programs, but this is a library.
 extern "C" [[gnu::visibility("default")]] AEffect *
 oldEntry(audioMasterCallback host) __asm__("main");
 

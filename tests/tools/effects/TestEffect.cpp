@@ -17,7 +17,7 @@ namespace {
 
 using Tessitor::Corvel::SProgram;
 
-// What a variant of this file is made of; each is one library.
+// The settings of a variant. Each variant is a library of its own.
 #ifndef TEST_EFFECT_CHANNELS
 #define TEST_EFFECT_CHANNELS 2
 #endif
@@ -217,7 +217,7 @@ private:
     }
 
     void resume() {
-        // 0 is yes.
+        // 0 means connected.
         m_mono = m_host(&m_record, audioMasterPinConnected, 1, 0, nullptr, 0.0f) != 0;
         m_held.fill(std::vector<double>(latency, 0.0));
         m_tempo = -1.0;
@@ -271,7 +271,7 @@ private:
     std::size_t m_program = 0;
     bool m_mono = false;
     double m_tempo = -1.0;
-    std::array<std::vector<double>, 2> m_held;  // the last frames, as many as the latency
+    std::array<std::vector<double>, 2> m_held;  // the latest frames, as many as the latency
 };
 
 }  // namespace

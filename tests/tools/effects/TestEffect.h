@@ -2,8 +2,7 @@
 
 #include "hostlayer/VstInterface.h"
 
-/// An effect for the tests of the command-line host. It answers as the channel strip does as far as
-/// the host can tell, and appends what it is asked to the file that CORVEL_TEST_LOG names, each
-/// line with the number of the instance before it. Macros at its head make variants that lack
-/// something.
+/// An effect for tests of the command-line host. To the host it looks like the channel strip. It
+/// appends every call to the file named by CORVEL_TEST_LOG, one per line, after the number of the
+/// instance. Macros select variants that lack something.
 AEffect *enterTestEffect(audioMasterCallback host);

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-/// A folder for one test, gone with it.
+/// A folder for one test, deleted when the test ends.
 class CTemporaryFolder {
 public:
     CTemporaryFolder();
@@ -15,7 +15,7 @@ public:
     std::filesystem::path path() const { return m_path; }
     std::filesystem::path operator/(const std::string &name) const { return m_path / name; }
 
-    /// @return the names of all in the folder, hidden ones too, in the order of the alphabet.
+    /// @return the names of all entries, also hidden ones, in alphabetical order.
     std::vector<std::string> names() const;
 
 private:
@@ -25,6 +25,6 @@ private:
 std::string readFile(const std::filesystem::path &file);
 void writeFile(const std::filesystem::path &file, const std::string &bytes);
 
-/// The first bytes of a file as a file of their own.
+/// Copies the first bytes of a file to a new file.
 void copyHead(const std::filesystem::path &from, const std::filesystem::path &to,
               std::size_t bytes);

@@ -4,15 +4,15 @@
 #include <string>
 #include <vector>
 
-/// How a run of the command-line host ended.
+/// The outcome of a run of the command-line host.
 struct SProgramRun {
     int status;
     std::string out;     // standard output
     std::string errors;  // standard error
 };
 
-/// @param arguments    of corvel, without its name.
-/// @param environment  shell words to stand before it, as "NAME=value" or "ulimit -f 10;".
+/// @param arguments    of corvel, without the program's name.
+/// @param environment  shell text before the command, such as "NAME=value" or "ulimit -f 10;".
 SProgramRun corvel(const std::vector<std::string> &arguments, const std::string &environment = "");
 
 /// The same for another copy of the program.
@@ -20,5 +20,5 @@ SProgramRun runProgram(const std::filesystem::path &program,
                        const std::vector<std::string> &arguments,
                        const std::string &environment = "");
 
-/// One of the effects that the tests are built with.
+/// @return the path of one of the test effects.
 std::string testEffect(const std::string &name);
