@@ -1,69 +1,76 @@
 #pragma once
 
+#include "dspclasses/blocks/CDelayBuffer.h"
 #include "values/TRelaxed.h"
 
-#include <atomic>
 #include <cstdint>
 
-/// Ring buffer of samples, a power of two long. A read goes back by its offset from the sample that
-/// was written last: offset 0 is that sample itself. An offset beyond the line comes back as the
-/// remainder, so that a read never leaves the buffer.
+struct SDelayRing;
+
+/// Delay line: a ring of samples, a power of two long, read at any distance from its newest sample.
+///
+///     write --> [ newest | 1 | 2 | 3 | ... | capacity - 1 ]
+///                              |   |
+///                              read(2.25) = 0.75 of sample 2 + 0.25 of sample 3
+///
+/// Offset 0 is the newest sample. An offset beyond the capacity goes round the ring, so that a read
+/// never leaves the memory.
 ///
 /// The samples and the write position belong to the audio thread. resize and setConstantOffset may
-/// run on any threads beside it: a new offset lands between two reads, and a block that runs while
-/// the line grows may end in the old buffer, which is why that one is kept.
+/// run on any thread at the same time: a new offset takes effect between two reads, and a block
+/// that runs while the line grows may end in the memory that it began in, see CDelayBuffer.
 class DelayLine {
 public:
     explicit DelayLine(std::uint32_t size);
-    ~DelayLine();
 
-    /// Grows the line to the next power of two, silent and from its beginning. A line never
-    /// shrinks: a size that it has already changes nothing. Allocates. [any thread]
+    /// Grows the line to the next power of two; it then is silent. A line never shrinks: a smaller
+    /// size changes nothing. Allocates. [any thread]
     /// @param size  samples; 0 counts as 2.
     void resize(std::uint32_t size);
-    std::uint32_t getCapacity() const;
+    std::uint32_t getCapacity() const;  ///< samples
 
     /// Stores the next sample, a denormal as 0.
     void write(float sample);
 
-    /// @param offset  samples; its fraction goes linearly towards the older neighbour. Asserts that
-    ///                it is not negative and is a number.
+    /// @param offset  samples; its fraction interpolates linearly towards the older neighbour.
+    ///                Asserts that it is neither negative nor a NaN.
     float read(float offset) const;
 
-    /// The last samples as they stand, the oldest of them first.
+    /// Copies the newest samples, the oldest of them first.
     void copyNewest(float *samples, int count) const;
 
-    /// Stores the offset of readConstant, without its fraction, and grows the line to hold it.
-    /// @param offset  samples; asserts that it is not negative and is a number. [any thread]
+    /// Stores the whole part of the offset for readConstant and grows the line to hold it.
+    /// @param offset  samples; asserts that it is neither negative nor a NaN. [any thread]
     void setConstantOffset(float offset);
     float readConstant() const;
 
     /// Silences the whole line. The write position stays.
     void clear();
 
-    // The same for a run of frames at once. A frame is a read and then a write; a run reads for all
-    // its frames and then writes for all, so no read may hang on a write of the same run.
+    // Runs of frames. Frame by frame, a read comes before the write of the same frame. A run does
+    // all its reads first and then all its writes, so no frame of it may read what the run writes:
+    // getLongestRun and canReadRun tell how long a run may be. See docs/kernels.md.
 
     void write(const float *samples, int count);
 
-    /// @return the longest run at one offset, at least 1.
+    /// @return frames that a run at this offset may have, at least 1.
     int getLongestRun(float offset) const;
     void read(float offset, float *samples, int count) const;
     int getLongestConstantRun() const;
     void readConstant(float *samples, int count) const;
 
-    /// @return whether a run may read each frame at its own offset; if not, or if an offset is not
-    ///         a number, the frames go one by one.
+    /// @param offsets  samples, one per frame.
+    /// @return whether a run of `count` frames may read at these offsets. False for a NaN too; the
+    ///         frames then go one by one.
     bool canReadRun(const float *offsets, int count) const;
     void readRun(const float *offsets, float *samples, int count) const;
 
 private:
-    struct SBuffer;
-    struct SRing;
-    SRing ring() const;
+    SDelayRing ring() const;
 
-    std::atomic<SBuffer *> buffer;           // the newest; each holds the one before it
-    TRelaxed<std::uint32_t> writeIndex = 0;  // of the newest sample
+    CDelayBuffer buffer;
+    TRelaxed<std::uint32_t> writeIndex = 0;  // place of the newest sample
     TRelaxed<std::uint32_t> constantOffset = 0;
+    // Kept: always 0. The interpolation remains, since 0 times an infinite neighbour gives a NaN.
     float constantFraction = 0.0f;
 };

@@ -11,10 +11,6 @@
 
 namespace {
 
-std::uint32_t capacityOf(std::uint32_t size) {
-    return DelayLine(size).getCapacity();
-}
-
 /// Writes 1, 2, 3 and so on.
 template <typename Line>
 void count(Line &line, int to) {
@@ -31,24 +27,6 @@ std::vector<float> randomSamples(CRandom &random, int frames) {
 }
 
 }  // namespace
-
-TEST(DelayLine, RoundsItsSizeUpToAPowerOfTwo) {
-    EXPECT_EQ(capacityOf(0), 2u);
-    EXPECT_EQ(capacityOf(1), 1u);
-    EXPECT_EQ(capacityOf(2), 2u);
-    EXPECT_EQ(capacityOf(3), 4u);
-    EXPECT_EQ(capacityOf(1000), 1024u);
-    EXPECT_EQ(capacityOf(1024), 1024u);
-    EXPECT_EQ(capacityOf(1025), 2048u);
-    EXPECT_EQ(capacityOf(52882), 65536u);
-    EXPECT_EQ(capacityOf(132300), 262144u);
-}
-
-TEST(DelayLine, LeavesItsSizeWhenThePowerOfTwoIsBeyondTheRange) {
-    DelayLine line(4);
-    line.resize(0xC0000000u);
-    EXPECT_EQ(line.getCapacity(), 4u);
-}
 
 TEST(DelayLine, KeepsItsContentsWhenAskedForLessThanItHas) {
     DelayLine line(1024);
@@ -248,26 +226,6 @@ TEST(DelayLine, InterpolatesWithWhatIsNotFiniteAsEverywhere) {
     for (const float sample : run) {
         EXPECT_TRUE(sameBits(sample, plain.readConstant())) << sample;
         plain.write(0.0f);
-    }
-}
-
-TEST(DelayLine, MayGrowFromTwoThreadsAtOnce) {
-    for (int round = 0; round < 200; ++round) {
-        DelayLine line(2);
-        std::atomic<int> ready = 0;
-        const auto grow = [&](std::uint32_t first) {
-            ++ready;
-            while (ready < 2)
-                std::this_thread::yield();
-            for (std::uint32_t size = first; size <= 4096; size *= 4)
-                line.resize(size);
-        };
-        std::thread other([&] { grow(8); });
-        grow(4);
-        other.join();
-        ASSERT_EQ(line.getCapacity(), 4096u);
-        count(line, 5000);
-        ASSERT_EQ(line.read(4095.0f), 905.0f);
     }
 }
 
