@@ -18,25 +18,17 @@ inline float readSwept(const SDelayRing &ring, std::uint32_t frame, float offset
 
 /// The same for four frames from `frame` on. Each load takes a sample and its older neighbour.
 inline SFloats4 readFourSwept(const SDelayRing &ring, std::uint32_t frame, const float *offsets) {
-    const __m128 offset = _mm_loadu_ps(offsets);
-    const __m128i distance = _mm_cvttps_epi32(offset);
-    const __m128 fraction = _mm_sub_ps(offset, _mm_cvtepi32_ps(distance));
-    const __m128i frames = _mm_add_epi32(_mm_set1_epi32(static_cast<int>(ring.newest + frame)),
-                                         _mm_setr_epi32(0, 1, 2, 3));
-    alignas(16) std::uint32_t places[4];
-    _mm_store_si128(reinterpret_cast<__m128i *>(places),
-                    _mm_and_si128(_mm_sub_epi32(frames, distance),
-                                  _mm_set1_epi32(static_cast<int>(ring.mask))));
-    const auto neighbours = [&ring, &places](int first) {
-        const auto at = [&ring, &places](int k) {
-            return reinterpret_cast<const __m64 *>(ring.samples + places[k] - 1);
-        };
-        return _mm_loadh_pi(_mm_loadl_pi(_mm_setzero_ps(), at(first)), at(first + 1));
-    };
-    const __m128 early = neighbours(0), late = neighbours(2);
-    const SFloats4 older{_mm_shuffle_ps(early, late, _MM_SHUFFLE(2, 0, 2, 0))};
-    const SFloats4 newer{_mm_shuffle_ps(early, late, _MM_SHUFFLE(3, 1, 3, 1))};
-    return (older - newer) * SFloats4{fraction} + newer;
+    const SFloats4 offset = loadFour(offsets);
+    const SCounts4 distance = wholeParts(offset);
+    const SCounts4 newest{ring.newest + frame + SCounts4::Values{0, 1, 2, 3}};
+    std::uint32_t places[4];
+    storeFour(places, SCounts4{(newest.values - distance.values) & ring.mask});
+    const float *neighbours = ring.samples - 1;
+    const SFloats4 early = loadPairs(neighbours + places[0], neighbours + places[1]);
+    const SFloats4 late = loadPairs(neighbours + places[2], neighbours + places[3]);
+    const SFloats4 older = firstOfPairs(early, late), newer = secondOfPairs(early, late);
+    const SFloats4 fraction = offset - toFloats(distance);
+    return (older - newer) * fraction + newer;
 }
 
 /// @return whether `count` frames may read at these offsets before the run writes. False if an

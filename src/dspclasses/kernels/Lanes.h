@@ -156,3 +156,31 @@ template <typename Value>
 inline SFloats4 flushDenormal(SFloats4 a) {
     return {magnitude(a).values < std::numeric_limits<float>::min() ? splat(0.0f) : a.values};
 }
+
+/// Four whole numbers, which wrap as unsigned ones do.
+using SCounts4 = TFour<std::uint32_t>;
+
+/// @param a  from 0 to below 2^31.
+/// @return each lane without its fraction.
+inline SCounts4 wholeParts(SFloats4 a) {
+    const auto whole = __builtin_convertvector(a.values, TFour<std::int32_t>::Values);
+    return {reinterpret_cast<SCounts4::Values>(whole)};
+}
+/// @param a  from 0 to below 2^31.
+inline SFloats4 toFloats(SCounts4 a) {
+    const auto whole = reinterpret_cast<TFour<std::int32_t>::Values>(a.values);
+    return {__builtin_convertvector(whole, SFloats4::Values)};
+}
+
+/// Two neighbours from each of two places: {first[0], first[1], second[0], second[1]}.
+inline SFloats4 loadPairs(const float *first, const float *second) {
+    const auto pair = [](const float *place) { return reinterpret_cast<const __m64 *>(place); };
+    return {_mm_loadh_pi(_mm_loadl_pi(_mm_setzero_ps(), pair(first)), pair(second))};
+}
+/// The first of each pair, and the second of each, where a and b hold two pairs each.
+inline SFloats4 firstOfPairs(SFloats4 a, SFloats4 b) {
+    return {_mm_shuffle_ps(a.values, b.values, _MM_SHUFFLE(2, 0, 2, 0))};
+}
+inline SFloats4 secondOfPairs(SFloats4 a, SFloats4 b) {
+    return {_mm_shuffle_ps(a.values, b.values, _MM_SHUFFLE(3, 1, 3, 1))};
+}
