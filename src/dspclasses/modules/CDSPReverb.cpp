@@ -1,25 +1,21 @@
 #include "dspclasses/modules/CDSPReverb.h"
 
 #include "dspclasses/blocks/WholeCount.h"
-#include "dspclasses/kernels/Denormals.h"
 #include "dspclasses/kernels/Lanes.h"
-#include "dspclasses/kernels/SingleMath.h"
 #include "dspclasses/kernels/WideLoop.h"
-#include "dspclasses/modules/ReverbGeometry.h"
-#include "values/Truncation.h"
+#include "dspclasses/modules/ReverbDecay.h"
+#include "dspclasses/modules/ReverbFilters.h"
+#include "dspclasses/modules/ReverbGroup.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstdint>
 
-/// A room of 400 m at 340 m/s, and a margin.
-static std::uint32_t tailCapacity(float sampleRate) {
-    return static_cast<std::uint32_t>(1000 - truncated(sampleRate * -400.0f / 340.0f));
-}
+static constexpr int lines = reverbLines;
 
 CDSPReverb::CDSPReverb()
-    : tailDelays{DelayLine(tailCapacity(sampleRate)), DelayLine(tailCapacity(sampleRate)),
-                 DelayLine(tailCapacity(sampleRate)), DelayLine(tailCapacity(sampleRate))} {
+    : tailDelays{
+          DelayLine(reverbLineCapacity(sampleRate)), DelayLine(reverbLineCapacity(sampleRate)),
+          DelayLine(reverbLineCapacity(sampleRate)), DelayLine(reverbLineCapacity(sampleRate))} {
     setInputDamping(0.75f);
     setWallDamping(0.4f);
     setReverbTime(2.0f);
@@ -99,7 +95,7 @@ void CDSPReverb::setRoomSize(float metres) {
     for (int k = 0; k < lines; ++k) {
         tailLengths[k] = room.tailLengths[k];
         tapOffsets[k] = room.tapOffsets[k];
-        tapGains[k] = decayOver(tapOffsets[k]);
+        tapGains[k] = decayAfter(tapOffsets[k], decay);
     }
     applyDecayToTails();
 }
@@ -108,18 +104,15 @@ void CDSPReverb::setReverbTime(float seconds) {
     if (seconds == reverbTime)
         return;
     reverbTime = seconds;
-    decayBase = std::pow(0.001, 1.0 / double{seconds * sampleRate});
-    applyDecayToTails();  // kept: the taps go on with the decay of the last change of room
+    decay = decayPerSample(seconds, sampleRate);
+    // Kept: the gains of the taps change with the room only, and then take the decay of that
+    // moment.
+    applyDecayToTails();
 }
 
 void CDSPReverb::applyDecayToTails() {
     for (int k = 0; k < lines; ++k)
-        tailGains[k] = -decayOver(tailLengths[k]);
-}
-
-/// @return the gain after so many samples.
-float CDSPReverb::decayOver(float samples) const {
-    return powSingle(static_cast<float>(decayBase), samples);
+        tailGains[k] = -decayAfter(tailLengths[k], decay);
 }
 
 void CDSPReverb::setSpread(float value) {
@@ -151,129 +144,76 @@ void CDSPReverb::clear() {
     }
 }
 
-/// The signals of a group of frames between the stages.
-struct CDSPReverb::SGroup {
-    float left[groupFrames];  // filtered, then diffused; at the end the wet signal
-    float right[groupFrames];
-    float early[lines][groupFrames];
-    float tail[lines][groupFrames];
-};
-
 int CDSPReverb::framesAhead() const {
-    int frames = groupFrames;
+    int frames = SReverbGroup::longest;
     for (int k = 0; k < lines; ++k)
         frames = std::min(frames, tailDelays[k].getLongestRun(tailLengths[k]));
     return frames;
 }
 
-/// The two recursions from frame to frame, side by side: the input filter, which takes the left
-/// sample and then the right one, and the dampers of the four lines in four lanes.
-void CDSPReverb::filterInputAndWalls(const float *left, const float *right, SGroup &group,
-                                     int frames) {
+void CDSPReverb::readLines(SReverbGroup &group, int frames) const {
     for (int k = 0; k < lines; ++k)
         tailDelays[k].read(tailLengths[k], group.tail[k], frames);
-    const float inputGain = inputFilter.getGain(), inputPole = inputFilter.getPole();
-    float input = inputFilter.getState();
-    const auto tickInput = [&](float sample) {
-        input = inputGain * sample + inputPole * input;
-        // A branch and not a choice of values: the next tick need not wait for it.
-        if (isDenormalOrZero(input))
-            input = 0.0f;
-        return input;
-    };
-    const auto four = [](auto of) { return SFloats4{_mm_setr_ps(of(0), of(1), of(2), of(3))}; };
-    const SFloats4 gains = four([&](int k) { return tailGains[k].load(); });
-    const SFloats4 wallGains = four([&](int k) { return tailDampers[k].getGain(); });
-    const SFloats4 wallPoles = four([&](int k) { return tailDampers[k].getPole(); });
-    SFloats4 walls = four([&](int k) { return tailDampers[k].getState(); });
+}
+
+/// The two recursions from frame to frame. They share a loop, since the processor can work on one
+/// while the other waits for its last result.
+void CDSPReverb::filterInputAndWalls(const float *left, const float *right, SReverbGroup &group,
+                                     int frames) {
+    CInputTicker input(inputFilter);
+    CWallTicker walls(tailGains, tailDampers);
     for (int i = 0; i < frames; ++i) {
-        group.left[i] = tickInput(left[i]);
-        group.right[i] = tickInput(right[i]);
-        const SFloats4 returning = four([&](int k) { return group.tail[k][i]; }) * gains;
-        walls = flushDenormal(wallGains * returning + wallPoles * walls);
+        group.left[i] = input.tick(left[i]);
+        group.right[i] = input.tick(right[i]);
         float damped[lines];
-        storeFour(damped, walls);
+        storeFour(damped, walls.tick(perLine([&](int k) { return group.tail[k][i]; })));
         for (int k = 0; k < lines; ++k)
             group.tail[k][i] = damped[k];
     }
-    inputFilter.setState(input);
-    float states[lines];
-    storeFour(states, walls);
-    for (int k = 0; k < lines; ++k)
-        tailDampers[k].setState(states[k]);
+    input.storeState(inputFilter);
+    walls.storeState(tailDampers);
 }
 
-static void addHalves(const float *left, const float *right, float *sums, int frames) {
-    runWide([=] {
-        for (int i = 0; i < frames; ++i)
-            sums[i] = flushDenormal((left[i] + right[i]) * 0.5f);
-    });
-}
-
-static void readTap(const float *newer, const float *older, float fraction, float gain,
-                    float *samples, int frames) {
-    runWide([=] {
-        for (int i = 0; i < frames; ++i)
-            samples[i] = ((older[i] - newer[i]) * fraction + newer[i]) * gain;
-    });
-}
-
-/// Diffuses both channels, adds them, and reads the taps of the early line, which holds no more
-/// than the last four sums.
-void CDSPReverb::feedEarlyLine(SGroup &group, int frames) {
-    constexpr int held = 4;
+void CDSPReverb::diffuseInput(SReverbGroup &group, int frames) {
     diffuserLeft[0].run(group.left, frames);
     diffuserRight[0].run(group.right, frames);
-    float sums[held + groupFrames];
-    earlyLine.copyNewest(sums, held);
-    addHalves(group.left, group.right, sums + held, frames);
-    earlyLine.write(sums + frames, held);
+}
+
+/// Writes the mean of both channels to the early line and reads its taps. The line holds four
+/// samples, so that the taps find all that they need in those four and the group itself.
+void CDSPReverb::runEarlyLine(SReverbGroup &group, int frames) {
+    constexpr int held = 4;
+    float mono[held + SReverbGroup::longest];
+    earlyLine.copyNewest(mono, held);
+    mixToMono(group.left, group.right, mono + held, frames);
+    earlyLine.write(mono + frames, held);
     for (int k = 0; k < lines; ++k) {
         const std::uint32_t offset = wholeCount(tapOffsets[k]);
-        const float *newer = sums + (held - 1 - offset % held);
-        const float *older = sums + (held - 1 - (offset + 1) % held);
+        const float *newer = mono + (held - 1 - offset % held);
+        const float *older = mono + (held - 1 - (offset + 1) % held);
         const float fraction = tapOffsets[k] - static_cast<float>(offset);
         readTap(newer, older, fraction, tapGains[k], group.early[k], frames);
     }
 }
 
-/// Makes the wet signal and feeds the four lines.
-void CDSPReverb::closeLoop(SGroup &group, int frames) {
-    mixWet(group, frames, earlyLevel, tailLevel);
-    float returns[lines][groupFrames];
-    scatter(group, returns, frames);
+void CDSPReverb::feedLines(const SReverbGroup &group, int frames) {
+    SReverbGroup::Lines fed;
+    scatter(group, fed, frames);
     for (int k = 0; k < lines; ++k)
-        tailDelays[k].write(returns[k], frames);
+        tailDelays[k].write(fed[k], frames);
 }
 
-void CDSPReverb::mixWet(SGroup &group, int frames, float earlyLevel, float tailLevel) {
-    runWide([=, &group] {
-        for (int i = 0; i < frames; ++i) {
-            const auto line = [&](int k) {
-                return earlyLevel * group.early[k][i] + tailLevel * group.tail[k][i];
-            };
-            group.left[i] = group.right[i] = line(0) - line(1) + line(2) - line(3);
-        }
-    });
-}
-
-/// The Hadamard matrix.
-void CDSPReverb::scatter(const SGroup &group, float (*returns)[groupFrames], int frames) {
-    runWide([=, &group] {
-        for (int i = 0; i < frames; ++i) {
-            const float a = group.tail[0][i], b = group.tail[1][i];
-            const float c = group.tail[2][i], d = group.tail[3][i];
-            returns[0][i] = (a + b - c - d) * 0.5f + group.early[0][i];
-            returns[1][i] = (a - b - c + d) * 0.5f + group.early[1][i];
-            returns[2][i] = (b - a - c + d) * 0.5f + group.early[2][i];
-            returns[3][i] = (a + b + c + d) * 0.5f + group.early[3][i];
-        }
-    });
+void CDSPReverb::diffuseWet(SReverbGroup &group, int frames) {
+    for (int k = 1; k < lines; ++k) {
+        diffuserLeft[k].run(group.left, frames);
+        diffuserRight[k].run(group.right, frames);
+    }
 }
 
 namespace {
 
-/// The network runs in single precision.
+/// @return the samples in single precision, in which the whole network runs.
+/// @param room  takes them if they are not.
 const float *asFloats(const float *samples, float * /*room*/, int /*frames*/) {
     return samples;
 }
@@ -298,17 +238,17 @@ void CDSPReverb::run(const Sample *const *in, Sample *const *out, int frames) {
     for (int done = 0; done < frames;) {
         if (resetRequest.take())
             clear();
-        SGroup group;
+        SReverbGroup group;
         const int count = std::min(framesAhead(), frames - done);
         const Sample *left = in[0] + done, *right = in[1] + done;
+        readLines(group, count);
         filterInputAndWalls(asFloats(left, group.left, count), asFloats(right, group.right, count),
                             group, count);
-        feedEarlyLine(group, count);
-        closeLoop(group, count);
-        for (int k = 1; k < lines; ++k) {
-            diffuserLeft[k].run(group.left, count);
-            diffuserRight[k].run(group.right, count);
-        }
+        diffuseInput(group, count);
+        runEarlyLine(group, count);
+        mixWet(group, earlyLevel, tailLevel, count);
+        feedLines(group, count);
+        diffuseWet(group, count);
         addDry(left, group.left, out[0] + done, dryLevel, count);
         addDry(right, group.right, out[1] + done, dryLevel, count);
         done += count;

@@ -5,7 +5,10 @@
 #include "dspclasses/blocks/DSPAllPass.h"
 #include "dspclasses/blocks/DelayLine.h"
 #include "dspclasses/modules/CDSPBase.h"
+#include "dspclasses/modules/ReverbGeometry.h"
 #include "values/TRelaxed.h"
+
+struct SReverbGroup;
 
 /// Reverb: four delay lines that feed each other through a Hadamard matrix, behind an input filter,
 /// a diffuser per channel and a short early line; two chains of all-passes make the one wet signal
@@ -35,27 +38,26 @@ public:
     void reset() override;
 
 private:
-    static constexpr int lines = 4;
-    static constexpr int groupFrames = 64;
-
     void setInputDamping(float value);
     void setWallDamping(float value);
     void setReverbTime(float seconds);
     void setRoomSize(float metres);
     void setSpread(float value);
     void applyDecayToTails();
-    float decayOver(float samples) const;
     void clear();
 
-    struct SGroup;
     template <typename Sample>
     void run(const Sample *const *in, Sample *const *out, int frames);
-    int framesAhead() const;
-    void filterInputAndWalls(const float *left, const float *right, SGroup &group, int frames);
-    void feedEarlyLine(SGroup &group, int frames);
-    void closeLoop(SGroup &group, int frames);
-    static void mixWet(SGroup &group, int frames, float earlyLevel, float tailLevel);
-    static void scatter(const SGroup &group, float (*returns)[groupFrames], int frames);
+
+    // The stages of a group of frames, in this order.
+    int framesAhead() const;  ///< frames of the group: none reads from a line what another feeds it
+    void readLines(SReverbGroup &group, int frames) const;
+    void filterInputAndWalls(const float *left, const float *right, SReverbGroup &group,
+                             int frames);
+    void diffuseInput(SReverbGroup &group, int frames);
+    void runEarlyLine(SReverbGroup &group, int frames);
+    void feedLines(const SReverbGroup &group, int frames);
+    void diffuseWet(SReverbGroup &group, int frames);
 
     TRelaxed<float> inputDamping = -1.0f;
     // Kept: the dry signal is inverted until its level is first set.
@@ -66,18 +68,18 @@ private:
     TRelaxed<float> reverbTime = -1.0f;  // s, to -60 dB
     TRelaxed<float> spread = -1.0f;
     CDSPOnePole inputFilter;  // kept: one for both channels, which take turns
-    DelayLine tailDelays[lines];
-    TRelaxed<float> tailGains[lines];    // negative
-    TRelaxed<float> tailLengths[lines];  // samples, whole
-    CDSPOnePole tailDampers[lines];
+    DelayLine tailDelays[reverbLines];
+    TRelaxed<float> tailGains[reverbLines];    // negative
+    TRelaxed<float> tailLengths[reverbLines];  // samples, whole
+    CDSPOnePole tailDampers[reverbLines];
     TRelaxed<float> wallDamping = -1.0f;
-    TRelaxed<float> tapOffsets[lines];  // samples, whole
-    TRelaxed<float> tapGains[lines];
+    TRelaxed<float> tapOffsets[reverbLines];  // samples, whole
+    TRelaxed<float> tapGains[reverbLines];
     // Kept: four samples long, so that a tap hears its offset modulo 4; only its gain follows the
     // whole offset.
     DelayLine earlyLine{4};
-    DSPAllPass diffuserLeft[lines];
-    DSPAllPass diffuserRight[lines];
-    TRelaxed<double> decayBase = -1.0;  // factor per sample
+    DSPAllPass diffuserLeft[reverbLines];
+    DSPAllPass diffuserRight[reverbLines];
+    TRelaxed<double> decay = -1.0;  // factor per sample
     CResetRequest resetRequest;
 };
