@@ -81,15 +81,22 @@ void CDSPDelay::setDelay(std::uint32_t ms) {
     rightLine.setConstantOffset(delaySamples);
 }
 
-/// @param ms  a whole beat. A tempo of 0 makes it infinite, which counts as 0: the shortest delay.
+/// @param ms  a whole beat. Kept: a tempo of 0 makes it infinite, which counts as 0 ms.
 void CDSPDelay::setBeat(float ms) {
     const std::uint32_t whole = wholeCount(ms);
     setDelay(syncMode == kHalfBeat ? whole >> 1 : whole);
 }
 
-static float wholeQuarters(std::int32_t beats) {
-    const std::int32_t quarters = beats / 4;
+/// @return a quarter of a bar, in beats. Kept: without its fraction, so a bar of three beats gives
+/// 0.
+static float wholeQuarters(std::int32_t beatsPerBar) {
+    const std::int32_t quarters = beatsPerBar / 4;
     return static_cast<float>(quarters);
+}
+
+/// @return ms.
+static float beatTime(float bpm, float quarters) {
+    return 60000.0f / bpm * quarters;
 }
 
 void CDSPDelay::setSync(std::int32_t mode) {
@@ -101,7 +108,7 @@ void CDSPDelay::setSync(std::int32_t mode) {
     if (mode == kFree)
         setDelay(freeDelayMs);
     else
-        setBeat(60000.0f / tempo * wholeQuarters(beatsPerBar));
+        setBeat(beatTime(tempo, wholeQuarters(beatsPerBar)));
 }
 
 void CDSPDelay::setTempo(float bpm) {
@@ -109,16 +116,16 @@ void CDSPDelay::setTempo(float bpm) {
         return;
     tempo = bpm;
     if (syncMode != kFree)
-        setBeat(wholeQuarters(beatsPerBar) * (60000.0f / bpm));
+        setBeat(beatTime(bpm, wholeQuarters(beatsPerBar)));
 }
 
 void CDSPDelay::setBeats(float beats) {
     if (beats == static_cast<float>(beatsPerBar.load()))
         return;
     beatsPerBar = truncated(beats);
-    // Kept: only here the quarter of the bar is not cut to a whole number.
+    // Kept: only here the quarter keeps its fraction.
     if (syncMode != kFree)
-        setBeat(60000.0f / tempo * (beats * 0.25f));
+        setBeat(beatTime(tempo, beats * 0.25f));
 }
 
 void CDSPDelay::reset() {
@@ -132,26 +139,27 @@ struct SLevels {
 };
 
 /// One channel of a run.
-/// @param echo      what the channel's own line gives.
-/// @param crossing  what comes round into that line: its own echo or that of the other channel.
-/// @param fresh     what goes into the line.
-void mix(const float *x, const float *echo, const float *crossing, float *out, float *fresh,
-         int count, SLevels levels) {
+/// @param echo    read from the channel's own line.
+/// @param fedBack the echo that goes back into that line: its own, or in ping-pong mode that of
+///                the other channel.
+/// @param toLine  what is written to the line.
+void mixEcho(const float *x, const float *echo, const float *fedBack, float *out, float *toLine,
+             int count, SLevels levels) {
     runWide([=] {
         for (int i = 0; i < count; ++i) {
             out[i] = levels.dry * x[i] + levels.wet * echo[i];
-            fresh[i] = crossing[i] * levels.feedback + x[i];
+            toLine[i] = fedBack[i] * levels.feedback + x[i];
         }
     });
 }
 
-/// Here too the lines and the products with their samples are single precision.
-void mix(const double *x, const float *echo, const float *crossing, double *out, float *fresh,
-         int count, SLevels levels) {
+/// In double precision too, the lines and the products with their samples are single precision.
+void mixEcho(const double *x, const float *echo, const float *fedBack, double *out, float *toLine,
+             int count, SLevels levels) {
     runWide([=] {
         for (int i = 0; i < count; ++i) {
             out[i] = double{levels.dry} * x[i] + double{levels.wet * echo[i]};
-            fresh[i] = static_cast<float>(double{crossing[i] * levels.feedback} + x[i]);
+            toLine[i] = static_cast<float>(double{fedBack[i] * levels.feedback} + x[i]);
         }
     });
 }
@@ -166,16 +174,18 @@ void CDSPDelay::run(const Sample *const *in, Sample *const *out, int frames) {
             rightLine.clear();
         }
         const SLevels levels{dryLevel, wetLevel, feedback};
-        const bool crossed = pingPong;
+        const bool crossesOver = pingPong;
         const int count = std::min({frames - done, groupFrames, leftLine.getLongestConstantRun(),
                                     rightLine.getLongestConstantRun()});
-        float left[groupFrames], right[groupFrames], fresh[groupFrames];
+        float left[groupFrames], right[groupFrames], toLine[groupFrames];
         leftLine.readConstant(left, count);
         rightLine.readConstant(right, count);
-        mix(in[0] + done, left, crossed ? right : left, out[0] + done, fresh, count, levels);
-        leftLine.write(fresh, count);
-        mix(in[1] + done, right, crossed ? left : right, out[1] + done, fresh, count, levels);
-        rightLine.write(fresh, count);
+        mixEcho(in[0] + done, left, crossesOver ? right : left, out[0] + done, toLine, count,
+                levels);
+        leftLine.write(toLine, count);
+        mixEcho(in[1] + done, right, crossesOver ? left : right, out[1] + done, toLine, count,
+                levels);
+        rightLine.write(toLine, count);
         done += count;
     }
 }

@@ -2,6 +2,7 @@
 
 #include "dspclasses/blocks/WholeCount.h"
 #include "dspclasses/kernels/WideLoop.h"
+#include "dspclasses/modules/SweepOscillator.h"
 #include "values/Truncation.h"
 
 #include <algorithm>
@@ -56,6 +57,7 @@ float CDSPModulation::getParameter(int index) {
     }
 }
 
+/// Kept: the types part at 0.4 and 0.7, though they read as 0, 0.5 and 1.
 static CDSPModulation::EType typeAt(float value) {
     const std::int32_t tenths = truncated(value * 10.0f);
     if (tenths < 0 || tenths > 6)
@@ -102,22 +104,16 @@ void CDSPModulation::setSpeed(float hz) {
     if (hz == speedHz)
         return;
     speedHz = hz;
-    lfoIncrement = hz * invSampleRate * 2.0f;
-}
-
-/// Moves the right oscillator from wherever it stands. Kept: no wrap at -1, below which the wave
-/// rises above 1 until the oscillator has come back.
-static float movedPhase(float phase, float change) {
-    phase += change * 0.5f;
-    return phase > 1.0f ? phase - 2.0f : phase;
+    lfoIncrement = sweepIncrement(hz, invSampleRate);
 }
 
 void CDSPModulation::setSpread(float value) {
     if (value == spread)
         return;
+    // Kept: shifts the right oscillator from its present phase, whatever that is.
     const float change = value - spread;
     float phase = phaseRight;
-    while (!phaseRight.compare_exchange_weak(phase, movedPhase(phase, change)))
+    while (!phaseRight.compare_exchange_weak(phase, shiftedSweepPhase(phase, change)))
         ;
     spread = value;
 }
@@ -145,64 +141,55 @@ void CDSPModulation::reset() {
     resetRequest.ask();
 }
 
-/// What the setters give, read once per group of frames.
+/// The values of the setters, read once per group of frames.
 struct CDSPModulation::SSettings {
     float direct, delayed, feedback, dry, wet;
     float increment;
-    std::uint32_t depth, base;
+    std::uint32_t depth, base;  // samples
 };
 
-/// Of each frame the phase of the oscillator, then how far back to read.
+/// For each frame the phase of the oscillator, then the offset to read at.
 struct CDSPModulation::SSweep {
     float left[groupFrames];
     float right[groupFrames];
 };
 
-static float nextPhase(float phase, float increment) {
-    phase += increment;
-    // A branch, which is never mispredicted but once a cycle: the next phase need not wait for it.
-    if (phase > 1.0f) [[unlikely]]
-        phase -= 2.0f;
-    return phase;
-}
-
-/// The only recursion from frame to frame, that of both channels side by side.
+/// The only recursion from frame to frame, for both channels in one loop.
 void CDSPModulation::advanceOscillators(SSweep &sweep, int frames, float increment) {
     float left, right, rightBefore = phaseRight;
     do {
         left = phaseLeft;
         right = rightBefore;
         for (int i = 0; i < frames; ++i) {
-            sweep.left[i] = left = nextPhase(left, increment);
-            sweep.right[i] = right = nextPhase(right, increment);
+            sweep.left[i] = left = nextSweepPhase(left, increment);
+            sweep.right[i] = right = nextSweepPhase(right, increment);
         }
-        // Again from the start if a change of spread has moved the phase meanwhile.
+        // Repeats the group if a change of spread has shifted the phase during it.
     } while (!phaseRight.compare_exchange_strong(rightBefore, right));
     phaseLeft = left;
 }
 
-/// Turns phases into offsets. The wave is a parabola from 0 to 1; the double run sweeps in double
-/// precision.
+/// Turns phases into offsets, in the precision of the run.
+/// @param depth, base  samples.
 template <typename Sample>
 static void sweepOffsets(float *sweep, int frames, Sample depth, Sample base) {
     runWide([=] {
         for (int i = 0; i < frames; ++i) {
-            const float phase = sweep[i];
-            const float wave = (1.0f - std::fabs(phase)) * phase * 2.0f + 0.5f;
+            const float wave = sweepWave(sweep[i]);
             sweep[i] = static_cast<float>(wave * depth + base);
         }
     });
 }
 
 template <typename Sample>
-void CDSPModulation::mixChannel(const Sample *x, const float *delayed, Sample *out, float *fresh,
+void CDSPModulation::mixChannel(const Sample *x, const float *delayed, Sample *out, float *toLine,
                                 int frames, const SSettings &settings) {
     runWide([=] {
         for (int i = 0; i < frames; ++i) {
             const float d = delayed[i] * settings.delayed;
             const Sample y = d + x[i] * settings.direct;
             out[i] = settings.dry * x[i] + settings.wet * y;
-            fresh[i] = static_cast<float>(y * settings.feedback + x[i]);
+            toLine[i] = static_cast<float>(y * settings.feedback + x[i]);
         }
     });
 }
@@ -212,18 +199,18 @@ void CDSPModulation::runChannel(const Sample *in, Sample *out, int frames,
                                 const SSettings &settings, float *sweep, DelayLine &line) {
     sweepOffsets(sweep, frames, static_cast<Sample>(settings.depth),
                  static_cast<Sample>(settings.base));
-    float delayed[groupFrames], fresh[groupFrames];
+    float delayed[groupFrames], toLine[groupFrames];
     if (line.canReadRun(sweep, frames)) {
         line.readRun(sweep, delayed, frames);
-        mixChannel(in, delayed, out, fresh, frames, settings);
-        line.write(fresh, frames);
+        mixChannel(in, delayed, out, toLine, frames, settings);
+        line.write(toLine, frames);
         return;
     }
-    // The sweep comes too near: what one frame writes another one of the group reads.
+    // The sweep comes so near that a frame reads what another frame of the group writes.
     for (int i = 0; i < frames; ++i) {
         line.read(sweep[i], delayed, 1);
-        mixChannel(in + i, delayed, out + i, fresh, 1, settings);
-        line.write(fresh, 1);
+        mixChannel(in + i, delayed, out + i, toLine, 1, settings);
+        line.write(toLine, 1);
     }
 }
 

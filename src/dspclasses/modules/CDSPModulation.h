@@ -8,8 +8,26 @@
 #include <atomic>
 #include <cstdint>
 
-/// Vibrato, automatic double tracking and phaser: a delay per channel, swept by an oscillator, with
-/// three gains that make it plain, fed back or an all-pass.
+/// Vibrato, automatic double tracking (ADT) and phaser: a delay per channel, swept by an
+/// oscillator. Three gains make a plain delay, a delay with feedback or an all-pass of it. One
+/// channel:
+///
+///     x --+------------------------------------ dry gain ----(+)--> out
+///         |                                                   ^
+///         +------------------- direct gain --(+)--+-- wet gain
+///         |                                   ^   | y
+///         v                                   |   |
+///        (+)--> line --> read --> delayed gain    |
+///         ^                ^ offset               |
+///         |            oscillator                 |
+///         +------------ feedback gain <-----------+
+///
+///                direct gain   delayed gain   feedback gain
+///     Vibrato         0             1               0
+///     ADT             0             1           feedback
+///     Phaser      -feedback         1           feedback
+///
+///     offset = base + depth * wave of the oscillator, in samples
 ///
 /// A width of more than 4096 samples, 92 ms, allocates longer lines, and these start empty. The
 /// oscillators keep running across a reset.
@@ -29,7 +47,7 @@ public:
 
     CDSPModulation();
     void setParameter(int index, float value) override;
-    float getParameter(int index) override;  ///< a half of the type for index 0, which leads to it
+    float getParameter(int index) override;  ///< for index 0 half the type
     void processReplacing(float **in, float **out, int frames) override;
     void processDoubleReplacing(double **in, double **out, int frames) override;
     void reset() override;
@@ -48,7 +66,7 @@ private:
     struct SSweep;
     void advanceOscillators(SSweep &sweep, int frames, float increment);
     template <typename Sample>
-    static void mixChannel(const Sample *x, const float *delayed, Sample *out, float *fresh,
+    static void mixChannel(const Sample *x, const float *delayed, Sample *out, float *toLine,
                            int frames, const SSettings &settings);
     template <typename Sample>
     static void runChannel(const Sample *in, Sample *out, int frames, const SSettings &settings,
@@ -72,8 +90,8 @@ private:
     std::atomic<float> phaseRight = 0.75f;
     TRelaxed<std::int32_t> type = kAdt;
     TRelaxed<std::uint32_t> widthSamples = 882;
-    TRelaxed<std::uint32_t> depthSamples = 441;  // how far the sweep goes
-    TRelaxed<std::uint32_t> baseSamples = 441;   // where it begins
+    TRelaxed<std::uint32_t> depthSamples = 441;  // range of the sweep
+    TRelaxed<std::uint32_t> baseSamples = 441;   // shortest delay
     DelayLine leftLine{4};
     DelayLine rightLine{4};
     CResetRequest resetRequest;
