@@ -28,7 +28,22 @@ TEST(CDSPOnePole, SharesAUnitBetweenGainAndPole) {
     EXPECT_EQ(filter.tick(0.0f), 0.1875f);
 }
 
-TEST(CDSPOnePole, ClearForgetsTheStateAlone) {
+TEST(CDSPOnePole, PassesZeroHertzAndAttenuatesHalfTheSampleRateByItsFormula) {
+    for (const float pole : {0.0f, 0.25f, 0.5f, 0.9f}) {
+        CDSPOnePole low, high;
+        low.setPole(pole);
+        high.setPole(pole);
+        float atZero = 0.0f, atHalfTheRate = 0.0f;
+        for (int n = 0; n < 400; ++n) {
+            atZero = low.tick(1.0f);
+            atHalfTheRate = high.tick(n % 2 == 0 ? -1.0f : 1.0f);
+        }
+        EXPECT_NEAR(atZero, 1.0f, 1e-6) << pole;
+        EXPECT_NEAR(atHalfTheRate, (1.0f - pole) / (1.0f + pole), 1e-6) << pole;
+    }
+}
+
+TEST(CDSPOnePole, ClearForgetsOnlyTheState) {
     CDSPOnePole filter;
     filter.setPole(0.25f);
     filter.tick(1.0f);

@@ -3,6 +3,7 @@
 #include "dspclasses/blocks/PlainAllPass.h"
 #include "dspclasses/support/Signals.h"
 
+#include <complex>
 #include <gtest/gtest.h>
 #include <vector>
 
@@ -25,10 +26,24 @@ DSPAllPass withHalf(int length) {
 
 }  // namespace
 
-TEST(DSPAllPass, AnswersAnImpulseAtEachMultipleOfItsLength) {
+TEST(DSPAllPass, RespondsToAnImpulseAtEachMultipleOfItsLength) {
     DSPAllPass allPass = withHalf(3);
     EXPECT_EQ(impulseResponse(allPass, 10),
               (std::vector<float>{0.5f, 0, 0, 0.75f, 0, 0, -0.375f, 0, 0, 0.1875f}));
+}
+
+TEST(DSPAllPass, LeavesTheLevelOfEveryFrequency) {
+    DSPAllPass allPass;
+    allPass.setDelayLength(7);
+    allPass.setCoefficient(0.625f);
+    const std::vector<float> response = impulseResponse(allPass, 700);
+    for (int step = 0; step <= 50; ++step) {
+        const double radians = 3.141592653589793 * step / 50.0;  // per sample
+        std::complex<double> sum = 0.0;
+        for (std::size_t n = 0; n < response.size(); ++n)
+            sum += double{response[n]} * std::polar(1.0, -radians * static_cast<double>(n));
+        EXPECT_NEAR(std::abs(sum), 1.0, 1e-6) << step;
+    }
 }
 
 TEST(DSPAllPass, StartsWithADelayOfEight) {
@@ -39,7 +54,7 @@ TEST(DSPAllPass, StartsWithADelayOfEight) {
     EXPECT_EQ(response[7], 0.0f);
 }
 
-TEST(DSPAllPass, StartsAnewWithEveryLength) {
+TEST(DSPAllPass, EveryNewLengthClearsIt) {
     for (const int length : {3, 5, 12, 2}) {  // the same, longer, grown, shorter
         DSPAllPass allPass = withHalf(3);
         for (int n = 0; n < 20; ++n)
@@ -50,7 +65,7 @@ TEST(DSPAllPass, StartsAnewWithEveryLength) {
     }
 }
 
-TEST(DSPAllPass, ClearSilencesAndGoesBackToItsBeginning) {
+TEST(DSPAllPass, ClearSilencesItAndResetsItsPosition) {
     DSPAllPass allPass = withHalf(5);
     for (int n = 0; n < 7; ++n)
         allPass.tick(1.0f);
@@ -59,9 +74,9 @@ TEST(DSPAllPass, ClearSilencesAndGoesBackToItsBeginning) {
     EXPECT_EQ(impulseResponse(allPass, 40), impulseResponse(fresh, 40));
 }
 
-TEST(DSPAllPass, ADenormalEndsAsZero) {
+TEST(DSPAllPass, StoresADenormalAsZero) {
     DSPAllPass allPass = withHalf(1);
-    allPass.tick(1.5e-38f);  // kept, and a half of it is denormal
+    allPass.tick(1.5e-38f);  // a normal number, half of which is denormal
     EXPECT_EQ(allPass.tick(0.0f), 1.5e-38f);
     EXPECT_EQ(allPass.tick(0.0f), 0.0f);
 }
