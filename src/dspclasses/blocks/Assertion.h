@@ -4,7 +4,7 @@
 [[noreturn]] void stopOnFailedAssertion(const char *expression, const char *source, int line);
 
 /// An assertion that stays active in every build. [any thread]
-/// @param expression, source, line  what the report names.
+/// @param expression, source, line  printed in the report.
 inline void assertAlways(bool holds, const char *expression, const char *source, int line) {
     if (!holds) [[unlikely]]
         stopOnFailedAssertion(expression, source, line);

@@ -2,15 +2,23 @@
 
 #include <memory>
 
-/// Schroeder all-pass over a ring of delayLength samples. A new one delays by 8.
-/// The audio thread ticks; setDelayLength replaces and clears what it ticks on, so the two need a
-/// lock around them.
+/// Schroeder all-pass: every frequency at its level, spread over time. A new one delays by 8.
+///
+///             w                                    H(z) = (c + z^-N) / (1 + c z^-N)
+///     x --(+)----+-------- c --------(+)--> y
+///        - ^     |                    ^            c  coefficient
+///          |     +--> delay by N --+--+            N  delayLength, samples
+///          |                       | d
+///          +---------- c ----------+
+///
+/// The audio thread ticks; setDelayLength replaces and clears the samples that it ticks on, so the
+/// caller holds one lock around both.
 class DSPAllPass {
 public:
     DSPAllPass();
 
-    /// Starts anew, silent, with this delay. Allocates when it is longer than any before.
-    /// @param length  samples; asserts that it is not 0. A negative one acts as 1.
+    /// Sets the delay and clears the samples. Allocates if it is longer than any before.
+    /// @param length  samples; asserts that it is not 0. Kept: a negative one acts as 1.
     void setDelayLength(int length);
 
     void setCoefficient(float value) { coefficient = value; }
@@ -20,7 +28,7 @@ public:
     /// tick of `count` samples, in place.
     void run(float *samples, int count);
 
-    /// Silences the whole buffer and goes back to its beginning; the length stays.
+    /// Silences the whole buffer and sets the position to 0; the length stays.
     void clear();
 
 private:

@@ -13,8 +13,8 @@ struct SDelayRing;
 ///                              |   |
 ///                              read(2.25) = 0.75 of sample 2 + 0.25 of sample 3
 ///
-/// Offset 0 is the newest sample. An offset beyond the capacity goes round the ring, so that a read
-/// never leaves the memory.
+/// Offset 0 is the newest sample. An offset beyond the capacity wraps, so that a read never leaves
+/// the memory.
 ///
 /// The samples and the write position belong to the audio thread. resize and setConstantOffset may
 /// run on any thread at the same time: a new offset takes effect between two reads, and a block

@@ -2,8 +2,8 @@
 
 #include <cmath>
 
-/// The gain of a side that is turned down: the square root of its share of the power, from 0 to 1.
-/// What would be inaudible is exactly 0. A negative share gives a NaN.
+/// @param share  of the power, that the lowered side keeps, from 0 to 1.
+/// @return its gain, sqrt(share), and exactly 0 below -400 dB. Kept: a negative share gives a NaN.
 inline float squareRootLaw(float share) {
     const float gain = std::sqrt(share);
     return gain < 1e-20f ? 0.0f : gain;

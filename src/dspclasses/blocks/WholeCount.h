@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
-/// `value` without its fraction, as a count of samples or of milliseconds. A count that 32 bits do
-/// not hold keeps its low 32 bits; infinity, and what is not a number, gives 0.
+/// @return `value` without its fraction, as a count of samples or of milliseconds. Kept: a count
+/// beyond 32 bits gives its low 32 bits; a magnitude of 2^63 or more, an infinity or a NaN gives 0.
 inline std::uint32_t wholeCount(float value) {
     constexpr float limit = 0x1p63f;
     if (value > -limit && value < limit)

@@ -3,8 +3,8 @@
 #include <bit>
 #include <cstdint>
 
-/// Denormals end as zero by a test of the value, not by a mode of the processor, which belongs to
-/// the host.
+/// Replaces denormals by zero with a test of each value. The processor's own flush-to-zero mode
+/// is left alone, since it belongs to the host.
 
 /// @return true for zero of either sign and for denormals: the exponent bits are all zero.
 inline bool isDenormalOrZero(float value) {
@@ -14,7 +14,7 @@ inline bool isDenormalOrZero(double value) {
     return (std::bit_cast<std::uint64_t>(value) & 0x7ff0000000000000u) == 0;
 }
 
-/// @return 0.0 for zero of either sign and for denormals, every other value as it is.
+/// @return 0.0 for zero of either sign and for denormals, otherwise the value itself.
 inline float flushDenormal(float value) {
     return isDenormalOrZero(value) ? 0.0f : value;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-/// What every processing module fulfils. A module handles exactly two channels, never in place:
-/// `in` and `out` are different buffers, and every sample of both outputs is written.
+/// The contract of every processing module. A module processes exactly two channels, never in
+/// place: `in` and `out` are different buffers, and every sample of both outputs is written.
 class CDSPBase {
 public:
     CDSPBase() = default;
@@ -23,12 +23,13 @@ public:
     /// The same in double precision. [audio thread] The base does nothing.
     virtual void processDoubleReplacing(double **in, double **out, int frames);
 
-    /// Clears running state and keeps the parameters, at once or when the next block begins. The
+    /// Clears the running state, now or when the next block begins, and keeps the parameters. The
     /// base does nothing. [any thread]
     virtual void reset();
 
-    /// Records a new rate in Hz; 0 and the present rate are ignored. Nothing in the strip calls it:
-    /// all constants are those of 44100 Hz whatever the host runs at. [before any other call]
+    /// Stores a new rate in Hz; 0 and the present rate are ignored. Kept: nothing in the strip
+    /// calls it. The strip is tuned for 44.1 kHz; at other rates, frequencies and times scale with
+    /// the rate. [before any other call]
     void setSampleRate(float rate);
 
     float getSampleRate() const { return sampleRate; }
@@ -38,5 +39,5 @@ public:
 protected:
     float sampleRate = 44100.0f;            // Hz
     float invSampleRate = 1.0f / 44100.0f;  // seconds
-    float rateRatio = 1.0f;                 // new rate / old rate, of the last change
+    float rateRatio = 1.0f;                 // new rate / old rate, at the last change
 };

@@ -7,12 +7,19 @@
 
 #include <cstdint>
 
-/// Stereo feedback delay, of a free time or of a half or a whole beat of the host's tempo. In
-/// ping-pong mode the echo of each channel feeds the other one.
+/// Stereo feedback delay. Its time is free, or half a beat or a whole beat of the host's tempo.
 ///
-/// A change of time keeps what is in the lines: the read point jumps, which can be heard.
+///     in L --+--------------------------------- dry --(+)--> out L
+///            |                                         ^
+///            +--(+)--> left line --+-------- wet ------+
+///                ^                 | echo L
+///                +---- feedback <--+          in ping-pong mode: from echo R
+///
+///     in R likewise, with the right line; in ping-pong mode its feedback comes from echo L
+///
+/// Kept: a change of time moves the read point at once, without a crossfade, which can be heard.
 /// A time of more than 2972 ms, which only a slow tempo gives, allocates longer lines, and these
-/// start empty. Two such changes must not run at once.
+/// start empty. Two such changes must not run at the same time.
 class CDSPDelay : public CDSPBase {
 public:
     enum EParameter : int {
@@ -33,7 +40,7 @@ public:
     void processDoubleReplacing(double **in, double **out, int frames) override;
     void reset() override;
 
-    /// What parameter 1 is cut to; any other number acts as kWholeBeat.
+    /// Twice parameter 1 without its fraction; any other number acts as kWholeBeat.
     enum ESync : std::int32_t { kFree, kHalfBeat, kWholeBeat };
 
 private:
@@ -46,8 +53,8 @@ private:
     template <typename Sample>
     void run(const Sample *const *in, Sample *const *out, int frames);
 
-    TRelaxed<std::uint32_t> delayMs = 0;            // in force, whole ms
-    TRelaxed<std::uint32_t> freeDelayMs = 1000;     // the free time, while synchronised
+    TRelaxed<std::uint32_t> delayMs = 0;         // present time
+    TRelaxed<std::uint32_t> freeDelayMs = 1000;  // the time to come back to from a synchronised one
     TRelaxed<std::uint32_t> lineCapacity = 131072;  // samples
     TRelaxed<float> delaySamples = 0.0f;            // from delayMs
     TRelaxed<float> feedback = 0.5f;

@@ -105,8 +105,7 @@ void CDSPReverb::setReverbTime(float seconds) {
         return;
     reverbTime = seconds;
     decay = decayPerSample(seconds, sampleRate);
-    // Kept: the gains of the taps change with the room only, and then take the decay of that
-    // moment.
+    // Kept: the tap gains do not follow. The next change of room takes the new decay for them.
     applyDecayToTails();
 }
 
@@ -120,6 +119,7 @@ void CDSPReverb::setSpread(float value) {
         return;
     spread = value;
     const SDiffuserLengths lengths = diffuserLengths(value, tailLengths[3]);
+    // Kept: chosen without a formula, like the lengths.
     constexpr float coefficients[lines] = {0.75f, 0.75f, 0.625f, 0.625f};
     for (int k = 0; k < lines; ++k) {
         diffuserLeft[k].setDelayLength(lengths.left[k]);

@@ -10,13 +10,30 @@
 
 struct SReverbGroup;
 
-/// Reverb: four delay lines that feed each other through a Hadamard matrix, behind an input filter,
-/// a diffuser per channel and a short early line; two chains of all-passes make the one wet signal
-/// a stereo pair.
+/// Reverb: a feedback delay network of four lines. Numbers in brackets are indices of the four.
 ///
-/// Setting the spread replaces and clears the buffers of the all-passes, so it must not run beside
-/// the audio thread. The all-pass lengths follow the room size set at that moment; a later change
-/// of room leaves them alone.
+///     in L -> input filter -> all-pass [0] --+
+///                 |                         mean -> early line -> 4 taps, times tap gain
+///     in R -> input filter -> all-pass [0] --+                        |
+///                                                                     |   early [k]
+///      +--------------------------------------------------------------+--------------+
+///      v                                                                             |
+///     (+) -> line [k] -> line gain [k] -> damper [k] --+-----------------------+     |
+///      ^                                               |  tail [k]             |     |
+///      +--------------- Hadamard matrix <--------------+                  tail level, early level
+///                                                                              |     |
+///                                                                             (+) <--+   y [k]
+///                                                                              |
+///                                       wet = y [0] - y [1] + y [2] - y [3]  <-+
+///
+///     wet -> all-passes [1] [2] [3] of the left  -> (+) -> out L         dry: in L times dry level
+///     wet -> all-passes [1] [2] [3] of the right -> (+) -> out R              in R times dry level
+///
+/// It runs in groups of frames; docs/kernels.md says why and how long they are.
+///
+/// Setting the spread clears the all-passes and reallocates those that grow, so it must not run at
+/// the same time as the audio thread. Kept: it takes the lengths from the present room, and a later
+/// change of room does not change them.
 class CDSPReverb : public CDSPBase {
 public:
     enum EParameter : int {
@@ -50,7 +67,7 @@ private:
     void run(const Sample *const *in, Sample *const *out, int frames);
 
     // The stages of a group of frames, in this order.
-    int framesAhead() const;  ///< frames of the group: none reads from a line what another feeds it
+    int framesAhead() const;  ///< how many may run before one needs what another feeds to a line
     void readLines(SReverbGroup &group, int frames) const;
     void filterInputAndWalls(const float *left, const float *right, SReverbGroup &group,
                              int frames);
@@ -67,15 +84,17 @@ private:
     TRelaxed<float> roomSize = -1.0f;    // m
     TRelaxed<float> reverbTime = -1.0f;  // s, to -60 dB
     TRelaxed<float> spread = -1.0f;
-    CDSPOnePole inputFilter;  // kept: one for both channels, which take turns
+    // Kept: one filter for both channels. It takes the left sample and then the right one, so each
+    // channel leaks into the other.
+    CDSPOnePole inputFilter;
     DelayLine tailDelays[reverbLines];
-    TRelaxed<float> tailGains[reverbLines];    // negative
+    TRelaxed<float> tailGains[reverbLines];    // kept: negative
     TRelaxed<float> tailLengths[reverbLines];  // samples, whole
     CDSPOnePole tailDampers[reverbLines];
     TRelaxed<float> wallDamping = -1.0f;
     TRelaxed<float> tapOffsets[reverbLines];  // samples, whole
     TRelaxed<float> tapGains[reverbLines];
-    // Kept: four samples long, so that a tap hears its offset modulo 4; only its gain follows the
+    // Kept: four samples long, so a tap reads at its offset modulo 4. Only its gain follows the
     // whole offset.
     DelayLine earlyLine{4};
     DSPAllPass diffuserLeft[reverbLines];
