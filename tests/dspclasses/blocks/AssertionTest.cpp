@@ -8,7 +8,7 @@ TEST(AssertionDeathTest, ReportsExpressionSourceAndLineAndStops) {
                  "Assertion failed: offset >= 0, file Line, line 74");
 }
 
-TEST(AssertionDeathTest, LetsAProgramPassWhoseConditionHolds) {
+TEST(AssertionDeathTest, DoesNothingIfTheConditionHolds) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     EXPECT_EXIT(
         {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-TEST(CResetRequest, IsTakenOnceHoweverOftenItWasAsked) {
+TEST(CResetRequest, IsTakenOnceHoweverOftenItWasAskedFor) {
     CResetRequest request;
     EXPECT_FALSE(request.take());
     request.ask();

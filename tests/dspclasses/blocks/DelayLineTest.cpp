@@ -39,7 +39,7 @@ TEST(DelayLine, KeepsItsContentsWhenAskedForLessThanItHas) {
     EXPECT_EQ(line.read(99.0f), 1.0f);
 }
 
-TEST(DelayLine, StartsAnewWhenItGrows) {
+TEST(DelayLine, IsSilentAfterGrowing) {
     DelayLine line(8);
     count(line, 20);
     line.resize(9);
@@ -58,7 +58,7 @@ TEST(DelayLine, ReadsBackFromTheNewestSample) {
         EXPECT_EQ(line.read(static_cast<float>(n)), static_cast<float>(11 - n));
 }
 
-TEST(DelayLine, CopiesTheNewestSamplesAsTheyStand) {
+TEST(DelayLine, CopiesTheNewestSamplesWithoutInterpolation) {
     DelayLine line(4);
     count(line, 6);
     std::vector<float> newest(4);
@@ -78,7 +78,7 @@ TEST(DelayLine, InterpolatesTowardsTheOlderNeighbour) {
     EXPECT_EQ(line.read(1.5f), 2.0f);
 }
 
-TEST(DelayLine, GoesRoundBeyondItsCapacity) {
+TEST(DelayLine, WrapsAnOffsetBeyondItsCapacity) {
     DelayLine line(4);
     count(line, 4);
     EXPECT_EQ(line.read(5.0f), 3.0f);
@@ -94,7 +94,7 @@ TEST(DelayLine, StoresADenormalAsZero) {
         line.write(sample);
         EXPECT_TRUE(sameBits(line.read(0.0f), 0.0f)) << sample;
     }
-    line.write(-1.17549435e-38f);  // the smallest that is not
+    line.write(-1.17549435e-38f);  // the smallest normal number
     EXPECT_EQ(line.read(0.0f), -1.17549435e-38f);
 }
 
@@ -126,7 +126,7 @@ TEST(DelayLine, ClearSilencesTheWholeCapacity) {
         EXPECT_EQ(line.read(static_cast<float>(n) + 0.5f), 0.0f) << n;
 }
 
-TEST(DelayLineDeathTest, StopsAtANegativeOffsetAndAtNoNumber) {
+TEST(DelayLineDeathTest, StopsAtANegativeOffsetAndAtANaN) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     DelayLine line(8);
     const char *text = "Assertion failed: offset >= 0.0f, file dspclasses/DelayLine, line 74";
@@ -146,7 +146,7 @@ TEST(DelayLineDeathTest, StopsAtANegativeStoredOffset) {
     EXPECT_DEATH(line.setConstantOffset(NAN), text);
 }
 
-TEST(DelayLine, RunsGoAsFarAsNoReadHangsOnAWrite) {
+TEST(DelayLine, ARunEndsBeforeAReadWouldNeedAWriteOfTheSameRun) {
     DelayLine line(16);
     EXPECT_EQ(line.getLongestRun(0.0f), 1);
     EXPECT_EQ(line.getLongestRun(5.9f), 6);
@@ -157,7 +157,7 @@ TEST(DelayLine, RunsGoAsFarAsNoReadHangsOnAWrite) {
     EXPECT_EQ(line.getLongestConstantRun(), 10);
 }
 
-TEST(DelayLine, SweptRunsStayClearOfTheWritesOnBothSides) {
+TEST(DelayLine, SweptRunsKeepAwayFromTheirOwnWrites) {
     DelayLine line(16);
     const auto can = [&line](std::vector<float> offsets) {
         return line.canReadRun(offsets.data(), static_cast<int>(offsets.size()));
@@ -211,8 +211,8 @@ TEST(DelayLine, RunsEqualThePlainReadingFrameByFrame) {
     EXPECT_GT(sweeps, 1000);
 }
 
-TEST(DelayLine, InterpolatesWithWhatIsNotFiniteAsEverywhere) {
-    // A fraction of 0 leaves a finite sample alone; next to an infinite one it gives no number.
+TEST(DelayLine, InterpolatesInfinitiesLikeAnyOtherSample) {
+    // A fraction of 0 leaves a sample unchanged, but gives a NaN beside an infinity.
     DelayLine line(8);
     CPlainDelayLine plain(8);
     for (const float sample : {1.0f, INFINITY, 2.0f, -INFINITY, NAN, 3.0f}) {
@@ -229,8 +229,8 @@ TEST(DelayLine, InterpolatesWithWhatIsNotFiniteAsEverywhere) {
     }
 }
 
-TEST(DelayLine, MayGrowBesideARunningBlock) {
-    // Each write goes round the line many times, in the buffer that it has found.
+TEST(DelayLine, MayGrowWhileABlockRuns) {
+    // Each write wraps many times, in the memory that it found at its beginning.
     DelayLine line(8);
     constexpr int growths = 12;
     std::atomic<int> writes = 0;

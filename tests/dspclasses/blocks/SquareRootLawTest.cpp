@@ -1,5 +1,6 @@
 #include "dspclasses/blocks/SquareRootLaw.h"
 
+#include <cmath>
 #include <gtest/gtest.h>
 
 TEST(SquareRootLaw, IsTheSquareRootOfTheShare) {
@@ -8,11 +9,11 @@ TEST(SquareRootLaw, IsTheSquareRootOfTheShare) {
     EXPECT_EQ(squareRootLaw(1e-38f), std::sqrt(1e-38f));
 }
 
-TEST(SquareRootLaw, EndsAtZeroBelowWhatCanBeHeard) {
+TEST(SquareRootLaw, GivesZeroForAnInaudibleShare) {
     EXPECT_EQ(squareRootLaw(0.0f), 0.0f);
     EXPECT_EQ(squareRootLaw(0.9e-40f), 0.0f);
 }
 
-TEST(SquareRootLaw, HasNoAnswerForANegativeShare) {
+TEST(SquareRootLaw, GivesNaNForANegativeShare) {
     EXPECT_TRUE(std::isnan(squareRootLaw(-0.25f)));
 }

@@ -3,7 +3,7 @@
 #include <cmath>
 #include <gtest/gtest.h>
 
-TEST(WholeCount, CutsTheFraction) {
+TEST(WholeCount, DropsTheFraction) {
     EXPECT_EQ(wholeCount(0.99f), 0u);
     EXPECT_EQ(wholeCount(44100.5f), 44100u);
     EXPECT_EQ(wholeCount(-0.5f), 0u);
@@ -14,13 +14,13 @@ TEST(WholeCount, HoldsMoreThanASignedInteger) {
     EXPECT_EQ(wholeCount(4294967040.0f), 4294967040u);
 }
 
-TEST(WholeCount, KeepsTheLowBitsOfWhatItCannotHold) {
+TEST(WholeCount, KeepsTheLow32BitsOfALargerCount) {
     EXPECT_EQ(wholeCount(-1.0f), 0xffffffffu);
     EXPECT_EQ(wholeCount(0x1p32f), 0u);
     EXPECT_EQ(wholeCount(0x1.000002p33f), 1024u);
 }
 
-TEST(WholeCount, GivesZeroForWhatIsNoCount) {
+TEST(WholeCount, GivesZeroForInfinitiesNaNsAndHugeValues) {
     EXPECT_EQ(wholeCount(INFINITY), 0u);
     EXPECT_EQ(wholeCount(-INFINITY), 0u);
     EXPECT_EQ(wholeCount(NAN), 0u);

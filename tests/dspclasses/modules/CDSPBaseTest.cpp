@@ -10,7 +10,7 @@ TEST(CDSPBase, StartsAt44100) {
     EXPECT_EQ(std::bit_cast<std::uint32_t>(base.getInvSampleRate()), 0x37BE37C6u);
 }
 
-TEST(CDSPBase, KeepsTheRatioOfTheLastChangeOfRate) {
+TEST(CDSPBase, StoresTheRatioOfTheLastChangeOfRate) {
     CDSPBase base;
     base.setSampleRate(88200.0f);
     EXPECT_EQ(base.getSampleRate(), 88200.0f);

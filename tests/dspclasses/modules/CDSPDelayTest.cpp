@@ -48,7 +48,7 @@ std::unique_ptr<CDSPDelay> makeShortPingPong() {
     return delay;
 }
 
-/// A delay of either kind that has run until its lines are about to go round.
+/// A delay or its plain reading, run until its lines are about to wrap.
 template <typename Delay>
 std::unique_ptr<Delay> makeNearTheWrap() {
     auto delay = std::make_unique<Delay>();
@@ -99,7 +99,7 @@ TEST(CDSPDelay, TakesWholeMillisecondsAndWholeSamples) {
     EXPECT_EQ(firstEcho(odd), 2514);
 }
 
-TEST(CDSPDelay, CutsTheSyncModeFromTheDoubledValue) {
+TEST(CDSPDelay, TheSyncModeIsTwiceTheValueWithoutItsFraction) {
     const auto modeAt = [](float value) {
         CDSPDelay delay;
         delay.setParameter(kSync, value);
@@ -127,7 +127,7 @@ TEST(CDSPDelay, TakesAHalfOrAWholeBeatOfTheTempo) {
     EXPECT_EQ(firstEcho(delay), 10099);
 }
 
-TEST(CDSPDelay, ComesBackToTheFreeTime) {
+TEST(CDSPDelay, ReturnsToTheFreeTimeWhenSyncEnds) {
     CDSPDelay delay;
     delay.setParameter(kTime, 300.0f);
     delay.setParameter(kSync, 1.0f);
@@ -166,7 +166,7 @@ TEST(CDSPDelay, ATempoOnlyMattersInSync) {
     EXPECT_EQ(delay.getParameter(kTime), 2000.0f);
 }
 
-TEST(CDSPDelay, ComputesNothingForTheTempoThatItHas) {
+TEST(CDSPDelay, IgnoresThePresentTempo) {
     CDSPDelay delay;
     delay.setParameter(kSync, 1.0f);
     delay.setParameter(kTime, 800.0f);
@@ -182,7 +182,7 @@ TEST(CDSPDelay, ATempoOfZeroGivesTheShortestDelay) {
     EXPECT_EQ(firstEcho(delay), 1);
 }
 
-TEST(CDSPDelay, ASlowTempoGrowsTheLinesAndLosesWhatTheyHold) {
+TEST(CDSPDelay, ASlowTempoGrowsTheLinesAndSilencesThem) {
     CDSPDelay delay;
     echoesOnly(delay);
     delay.setParameter(kFeedback, 1.0f);
@@ -193,7 +193,7 @@ TEST(CDSPDelay, ASlowTempoGrowsTheLinesAndLosesWhatTheyHold) {
     EXPECT_EQ(firstEcho(delay), 132301);
 }
 
-TEST(CDSPDelay, CutsTheQuarterOfTheBarExceptWhenTheBeatsChange) {
+TEST(CDSPDelay, AQuarterOfTheBarIsAWholeNumberExceptWhenTheBeatsChange) {
     CDSPDelay delay;
     delay.setParameter(kSync, 1.0f);
     delay.setParameter(kBeatsPerBar, 6.0f);
@@ -210,7 +210,7 @@ TEST(CDSPDelay, CutsTheQuarterOfTheBarExceptWhenTheBeatsChange) {
     EXPECT_EQ(delay.getParameter(kTime), 0.0f);
 }
 
-TEST(CDSPDelay, ComparesTheBeatsWithTheWholeNumberThatItKept) {
+TEST(CDSPDelay, ComparesNewBeatsWithTheStoredWholeNumber) {
     CDSPDelay delay;
     delay.setParameter(kSync, 1.0f);
     delay.setParameter(kBeatsPerBar, 6.5f);
@@ -231,7 +231,7 @@ TEST(CDSPDelay, BeatsMatterInSyncOnly) {
     EXPECT_EQ(delay.getParameter(kTime), 500.0f);
 }
 
-TEST(CDSPDelay, TakesATinyLevelForNone) {
+TEST(CDSPDelay, StoresAnInaudibleLevelAsZero) {
     for (const int index : {kFeedback, kDryLevel, kWetLevel}) {
         CDSPDelay delay;
         for (const float tiny : {1e-21f, -1e-21f, 1e-39f}) {
@@ -253,7 +253,7 @@ TEST(CDSPDelay, PingPongIsOnFromOneHalf) {
     EXPECT_EQ(delay.getParameter(kPingPong), 1.0f);
 }
 
-TEST(CDSPDelay, RepeatsEachChannelByItself) {
+TEST(CDSPDelay, RepeatsEachChannelOnItsOwnSide) {
     auto delay = makeShort();  // 88 samples
     echoesOnly(*delay);
     TStereo<float> output = render(*delay, impulse(300, 1.0f, 0.0f), 64);
@@ -295,7 +295,7 @@ TEST(CDSPDelay, DoubleRunsKeepTheDrySignalInDoubleAndTheLineInSingle) {
     EXPECT_EQ(output.left(89), double{0.70710677f * static_cast<float>(sample)});
 }
 
-TEST(CDSPDelay, AChangeOfTimeKeepsWhatTheLinesHold) {
+TEST(CDSPDelay, AChangeOfTimeKeepsTheContentsOfTheLines) {
     auto delay = makeShort();
     echoesOnly(*delay);
     render(*delay, impulse(50, 1.0f, 1.0f), 50);
@@ -346,7 +346,7 @@ TEST(CDSPDelay, EqualsThePlainReadingInTempo) {
                    1000);
 }
 
-TEST(CDSPDelay, EqualsThePlainReadingAsTheLinesGoRound) {
+TEST(CDSPDelay, EqualsThePlainReadingAsTheLinesWrap) {
     expectSameBits(makeNearTheWrap<CDSPDelay>, makeNearTheWrap<CPlainDelay>,
                    levelsAnd({{kTime, 0.0f, 3000.0f}}), 200);
 }

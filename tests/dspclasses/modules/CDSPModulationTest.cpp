@@ -34,8 +34,8 @@ struct SOffsets {
     std::vector<double> left, right;
 };
 
-/// Feeds a ramp, from which the output of a sweep tells how far back it has read. The line has to
-/// be full of the ramp: the first thousand frames do not count.
+/// Feeds a ramp, so that each output sample of a sweep shows its offset. Valid once the ramp fills
+/// the line: the first thousand frames do not count.
 class CRamp {
 public:
     SOffsets through(CDSPModulation &modulation, int frames) {
@@ -83,7 +83,7 @@ TEST(CDSPModulation, StartsWithItsConstructionValues) {
     EXPECT_EQ(modulation.getParameter(kMix), 0.5f);
 }
 
-TEST(CDSPModulation, TurnsFromTheStartAtOneHertz) {
+TEST(CDSPModulation, StartsWithAnOscillatorOfOneHertz) {
     auto sweep = makeSweep();
     CRamp ramp;
     ramp.through(*sweep, 1000);
@@ -150,7 +150,7 @@ TEST(CDSPModulation, WithoutDepthTheDelayIsTheWidth) {
         EXPECT_EQ(output.left(i), i == 883 ? 1.0f : 0.0f) << i;
 }
 
-TEST(CDSPModulation, SweepsTheShareOfTheWidthThatDepthSays) {
+TEST(CDSPModulation, DepthIsTheSweptShareOfTheWidth) {
     auto sweep = makeSweep();
     sweep->setParameter(kWidth, 10.0f);
     sweep->setParameter(kDepth, 0.25f);
@@ -212,7 +212,7 @@ TEST(CDSPModulation, APhaserIsAnAllPass) {
     }
 }
 
-TEST(CDSPModulation, SpreadMovesTheRightOscillatorOnceFromWhereItStands) {
+TEST(CDSPModulation, SpreadShiftsTheRightOscillatorFromItsPresentPhase) {
     auto sweep = makeSweep();
     CRamp ramp;
     ramp.through(*sweep, 1000);
@@ -229,14 +229,14 @@ TEST(CDSPModulation, SpreadMovesTheRightOscillatorOnceFromWhereItStands) {
 TEST(CDSPModulation, SpreadWrapsAboveOneButNotBelowMinusOne) {
     auto sweep = makeSweep();
     CRamp ramp;
-    // 0.75 + 0.25 and 5512 frames more: the right phase has just gone round to -1.
+    // After 5512 frames the right phase, which begins at 0.75, has reached 1 and wrapped to -1.
     ramp.through(*sweep, 6000);
     sweep->setParameter(kSpread, 0.0f);
     const SOffsets below = ramp.through(*sweep, 100);
     EXPECT_NEAR(highest(below.right), 908.0, 1.0);
     EXPECT_LE(highest(below.left), 882.01);
 
-    // The same way up from just below 1 goes round.
+    // Upwards from just below 1 it wraps.
     auto up = makeSweep();
     CRamp other;
     other.through(*up, 5000);
@@ -257,7 +257,7 @@ TEST(CDSPModulation, SettingAValueAgainChangesNothing) {
     }
 }
 
-TEST(CDSPModulation, OscillatorsRunOnAcrossAReset) {
+TEST(CDSPModulation, AResetLeavesTheOscillatorsRunning) {
     auto reset = makeSweep(), usual = makeSweep();
     CRamp resetRamp, usualRamp;
     resetRamp.through(*reset, 5000);
@@ -303,8 +303,8 @@ TEST(CDSPModulation, EqualsThePlainReadingBitForBit) {
                     {kSpread, 0.0f, 1.0f}});
 }
 
-TEST(CDSPModulation, EqualsThePlainReadingFarOutsideItsLaws) {
-    // Sweeps that come near the newest sample or go round the line, and oscillators that wrap every
+TEST(CDSPModulation, EqualsThePlainReadingFarOutsideTheParameterRanges) {
+    // Sweeps that come near the newest sample or wrap in the line, and oscillators that wrap every
     // few samples.
     expectSameBits([] { return std::make_unique<CDSPModulation>(); },
                    [] { return std::make_unique<CPlainModulation>(); },
@@ -320,7 +320,7 @@ TEST(CDSPModulation, EqualsThePlainReadingFarOutsideItsLaws) {
                    {{kWidth, 0.0f, 3.0f}, {kDepth, 0.0f, 1.0f}, {kSpeed, 0.0f, 2000.0f}}, 500);
 }
 
-TEST(CDSPModulationDeathTest, StopsAtAnOffsetThatIsNoNumber) {
+TEST(CDSPModulationDeathTest, StopsAtAnOffsetOfNaN) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     CDSPModulation modulation;
     modulation.setParameter(kSpeed, NAN);
@@ -328,7 +328,7 @@ TEST(CDSPModulationDeathTest, StopsAtAnOffsetThatIsNoNumber) {
                  "Assertion failed: offset >= 0.0f, file dspclasses/DelayLine, line 74");
 }
 
-TEST(CDSPModulation, NoChangeOfSpreadIsLostBesideARunningBlock) {
+TEST(CDSPModulation, NoChangeOfSpreadIsLostWhileABlockRuns) {
     auto sweep = makeSweep();
     constexpr int changes = 300, blockFrames = 2048;
     std::atomic<int> changed = 0, blocks = 0;
@@ -344,7 +344,7 @@ TEST(CDSPModulation, NoChangeOfSpreadIsLostBesideARunningBlock) {
                 continue;
         }
     });
-    // A block ahead of the changes, so that the next change comes while a block runs.
+    // One block ahead of the changes, so that the next change comes while a block runs.
     const TStereo<float> silence(blockFrames);
     for (; blocks <= changes; ++blocks) {
         while (changed < blocks)
@@ -356,7 +356,7 @@ TEST(CDSPModulation, NoChangeOfSpreadIsLostBesideARunningBlock) {
     CRamp ramp;
     ramp.through(*sweep, 22050);  // a phase below -1 has come back by then
     const SOffsets together = ramp.through(*sweep, 44100);
-    // Rounding parts the two by a few samples; a lost change would part them by hundreds.
+    // Rounding separates the two by a few samples; a lost change would by hundreds.
     for (std::size_t i = 0; i < together.left.size(); i += 10)
         ASSERT_NEAR(together.left[i], together.right[i], 50.0) << i;
 }

@@ -19,7 +19,7 @@ std::unique_ptr<CDSPReverb> makeReverb() {
     return reverb;
 }
 
-/// The least room, so that the network is heard within a short signal.
+/// The smallest room, so that a short signal already passes through the network.
 std::unique_ptr<CDSPReverb> makeSmall() {
     auto reverb = makeReverb();
     reverb->setParameter(kRoomSize, 1.0f);
@@ -50,7 +50,7 @@ int firstSound(const std::vector<float> &samples) {
         samples.begin());
 }
 
-/// A module of either kind that has run until its network lines are about to go round.
+/// A module or its plain reading, run until the lines of the network are about to wrap.
 template <typename Reverb>
 std::unique_ptr<Reverb> makeNearTheWrap() {
     auto reverb = std::make_unique<Reverb>();
@@ -101,13 +101,13 @@ TEST(CDSPReverb, TakesTheSmallestRoomForASmallerOne) {
 }
 
 TEST(CDSPReverb, TheShortestLineReturnsFirst) {
-    // Tap 3 stands at offset 5, which the line of four takes for 1; a read comes before the write,
-    // in the early line and in the network.
+    // Tap 3 has offset 5, which the early line of four samples reads at 1. A read comes before the
+    // write, in the early line and in the network.
     auto reverb = makeWet(0.0f, 1.0f);
     EXPECT_EQ(firstSound(impulseResponse(*reverb, 10000).channels[0]), 2 + 8199 + 1);
 }
 
-TEST(CDSPReverb, TheEarlyTapsStandWithinFourSamples) {
+TEST(CDSPReverb, TheEarlyTapsFallWithinFourSamples) {
     // Offsets 5320, 3894, 2014 and 5 are 0, 2, 2 and 1 modulo 4.
     auto reverb = makeWet(1.0f, 0.0f);
     reverb->setParameter(kInputDamping, 1.0f);  // no filter
@@ -126,7 +126,7 @@ TEST(CDSPReverb, TheEarlyTapsStandWithinFourSamples) {
 }
 
 TEST(CDSPReverb, OneInputFilterTakesLeftAndRightInTurn) {
-    // A left impulse is still in the filter when the right sample of the same frame comes by.
+    // The filter still holds a left impulse when it takes the right sample of the same frame.
     const auto early = [](float left, float right) {
         auto reverb = makeWet(1.0f, 0.0f);
         return double{impulseResponse(*reverb, 2, left, right).left(1)};
@@ -135,17 +135,17 @@ TEST(CDSPReverb, OneInputFilterTakesLeftAndRightInTurn) {
     EXPECT_NEAR(early(1.0f, 0.0f) / early(0.0f, 1.0f), 1.0 + pole, 1e-5);
 }
 
-TEST(CDSPReverb, AReverbTimeLeavesTheTapsAsTheyAre) {
+TEST(CDSPReverb, ANewReverbTimeDoesNotChangeTheTaps) {
     auto usual = makeWet(1.0f, 0.0f), longer = makeWet(1.0f, 0.0f);
     longer->setParameter(kTime, 7.0f);
     EXPECT_TRUE(impulseResponse(*longer, 3000) == impulseResponse(*usual, 3000));
-    // A new room takes the time for both sets of gains.
+    // A new room takes the present reverb time for the gains of the taps and of the lines.
     usual->setParameter(kRoomSize, 50.0f);
     longer->setParameter(kRoomSize, 50.0f);
     EXPECT_FALSE(impulseResponse(*longer, 3000) == impulseResponse(*usual, 3000));
 }
 
-TEST(CDSPReverb, AReverbTimeSetsTheDecayOfTheNetwork) {
+TEST(CDSPReverb, TheReverbTimeSetsTheDecayOfTheNetwork) {
     const auto returning = [](float seconds) {
         auto reverb = makeWet(0.0f, 1.0f);
         reverb->setParameter(kTime, seconds);
@@ -161,7 +161,7 @@ TEST(CDSPReverb, DampingSetsTheFilters) {
         return double{impulseResponse(*reverb, 8203).left(8202)};
     };
     EXPECT_NEAR(bright(kWallDamping, 0.8f) / bright(kWallDamping, 0.4f), 0.2 / 0.6, 1e-5);
-    // The gain g and, for the right sample, g + p g of the state that the left one has left.
+    // The left sample gives g, and the right one g + p g with the state that the left one has left.
     EXPECT_NEAR(bright(kInputDamping, 0.5f) / bright(kInputDamping, 1.0f), 0.5 * 2.5 / 2.0, 1e-5);
 }
 
@@ -179,7 +179,7 @@ TEST(CDSPReverb, ALaterRoomKeepsTheLengthsOfTheAllPasses) {
         const int firstTap = firstSound(left), taps = 4;
         return firstSound({left.begin() + taps, left.end()}) + taps - firstTap;
     };
-    // The second all-pass of the left side: 160 samples times the scale.
+    // The second all-pass of the left side: 160 samples times the scale of the room.
     EXPECT_EQ(firstEcho(100.0f, false), 978);
     EXPECT_EQ(firstEcho(50.0f, false), 978);
     EXPECT_EQ(firstEcho(50.0f, true), 489);
@@ -189,7 +189,7 @@ TEST(CDSPReverb, AChangeOfSpreadSilencesTheAllPasses) {
     auto reverb = makeWet(1.0f, 0.0f);
     render(*reverb, makeSignal<float>(ESignal::Noise, 1, 3000), 512);
     reverb->setParameter(kSpread, 0.35f);
-    // What the early line still holds passes the fresh all-passes within their first samples.
+    // The rest of the early line passes the cleared all-passes within their first samples.
     const TStereo<float> output = render(*reverb, TStereo<float>(200), 200);
     EXPECT_NE(output.channels[0][0], 0.0f);
     EXPECT_TRUE(std::all_of(output.channels[0].begin() + 100, output.channels[0].end(),
@@ -212,7 +212,7 @@ TEST(CDSPReverb, RunsOnUnheardWithBothLevelsAtZero) {
     EXPECT_NE(render(*reverb, TStereo<float>(10), 10).left(0), 0.0f);
 }
 
-TEST(CDSPReverb, ATailEndsAsExactZero) {
+TEST(CDSPReverb, ATailDecaysToExactZero) {
     expectSilenceAfterABurst<float>(makeSmall, 200000);
     expectSilenceAfterABurst<double>(makeSmall, 200000);
 }
@@ -227,7 +227,7 @@ TEST(CDSPReverb, ATailHasNoDenormal) {
     const TStereo<float> output = render(*reverb, input, 512);
     EXPECT_EQ(output.channels[0].back(), 0.0f);
     const auto denormal = [](float sample) { return std::fpclassify(sample) == FP_SUBNORMAL; };
-    // The sum of the all-pass is not flushed: a few samples at the very end of a tail may be.
+    // The output sum of an all-pass is not flushed, so a tail may end with a few denormals.
     EXPECT_LT(std::count_if(output.channels[0].begin(), output.channels[0].end(), denormal), 400);
 }
 
@@ -271,8 +271,8 @@ TEST(CDSPReverb, EqualsThePlainReadingInSmallRooms) {
                    [] { return std::make_unique<CPlainReverb>(); }, small);
 }
 
-TEST(CDSPReverb, EqualsThePlainReadingFarOutsideItsLaws) {
-    // Rooms beyond the lines go round them, down to a single sample.
+TEST(CDSPReverb, EqualsThePlainReadingFarOutsideTheParameterRanges) {
+    // Lengths beyond the capacity of the lines wrap, down to a single sample.
     expectSameBits([] { return std::make_unique<CDSPReverb>(); },
                    [] { return std::make_unique<CPlainReverb>(); },
                    {{kRoomSize, 505.4f, 506.2f},
@@ -285,18 +285,18 @@ TEST(CDSPReverb, EqualsThePlainReadingFarOutsideItsLaws) {
                    500);
 }
 
-TEST(CDSPReverb, EqualsThePlainReadingAsTheLinesGoRound) {
+TEST(CDSPReverb, EqualsThePlainReadingAsTheLinesWrap) {
     expectSameBits(makeNearTheWrap<CDSPReverb>, makeNearTheWrap<CPlainReverb>, inUse, 200);
 }
 
-TEST(CDSPReverbDeathTest, StopsAtASpreadThatLeavesAnAllPassNoLength) {
+TEST(CDSPReverbDeathTest, StopsAtASpreadThatGivesAnAllPassNoLength) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     CDSPReverb reverb;
     EXPECT_DEATH(reverb.setParameter(kSpread, 3.203f),
                  "Assertion failed: newDelayLength!=0, file dspclasses/DSPAllPass, line 46");
 }
 
-TEST(CDSPReverbDeathTest, StopsAtARoomThatIsNoNumber) {
+TEST(CDSPReverbDeathTest, StopsAtARoomSizeOfNaN) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     CDSPReverb reverb;
     reverb.setParameter(kRoomSize, NAN);
