@@ -9,7 +9,8 @@
 
 static constexpr int groupFrames = 256;
 
-static float withoutDust(float level) {
+/// Kept: a level below -400 dB is stored as 0.
+static float zeroIfInaudible(float level) {
     return std::fabs(level) < 1e-20f ? 0.0f : level;
 }
 
@@ -24,16 +25,16 @@ void CDSPDelay::setParameter(int index, float value) {
     case kSync:
         return setSync(truncated(value * 2.0f));
     case kFeedback:
-        feedback = withoutDust(value);
+        feedback = zeroIfInaudible(value);
         return;
     case kPingPong:
         pingPong = value >= 0.5f;
         return;
     case kDryLevel:
-        dryLevel = withoutDust(value);
+        dryLevel = zeroIfInaudible(value);
         return;
     case kWetLevel:
-        wetLevel = withoutDust(value);
+        wetLevel = zeroIfInaudible(value);
         return;
     case kTempo:
         return setTempo(value);

@@ -21,16 +21,16 @@ public:
             setSync(truncated(value * 2.0f));
             break;
         case 2:
-            feedback = withoutDust(value);
+            feedback = zeroIfInaudible(value);
             break;
         case 3:
             pingPong = value >= 0.5f;
             break;
         case 4:
-            dryLevel = withoutDust(value);
+            dryLevel = zeroIfInaudible(value);
             break;
         case 5:
-            wetLevel = withoutDust(value);
+            wetLevel = zeroIfInaudible(value);
             break;
         case 6:
             setTempo(value);
@@ -98,7 +98,7 @@ public:
     std::uint32_t getLineCapacity() const { return lineCapacity; }
 
 private:
-    static float withoutDust(float value) { return std::fabs(value) < 1e-20f ? 0.0f : value; }
+    static float zeroIfInaudible(float value) { return std::fabs(value) < 1e-20f ? 0.0f : value; }
 
     void setDelay(std::uint32_t ms) {
         if (ms == delayMs)
