@@ -1,16 +1,20 @@
 #pragma once
 
+#include "dspclasses/blocks/DynamicsMath.h"
 #include "dspclasses/kernels/Lanes.h"
 
 #include <algorithm>
 
-/// Moves towards its input: from frame to frame it keeps a share of its distance, the share of the
-/// attack where the input is above it, else that of the release.
+/// One-pole smoother with one coefficient for a rising input and one for a falling input:
+///
+///     c = input > state ? attackCoef : releaseCoef
+///     state = (state - input) * c + input
 struct SFollower {
-    float attackCoef;
-    float releaseCoef;
+    float attackCoef;   // share of the distance to the input that is left after one frame
+    float releaseCoef;  // the same while falling
 
-    /// One frame, in the precision of the input.
+    /// @return the state one frame later. Computed in the precision of the input, stored as a
+    /// float.
     template <typename Sample>
     float next(float state, Sample input) const {
         const Sample coef{input > Sample{state} ? attackCoef : releaseCoef};
@@ -18,17 +22,16 @@ struct SFollower {
     }
 };
 
-/// The follower of peaks in the gate, the compressor and the de-esser, at 44100 Hz.
-inline constexpr float peakAttackCoef = 0.9886621f;   // 1 - 1 / (2 ms * 44.1)
-inline constexpr float peakReleaseCoef = 0.9984883f;  // 1 - 1 / (15 ms * 44.1)
-inline constexpr SFollower peakFollower{peakAttackCoef, peakReleaseCoef};
+/// The peak follower of the gate, the compressor and the de-esser: 2 ms and 15 ms at 44.1 kHz.
+inline constexpr SFollower peakFollower{smoothingCoefficient(2.0f, 44100.0f),
+                                        smoothingCoefficient(15.0f, 44100.0f)};
 
-/// Four frames of a recursion.
-/// @param state  the result of the frame before; becomes that of the fourth.
-/// @param next   (result of the frame before, input) -> result.
+/// Runs a recursion over four frames.
+/// @param state  of the frame before; becomes that of the fourth.
+/// @param next   (state of the frame before, input) -> state.
 template <typename Sample, typename Next>
-[[gnu::always_inline]] inline Floats4 recurFour(float &state, const TFour<Sample> &input,
-                                                Next next) {
+[[gnu::always_inline]] inline Floats4 recurseFour(float &state, const TFour<Sample> &input,
+                                                  Next next) {
     const auto &in = input.values;
     const float first = next(state, in[0]), second = next(first, in[1]);
     const float third = next(second, in[2]), fourth = next(third, in[3]);
@@ -36,24 +39,29 @@ template <typename Sample, typename Next>
     return Floats4{first, second, third, fourth};
 }
 
-/// Four frames of a follower, without a comparison that every next frame would have to wait for.
-/// The attack counts just where the distance is below zero. If it is the smaller share, its product
-/// is the greater of the two there, and the release's is elsewhere: always the greater one counts.
-/// If it is the greater share, always the lesser one does.
+/// SFollower::next for four frames, with the same bits. Comparing state and input first would
+/// lengthen the chain of operations that leads from one frame to the next. Instead both products
+/// are formed, and their maximum or minimum is the right one. With d = state - input:
+///
+///     d < 0  (attack)    d * attackCoef > d * releaseCoef  if attackCoef < releaseCoef
+///     d > 0  (release)   d * releaseCoef > d * attackCoef  if attackCoef < releaseCoef
+///
+/// So for attackCoef < releaseCoef the larger product is always the one wanted. Otherwise both
+/// inequalities turn round and the smaller one is wanted.
 /// @param state  of the frame before; becomes that of the fourth.
 template <typename Sample>
 [[gnu::always_inline]] inline Floats4 followFour(const SFollower &follower, float &state,
                                                  const TFour<Sample> &input) {
     const Sample attack{follower.attackCoef}, release{follower.releaseCoef};
-    // The release first: it is what counts if the other product is a NaN, 0 times an infinite
-    // coefficient.
+    // The release goes first: std::max and std::min return their first argument if the second is
+    // NaN, as it is for d = 0 and an infinite attackCoef.
     if (attack < release) {
-        return recurFour(state, input, [=](float before, Sample level) {
+        return recurseFour(state, input, [=](float before, Sample level) {
             const Sample distance = Sample{before} - level;
             return static_cast<float>(std::max(distance * release, distance * attack) + level);
         });
     }
-    return recurFour(state, input, [=](float before, Sample level) {
+    return recurseFour(state, input, [=](float before, Sample level) {
         const Sample distance = Sample{before} - level;
         return static_cast<float>(std::min(distance * release, distance * attack) + level);
     });

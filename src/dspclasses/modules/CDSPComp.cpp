@@ -45,15 +45,13 @@ void CDSPComp::reset() {
 }
 
 void CDSPComp::clear() {
-    gainLeft = gainRight = 1.0f;
-    overLeft = overRight = 0.0f;
-    peakLeft = peakRight = 0.0f;
-    gainDbLeft = gainDbRight = 0.0f;
+    left = right = {};
+    leftGain = {};
 }
 
 namespace {
 
-/// Reads the samples of a step. In single precision denormals become 0.0, in the input as well.
+/// In single precision denormals become 0.0, in the input as well.
 [[gnu::always_inline]] inline TFour<float> read(const SStep &step, float *in) {
     const TFour<float> samples = flushDenormal(step.load(in));
     step.store(in, samples);
@@ -63,8 +61,15 @@ namespace {
     return step.load(in);
 }
 
-/// Kept: the right detector only decides whether the last gain of the left channel applies here, or
-/// the plain make-up.
+template <typename Sample>
+[[gnu::always_inline]] inline void apply(const SStep &step, const Floats4 &gains, const Sample *in,
+                                         Sample *out) {
+    const auto factors = __builtin_convertvector(gains, typename TFour<Sample>::Values);
+    step.store(out, TFour<Sample>{step.load(in).values * factors});
+}
+
+/// Kept: the gain of the right channel does not follow its own detector. That only decides between
+/// the last gain of the left channel, held for the whole block, and the make-up.
 class CHeldGain {
 public:
     explicit CHeldGain(float gain) : m_gain(splat(gain)) {}
@@ -81,13 +86,6 @@ private:
     Mask4 m_areActive{};
 };
 
-template <typename Sample>
-[[gnu::always_inline]] inline void apply(const SStep &step, const Floats4 &gains, const Sample *in,
-                                         Sample *out) {
-    const auto factors = __builtin_convertvector(gains, typename TFour<Sample>::Values);
-    step.store(out, TFour<Sample>{step.load(in).values * factors});
-}
-
 }  // namespace
 
 SDetectorSettings CDSPComp::settings() const {
@@ -97,7 +95,8 @@ SDetectorSettings CDSPComp::settings() const {
 
 template <typename Sample>
 void CDSPComp::run(Sample *const *in, Sample *const *out, int frames) {
-    // The request before the mode: the state of the old mode does not outlive it by a whole block.
+    // Setting the mode also asks for a reset. Taken before the mode is read, the request clears the
+    // old mode's state in this block or at the latest in the next.
     if (resetRequest.take())
         clear();
     if (frames <= 0)
@@ -134,36 +133,22 @@ void CDSPComp::runLeft(Sample *in, Sample *out, int frames) {
 
 template <typename Sample, typename Levels, typename Apply>
 void CDSPComp::detectLeft(int frames, Levels levels, Apply applyGains) {
-    SDetectorState state{.peak = peakLeft,
-                         .over = overLeft,
-                         .isPeakCleared = isClearedBy<Sample>(peakRight),
-                         .isOverCleared = isClearedBy<Sample>(overRight)};
-    TDetector<Sample>::run(
-        state, frames, [this] { return settings(); }, levels, CGainsByLaw(), applyGains);
-
-    const SGainLaw law = settings().law;
-    peakLeft = state.peak;
-    overLeft = state.over;
-    gainDbLeft = law.decibels(state.isActive, overLeft);
-    gainLeft = law.linear(state.isActive, gainDbLeft);
+    const SFlushedFields flushed{.peak = isFlushedByNeighbour<Sample>(right.peak),
+                                 .smoothedExcess =
+                                     isFlushedByNeighbour<Sample>(right.smoothedExcessDb)};
+    const bool isActive = TDetector<Sample>::run(
+        left, flushed, frames, [this] { return settings(); }, levels, CGainsByLaw(), applyGains);
+    leftGain = settings().law.gain(isActive, left.smoothedExcessDb);
 }
 
 template <typename Sample>
 void CDSPComp::runRight(Sample *in, Sample *out, int frames) {
-    SDetectorState state{.peak = peakRight,
-                         .over = overRight,
-                         .isPeakCleared = isClearedBy<Sample>(gainDbLeft),
-                         .isOverCleared = isClearedBy<Sample>(thresholdDb)};
+    const SFlushedFields flushed{.peak = isFlushedByNeighbour<Sample>(leftGain.decibels),
+                                 .smoothedExcess = isFlushedByNeighbour<Sample>(thresholdDb)};
     const auto levels = [=](const SStep &step) { return magnitude(read(step, in)); };
     TDetector<Sample>::run(
-        state, frames, [this] { return settings(); }, levels, CHeldGain(gainLeft),
+        right, flushed, frames, [this] { return settings(); }, levels, CHeldGain(leftGain.linear),
         [=](const SStep &step, const Floats4 &gains) { apply(step, gains, in, out); });
-
-    const SGainLaw law = settings().law;
-    peakRight = state.peak;
-    overRight = state.over;
-    gainDbRight = law.decibels(state.isActive, overLeft);
-    gainRight = state.isActive ? gainLeft : law.offsetLinear;
 }
 
 void CDSPComp::processReplacing(float **in, float **out, int frames) {

@@ -1,10 +1,9 @@
 #pragma once
 
 #include "dspclasses/blocks/CResetRequest.h"
+#include "dspclasses/blocks/DetectorState.h"
 #include "dspclasses/modules/CDSPBase.h"
 #include "values/TRelaxed.h"
-
-struct SDetectorSettings;
 
 /// Compressor with one detector for both channels (linked) or one for each (separate).
 ///
@@ -45,28 +44,25 @@ private:
     template <typename Sample, typename Levels, typename Apply>
     void detectLeft(int frames, Levels levels, Apply applyGains);
 
-    // In this order, which double precision depends on: see isClearedBy.
     TRelaxed<float> attackMs = 10.0f;
     TRelaxed<float> releaseMs = 100.0f;
-    TRelaxed<float> attackCoef = 0.9977324f;    // share kept per sample, from attackMs
-    TRelaxed<float> releaseCoef = 0.99977326f;  // the same, from releaseMs
-    float overLeft = 0.0f;  // smoothed amount over the threshold, left or linked
-    float overRight = 0.0f;
+    TRelaxed<float> attackCoef = smoothingCoefficient(attackMs, sampleRate);
+    TRelaxed<float> releaseCoef = smoothingCoefficient(releaseMs, sampleRate);
     TRelaxed<float> thresholdDb = -20.0f;
     // Kept: not the level of thresholdDb. Until the threshold is first changed, any signal is
-    // above.
+    // above it.
     TRelaxed<float> thresholdLinear = 0.0f;
-    float peakLeft = 0.0f;  // left or linked
-    float peakRight = 0.0f;
-    float gainDbLeft = 0.0f;  // last gain, left or linked
-    float gainDbRight = 0.0f;
-    float gainLeft = 1.0f;
-    float gainRight = 1.0f;
     TRelaxed<float> ratio = 1.0f;
-    TRelaxed<float> makeUpDb = 0.0f;
-    // Kept: not that of ratio 1. Until the ratio is first changed, the gain rises with the amount.
+    // Kept: not the slope of ratio 1. Until the ratio is first changed, the gain rises with the
+    // excess.
     TRelaxed<float> slope = 1.0f;
+    TRelaxed<float> makeUpDb = 0.0f;
     TRelaxed<float> makeUpLinear = 1.0f;
     TRelaxed<bool> linked = true;
     CResetRequest resetRequest;
+
+    // Running state
+    SDetectorState left;  // or of both channels, if linked
+    SDetectorState right;
+    SGain leftGain;  // of the last frame; of both channels, if linked
 };

@@ -116,8 +116,9 @@ void CDSPDeEsser::detect(float **in, float **out, int frames) {
     float *inL = in[0], *inR = in[1], *sideL = side.left.data(), *sideR = side.right.data();
     float *outL = out[0], *outR = out[1];
     const bool isNarrow = narrow;
-    SDetectorState state{.peak = peak, .over = over};
-    runWide([=, this, &state] {
+    bool isActive = false;
+    SDetectorState state{.peak = peak, .smoothedExcessDb = over};
+    runWide([=, this, &state, &isActive] {
         SBiquadLanes lanes = filter.takeOut();
         const auto refresh = [this, &lanes] {
             filter.refresh(lanes);
@@ -135,22 +136,26 @@ void CDSPDeEsser::detect(float **in, float **out, int frames) {
             step.store(outL, attenuated(step.load(inL), step.load(sideL), gains, isNarrow));
             step.store(outR, attenuated(step.load(inR), step.load(sideR), gains, isNarrow));
         };
-        TDetector<float>::run(state, frames, refresh, levels, CGainsByLaw(), apply);
+        isActive = TDetector<float>::run(state, SFlushedFields{}, frames, refresh, levels,
+                                         CGainsByLaw(), apply);
         filter.putBack(lanes);
     });
 
-    const SGainLaw law = settings().law;
     peak = state.peak;
-    over = state.over;
-    gainDb = law.decibels(state.isActive, over);
-    gain = law.linear(state.isActive, gainDb);
+    over = state.smoothedExcessDb;
+    moveGain(settings().law.gain(isActive, over));
+}
+
+void CDSPDeEsser::moveGain(const SGain &next) {
+    gainDb = next.decibels;
+    gain = next.linear;
 }
 
 // Double precision
 
-/// Kept: the peak is cleared while the last gain is 0 dB, see isClearedBy, and only a peak can move
-/// the gain from there. So once the gain has come to rest, the detector is asleep until single
-/// precision wakes it up.
+/// Kept: the peak is cleared while the last gain is 0 dB, see isFlushedByNeighbour, and only a peak
+/// can move the gain from there. So once the gain has come to rest, the detector is asleep until
+/// single precision wakes it up.
 void CDSPDeEsser::detect(double **in, double **out, int frames) {
     double *sides[] = {doubleSide.left.data(), doubleSide.right.data()};
     process(filter, in, sides, frames);
@@ -178,25 +183,24 @@ double CDSPDeEsser::levelAt(int frame, bool isNarrow) const {
 }
 
 void CDSPDeEsser::detectFrame(double level, const SDetectorSettings &now) {
-    peak = isClearedBy<double>(gainDb) ? 0.0f : peakFollower.next(peak, level);
+    peak = isFlushedByNeighbour<double>(gainDb) ? 0.0f : peakFollower.next(peak, level);
     const bool isAbove = peak - now.thresholdLinear > 0.0f;
     const double amount =
         isAbove ? logDouble(level + double{smoothingBias}) * double{exponentPerDecibel} -
                       double{now.thresholdDb}
                 : 0.0;
     over = now.smoother.next(over + smoothingBias, amount) - smoothingBias;
-    if (isClearedBy<double>(now.thresholdDb))
+    if (isFlushedByNeighbour<double>(now.thresholdDb))
         over = 0.0f;
-    const bool isActive = isAbove || over > leastActiveOver;
-    gainDb = now.law.decibels(isActive, over);
-    gain = now.law.linear(isActive, gainDb);
+    const bool isActive = isAbove || over > leastActiveExcessDb;
+    moveGain(now.law.gain(isActive, over));
 }
 
 /// @return whether the detector stays inactive whatever the signal is.
 bool CDSPDeEsser::isAsleep(const SDetectorSettings &now) const {
     const float release = now.smoother.releaseCoef;
-    return isClearedBy<double>(gainDb) && over >= -smoothingBias && over <= leastActiveOver &&
-           release >= 0.0f && release <= 1.0f;
+    return isFlushedByNeighbour<double>(gainDb) && over >= -smoothingBias &&
+           over <= leastActiveExcessDb && release >= 0.0f && release <= 1.0f;
 }
 
 /// What remains of detectFrame while asleep.
@@ -204,7 +208,7 @@ void CDSPDeEsser::sleep(int frames, const SDetectorSettings &now) {
     peak = 0.0f;
     gainDb = now.law.offsetDb;
     gain = now.law.offsetLinear;
-    if (isClearedBy<double>(now.thresholdDb)) {
+    if (isFlushedByNeighbour<double>(now.thresholdDb)) {
         over = 0.0f;
         return;
     }

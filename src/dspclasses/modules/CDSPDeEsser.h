@@ -8,6 +8,7 @@
 #include <vector>
 
 struct SDetectorSettings;
+struct SGain;
 
 /// De-esser: a high-pass filter derives a side chain, and one detector on both of its channels
 /// attenuates the whole signal (wide) or only what the filter passes (narrow).
@@ -52,11 +53,12 @@ private:
     double levelAt(int frame, bool isNarrow) const;
     void detectFrame(double level, const SDetectorSettings &now);
     bool isAsleep(const SDetectorSettings &now) const;
+    void moveGain(const SGain &next);
     void sleep(int frames, const SDetectorSettings &now);
     void write(const double *const *in, double *const *out, int first, int count,
                bool isNarrow) const;
 
-    // In this order, which double precision depends on: see isClearedBy.
+    // In this order, which double precision depends on: see isFlushedByNeighbour.
     TRelaxed<float> speed = 0.5f;
     TRelaxed<float> attackMs = 26.0f;
     TRelaxed<float> releaseMs = 300.0f;

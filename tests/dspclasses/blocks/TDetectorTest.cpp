@@ -12,13 +12,13 @@ namespace {
 
 constexpr SGainLaw anyLaw{-0.5f, 0.0f, 1.0f};
 
-/// The detector beside its plain reading, over a block of levels. Nothing is cleared, so that the
-/// whole of the state can be compared.
+/// Runs a block of levels through the detector and its plain reading and compares the states. No
+/// field is flushed by a neighbour.
 template <typename Sample>
 void expectSameState(const SPlainDetector &plain, SDetectorState &state,
                      const std::vector<Sample> &levels) {
-    float peak = state.peak, over = state.over;
-    const float neighbour = 1.0f;  // keeps the one in front of it
+    float peak = state.peak, smoothedExcessDb = state.smoothedExcessDb;
+    const float neighbour = 1.0f;  // flushes nothing
     bool isAbove = false;
     for (const Sample level : levels) {
         if constexpr (sizeof(Sample) == 4)
@@ -27,13 +27,13 @@ void expectSameState(const SPlainDetector &plain, SDetectorState &state,
             plain.follow(peak, neighbour, level);
         isAbove = plain.isAbove(peak);
         if constexpr (sizeof(Sample) == 4)
-            plain.smooth(over, isAbove, level);
+            plain.smooth(smoothedExcessDb, isAbove, level);
         else
-            plain.smooth(over, neighbour, isAbove, level);
+            plain.smooth(smoothedExcessDb, neighbour, isAbove, level);
     }
 
-    TDetector<Sample>::run(
-        state, static_cast<int>(levels.size()),
+    const bool isActive = TDetector<Sample>::run(
+        state, SFlushedFields{}, static_cast<int>(levels.size()),
         [&plain] {
             return SDetectorSettings{plain.thresholdDb,
                                      plain.thresholdLinear,
@@ -43,8 +43,9 @@ void expectSameState(const SPlainDetector &plain, SDetectorState &state,
         [&levels](const SStep &step) { return step.load(levels.data()); }, CGainsByLaw(),
         [](const SStep &, const Floats4 &) {});
     EXPECT_TRUE(sameBits(state.peak, peak)) << state.peak << ' ' << peak;
-    EXPECT_TRUE(sameBits(state.over, over)) << state.over << ' ' << over;
-    EXPECT_EQ(state.isActive, isAbove || over > 0.01f);
+    EXPECT_TRUE(sameBits(state.smoothedExcessDb, smoothedExcessDb))
+        << state.smoothedExcessDb << ' ' << smoothedExcessDb;
+    EXPECT_EQ(isActive, isAbove || smoothedExcessDb > 0.01f);
 }
 
 /// Levels about the threshold of 0 dB, where an amount is nearly 0, of either sign, or just 0.
@@ -76,7 +77,8 @@ TYPED_TEST(TDetectorState, EqualsThePlainReadingFromTheSmallestAmountsOn) {
         plain.setThreshold(0.0f);
         const double tiny = std::pow(10.0, random.real(-40.0, -2.0));
         SDetectorState state{.peak = static_cast<float>(random.real(0.0, 1.5)),
-                             .over = static_cast<float>(random.chance(0.5) ? tiny : -tiny)};
+                             .smoothedExcessDb =
+                                 static_cast<float>(random.chance(0.5) ? tiny : -tiny)};
         for (int block = 0; block < 3; ++block)
             expectSameState(plain, state, levelsAboutOne<TypeParam>(random, random.whole(1, 40)));
         ASSERT_FALSE(this->HasFailure());
@@ -90,7 +92,7 @@ TYPED_TEST(TDetectorState, EqualsThePlainReadingAboutTheLeastNormalPeak) {
         SCOPED_TRACE(seed);
         CRandom random(seed);
         SDetectorState state{.peak = static_cast<float>(random.real(0.9, 4.5) * least),
-                             .over = 0.0f};
+                             .smoothedExcessDb = 0.0f};
         std::vector<TypeParam> levels;
         for (int i = random.whole(1, 12); i > 0; --i)
             levels.push_back(random.chance(0.5)
@@ -104,9 +106,9 @@ TYPED_TEST(TDetectorState, EqualsThePlainReadingAboutTheLeastNormalPeak) {
 TYPED_TEST(TDetectorState, RestsWithoutDenormals) {
     SPlainDetector plain{.attackCoef = 0.9f, .releaseCoef = 0.9f};
     plain.setThreshold(0.0f);
-    SDetectorState state{.peak = 2.0f, .over = 5.0f};
+    SDetectorState state{.peak = 2.0f, .smoothedExcessDb = 5.0f};
     expectSameState(plain, state, std::vector<TypeParam>(80000, TypeParam{0}));
-    EXPECT_FLOAT_EQ(state.over, -1e-20f);
+    EXPECT_FLOAT_EQ(state.smoothedExcessDb, -1e-20f);
     if (sizeof(TypeParam) == 4) {
         EXPECT_EQ(state.peak, 0.0f);
     }

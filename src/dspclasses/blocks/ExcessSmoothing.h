@@ -1,0 +1,54 @@
+#pragma once
+
+#include "dspclasses/blocks/Followers.h"
+
+#include <cmath>
+
+/// The detector's slower follower: it smooths the excess over the threshold.
+
+/// Added before smoothing and subtracted after it. An excess that dies away then comes to rest at
+/// -1e-20 and never becomes a denormal.
+inline constexpr float smoothingBias = 1e-20f;
+
+/// @return the smoothed excess one frame later.
+template <typename Sample>
+float smoothExcess(const SFollower &smoother, float smoothedDb, Sample excessDb) {
+    return smoother.next(smoothedDb + smoothingBias, excessDb) - smoothingBias;
+}
+
+/// Keeps the slow case out of the loop.
+template <typename Sample>
+[[gnu::noinline]] Floats4 smoothFourWithBias(const SFollower &smoother, float smoothedDb,
+                                             const TFour<Sample> &excessesDb) {
+    return recurseFour(smoothedDb, excessesDb, [&smoother](float before, Sample excessDb) {
+        return smoothExcess(smoother, before, excessDb);
+    });
+}
+
+/// smoothExcess for four frames, with the same bits. Two shorter recursions cover nearly all
+/// frames: below the threshold a decay, above it a follower without the bias.
+/// @param smoothedDb  of the frame before; becomes that of the fourth.
+/// @param areAbove    the frames that are above the threshold; the excess of the others is 0.
+template <typename Sample>
+[[gnu::always_inline]] inline Floats4 smoothFour(const SFollower &smoother, float &smoothedDb,
+                                                 const TFour<Sample> &excessesDb,
+                                                 const Mask4 &areAbove) {
+    const float before = smoothedDb, release = smoother.releaseCoef;
+    // From -bias up, an excess of 0 is never above the smoothed one, so the release applies.
+    if (before >= -smoothingBias && release >= 0.0f && !isAnySet(areAbove)) {
+        return recurseFour(smoothedDb, excessesDb, [release](float decaying, Sample) {
+            return (decaying + smoothingBias) * release - smoothingBias;
+        });
+    }
+    // From this magnitude up, adding or subtracting the bias changes no bit of a float.
+    constexpr float leastUnbiased = 0x1p-40f;
+    if (std::abs(before) >= leastUnbiased) [[likely]] {
+        const Floats4 smoothed = followFour(smoother, smoothedDb, excessesDb);
+        const Floats4 magnitudes = magnitude(SFloats4{smoothed}).values;
+        if (!isAnySet(magnitudes < leastUnbiased)) [[likely]]
+            return smoothed;
+    }
+    const Floats4 smoothed = smoothFourWithBias(smoother, before, excessesDb);
+    smoothedDb = smoothed[3];
+    return smoothed;
+}
