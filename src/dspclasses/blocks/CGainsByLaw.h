@@ -17,7 +17,7 @@ public:
         m_areActive = detected.areActive;
         if (isAnySet(m_areActive)) {
             const Floats4 decibels = law.slope * detected.smoothedExcessesDb + law.offsetDb;
-            m_parts = startExp(withinFloat({decibels * exponentPerDecibel}));
+            m_parts = startExp(clampedExponents({decibels * exponentPerDecibel}));
         }
     }
     /// @return linear gains.
@@ -25,7 +25,7 @@ public:
         const Floats4 offset = splat(law.offsetLinear);
         if (!isAnySet(m_areActive))
             return offset;
-        return m_areActive ? rounded(finishExp(m_parts)).values : offset;
+        return m_areActive ? narrowed(finishExp(m_parts)).values : offset;
     }
 
 private:

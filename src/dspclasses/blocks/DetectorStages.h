@@ -85,7 +85,7 @@ private:
                                                    const TDoubleSums<4> &logs, float thresholdDb) {
         constexpr Sample scale{exponentPerDecibel};
         if constexpr (isSingle) {
-            const Floats4 excesses = rounded(logs).values * scale - thresholdDb;
+            const Floats4 excesses = nearestFloats(logs).values * scale - thresholdDb;
             return {areAbove ? excesses : splat(0.0f)};
         } else {
             const auto excesses = (logs.high + logs.low) * scale - double{thresholdDb};

@@ -1,28 +1,31 @@
 #pragma once
 
 /// A number as the sum of two doubles that do not overlap: some 104 bits of precision, for the few
-/// results that double precision cannot round to float with certainty. The error terms are exact
-/// because nothing here is contracted or reordered.
+/// results too close to the midpoint between two floats to be rounded from one double. The error
+/// terms are exact only if the compiler neither contracts nor reorders these operations.
 /// Source: T. J. Dekker, A floating-point technique for extending the available precision.
 struct SDoubleDouble {
     double high, low;
 };
 
-/// high must not be smaller in magnitude than low.
+/// @param high  not smaller in magnitude than low, so that the error of the sum is exact.
 inline SDoubleDouble normalised(double high, double low) {
     const double sum = high + low;
     return {sum, low - (sum - high)};
 }
 
+/// @return the rounded sum and its rounding error, for operands of any order.
 inline SDoubleDouble exactSum(double a, double b) {
     const double sum = a + b, partOfB = sum - a;
     return {sum, (a - (sum - partOfB)) + (b - partOfB)};
 }
 
+/// @return the rounded product and its rounding error, from halves of 26 bits whose products are
+///         exact.
 inline SDoubleDouble exactProduct(double a, double b) {
-    constexpr double halves = 0x1p27 + 1.0;
-    const double scaledA = a * halves, highA = scaledA - (scaledA - a), lowA = a - highA;
-    const double scaledB = b * halves, highB = scaledB - (scaledB - b), lowB = b - highB;
+    constexpr double splitter = 0x1p27 + 1.0;
+    const double scaledA = a * splitter, highA = scaledA - (scaledA - a), lowA = a - highA;
+    const double scaledB = b * splitter, highB = scaledB - (scaledB - b), lowB = b - highB;
     const double product = a * b;
     return {product, ((highA * highB - product) + highA * lowB + lowA * highB) + lowA * lowB};
 }

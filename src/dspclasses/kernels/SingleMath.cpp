@@ -6,13 +6,13 @@
 #include <algorithm>
 #include <cmath>
 
-static double expWithinFloat(double x) {
-    const double held = std::clamp<double>(x, lowestExponent, highestExponent);
-    return expDoubles(TDoubles<1>{{held}}).values[0];
+static double expClamped(double x) {
+    const double clamped = std::clamp<double>(x, lowestExponent, highestExponent);
+    return expDoubles(TDoubles<1>{{clamped}}).values[0];
 }
 
 float expSingle(float x) {
-    return static_cast<float>(expWithinFloat(x));
+    return static_cast<float>(expClamped(x));
 }
 
 double logDouble(double x) {
@@ -41,27 +41,28 @@ static SDoubleDouble expPrecisely(SDoubleDouble x) {
     return {sum.high * twoToK, sum.low * twoToK};
 }
 
-/// The logarithm as a double, and what that double lacks by one step of Newton's method.
+/// The logarithm as a double, refined by one step of Newton's method.
 static SDoubleDouble logPrecisely(double x) {
     const double rough = logDouble(x);
     const SDoubleDouble quotient = SDoubleDouble{x, 0.0} * expPrecisely({-rough, 0.0});
     return SDoubleDouble{rough, 0.0} + (quotient + SDoubleDouble{-1.0, 0.0});
 }
 
-/// The float nearest to the value. What comes this close to the middle between two floats is the
-/// middle: a power that is exact.
-static float nearest(SDoubleDouble value) {
+/// The float nearest to the value. A power this close to a double is that double exactly; it may be
+/// a midpoint between two floats, which the conversion rounds to even.
+static float nearestFloat(SDoubleDouble value) {
     if (std::abs(value.low) < value.high * 0x1p-70)
         return static_cast<float>(value.high);
     return static_cast<float>(roundedToOdd(TDoubleSums<1>{{value.high}, {value.low}}).values[0]);
 }
 
 float powSingle(float base, float exponent) {
-    // The error of the double is below 2^-44 of it, and nearly always too small to matter.
-    const double rough = expWithinFloat(double{exponent} * logDouble(base));
+    // The relative error is below 2^-44. If both ends of twice that interval convert to the same
+    // float, it is the nearest one; nearly always they do.
+    const double rough = expClamped(double{exponent} * logDouble(base));
     const auto low = static_cast<float>(rough * (1.0 - 0x1p-42));
     const auto high = static_cast<float>(rough * (1.0 + 0x1p-42));
     if (!(low < high))
         return low;
-    return nearest(expPrecisely(SDoubleDouble{double{exponent}, 0.0} * logPrecisely(base)));
+    return nearestFloat(expPrecisely(SDoubleDouble{double{exponent}, 0.0} * logPrecisely(base)));
 }

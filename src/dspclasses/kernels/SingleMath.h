@@ -1,11 +1,12 @@
 #pragma once
 
-/// The exponential, the logarithm and the power of the modules and of the parameter laws: every
-/// result is the float nearest to the true value, so it is the same with every compiler, on every
-/// system and in the form for four lanes (SingleMathLanes.h). The C library promises none of this.
-/// [any thread] None of them can fail.
+/// The exponential, the logarithm and the power for the modules and the parameter laws. Every
+/// single-precision result is the float nearest to the true value. So it is the same with every
+/// compiler, on every system and in four lanes (SingleMathLanes.h), which the C library does not
+/// promise. docs/kernels.md explains how. [any thread] None of them can fail.
 
-/// @return e to the power x; 0 and infinity where a float holds no better, NaN for NaN.
+/// @return e to the power x; 0 or infinity where the true value underflows or overflows, NaN for
+///         NaN.
 float expSingle(float x);
 
 /// @param x  above 0 and finite; not checked.
@@ -13,7 +14,8 @@ float expSingle(float x);
 float logSingle(float x);
 
 /// @param base  above 0 and finite; not checked.
-/// @return base to the power of exponent; 0 and infinity where a float holds no better.
+/// @return base to the power of exponent; 0 or infinity where the true value underflows or
+///         overflows.
 float powSingle(float base, float exponent);
 
 /// The natural logarithm in double precision, within one unit in the last place of the true value.

@@ -2,17 +2,18 @@
 
 #include "dspclasses/kernels/Lanes.h"
 
-/// SingleMath for one or for four lanes at a time. Four doubles are one register of AVX2, and two
-/// of SSE2 stand in for it elsewhere: call the forms of four inside runWide. All is inlined.
+/// SingleMath for one or four lanes. Four doubles fill one register of AVX2 or two of SSE2, so call
+/// the forms for four lanes inside runWide. Everything is inlined.
 ///
-/// Between two neighbouring floats lie 2^29 doubles. A result rounded from double precision is
-/// wrong only if the error, some half a place, crosses the middle between two floats. With these
-/// polynomials that happens to none: a tool beside the tests runs through every float.
+/// Each function is computed in double precision and then rounded to float. The result is the
+/// nearest float unless the small error of the double crosses the midpoint between two floats.
+/// docs/kernels.md explains how the midpoints are handled and how every float was checked.
 
 template <int lanes>
 using TDoubles = TLanes<double, lanes>;
 
-/// A result in double precision before its last rounding.
+/// A double-precision result whose last addition is still to be done, so that it can be rounded
+/// once, straight to float.
 template <int lanes>
 struct TDoubleSums {
     typename TDoubles<lanes>::Values high, low;
@@ -22,7 +23,7 @@ struct TDoubleSums {
 inline constexpr double ln2High = 0x1.62e42fefap-1;
 inline constexpr double ln2Low = 0x1.cf79abc9e3b3ap-40;
 
-// Each function comes in two halves too, so that a loop can put other work between them.
+// Each function also comes in two halves, so that a staged loop can do other work between them.
 
 /// e to the power x as 2^k e^r, |r| up to ln(2) / 2.
 template <int lanes>
@@ -38,21 +39,22 @@ template <int lanes>
     using Bits = typename TDoubles<lanes>::Bits;
     const Values x = exponent.values;
 
-    // Adding 1.5 * 2^52 rounds to the integer k and leaves it in the low bits; 1023 more, and these
-    // are the exponent bits of 2^k.
+    // Adding 1.5 * 2^52 rounds to an integer k and leaves it in the low bits. With 1023 added as
+    // well, the low bits are the exponent bits of 2^k.
     constexpr double rounding = 0x1.8p52 + 1023.0;
     const Values shifted = x * 0x1.71547652b82fep+0 + rounding;
     const Values k = shifted - rounding;
     return {(x - k * ln2High) - k * ln2Low, reinterpret_cast<Bits>(shifted) << 52};
 }
 
-/// The power, within one unit in the last place.
+/// e to the power x, within one unit in the last place.
 template <int lanes>
 [[gnu::always_inline]] inline TDoubles<lanes> finishExp(const TExpParts<lanes> &parts) {
     using Values = typename TDoubles<lanes>::Values;
     const Values r = parts.r;
 
-    // e^r = 1 + r + r^2 q(r), with the q of least relative error for |r| up to ln(2) / 2: 2^-57.9.
+    // e^r = 1 + r + r^2 q(r), where q is the minimax polynomial for |r| up to ln(2) / 2; its
+    // relative error is 2^-57.9.
     const Values r2 = r * r, r4 = r2 * r2;
     const Values q01 = 0x1.000000000000ap-1 + r * 0x1.55555555554fap-3;
     const Values q23 = 0x1.555555555087dp-5 + r * 0x1.1111111127be6p-7;
@@ -96,8 +98,8 @@ template <int lanes>
     using Values = typename TDoubles<lanes>::Values;
     const auto &[k, f, s] = parts;
 
-    // ln(1 + f) = 2 atanh(s), so written that f itself is not rounded:
-    // f - (f^2/2 - s (f^2/2 + z p(z))), z = s^2, with the p of least relative error: 2^-59.5.
+    // ln(1 + f) = 2 atanh(s) = f - (f^2/2 - s (f^2/2 + z p(z))) with z = s^2. In this form f, the
+    // largest term, enters unrounded. p is a minimax polynomial with a relative error of 2^-59.5.
     const Values z = s * s, z2 = z * z;
     const Values p01 = 0x1.5555555555593p-1 + z * 0x1.999999997fc75p-2;
     const Values p23 = 0x1.249249420458dp-2 + z * 0x1.c71c51f8b354cp-3;
@@ -114,8 +116,9 @@ template <int lanes>
     return finishLog(startLog(x));
 }
 
-/// The sum rounded to odd: one that loses a part ends in an odd bit, and so never in the middle
-/// between two floats. Rounding that to float gives what rounding the exact sum would.
+/// The sum rounded to odd: if the addition is inexact, the last bit of the result is 1. Such a
+/// double is never the midpoint between two floats, so rounding it to float gives the same as
+/// rounding the exact sum.
 template <int lanes>
 [[gnu::always_inline]] inline TDoubles<lanes> roundedToOdd(const TDoubleSums<lanes> &sum) {
     using Values = typename TDoubles<lanes>::Values;
@@ -127,43 +130,47 @@ template <int lanes>
     return {reinterpret_cast<Values>((bits - roundedAway) | 1u)};
 }
 
-/// Lane by lane, which becomes one instruction where there is one; a conversion of the vector is
-/// split in two before the compiler knows where it will stand.
+/// Conversion to double, which is exact. Written lane by lane: the compiler makes one AVX2
+/// instruction of it, while it splits a __builtin_convertvector in two.
 [[gnu::always_inline]] inline TDoubles<4> widened(const SFloats4 &x) {
     const Floats4 &v = x.values;
     return {TDoubles<4>::Values{v[0], v[1], v[2], v[3]}};
 }
-[[gnu::always_inline]] inline SFloats4 rounded(const TDoubles<4> &x) {
+
+/// Conversion to float, rounded to nearest.
+[[gnu::always_inline]] inline SFloats4 narrowed(const TDoubles<4> &x) {
     return {__builtin_convertvector(x.values, Floats4)};
 }
 
-/// The float nearest to each sum. The sum as a double is off by less than one place; where both of
-/// its neighbours come to the same float, so does the exact sum. Once in some 2^26 calls all
-/// lanes take the long way.
-[[gnu::always_inline]] inline SFloats4 rounded(const TDoubleSums<4> &sum) {
+/// The float nearest to each exact sum. The sum as a double is off by less than one unit in the
+/// last place. If both doubles beside it convert to the same float, so does the exact sum. If not,
+/// which happens about once in 2^26 calls, all lanes are rounded to odd first.
+[[gnu::always_inline]] inline SFloats4 nearestFloats(const TDoubleSums<4> &sum) {
     const TDoubles<4>::Values total = sum.high + sum.low;
-    const SFloats4 inner = rounded(TDoubles<4>{total * (1.0 - 0x1p-52)});
-    const SFloats4 outer = rounded(TDoubles<4>{total * (1.0 + 0x1p-52)});
+    const SFloats4 inner = narrowed({total * (1.0 - 0x1p-52)});
+    const SFloats4 outer = narrowed({total * (1.0 + 0x1p-52)});
     if (isAnySet(inner.values != outer.values)) [[unlikely]]
-        return rounded(roundedToOdd(sum));
+        return narrowed(roundedToOdd(sum));
     return inner;
 }
 
-/// What a float can be the exponent of: beyond, a float holds only 0 and infinity.
+/// The exponents beyond which e^x is 0 or infinity as a float.
 inline constexpr float lowestExponent = -110.0f, highestExponent = 100.0f;
 
-[[gnu::always_inline]] inline TDoubles<4> withinFloat(const SFloats4 &x) {
-    // The second operand is the one that a NaN in it survives.
-    const __m128 capped = _mm_min_ps(_mm_set1_ps(highestExponent), x.values);
-    return widened({_mm_max_ps(_mm_set1_ps(lowestExponent), capped)});
+/// @return x held within those exponents; NaN for NaN.
+[[gnu::always_inline]] inline TDoubles<4> clampedExponents(const SFloats4 &x) {
+    // x goes second: smaller and larger return their second argument if one of the two is NaN.
+    const SFloats4 capped = smaller(SFloats4{splat(highestExponent)}, x);
+    return widened(larger(SFloats4{splat(lowestExponent)}, capped));
 }
 
-/// expSingle in every lane.
+/// expSingle in every lane. A plain conversion is enough: the sweep finds no float whose result
+/// lies on the wrong side of a midpoint.
 [[gnu::always_inline]] inline SFloats4 expSingle(const SFloats4 &x) {
-    return rounded(expDoubles(withinFloat(x)));
+    return narrowed(expDoubles(clampedExponents(x)));
 }
 
 /// logSingle in every lane.
 [[gnu::always_inline]] inline SFloats4 logSingle(const SFloats4 &x) {
-    return rounded(logDoubles(widened(x)));
+    return nearestFloats(logDoubles(widened(x)));
 }
