@@ -35,7 +35,7 @@ void CSleepingDetector::sleep(int frames) {
     }
     for (int i = 0; i < frames; ++i) {
         const float before = smoothedDb;
-        smoothedDb = smoothExcess(m_settings.smoother, smoothedDb, 0.0f);
+        smoothedDb = decayExcess(m_settings.smoother, smoothedDb);
         if (smoothedDb == before)  // at rest
             return;
     }

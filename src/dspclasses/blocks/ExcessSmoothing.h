@@ -16,6 +16,11 @@ float smoothExcess(const SFollower &smoother, float smoothedDb, Sample excessDb)
     return smoother.next(smoothedDb + smoothingBias, excessDb) - smoothingBias;
 }
 
+/// The same for an excess of 0, while that is not above the smoothed one.
+inline float decayExcess(const SFollower &smoother, float smoothedDb) {
+    return (smoothedDb + smoothingBias) * smoother.releaseCoef - smoothingBias;
+}
+
 /// Keeps the slow case out of the loop.
 template <typename Sample>
 [[gnu::noinline]] Floats4 smoothFourWithBias(const SFollower &smoother, float smoothedDb,
@@ -33,11 +38,10 @@ template <typename Sample>
 [[gnu::always_inline]] inline Floats4 smoothFour(const SFollower &smoother, float &smoothedDb,
                                                  const TFour<Sample> &excessesDb,
                                                  const Mask4 &areAbove) {
-    const float before = smoothedDb, release = smoother.releaseCoef;
-    // From -bias up, an excess of 0 is never above the smoothed one, so the release applies.
-    if (before >= -smoothingBias && release >= 0.0f && !isAnySet(areAbove)) {
-        return recurseFour(smoothedDb, excessesDb, [release](float decaying, Sample) {
-            return (decaying + smoothingBias) * release - smoothingBias;
+    const float before = smoothedDb;
+    if (before >= -smoothingBias && smoother.releaseCoef >= 0.0f && !isAnySet(areAbove)) {
+        return recurseFour(smoothedDb, excessesDb, [&smoother](float decaying, Sample) {
+            return decayExcess(smoother, decaying);
         });
     }
     // From this magnitude up, adding or subtracting the bias changes no bit of a float.
