@@ -7,8 +7,6 @@
 #include "dspclasses/kernels/StagedLoop.h"
 #include "dspclasses/kernels/WideLoop.h"
 
-#include <limits>
-
 void CDSPGate::setParameter(int index, float value) {
     if (index == kThreshold && thresholdDb.storeIfNew(value))
         thresholdLinear = linearFromDecibels(value);
@@ -35,68 +33,29 @@ void CDSPGate::reset() {
     resetRequest.ask();
 }
 
+//     |L| --+
+//           +--> larger --> peak follower --> above threshold? --> gain moves --> exp --+
+//     |R| --+                2 ms, 15 ms                           up or down           |
+//                                                                                       v
+//     L, R ---------------------------------------------------------------------------> * --> out
+//
+// A staged loop of four stages: follow, detect, move the gain, exp and multiply.
+
 namespace {
 
-constexpr float closedDb = -60.0f;  // below, the gain falls to 0
-constexpr float openDb = -0.5f;     // above, it jumps to 1
-
-/// Where the gain rests when it is 1. Kept: in double precision that is 0 dB, which no factor moves
-/// away, so a gate that has opened fully never closes again until it is reset.
-template <typename Sample>
-constexpr float restDb = openDb;
-template <>
-constexpr float restDb<double> = 0.0f;
-
-/// The gain on its way, as the exponent that makes it. At rest that gives exactly 1 or exactly 0.
-struct SMovingGain {
-    static constexpr float ofOne = 0.0f;
-    static constexpr float ofZero = -std::numeric_limits<float>::infinity();
-
-    float attackFactor, releaseFactor, restDb;
-    float decibels;
-    float exponent;
-
-    bool isBelowOne() const { return exponent < -0x1p-25f; }        // else it rounds to 1
-    bool isAboveZero() const { return exponent > -0x1.9fe36ap6f; }  // else it rounds to 0
-
-    /// @return whether the frames of a step, one bit each, leave the gain where it is.
-    bool rests(int openFrames, int allFrames) const {
-        if (openFrames == allFrames)
-            return !isBelowOne();
-        return openFrames == 0 && (!isAboveZero() || decibels == 0.0f);
-    }
-
-    /// Moves on by one frame.
-    void move(bool isOpen) {
-        if (isOpen && isBelowOne()) {
-            decibels = attackFactor * decibels;
-            exponent = decibels * exponentPerDecibel;
-            if (decibels > openDb) {
-                decibels = restDb;
-                exponent = ofOne;
-            }
-        } else if (!isOpen && isAboveZero()) {
-            decibels = releaseFactor * decibels;
-            exponent = decibels * exponentPerDecibel;
-            if (decibels < closedDb) {
-                decibels = closedDb;
-                exponent = ofZero;
-            }
-        }
-    }
-};
-
-[[gnu::always_inline]] inline Floats4 gainsOf(const Floats4 &exponents) {
-    const Mask4 areOne = exponents == SMovingGain::ofOne;
-    if (areAllSet(areOne | (exponents == SMovingGain::ofZero)))
+[[gnu::always_inline]] inline Floats4 gainsFromExponents(const Floats4 &exponents) {
+    const Mask4 areOne = exponents == TGateGain<float>::exponentOfOne;
+    if (areAllSet(areOne | (exponents == TGateGain<float>::exponentOfZero)))
         return areOne ? splat(1.0f) : splat(0.0f);
     return expSingle(SFloats4{exponents}).values;
 }
 
-/// Silence ends in a denormal that rounding keeps from falling further. It must stay: while the
-/// threshold is still 0 it holds the gate open. But arithmetic on it is slow on some processors.
+/// Kept: the peak is not flushed. In silence it decays to a denormal so small that rounding keeps
+/// it there, and that holds the gate open while the threshold is still 0.
+/// @return whether the peak is at that point, so that the follower need not run. Arithmetic on
+///         denormals is slow on some processors.
 template <typename Sample>
-[[gnu::always_inline]] inline bool standsStill(float peak, const TFour<Sample> &levels) {
+[[gnu::always_inline]] inline bool restsInSilence(float peak, const TFour<Sample> &levels) {
     const auto &a = levels.values;
     return isDenormalOrZero(peak) && a[0] + a[1] + a[2] + a[3] == 0 &&
            peakFollower.next(peak, Sample{0}) == peak;
@@ -107,9 +66,8 @@ template <typename Sample>
 template <typename Sample>
 void CDSPGate::run(const Sample *const *in, Sample *const *out, int frames) {
     if (resetRequest.take()) {
-        gainDb = closedDb;
         peak = 0.0f;
-        gain = 0.0f;
+        gain = closed;
     }
     if (frames > 0)
         runWide([=, this] { runSteps(in[0], in[1], out[0], out[1], frames); });
@@ -122,34 +80,31 @@ void CDSPGate::runSteps(const Sample *inL, const Sample *inR, Sample *outL, Samp
     float lastPeak = peak;
     const auto followPeaks = [&](const SStep &step) {
         const TFour<Sample> levels = larger(magnitude(step.load(inL)), magnitude(step.load(inR)));
-        peaks = standsStill(lastPeak, levels) ? splat(lastPeak)
-                                              : followFour(peakFollower, lastPeak, levels);
+        peaks = restsInSilence(lastPeak, levels) ? splat(lastPeak)
+                                                 : followFour(peakFollower, lastPeak, levels);
     };
 
     float threshold = 0.0f;
-    Mask4 isOpen{};
-    const auto detect = [&](const SStep &) { isOpen = peaks - threshold > 0.0f; };
+    Mask4 areOpen{};
+    const auto detect = [&](const SStep &) { areOpen = peaks - threshold > 0.0f; };
 
-    const float startExponent = gain == 0.0f   ? SMovingGain::ofZero
-                                : gain == 1.0f ? SMovingGain::ofOne
-                                               : gainDb * exponentPerDecibel;
-    SMovingGain moving{0.0f, 0.0f, restDb<Sample>, gainDb, startExponent};
+    TGateGain<Sample> moving(gain.decibels, gain.linear);
     Floats4 exponents{};
     const auto moveGain = [&](const SStep &step) {
         const int allFrames = (1 << step.count) - 1;
-        const int openFrames = laneBits(isOpen) & allFrames;
-        exponents = splat(moving.exponent);
+        const int openFrames = laneBits(areOpen) & allFrames;
+        exponents = splat(moving.exponent());
         if (moving.rests(openFrames, allFrames))
             return;
         for (int i = 0; i < step.count; ++i) {
             moving.move((openFrames >> i & 1) != 0);
-            exponents[i] = moving.exponent;
+            exponents[i] = moving.exponent();
         }
     };
 
     const auto applyGain = [&](const SStep &step) {
         const auto gains =
-            __builtin_convertvector(gainsOf(exponents), typename TFour<Sample>::Values);
+            __builtin_convertvector(gainsFromExponents(exponents), typename TFour<Sample>::Values);
         step.store(outL, TFour<Sample>{step.load(inL).values * gains});
         step.store(outR, TFour<Sample>{step.load(inR).values * gains});
     };
@@ -163,9 +118,8 @@ void CDSPGate::runSteps(const Sample *inL, const Sample *inR, Sample *outL, Samp
 
     const SStep last = SStep::last(frames);
     peak = last.lastOf(peaks);
-    open = last.lastOf(isOpen) != 0;
-    gainDb = moving.decibels;
-    gain = expSingle(moving.exponent);
+    open = last.lastOf(areOpen) != 0;
+    gain = {moving.decibels(), expSingle(moving.exponent())};
 }
 
 void CDSPGate::processReplacing(float **in, float **out, int frames) {

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "dspclasses/blocks/CResetRequest.h"
+#include "dspclasses/blocks/GainLaw.h"
 #include "dspclasses/modules/CDSPBase.h"
+#include "dspclasses/modules/TGateGain.h"
 #include "values/TRelaxed.h"
 
 /// Noise gate with one detector for both channels. The gain moves in decibels, by a constant factor
@@ -30,16 +32,21 @@ private:
     template <typename Sample>
     void runSteps(const Sample *inL, const Sample *inR, Sample *outL, Sample *outR, int frames);
 
+    static constexpr SGain closed{TGateGain<float>::closedDb, 0.0f};
+
     TRelaxed<float> attackMs = 10.0f;
     TRelaxed<float> releaseMs = 100.0f;
-    TRelaxed<float> attackFactor = 0.9977324f;   // of the decibels per sample, from attackMs
-    TRelaxed<float> releaseFactor = 1.0002267f;  // the same, from releaseMs
-    float gainDb = -60.0f;
+    // Per frame, the gain in dB is multiplied by one of these.
+    TRelaxed<float> attackFactor = smoothingCoefficient(attackMs, sampleRate);
+    TRelaxed<float> releaseFactor = 1.0f / smoothingCoefficient(releaseMs, sampleRate);
     TRelaxed<float> thresholdDb = -20.0f;
-    // Kept: not the level of thresholdDb. Until the threshold is first changed, any signal opens.
+    // Kept: not the level of thresholdDb. Until the threshold is first changed, any signal opens
+    // the gate.
     TRelaxed<float> thresholdLinear = 0.0f;
-    float peak = 0.0f;
-    float gain = 0.0f;
-    TRelaxed<bool> open = false;
     CResetRequest resetRequest;
+
+    // Running state
+    float peak = 0.0f;
+    SGain gain = closed;
+    TRelaxed<bool> open = false;
 };
