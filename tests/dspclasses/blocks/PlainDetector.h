@@ -7,8 +7,9 @@
 #include <cstdint>
 #include <cstring>
 
-/// The plain reading of the detector that compressor and de-esser have in common: one sample after
-/// the other, step by step. `next` is the field behind the one that a double precision step stores.
+/// The plain reading of the detector of the compressor and the de-esser: one sample at a time, one
+/// step after the other. `next` is the field that follows in memory the one a double-precision step
+/// stores; NeighbourFlush.h shows why that matters.
 struct SPlainDetector {
     static constexpr float K = 0.115129255f;
 
@@ -25,10 +26,10 @@ struct SPlainDetector {
     }
 
     static double doubleAt(float field, float next) {
-        double both;
-        std::memcpy(reinterpret_cast<char *>(&both), &field, sizeof field);
-        std::memcpy(reinterpret_cast<char *>(&both) + sizeof field, &next, sizeof next);
-        return both;
+        double joined;
+        std::memcpy(reinterpret_cast<char *>(&joined), &field, sizeof field);
+        std::memcpy(reinterpret_cast<char *>(&joined) + sizeof field, &next, sizeof next);
+        return joined;
     }
 
     void setThreshold(float decibels) {
@@ -53,25 +54,25 @@ struct SPlainDetector {
 
     bool isAbove(float peak) const { return peak - thresholdLinear > 0.0f; }
 
-    void smooth(float &over, bool above, float a) const {
+    void smooth(float &smoothedExcessDb, bool above, float a) const {
         float t = 0.0f;
         if (above)
             t = logSingle(a + 1e-20f) * K - thresholdDb;
-        const float s = over + 1e-20f;
+        const float s = smoothedExcessDb + 1e-20f;
         const float c = t > s ? attackCoef : releaseCoef;
-        over = (s - t) * c + t - 1e-20f;
-        if (exponentIsZero(over))
-            over = 0.0f;
+        smoothedExcessDb = (s - t) * c + t - 1e-20f;
+        if (exponentIsZero(smoothedExcessDb))
+            smoothedExcessDb = 0.0f;
     }
-    void smooth(float &over, const float &next, bool above, double a) const {
+    void smooth(float &smoothedExcessDb, const float &next, bool above, double a) const {
         double t = 0.0;
         if (above)
             t = logDouble(a + 9.999999682655225e-21) * 0.115129254758358 - double{thresholdDb};
-        const float s = over + 1e-20f;
+        const float s = smoothedExcessDb + 1e-20f;
         const double c = t > double{s} ? double{attackCoef} : double{releaseCoef};
-        over = static_cast<float>((double{s} - t) * c + t);
-        over = over - 1e-20f;
-        if (exponentIsZero(doubleAt(over, next)))
-            over = 0.0f;
+        smoothedExcessDb = static_cast<float>((double{s} - t) * c + t);
+        smoothedExcessDb = smoothedExcessDb - 1e-20f;
+        if (exponentIsZero(doubleAt(smoothedExcessDb, next)))
+            smoothedExcessDb = 0.0f;
     }
 };

@@ -48,7 +48,7 @@ void expectSameState(const SPlainDetector &plain, SDetectorState &state,
     EXPECT_EQ(isActive, isAbove || smoothedExcessDb > 0.01f);
 }
 
-/// Levels about the threshold of 0 dB, where an amount is nearly 0, of either sign, or just 0.
+/// Levels around a threshold of 0 dB, where the excess is close to 0 with either sign, or 0.
 template <typename Sample>
 std::vector<Sample> levelsAboutOne(CRandom &random, int frames) {
     std::vector<Sample> levels;
@@ -66,7 +66,7 @@ TYPED_TEST_SUITE(TDetectorState, Precisions);
 
 }  // namespace
 
-TYPED_TEST(TDetectorState, EqualsThePlainReadingFromTheSmallestAmountsOn) {
+TYPED_TEST(TDetectorState, EqualsThePlainReadingForExcessesOfAnySize) {
     for (std::uint64_t seed = 1; seed < 3000; ++seed) {
         SCOPED_TRACE(seed);
         CRandom random(seed);
@@ -85,7 +85,7 @@ TYPED_TEST(TDetectorState, EqualsThePlainReadingFromTheSmallestAmountsOn) {
     }
 }
 
-TYPED_TEST(TDetectorState, EqualsThePlainReadingAboutTheLeastNormalPeak) {
+TYPED_TEST(TDetectorState, EqualsThePlainReadingNearTheSmallestNormalPeak) {
     constexpr double least{std::numeric_limits<float>::min()};
     const SPlainDetector plain{.attackCoef = 0.9f, .releaseCoef = 0.9f};
     for (std::uint64_t seed = 1; seed < 20000; ++seed) {

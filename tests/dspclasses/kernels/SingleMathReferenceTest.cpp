@@ -7,7 +7,7 @@
 #include <gtest/gtest.h>
 #include <ios>
 
-// A sample of what SingleMathSweep.cpp runs through in full.
+// A random sample of the arguments that SingleMathSweep.cpp checks in full.
 
 namespace {
 
@@ -40,7 +40,7 @@ TEST(SingleMathReference, LogarithmIsTheNearestFloat) {
     }
 }
 
-// The bases of the parameter laws, those of a reverberation's decay, and any others.
+// The bases of the parameter laws, bases of a reverb's decay, and any others.
 TEST(SingleMathReference, PowerIsTheNearestFloat) {
     CRandom random(3);
     const auto check = [](float base, float exponent) {

@@ -1,6 +1,6 @@
-/// Runs SingleMath through every float there is: the logarithm of each above 0, the exponential of
-/// each, and the powers of 2 and of 5 (the bases of the parameter laws) for each exponent. Takes
-/// some minutes, so it is a program of its own: singlemath_sweep [exp|log|pow2|pow5]...
+/// Checks SingleMath with every float: the logarithm of each float above 0, the exponential of
+/// each, and the powers of 2 and 5 (the bases of the parameter laws) with each as the exponent. It
+/// takes some minutes, so it is a program of its own: singlemath_sweep [exp|log|pow2|pow5]...
 
 #include "dspclasses/kernels/SingleMath.h"
 #include "dspclasses/kernels/SingleMathLanes.h"
@@ -36,14 +36,14 @@ std::function<void(const Chunk &, Chunk &)> oneByOne(One one) {
     };
 }
 
-template <typename Four>
-std::function<void(const Chunk &, Chunk &)> fourByFour(Four four) {
-    return [four](const Chunk &x, Chunk &y) {
+template <typename FourLanes>
+std::function<void(const Chunk &, Chunk &)> fourByFour(FourLanes onFourLanes) {
+    return [onFourLanes](const Chunk &x, Chunk &y) {
         const float *from = x.data();
         float *to = y.data();
         runWide([=] {
             for (std::size_t i = 0; i < std::tuple_size_v<Chunk>; i += 4)
-                storeFour(to + i, four(loadFour(from + i)));
+                storeFour(to + i, onFourLanes(loadFour(from + i)));
         });
     };
 }

@@ -17,7 +17,7 @@ namespace {
 
 constexpr float infinity = std::numeric_limits<float>::infinity();
 
-/// Floats all over the range from `low` to `high`, both of one sign, denormals among them.
+/// Floats spread over the range from `low` to `high`, which have the same sign, denormals included.
 std::vector<float> spread(float low, float high) {
     constexpr std::uint32_t stride = 20011;
     std::vector<float> values;
@@ -34,7 +34,7 @@ std::vector<float> ofBothSigns(std::vector<float> values) {
     return values;
 }
 
-/// The bits of all results in one number, by which a second system is held to the first.
+/// A hash of the bits of all results, to compare one system with another.
 std::uint64_t digest(const std::vector<float> &arguments, const std::function<float(float)> &f) {
     std::uint64_t hash = 0xcbf29ce484222325u;
     for (const float x : arguments)
@@ -42,8 +42,8 @@ std::uint64_t digest(const std::vector<float> &arguments, const std::function<fl
     return hash;
 }
 
-template <typename Four, typename One>
-void expectLanesLikeScalars(std::vector<float> arguments, Four four, One one) {
+template <typename FourLanes, typename One>
+void expectLanesLikeScalars(std::vector<float> arguments, FourLanes onFourLanes, One one) {
     arguments.resize(arguments.size() / 4 * 4);
     std::vector<float> results(arguments.size());
     const auto compare = [&](const char *width) {
@@ -53,9 +53,9 @@ void expectLanesLikeScalars(std::vector<float> arguments, Four four, One one) {
         }
     };
     const auto loop = [from = arguments.data(), to = results.data(), count = arguments.size(),
-                       four] {
+                       onFourLanes] {
         for (std::size_t i = 0; i < count; i += 4)
-            storeFour(to + i, four(loadFour(from + i)));
+            storeFour(to + i, onFourLanes(loadFour(from + i)));
     };
     loop();
     compare("SSE2");
@@ -75,7 +75,7 @@ TEST(SingleMath, LanesGiveTheBitsOfTheScalarForm) {
         [](SFloats4 x) { return logSingle(x); }, [](float x) { return logSingle(x); });
 }
 
-// The constants are those of Linux with GCC, where the reference stands behind them.
+// The digests were computed on Linux with GCC, where the tests against the reference also run.
 TEST(SingleMath, GivesTheSameBitsOnEverySystem) {
     const auto power = [](float base) {
         return [base](float exponent) { return powSingle(base, exponent); };
@@ -90,7 +90,7 @@ TEST(SingleMath, GivesTheSameBitsOnEverySystem) {
     EXPECT_EQ(digest(spread(1.0f, 20000.0f), power(0.9998f)), 0x9356c3790dba2c28u);
 }
 
-TEST(SingleMath, ExponentialEndsInZeroAndInfinity) {
+TEST(SingleMath, ExponentialUnderflowsToZeroAndOverflowsToInfinity) {
     EXPECT_EQ(expSingle(0.0f), 1.0f);
     EXPECT_EQ(expSingle(-0.0f), 1.0f);
     EXPECT_EQ(expSingle(1e-30f), 1.0f);
@@ -105,13 +105,13 @@ TEST(SingleMath, ExponentialEndsInZeroAndInfinity) {
     EXPECT_EQ(expSingle(-0x1.9fe36ap6f), 0.0f);
 }
 
-TEST(SingleMath, LogarithmTakesDenormals) {
+TEST(SingleMath, LogarithmAcceptsDenormals) {
     EXPECT_EQ(logSingle(1.0f), 0.0f);
     EXPECT_EQ(logSingle(0x1p-149f), -0x1.9d1dap6f);
     EXPECT_EQ(logSingle(std::numeric_limits<float>::max()), 0x1.62e43p6f);
 }
 
-// The double nearest to each of these logarithms lies in the middle between two floats.
+// The double nearest to each of these logarithms is the midpoint between two floats.
 TEST(SingleMath, LogarithmIsRoundedOnce) {
     const std::pair<float, float> logarithms[] = {
         {0x1.22d57p-65f, -0x1.676a7cp+5f}, {0x1.827a74p-7f, -0x1.1c2b1ep+2f},
@@ -137,7 +137,7 @@ TEST(SingleMath, PowerGivesExactPowers) {
     EXPECT_EQ(powSingle(7.0f, 0.0f), 1.0f);
 }
 
-TEST(SingleMath, PowerInTheMiddleBetweenTwoFloatsGoesToTheEvenOne) {
+TEST(SingleMath, PowerAtAMidpointRoundsToTheEvenFloat) {
     EXPECT_EQ(powSingle(4097.0f, 2.0f), 16785408.0f);  // 16785409
     EXPECT_EQ(powSingle(4099.0f, 2.0f), 16801800.0f);  // 16801801
     EXPECT_EQ(powSingle(4101.0f, 2.0f), 16818200.0f);  // 16818201
@@ -149,7 +149,7 @@ TEST(SingleMath, PowerIsRoundedOnce) {
     EXPECT_EQ(powSingle(2.0f, 0x1.853a6ep-9f), 0x1.00870ap+0f);
 }
 
-TEST(SingleMath, PowerEndsInZeroAndInfinity) {
+TEST(SingleMath, PowerUnderflowsToZeroAndOverflowsToInfinity) {
     EXPECT_EQ(powSingle(2.0f, 128.0f), infinity);
     EXPECT_EQ(powSingle(2.0f, infinity), infinity);
     EXPECT_EQ(powSingle(2.0f, -151.0f), 0.0f);
@@ -157,7 +157,7 @@ TEST(SingleMath, PowerEndsInZeroAndInfinity) {
     EXPECT_TRUE(std::isnan(powSingle(2.0f, NAN)));
 }
 
-TEST(SingleMath, LogarithmInDoublePrecisionIsWithinAPlace) {
+TEST(SingleMath, LogarithmInDoublePrecisionIsWithinOneUnitInTheLastPlace) {
     CRandom random(11);
     for (int i = 0; i < 100000; ++i) {
         const double x =

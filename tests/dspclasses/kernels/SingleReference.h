@@ -3,15 +3,15 @@
 #include <cmath>
 #include <quadmath.h>
 
-/// The true values of the functions of SingleMath, rounded to float. The 64 bits of the processor's
-/// long format settle all but the rare value next to the middle between two floats; those are
-/// settled by the 113 bits of the compiler's quad format.
+/// The true values of the functions of SingleMath, rounded to float. A long double with its 64 bits
+/// decides nearly all of them. A value too close to the midpoint between two floats is computed
+/// again in the compiler's quad format, which has 113 bits.
 namespace SingleReference {
 
 __extension__ using Quad = __float128;
 
-/// @param value  in error by less than 2^-61 of it.
-/// @param exact  called where that leaves open which float is nearest.
+/// @param value  with a relative error below 2^-61.
+/// @param exact  called if that does not decide which float is nearest.
 template <typename Exact>
 float nearest(long double value, Exact exact) {
     constexpr long double doubt = 0x1p-61L;

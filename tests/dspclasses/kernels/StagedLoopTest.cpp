@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Runs a block whose every stage hands on, in a plain variable, the step that it worked on.
+/// Runs a block through stages that each pass the number of their step on in a plain variable.
 class CStagedBlock {
 public:
     static constexpr int stages = 7;
@@ -22,7 +22,7 @@ public:
     }
 
     int stepsOf(int stage) const { return m_steps[stage]; }
-    /// How many steps the first stage had done at each refresh.
+    /// The number of steps that the first stage had finished at each refresh.
     const std::vector<int> &refreshedAt() const { return m_refreshedAt; }
 
 private:
@@ -44,7 +44,7 @@ private:
 
 }  // namespace
 
-TEST(StagedLoop, TakesEveryStageThroughEveryStepInOrder) {
+TEST(StagedLoop, CallsEveryStageForEveryStepInOrder) {
     for (int frames = 1; frames < 300; ++frames) {
         SCOPED_TRACE(frames);
         const CStagedBlock block(frames);
@@ -62,7 +62,7 @@ TEST(StagedLoop, RefreshesBeforeTheFirstStepAndEverySixteenth) {
     }
 }
 
-TEST(StagedLoop, ReadsAndWritesWhatABlockHasLeft) {
+TEST(StagedLoop, LoadsAndStoresAnIncompleteLastStep) {
     std::vector<float> block(7);
     std::iota(block.begin(), block.end(), 1.0f);
     const SStep last = SStep::last(7);

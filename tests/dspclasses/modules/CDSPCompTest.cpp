@@ -23,7 +23,7 @@ std::unique_ptr<CDSPComp> makeComp() {
     return std::make_unique<CDSPComp>();
 }
 
-/// Ratio 2 from -20 dB, where the threshold is that level.
+/// Ratio 2 above -20 dB. The threshold is moved away and back, so that its linear form is set.
 std::unique_ptr<CDSPComp> makeTwoToOne() {
     auto comp = makeComp();
     comp->setParameter(kThreshold, -21.0f);
@@ -38,14 +38,14 @@ std::unique_ptr<CDSPComp> makeSeparate() {
     return comp;
 }
 
-/// What the amount over -20 dB settles at.
-double settledOver(double level) {
+/// The excess over -20 dB of a steady level, once it has settled.
+double settledExcess(double level) {
     return std::log(level) * K + 20.0;
 }
 
-/// The gain of ratio 2 at an amount over the threshold.
-double halvedGain(double over) {
-    return std::exp(-0.5 * over * K);
+/// The gain of ratio 2 at an excess over the threshold.
+double halvedGain(double excessDb) {
+    return std::exp(-0.5 * excessDb * K);
 }
 
 /// The gain at a frame of a steady level.
@@ -54,7 +54,7 @@ double gainAt(CDSPComp &comp, Sample level, int frame) {
     return render(comp, steady(frame + 1, level, level), 64).left(frame) / level;
 }
 
-/// Long enough for every follower to arrive.
+/// Long enough for every follower to settle.
 constexpr int settled = 20000;
 
 }  // namespace
@@ -81,7 +81,7 @@ TEST(CDSPComp, IsLinkedFromOneHalf) {
     EXPECT_EQ(comp.getParameter(kStereoMode), 1.0f);
 }
 
-TEST(CDSPComp, GivesASignalUnderTheThresholdTheMakeUpOnly) {
+TEST(CDSPComp, AppliesOnlyTheMakeUpBelowTheThreshold) {
     for (const float mode : {0.0f, 1.0f}) {
         auto comp = makeTwoToOne();
         comp->setParameter(kStereoMode, mode);
@@ -93,15 +93,15 @@ TEST(CDSPComp, GivesASignalUnderTheThresholdTheMakeUpOnly) {
     }
 }
 
-TEST(CDSPComp, ReducesASignalOverTheThresholdNearlyAlikeWhateverItsLevel) {
+TEST(CDSPComp, ReducesAnySignalAboveTheThresholdByNearlyTheSameStep) {
     for (const float level : {0.2f, 0.5f, 1.0f}) {
         auto comp = makeTwoToOne();
-        EXPECT_NEAR(gainAt(*comp, level, settled), halvedGain(settledOver(level)), 1e-4) << level;
+        EXPECT_NEAR(gainAt(*comp, level, settled), halvedGain(settledExcess(level)), 1e-4) << level;
     }
-    EXPECT_NEAR(20.0 * std::log10(halvedGain(settledOver(0.5))), -10.0, 0.05);
+    EXPECT_NEAR(20.0 * std::log10(halvedGain(settledExcess(0.5))), -10.0, 0.05);
 }
 
-TEST(CDSPComp, TakesAnySignalForLoudUntilTheThresholdIsFirstChanged) {
+TEST(CDSPComp, TreatsAnySignalAsAboveUntilTheThresholdIsFirstChanged) {
     const auto gainOfAQuietSignal = [](const std::vector<float> &thresholds) {
         CDSPComp comp;
         comp.setParameter(kRatio, 2.0f);
@@ -109,8 +109,8 @@ TEST(CDSPComp, TakesAnySignalForLoudUntilTheThresholdIsFirstChanged) {
             comp.setParameter(kThreshold, threshold);
         return gainAt(comp, 1e-4f, settled);
     };
-    EXPECT_NEAR(gainOfAQuietSignal({}), halvedGain(settledOver(1e-4)), 1e-4);
-    EXPECT_NEAR(gainOfAQuietSignal({-20.0f}), halvedGain(settledOver(1e-4)), 1e-4);
+    EXPECT_NEAR(gainOfAQuietSignal({}), halvedGain(settledExcess(1e-4)), 1e-4);
+    EXPECT_NEAR(gainOfAQuietSignal({-20.0f}), halvedGain(settledExcess(1e-4)), 1e-4);
     EXPECT_EQ(gainOfAQuietSignal({-30.0f, -20.0f}), 1.0);
 }
 
@@ -121,29 +121,30 @@ TEST(CDSPComp, RaisesTheGainUntilTheRatioIsFirstChanged) {
             comp.setParameter(kRatio, ratio);
         return gainAt(comp, 0.5f, settled);
     };
-    const double raised = std::exp(settledOver(0.5) * K);
+    const double raised = std::exp(settledExcess(0.5) * K);
     EXPECT_NEAR(gainWithRatios({}), raised, 1e-3);
     EXPECT_NEAR(gainWithRatios({1.0f}), raised, 1e-3);
     EXPECT_EQ(gainWithRatios({2.0f, 1.0f}), 1.0);
 }
 
-TEST(CDSPComp, FollowsTheAmountInTheTimesThatAreSet) {
-    // The amount has come to 1 - 1/e of the way after the attack, to 1/e after the release.
-    const double arrived = settledOver(0.5);
-    const auto overAt = [](double gain) { return -2.0 * std::log(gain) / K; };
+TEST(CDSPComp, SmoothsTheExcessWithTheTimesThatAreSet) {
+    // After the attack time the excess has gone 1 - 1/e of its way, after the release time 1/e is
+    // left.
+    const double arrived = settledExcess(0.5);
+    const auto excessAt = [](double gain) { return -2.0 * std::log(gain) / K; };
     const auto check = [&](CDSPComp &comp, double attackMs, double releaseMs) {
         const int attackFrames = static_cast<int>(attackMs * 44.1);
-        EXPECT_NEAR(overAt(gainAt(comp, 0.5f, attackFrames)), arrived * (1.0 - std::exp(-1.0)),
+        EXPECT_NEAR(excessAt(gainAt(comp, 0.5f, attackFrames)), arrived * (1.0 - std::exp(-1.0)),
                     0.3);
         gainAt(comp, 0.5f, settled);
-        // Until the peaks have fallen below the threshold the amount stays where it is.
+        // The excess stays the same until the peaks have fallen below the threshold.
         const TStereo<float> output = render(comp, steady(60000, 1e-3f, 1e-3f), 64);
         const auto &left = output.channels[0];
-        const auto atOver = [&](double over) {
-            const auto sample = static_cast<float>(1e-3 * halvedGain(over));
+        const auto frameOfExcess = [&](double excessDb) {
+            const auto sample = static_cast<float>(1e-3 * halvedGain(excessDb));
             return std::upper_bound(left.begin(), left.end(), sample) - left.begin();
         };
-        const auto frames = atOver(10.0 / std::exp(1.0)) - atOver(10.0);
+        const auto frames = frameOfExcess(10.0 / std::exp(1.0)) - frameOfExcess(10.0);
         EXPECT_NEAR(static_cast<double>(frames), releaseMs * 44.1, 2.0);
     };
     auto comp = makeTwoToOne();
@@ -154,7 +155,7 @@ TEST(CDSPComp, FollowsTheAmountInTheTimesThatAreSet) {
     check(*comp, 40.0, 20.0);
 }
 
-TEST(CDSPComp, SnapsToTheMakeUpWhereTheAmountIsNearlyGone) {
+TEST(CDSPComp, SnapsToTheMakeUpOnceTheExcessHasNearlyDecayed) {
     auto comp = makeTwoToOne();
     comp->setParameter(kRelease, 10.0f);
     gainAt(*comp, 0.5f, settled);
@@ -170,7 +171,7 @@ TEST(CDSPComp, SnapsToTheMakeUpWhereTheAmountIsNearlyGone) {
 TEST(CDSPComp, AppliesTheMakeUpOnTopOfTheReduction) {
     auto comp = makeTwoToOne();
     comp->setParameter(kMakeUp, 12.0f);
-    EXPECT_NEAR(gainAt(*comp, 0.5f, settled), halvedGain(settledOver(0.5)) * std::exp(12.0 * K),
+    EXPECT_NEAR(gainAt(*comp, 0.5f, settled), halvedGain(settledExcess(0.5)) * std::exp(12.0 * K),
                 1e-3);
 }
 
@@ -179,7 +180,7 @@ TEST(CDSPComp, LinkedGivesBothChannelsTheGainOfTheLouder) {
         auto comp = makeTwoToOne();
         TStereo<float> output =
             render(*comp, isLeft ? steady(settled, 0.5f, 0.01f) : steady(settled, 0.01f, 0.5f), 64);
-        const double expected = halvedGain(settledOver(0.5));
+        const double expected = halvedGain(settledExcess(0.5));
         EXPECT_NEAR(output.left(settled - 1) / (isLeft ? 0.5 : 0.01), expected, 1e-4);
         EXPECT_NEAR(output.right(settled - 1) / (isLeft ? 0.01 : 0.5), expected, 1e-4);
     }
@@ -195,7 +196,7 @@ TEST(CDSPComp, SeparateHoldsTheRightChannelAtTheLastGainOfTheLeft) {
         ASSERT_EQ(output.right(i), 0.5f * output.left(frames - 1)) << i;
 }
 
-TEST(CDSPComp, SeparateGivesALoneRightChannelTheMakeUpOnly) {
+TEST(CDSPComp, SeparateAppliesOnlyTheMakeUpToTheRightChannelIfTheLeftIsSilent) {
     auto comp = makeSeparate();
     comp->setParameter(kMakeUp, -3.0f);
     const float factor = expSingle(-3.0f * K);
@@ -203,14 +204,14 @@ TEST(CDSPComp, SeparateGivesALoneRightChannelTheMakeUpOnly) {
     EXPECT_TRUE(render(*comp, right, 500) == steady(5000, 0.0f, 0.5f * factor));
 }
 
-TEST(CDSPComp, SeparateGivesAQuietRightChannelTheMakeUpBesideALoudLeft) {
+TEST(CDSPComp, SeparateAppliesOnlyTheMakeUpToAQuietRightChannel) {
     auto comp = makeSeparate();
     TStereo<float> output = render(*comp, steady(5000, 0.5f, 0.05f), 500);
     EXPECT_LT(output.left(4999), 0.4f);
     EXPECT_EQ(output.channels[1], std::vector<float>(5000, 0.05f));
 }
 
-TEST(CDSPComp, SettingTheStereoModeItHasAlreadyClearsTheFollowers) {
+TEST(CDSPComp, SettingTheSameStereoModeAgainClearsTheState) {
     for (const float mode : {0.0f, 1.0f}) {
         auto comp = makeTwoToOne(), fresh = makeTwoToOne();
         comp->setParameter(kStereoMode, mode);
@@ -226,12 +227,12 @@ TEST(CDSPComp, OtherParametersKeepTheState) {
     auto comp = makeTwoToOne();
     gainAt(*comp, 0.5f, settled);
     comp->setParameter(kRatio, 4.0f);
-    EXPECT_NEAR(gainAt(*comp, 0.5f, 0), std::exp(-0.75 * settledOver(0.5) * K), 1e-4);
+    EXPECT_NEAR(gainAt(*comp, 0.5f, 0), std::exp(-0.75 * settledExcess(0.5) * K), 1e-4);
     comp->setParameter(kMakeUp, 6.0f);
-    EXPECT_NEAR(gainAt(*comp, 0.5f, 0), std::exp((6.0 - 0.75 * settledOver(0.5)) * K), 1e-3);
+    EXPECT_NEAR(gainAt(*comp, 0.5f, 0), std::exp((6.0 - 0.75 * settledExcess(0.5)) * K), 1e-3);
 }
 
-TEST(CDSPComp, ResetClearsTheFollowersAndKeepsTheParameters) {
+TEST(CDSPComp, ResetClearsTheStateAndKeepsTheParameters) {
     for (const float mode : {0.0f, 1.0f}) {
         auto comp = makeTwoToOne(), fresh = makeTwoToOne();
         comp->setParameter(kStereoMode, mode);
@@ -260,7 +261,7 @@ TEST(CDSPComp, WritesZeroOverDenormalInputInSinglePrecisionOnly) {
     }
 }
 
-// In double precision a follower is cleared while the field behind it is zero in bits 20 to 30.
+// In double precision a follower is flushed while the neighbouring field is 0 (NeighbourFlush.h).
 
 TEST(CDSPComp, InDoublePrecisionLinkedAppliesTheMakeUpOnly) {
     auto comp = makeTwoToOne();
@@ -270,18 +271,19 @@ TEST(CDSPComp, InDoublePrecisionLinkedAppliesTheMakeUpOnly) {
                 steady(5000, 0.5 * factor, -0.9 * factor));
 }
 
-TEST(CDSPComp, InDoublePrecisionSeparateIsAsleepWithoutAMakeUp) {
+TEST(CDSPComp, InDoublePrecisionSeparateDoesNothingWithoutAMakeUp) {
     auto comp = makeSeparate();
     const TStereo<double> loud = steady(5000, 0.5, 0.9);
     EXPECT_TRUE(render(*comp, loud, 500) == loud);
 }
 
-TEST(CDSPComp, InDoublePrecisionSeparateAMakeUpWakesTheRightPeakAndThatTheLeft) {
+TEST(CDSPComp, InDoublePrecisionSeparateCompressesOnlyWithAMakeUp) {
     auto comp = makeSeparate();
     comp->setParameter(kMakeUp, 3.0f);
     const double factor = expSingle(3.0f * K);
     const auto loud = steady(2000, 0.5, 0.9);
-    // While the left channel runs for the first time, the right peak is still 0.
+    // With a make-up the last gain is not 0 dB, so it no longer flushes the right peak, and from
+    // the second block on the right peak no longer flushes the left one.
     TStereo<double> first = render(*comp, loud, 2000);
     EXPECT_EQ(first.left(1999), 0.5 * factor);
     TStereo<double> second = render(*comp, loud, 2000);
@@ -289,7 +291,7 @@ TEST(CDSPComp, InDoublePrecisionSeparateAMakeUpWakesTheRightPeakAndThatTheLeft) 
     EXPECT_EQ(second.right(1999), 0.9 * (second.left(1999) / 0.5));
 }
 
-TEST(CDSPComp, InDoublePrecisionAThresholdOfZeroKeepsTheAmountsClear) {
+TEST(CDSPComp, InDoublePrecisionAThresholdOfZeroFlushesBothExcesses) {
     auto comp = makeSeparate();
     comp->setParameter(kThreshold, 0.0f);
     comp->setParameter(kMakeUp, 3.0f);

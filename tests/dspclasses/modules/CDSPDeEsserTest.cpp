@@ -23,7 +23,7 @@ std::unique_ptr<CDSPDeEsser> makeDeEsser() {
     return std::make_unique<CDSPDeEsser>();
 }
 
-/// Ratio 2 from -20 dB above 4 kHz, at full speed.
+/// Ratio 2 above -20 dB, from 4 kHz up, at the fastest speed.
 std::unique_ptr<CDSPDeEsser> makeWide() {
     auto deEsser = makeDeEsser();
     deEsser->setParameter(kThreshold, -21.0f);
@@ -50,13 +50,14 @@ std::vector<Sample> sine(double hertz, double level, int frames) {
     return samples;
 }
 
-/// What the side chain hears, and what it does not.
+/// A tone that the side chain's filter passes.
 template <typename Sample>
 TStereo<Sample> sibilant(int frames, double left, double right) {
     TStereo<Sample> stereo;
     stereo.channels = {sine<Sample>(9000.0, left, frames), sine<Sample>(9000.0, right, frames)};
     return stereo;
 }
+/// A tone that it stops.
 template <typename Sample>
 TStereo<Sample> vowel(int frames, double level) {
     TStereo<Sample> stereo;
@@ -64,7 +65,7 @@ TStereo<Sample> vowel(int frames, double level) {
     return stereo;
 }
 
-/// The gain over a stretch: the ratio of the energies.
+/// The gain from `first` for `count` frames: the root of the ratio of the energies.
 template <typename Sample>
 double gainOver(const std::vector<Sample> &output, const std::vector<Sample> &input, int first,
                 int count) {
@@ -77,7 +78,7 @@ double gainOver(const std::vector<Sample> &output, const std::vector<Sample> &in
     return std::sqrt(out / in);
 }
 
-/// The gain that the first channel has come to at the end of a signal.
+/// The gain of one channel over the last 10 ms of a signal.
 template <typename Sample>
 double lastGain(CDSPDeEsser &deEsser, const TStereo<Sample> &input, std::size_t channel = 0) {
     const TStereo<Sample> output = render(deEsser, input, 500);
@@ -86,7 +87,7 @@ double lastGain(CDSPDeEsser &deEsser, const TStereo<Sample> &input, std::size_t 
 
 constexpr int settled = 30000;
 
-/// What ratio 2 comes to for a sibilant over -20 dB, nearly alike for all of them.
+/// The gain of ratio 2 above -20 dB, nearly the same for every level above the threshold.
 const double reduced = std::exp(-0.5 * 19.9 * K);
 
 }  // namespace
@@ -120,14 +121,14 @@ class CDSPDeEsserPrecision : public testing::Test {};
 using Precisions = testing::Types<float, double>;
 TYPED_TEST_SUITE(CDSPDeEsserPrecision, Precisions);
 
-TYPED_TEST(CDSPDeEsserPrecision, ListeningGivesWhatTheHighPassGives) {
+TYPED_TEST(CDSPDeEsserPrecision, ListeningOutputsTheHighPassedSignal) {
     const auto input = makeSignal<TypeParam>(ESignal::Mixed, 1, 3000);
     CDSPDeEsser deEsser;
     CDSPRBJFilter atStart(CDSPRBJFilter::EKind::HighPass, 1000.0f, 0.0f, 0.5f, true);
     deEsser.setParameter(kListen, 0.5f);
     EXPECT_TRUE(render(deEsser, input, 700) == render(atStart, input, 700));
 
-    // A new frequency goes on from the same history, the same one changes nothing.
+    // A new frequency continues from the same history; setting it again changes nothing.
     for (const float hertz : {5000.0f, 5000.0f}) {
         deEsser.setParameter(kFrequency, hertz);
         atStart.setFrequency(hertz);
@@ -135,7 +136,7 @@ TYPED_TEST(CDSPDeEsserPrecision, ListeningGivesWhatTheHighPassGives) {
     }
 }
 
-TEST(CDSPDeEsser, ItsDetectorStandsStillWhileListening) {
+TEST(CDSPDeEsser, KeepsTheStateOfItsDetectorWhileListening) {
     auto deEsser = makeWide();
     ASSERT_NEAR(lastGain(*deEsser, sibilant<float>(settled, 0.5, 0.5)), reduced, 0.01);
     deEsser->setParameter(kListen, 1.0f);
@@ -146,7 +147,7 @@ TEST(CDSPDeEsser, ItsDetectorStandsStillWhileListening) {
                 reduced, 0.01);
 }
 
-TEST(CDSPDeEsser, TakesAnySignalForLoudUntilTheThresholdIsFirstChanged) {
+TEST(CDSPDeEsser, TreatsAnySignalAsAboveUntilTheThresholdIsFirstChanged) {
     const auto gainOfAQuietSignal = [](const std::vector<float> &thresholds) {
         CDSPDeEsser deEsser;
         deEsser.setParameter(kRatio, 2.0f);
@@ -182,7 +183,7 @@ TEST(CDSPDeEsser, WideAttenuatesBothChannelsAlikeForASibilantInEither) {
     }
 }
 
-TEST(CDSPDeEsser, WideLeavesWhatIsBelowItsFrequencyAlone) {
+TEST(CDSPDeEsser, WideLeavesLowFrequenciesUnchanged) {
     auto deEsser = makeWide();
     const auto input = vowel<float>(settled, 0.9);
     EXPECT_TRUE(render(*deEsser, input, 500) == input);
@@ -212,33 +213,33 @@ TEST(CDSPDeEsser, NarrowAttenuatesOnlyWhatItsFilterPasses) {
     EXPECT_NEAR(gain, reduced, 0.01);
 }
 
-TEST(CDSPDeEsser, FollowsTheAmountInTheTimesOfItsSpeed) {
+TEST(CDSPDeEsser, SmoothsTheExcessWithTheTimesOfItsSpeed) {
     const double arrived = 19.9, part = 1.0 - std::exp(-1.0);
     for (const auto &[speed, attackMs, releaseMs] :
          {std::array{0.0f, 2.0f, 100.0f}, std::array{1.0f, 50.0f, 500.0f}}) {
         auto deEsser = makeWide();
         deEsser->setParameter(kSpeed, speed);
-        const auto overAt = [](double gain) { return -2.0 * std::log(gain) / K; };
-        // A stretch about the end of the attack; the wave itself starts it at once.
+        const auto excessAt = [](double gain) { return -2.0 * std::log(gain) / K; };
+        // Measured around the end of the attack, which begins with the first frame.
         const auto input = sibilant<float>(settled, 0.9, 0.9);
         const TStereo<float> output = render(*deEsser, input, 500);
         const int attackEnd = static_cast<int>(attackMs * 44.1f);
         const double attacked = gainOver(output.channels[0], input.channels[0], attackEnd - 24, 49);
-        EXPECT_NEAR(overAt(attacked), arrived * part, 1.5) << speed;
+        EXPECT_NEAR(excessAt(attacked), arrived * part, 1.5) << speed;
 
-        // From some moment after the peaks have fallen, one release later.
+        // Once the peaks have fallen, the excess decays by 1/e per release time.
         const auto after = vowel<float>(60000, 0.01);
         const TStereo<float> falling = render(*deEsser, after, 500);
-        const auto overIn = [&](int frame) {
-            return overAt(gainOver(falling.channels[0], after.channels[0], frame, 441));
+        const auto excessIn = [&](int frame) {
+            return excessAt(gainOver(falling.channels[0], after.channels[0], frame, 441));
         };
-        EXPECT_NEAR(overIn(10000 + static_cast<int>(releaseMs * 44.1f)) / overIn(10000),
+        EXPECT_NEAR(excessIn(10000 + static_cast<int>(releaseMs * 44.1f)) / excessIn(10000),
                     std::exp(-1.0), 0.02)
             << speed;
     }
 }
 
-TEST(CDSPDeEsser, StartsWithTheTimesOfItsSpeedAtTheMiddle) {
+TEST(CDSPDeEsser, StartsWithTheTimesOfTheMiddleSpeed) {
     auto moved = makeDeEsser(), untouched = makeDeEsser();
     moved->setParameter(kSpeed, 0.25f);
     moved->setParameter(kSpeed, 0.5f);
@@ -271,8 +272,8 @@ TYPED_TEST(CDSPDeEsserPrecision, WritesZeroOverDenormalInput) {
     }
 }
 
-// In double precision the peak is cleared while the last gain in dB, the field behind it, is zero
-// in bits 20 to 30.
+// In double precision the peak is flushed while its neighbour, the last gain in dB, is 0
+// (NeighbourFlush.h).
 
 TEST(CDSPDeEsser, InDoublePrecisionPassesTheSignal) {
     const auto input = sibilant<double>(5000, 0.5, 0.5);
@@ -282,7 +283,7 @@ TEST(CDSPDeEsser, InDoublePrecisionPassesTheSignal) {
     EXPECT_TRUE(render(untouched, input, 500) == input);
 }
 
-TEST(CDSPDeEsser, InDoublePrecisionGoesOnWithAGainUntilItHasComeToRest) {
+TEST(CDSPDeEsser, InDoublePrecisionKeepsAGainFromSinglePrecisionUntilItIsReleased) {
     auto deEsser = makeWide();
     render(*deEsser, sibilant<float>(settled, 0.5, 0.5), 500);
     const auto loud = sibilant<double>(settled, 0.5, 0.5);
@@ -291,18 +292,18 @@ TEST(CDSPDeEsser, InDoublePrecisionGoesOnWithAGainUntilItHasComeToRest) {
     EXPECT_TRUE(render(*deEsser, loud, 500) == loud);
 }
 
-TEST(CDSPDeEsser, InDoublePrecisionNarrowAsksTheSingleSideBufferWhichChannelToHear) {
-    // The last block in single precision leaves a loud or a silent left side in its buffer.
-    const auto gainBehind = [](double leftInSingle) {
+TEST(CDSPDeEsser, InDoublePrecisionNarrowPicksTheChannelByTheSinglePrecisionBuffer) {
+    // The last single-precision block leaves a loud or a silent left channel in its side chain.
+    const auto gainAfterLeft = [](double leftInSingle) {
         auto deEsser = makeNarrow();
         render(*deEsser, sibilant<float>(settled, leftInSingle, 0.5), 500);
         return lastGain(*deEsser, sibilant<double>(settled, 0.5, 0.02), 0);
     };
-    EXPECT_LT(gainBehind(0.5), 0.8);
-    EXPECT_GT(gainBehind(0.0), 0.9);
+    EXPECT_LT(gainAfterLeft(0.5), 0.8);
+    EXPECT_GT(gainAfterLeft(0.0), 0.9);
 }
 
-TEST(CDSPDeEsser, InDoublePrecisionAThresholdOfZeroClearsTheAmountInItsSleep) {
+TEST(CDSPDeEsser, InDoublePrecisionAThresholdOfZeroFlushesTheExcessWhileAsleep) {
     CDSPDeEsser deEsser;
     CPlainDeEsser plain;
     const auto expectSame = [&](float threshold, const auto &input) {
@@ -316,7 +317,7 @@ TEST(CDSPDeEsser, InDoublePrecisionAThresholdOfZeroClearsTheAmountInItsSleep) {
     plain.setParameter(kRatio, 2.0f);
     const auto loud = sibilant<float>(settled, 0.5, 0.5);
     expectSame(-30.0f, loud);
-    // The amount has just fallen below what keeps the detector active.
+    // Until the excess has just fallen below what keeps the detector active.
     const auto quiet = vowel<float>(100, 0.01);
     while (!(expectSame(-30.0f, quiet) == quiet)) {
     }

@@ -36,7 +36,7 @@ std::unique_ptr<CDSPGate> makeAtHalf() {
     return gate;
 }
 
-/// The same, open. Its peak follower stands close below 1.
+/// The same, fully open. Its peak follower is just below 1.
 template <typename Sample>
 std::unique_ptr<CDSPGate> makeOpen() {
     auto gate = makeAtHalf();
@@ -63,7 +63,7 @@ TEST(CDSPGate, ReturnsWhatWasSetAndIgnoresAnUnknownIndex) {
     expectParametersReadAsSet(makeGate, laws);
 }
 
-TEST(CDSPGate, LetsNoSilenceBecomeAnythingElse) {
+TEST(CDSPGate, LeavesSilenceSilent) {
     CDSPGate gate;
     const TStereo<float> silence(1000);
     EXPECT_TRUE(render(gate, silence, 64) == silence);
@@ -96,7 +96,7 @@ TEST(CDSPGate, ListensToTheLouderChannel) {
     }
 }
 
-TEST(CDSPGate, OpensByAFactorOfTheDecibelsAndJumpsToOneOverMinusHalfADecibel) {
+TEST(CDSPGate, OpensByAConstantFactorInDecibelsAndJumpsToOneAboveMinusHalfADecibel) {
     CDSPGate gate;
     const std::vector<float> gains = leftOf(gate, steady(3000, 1.0f, 1.0f));
     float decibels = -60.0f;
@@ -112,11 +112,11 @@ TEST(CDSPGate, OpensByAFactorOfTheDecibelsAndJumpsToOneOverMinusHalfADecibel) {
         ASSERT_EQ(gains[i], 1.0f) << i;
 }
 
-TEST(CDSPGate, ClosesOnlyAfterThePeaksHaveFallenAndThenByAFactorOfTheDecibels) {
+TEST(CDSPGate, ClosesByAConstantFactorInDecibelsOnceThePeaksHaveFallen) {
     auto gate = makeOpen<float>();
     const std::vector<float> output = leftOf(*gate, steady(40000, 0.1f, 0.1f));
 
-    // As long as the follower of 15 ms stays above the threshold, nothing happens.
+    // Nothing happens while the peak follower, with its release of 15 ms, is above the threshold.
     float peak = 1.0f;
     std::size_t i = 0;
     for (; peak > 0.501f; ++i) {
@@ -138,14 +138,14 @@ TEST(CDSPGate, ClosesOnlyAfterThePeaksHaveFallenAndThenByAFactorOfTheDecibels) {
         ASSERT_EQ(output[i], 0.0f) << i;
 }
 
-TEST(CDSPGate, TurnsRoundAtOnceFromTheDecibelsItHasReached) {
+TEST(CDSPGate, ReversesAtOnceFromTheGainItHasReached) {
     auto gate = makeOpen<float>();
     const std::vector<float> falling = leftOf(*gate, steady(6000, 0.1f, 0.1f));
     const float last = falling.back() / 0.1f;
     ASSERT_GT(last, 0.01f);
     ASSERT_LT(last, 0.9f);
     const std::vector<float> rising = leftOf(*gate, steady(1000, 1.0f, 1.0f));
-    // The peaks take some frames to come back over the threshold; from there on it rises.
+    // The peaks need some frames to rise above the threshold; then the gain rises.
     std::size_t i = 0;
     while (i + 1 < rising.size() && rising[i + 1] < rising[i])
         ++i;
@@ -217,7 +217,7 @@ TEST(CDSPGate, ResetClosesItAndKeepsTheParametersAndTheDisplay) {
     }
 }
 
-TEST(CDSPGate, AGainThatHasSunkToZeroBecauseOfANegativeAttackIsClosed) {
+TEST(CDSPGate, AGainDrivenToZeroByANegativeAttackCountsAsClosed) {
     for (int loudFrames = 400; loudFrames < 600; loudFrames += 5) {
         CDSPGate gate;
         CPlainGate plain;
@@ -237,7 +237,7 @@ TEST(CDSPGate, AGainThatHasSunkToZeroBecauseOfANegativeAttackIsClosed) {
     }
 }
 
-TEST(CDSPGate, WritesNothingIntoItsInput) {
+TEST(CDSPGate, LeavesItsInputUnchanged) {
     CDSPGate gate;
     const auto check = [&gate](auto input) {
         const auto before = input;

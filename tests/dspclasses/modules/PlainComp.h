@@ -5,8 +5,8 @@
 
 #include <cmath>
 
-/// The plain reading of the compressor: one sample after the other through the six steps, all
-/// running state in the fields.
+/// The plain reading of the compressor: each sample goes through the six steps, with all running
+/// state in the fields.
 class CPlainComp : public CDSPBase {
 public:
     void setParameter(int index, float value) override {
@@ -80,7 +80,7 @@ public:
 
     void reset() override {
         gainLeft = gainRight = 1.0f;
-        overLeft = overRight = 0.0f;
+        smoothedExcessDbLeft = smoothedExcessDbRight = 0.0f;
         peakLeft = peakRight = 0.0f;
         gainDbLeft = gainDbRight = 0.0f;
     }
@@ -98,32 +98,32 @@ private:
     bool detectLeft(float a) {
         detector.follow(peakLeft, a);
         const bool above = detector.isAbove(peakLeft);
-        detector.smooth(overLeft, above, a);
+        detector.smooth(smoothedExcessDbLeft, above, a);
         return above;
     }
     bool detectLeft(double a) {
         detector.follow(peakLeft, peakRight, a);
         const bool above = detector.isAbove(peakLeft);
-        detector.smooth(overLeft, overRight, above, a);
+        detector.smooth(smoothedExcessDbLeft, smoothedExcessDbRight, above, a);
         return above;
     }
     bool detectRight(float a) {
         detector.follow(peakRight, a);
         const bool above = detector.isAbove(peakRight);
-        detector.smooth(overRight, above, a);
+        detector.smooth(smoothedExcessDbRight, above, a);
         return above;
     }
     bool detectRight(double a) {
         detector.follow(peakRight, gainDbLeft, a);
         const bool above = detector.isAbove(peakRight);
-        detector.smooth(overRight, detector.thresholdDb, above, a);
+        detector.smooth(smoothedExcessDbRight, detector.thresholdDb, above, a);
         return above;
     }
 
     // Step 5
     void moveLeftGain(bool above) {
-        if (above || overLeft > 0.01f) {
-            gainDbLeft = slope * overLeft + makeUpDb;
+        if (above || smoothedExcessDbLeft > 0.01f) {
+            gainDbLeft = slope * smoothedExcessDbLeft + makeUpDb;
             gainLeft = expSingle(gainDbLeft * K);
         } else {
             gainDbLeft = makeUpDb;
@@ -131,8 +131,8 @@ private:
         }
     }
     void moveRightGain(bool above) {
-        if (above || overRight > 0.01f) {
-            gainDbRight = slope * overLeft + makeUpDb;
+        if (above || smoothedExcessDbRight > 0.01f) {
+            gainDbRight = slope * smoothedExcessDbLeft + makeUpDb;
             gainRight = expSingle(gainDbLeft * K);
         } else {
             gainDbRight = makeUpDb;
@@ -143,8 +143,8 @@ private:
     float attackMs = 10.0f;
     float releaseMs = 100.0f;
     SPlainDetector detector{.attackCoef = 0.9977324f, .releaseCoef = 0.99977326f};
-    float overLeft = 0.0f;
-    float overRight = 0.0f;
+    float smoothedExcessDbLeft = 0.0f;
+    float smoothedExcessDbRight = 0.0f;
     float peakLeft = 0.0f;
     float peakRight = 0.0f;
     float gainDbLeft = 0.0f;

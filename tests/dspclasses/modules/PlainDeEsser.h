@@ -8,8 +8,8 @@
 #include <cmath>
 #include <vector>
 
-/// The plain reading of the de-esser: the filter over the whole block, then one frame after the
-/// other through the steps, all running state in the fields.
+/// The plain reading of the de-esser: the filter runs over the whole block, then each frame goes
+/// through the steps, with all running state in the fields.
 class CPlainDeEsser : public CDSPBase {
 public:
     void setParameter(int index, float value) override {
@@ -53,7 +53,7 @@ public:
             const float a = narrow ? right : detector.larger(left, right);
             detector.follow(peak, a);
             const bool above = detector.isAbove(peak);
-            detector.smooth(over, above, a);
+            detector.smooth(smoothedExcessDb, above, a);
             moveGain(above);
             write(in, sides, out, i);
         }
@@ -71,7 +71,7 @@ public:
             const double a = candidate > right ? left : right;
             detector.follow(peak, gainDb, a);
             const bool above = detector.isAbove(peak);
-            detector.smooth(over, detector.thresholdDb, above, a);
+            detector.smooth(smoothedExcessDb, detector.thresholdDb, above, a);
             moveGain(above);
             write(in, sides, out, i);
         }
@@ -79,7 +79,7 @@ public:
 
     void reset() override {
         gain = 1.0f;
-        over = peak = gainDb = 0.0f;
+        smoothedExcessDb = peak = gainDb = 0.0f;
         filter.reset();
     }
 
@@ -98,7 +98,7 @@ private:
         std::copy_n(from[1], frames, to[1]);
     }
 
-    /// What the last single precision block left there; nothing behind the end of the buffer.
+    /// The sample that the last single-precision block left there, or 0 past the end of the buffer.
     float singleLeftAt(int frame) const {
         const auto index = static_cast<std::size_t>(frame);
         return index < side[0].size() ? side[0][index] : 0.0f;
@@ -106,8 +106,8 @@ private:
 
     // Step 8
     void moveGain(bool above) {
-        if (above || over > 0.01f) {
-            gainDb = slope * over + floorDb;
+        if (above || smoothedExcessDb > 0.01f) {
+            gainDb = slope * smoothedExcessDb + floorDb;
             gain = expSingle(gainDb * SPlainDetector::K);
         } else {
             gainDb = floorDb;
@@ -128,7 +128,7 @@ private:
     float attackMs = 26.0f;
     float releaseMs = 300.0f;
     SPlainDetector detector{.attackCoef = 0.99912786f, .releaseCoef = 0.99992442f};
-    float over = 0.0f;
+    float smoothedExcessDb = 0.0f;
     float peak = 0.0f;
     float gainDb = 0.0f;
     float gain = 1.0f;

@@ -5,8 +5,8 @@
 
 #include <cmath>
 
-/// The plain reading of the gate: one frame after the other through the steps, all running state in
-/// the fields.
+/// The plain reading of the gate: each frame goes through the steps, with all running state in the
+/// fields.
 class CPlainGate : public CDSPBase {
 public:
     void setParameter(int index, float value) override {
