@@ -17,7 +17,7 @@
 ///             |                                          v                       v
 ///             +--> ln(level) * K - threshold --> excess, else 0 --> smoother --> active? --> gain
 ///
-/// Every arrow between two columns below is one step of four frames: see StagedLoop.h.
+/// It runs as a staged loop (StagedLoop.h) with these stages:
 ///
 ///     read | follow | start log | finish log | smooth | start exp | finish exp, apply
 template <typename Sample>

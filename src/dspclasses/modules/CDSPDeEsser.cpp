@@ -11,6 +11,13 @@
 #include <cmath>
 #include <cstddef>
 
+//     x ----+---------------------------------------------> wide: x * gain -----------+--> out
+//           |                                               narrow: (x - s) + s * gain  |
+//           |                                                          ^                |
+//           +--> high-pass --> s --> detector, gain law --> gain ------+                |
+//                              |                                                        |
+//                              +--> listening: s ---------------------------------------+
+
 void CDSPDeEsser::setParameter(int index, float value) {
     if (index == kThreshold && thresholdDb.storeIfNew(value)) {
         thresholdLinear = linearFromDecibels(value);
