@@ -4,10 +4,8 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cstdint>
-#include <cstring>
 #include <limits>
-#include <string>
+#include <string_view>
 
 namespace Tessitor::IO {
 
@@ -20,45 +18,35 @@ CString textOf(double value) {
     char text[std::numeric_limits<double>::max_exponent10 + 16];
     const auto [end, failed] =
         std::to_chars(text, text + sizeof text, value, std::chars_format::fixed, 6);
-    return std::string(text, end).c_str();
+    *end = '\0';
+    return text;
 }
 
-/// Of what no double holds: the place of its first digit and its exponent tell too much from too
-/// little.
-double atTheEndOfTheRange(const char *begin, const char *end) {
-    const bool isNegative = *begin == '-';
-    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
-    const auto isExponent = [](char c) { return c == 'e' || c == 'E'; };
-    const auto isZero = [](char c) { return c == '0'; };
+double numberIn(std::string_view text);
 
-    const char *const first = std::find_if_not(begin + (isNegative ? 1 : 0), end, isZero);
-    const char *const point = std::find_if_not(first, end, isDigit);
-    const auto whole = point - first;
-    const char *const fraction = std::min(point + 1, end);
-    const auto zerosBehindThePoint = std::find_if_not(fraction, end, isZero) - fraction;
-    const auto place = whole > 0 ? whole : -zerosBehindThePoint;
-
-    const char *exponentText = std::min(std::find_if(point, end, isExponent) + 1, end);
-    if (exponentText != end && *exponentText == '+')
-        ++exponentText;
-    std::int64_t exponent = 0;
-    if (std::from_chars(exponentText, end, exponent).ec == std::errc::result_out_of_range)
-        exponent = *exponentText == '-' ? std::numeric_limits<std::int32_t>::min()
-                                        : std::numeric_limits<std::int32_t>::max();
-    const double size = place + exponent > 0 ? std::numeric_limits<double>::infinity() : 0.0;
-    return isNegative ? -size : size;
+/// @param number  one that no double holds, with nothing before or after it.
+/// @return infinity if it is too large, 0 if it is too small, with its sign.
+double beyondTheRange(std::string_view number) {
+    const std::size_t mark = std::min(number.find_first_of("eE"), number.size());
+    const std::size_t point = std::min(number.find('.'), mark);
+    const std::size_t first = number.find_first_of("123456789");
+    const double place = static_cast<double>(point) - static_cast<double>(first);
+    // As a double, since an exponent can have any number of digits.
+    const double exponent = mark < number.size() ? numberIn(number.substr(mark + 1)) : 0;
+    const double size = place + exponent > 0 ? std::numeric_limits<double>::infinity() : 0;
+    return number.front() == '-' ? -size : size;
 }
 
-double numberIn(const CString &text) {
-    const char *begin = text.getString();
-    while (CString::isWhiteSpace(*begin))
-        ++begin;
-    if (begin[0] == '+' && begin[1] != '-')
-        ++begin;
-    const char *const end = begin + std::strlen(begin);
+double numberIn(std::string_view text) {
+    while (!text.empty() && CString::isWhiteSpace(text.front()))
+        text.remove_prefix(1);
+    if (text.starts_with('+') && !text.starts_with("+-"))
+        text.remove_prefix(1);
     double value = 0;
-    const auto result = std::from_chars(begin, end, value);
-    return result.ec == std::errc::result_out_of_range ? atTheEndOfTheRange(begin, end) : value;
+    const auto [end, failure] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (failure == std::errc::result_out_of_range)
+        return beyondTheRange({text.data(), end});
+    return value;
 }
 
 }  // namespace
@@ -100,11 +88,11 @@ void CXMLAttribute::setValue(int value) {
 }
 
 double CXMLAttribute::getValueAsDouble() const {
-    return numberIn(m_value);
+    return numberIn(m_value.getString());
 }
 
 float CXMLAttribute::getValueAsFloat() const {
-    return static_cast<float>(numberIn(m_value));
+    return static_cast<float>(numberIn(m_value.getString()));
 }
 
 long CXMLAttribute::getValueAsLong() const {

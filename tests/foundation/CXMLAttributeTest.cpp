@@ -1,13 +1,18 @@
 #include "foundation/CXMLAttribute.h"
 
 #include <clocale>
+#include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
+#include <string>
 
 using Tessitor::Basics::CString;
 using Tessitor::IO::CXMLAttribute;
 
 namespace {
+
+constexpr double infinity = std::numeric_limits<double>::infinity();
+const std::string zeros(400, '0'), nines(30, '9');
 
 std::string nameOf(const char *name) {
     return CXMLAttribute(name, "").getName().getString();
@@ -67,31 +72,51 @@ TEST(CXMLAttribute, EveryKindOfValueComesBack) {
     EXPECT_STREQ(attribute.getValue().getString(), "text");
 }
 
+double numberIn(const std::string &text) {
+    return CXMLAttribute("name", text.c_str()).getValueAsDouble();
+}
+
 TEST(CXMLAttribute, ReadsNumbersAsFarAsTheyGo) {
-    const auto number = [](const char *text) {
-        return CXMLAttribute("name", text).getValueAsDouble();
-    };
-    EXPECT_EQ(number("1.5 dB"), 1.5);
-    EXPECT_EQ(number(" \t\n+2.5e1"), 25);
-    EXPECT_EQ(number("+-2"), 0);
-    EXPECT_EQ(number("-.5"), -0.5);
-    EXPECT_EQ(number("none"), 0);
-    EXPECT_EQ(number(""), 0);
-    EXPECT_EQ(number("inf"), std::numeric_limits<double>::infinity());
-    EXPECT_EQ(number("-1e999"), -std::numeric_limits<double>::infinity());
-    EXPECT_EQ(number("1e+999"), std::numeric_limits<double>::infinity());
-    EXPECT_EQ(number("1e-999"), 0);
-    const std::string zeros(400, '0');
-    EXPECT_EQ(number(("2" + zeros).c_str()), std::numeric_limits<double>::infinity());
-    EXPECT_EQ(number(("0." + zeros + "2").c_str()), 0);
-    EXPECT_EQ(number(("2" + zeros + "e-1").c_str()), std::numeric_limits<double>::infinity());
-    EXPECT_EQ(number(("0." + zeros + "2e1").c_str()), 0);
-    const std::string nines(30, '9');
-    EXPECT_EQ(number(("1e" + nines).c_str()), std::numeric_limits<double>::infinity());
-    EXPECT_EQ(number(("1e-" + nines).c_str()), 0);
+    EXPECT_EQ(numberIn("1.5 dB"), 1.5);
+    EXPECT_EQ(numberIn(" \t\n+2.5e1"), 25);
+    EXPECT_EQ(numberIn("+-2"), 0);
+    EXPECT_EQ(numberIn("-.5"), -0.5);
+    EXPECT_EQ(numberIn("none"), 0);
+    EXPECT_EQ(numberIn(""), 0);
+    EXPECT_EQ(numberIn("inf"), infinity);
     EXPECT_EQ(CXMLAttribute("name", "99999999999").getValueAsInt(),
               std::numeric_limits<int>::max());
     EXPECT_EQ(CXMLAttribute("name", "12.9").getValueAsLong(), 12);
+}
+
+TEST(CXMLAttribute, ReadsNumbersTooLargeForADoubleAsInfinity) {
+    for (const std::string &text :
+         {"2" + zeros, "2" + zeros + ".5", "2" + zeros + "e-1", "0002" + zeros + "e-1",
+          std::string("1e999"), std::string("1e+999"), std::string("1E999"), "1e" + nines,
+          "1e+" + nines, "0." + zeros + "1e999", "0." + zeros + "1e" + nines}) {
+        EXPECT_EQ(numberIn(text), infinity) << text;
+        EXPECT_EQ(numberIn("+" + text), infinity) << text;
+        EXPECT_EQ(numberIn("-" + text), -infinity) << text;
+    }
+}
+
+TEST(CXMLAttribute, ReadsNumbersTooSmallForADoubleAsZeroOfTheirSign) {
+    for (const std::string &text :
+         {"0." + zeros + "2", "." + zeros + "2", "0." + zeros + "2e1", "000." + zeros + "2e1",
+          std::string("1e-999"), std::string("1E-999"), std::string("1.5e-400"), "1e-" + nines,
+          "1" + zeros + "e-999", "1" + zeros + "e-" + nines}) {
+        EXPECT_EQ(numberIn(text), 0) << text;
+        EXPECT_FALSE(std::signbit(numberIn(text))) << text;
+        EXPECT_EQ(numberIn("-" + text), 0) << text;
+        EXPECT_TRUE(std::signbit(numberIn("-" + text))) << text;
+    }
+}
+
+TEST(CXMLAttribute, TextAfterANumberBeyondTheRangeDoesNotChangeIt) {
+    for (const char *rest : {" e-500", "x", " ", "e", "e-", " dBE-900", ",5e-500", " 0.1"})
+        EXPECT_EQ(numberIn("1" + zeros + rest), infinity) << rest;
+    for (const char *rest : {" e500", "x", " ", "e", "e+", " dBE900", ",5e500", " 1.5"})
+        EXPECT_EQ(numberIn("0." + zeros + "1" + rest), 0) << rest;
 }
 
 TEST(CXMLAttribute, IsTrueForOneTextOnly) {
