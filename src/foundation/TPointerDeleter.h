@@ -2,6 +2,9 @@
 
 #include "foundation/CCountedObject.h"
 
+#include <cstddef>
+#include <new>
+
 namespace Tessitor::Collections {
 
 /// Decides who owns what a container points to. The container does not own its deleter, which must
@@ -92,18 +95,24 @@ Basics::TClassRecord<TCountedObjectDeleter<TypeName>>
     TCountedObjectDeleter<TypeName>::s_class("TCountedObjectDeleter<TypeName>", typeid(TypeName),
                                              "TPointerDeleter<TypeName>", typeid(TypeName));
 
-// The shared deleters are made by the first container that asks, so that a static container finds
-// its deleter built and is destroyed before it.
+/// @return the shared deleter of this type, made at the first call and never destroyed: at the end
+///         of the program a static object may still have a container, or make one.
+template <typename Deleter>
+Deleter *sharedDeleter() {
+    // Not on the heap, where each unloading of a plug-in would leak one.
+    alignas(Deleter) static std::byte memory[sizeof(Deleter)];
+    static Deleter *const deleter = new (memory) Deleter;
+    return deleter;
+}
+
 template <typename TypeName>
 TObjectDeleter<TypeName> *TObjectDeleter<TypeName>::getStaticDeleter() {
-    static TObjectDeleter deleter;
-    return &deleter;
+    return sharedDeleter<TObjectDeleter>();
 }
 
 template <typename TypeName>
 TCountedObjectDeleter<TypeName> *TCountedObjectDeleter<TypeName>::getStaticDeleter() {
-    static TCountedObjectDeleter deleter;
-    return &deleter;
+    return sharedDeleter<TCountedObjectDeleter>();
 }
 
 template <typename TypeName>

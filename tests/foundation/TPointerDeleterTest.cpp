@@ -1,8 +1,11 @@
 #include "foundation/TPointerDeleter.h"
 
 #include "foundation/ObjectSamples.h"
+#include "foundation/TPointerCollection.h"
 
+#include <cstdlib>
 #include <gtest/gtest.h>
+#include <memory>
 
 using namespace Tessitor::Collections;
 
@@ -76,6 +79,42 @@ TEST(TPointerDeleter, OneOfEachTypeIsShared) {
               TObjectDeleter<CWatchedObject>::getStaticDeleter());
     EXPECT_EQ(TCountedObjectDeleter<CWatchedObject>::getStaticDeleter(),
               TCountedObjectDeleter<CWatchedObject>::getStaticDeleter());
+}
+
+/// An element of which no shared deleter exists before the test asks for one.
+class CLateElement : public Tessitor::Basics::CCountedObject {
+public:
+    explicit CLateElement(bool &destroyed) : m_destroyed(destroyed) {}
+    ~CLateElement() override { m_destroyed = true; }
+
+private:
+    bool &m_destroyed;
+};
+
+/// Static objects are destroyed in reverse order, so everything that the list needs is younger than
+/// its owner.
+struct SOwnerOfALateList {
+    ~SOwnerOfALateList() {
+        const auto deleters = TObjectDeleter<CLateElement>().getClass().getInstanceCount();
+        list.reset();
+        if (deleters != 2 || !destroyed)
+            std::_Exit(EXIT_FAILURE);
+    }
+
+    bool destroyed = false;
+    std::unique_ptr<TPointerCollection<CLateElement>> list;
+};
+
+TEST(TPointerDeleterDeathTest, ASharedDeleterIsThereForAStaticOwnerThatMakesItsListLate) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    EXPECT_EXIT(
+        {
+            static SOwnerOfALateList owner;
+            owner.list = std::make_unique<TPointerCollection<CLateElement>>();
+            owner.list->addElement(new CLateElement(owner.destroyed));
+            std::exit(EXIT_SUCCESS);
+        },
+        testing::ExitedWithCode(EXIT_SUCCESS), "");
 }
 
 }  // namespace
