@@ -1,8 +1,7 @@
 #include "foundation/CCountedObject.h"
 
-#include "foundation/CopyText.h"
-
 #include <cstdio>
+#include <cstring>
 
 namespace Tessitor::Basics {
 
@@ -17,7 +16,8 @@ void CCountedObject::getObjectDescription(char *array, long size) const {
     char text[1024];
     std::snprintf(text, sizeof text, "[CCounted Object Base Reference Count = %li",
                   static_cast<long>(m_referenceCount));
-    copyText(array, size, text);
+    if (array != nullptr && size > 0)
+        std::strncpy(array, text, static_cast<std::size_t>(size));
 }
 
 }  // namespace Tessitor::Basics

@@ -89,8 +89,9 @@ CTextStream &CTextStream::operator<<(const CSystemString &text) {
 }
 
 CTextStream &CTextStream::operator<<(const Basics::ICountedObject &object) {
-    char description[256];
-    object.getObjectDescription(description, sizeof description);
+    constexpr long size = 256;
+    char description[size + 1] = {};  // an object may fill its part without a terminator
+    object.getObjectDescription(description, size);
     return write(description);
 }
 

@@ -35,7 +35,7 @@ public:
     CTextStream &operator<<(const char *text);  ///< flushes; null is ignored
     CTextStream &operator<<(const Basics::CString &text);
     CTextStream &operator<<(const Basics::CSystemString &text);
-    /// Up to 255 bytes of the object's description.
+    /// Up to 256 bytes of the object's description.
     CTextStream &operator<<(const Basics::ICountedObject &object);
     CTextStream &operator<<(bool value);  ///< "true" or "false"
     CTextStream &operator<<(int value);

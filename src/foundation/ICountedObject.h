@@ -18,7 +18,8 @@ public:
     virtual void dereference() = 0;
     virtual std::int32_t getReferenceCount() const = 0;
 
-    /// Writes a text about the object, cut to fit and always terminated; the rest is zeroed.
+    /// Writes a text about the object, cut to fit; the rest is zeroed. A text of `size` bytes or
+    /// more may fill the array without a terminator.
     /// @param array  `size` bytes; null, or a size below 1, is ignored.
     virtual void getObjectDescription(char *array, long size) const = 0;
 

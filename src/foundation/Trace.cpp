@@ -44,8 +44,9 @@ void trace(const char *format, ...) {
 }
 
 void trace(const Basics::ICountedObject &object, const char *text) {
-    char description[1024];
-    object.getObjectDescription(description, sizeof description);
+    constexpr long size = 1024;
+    char description[size + 1] = {};  // an object may fill its part without a terminator
+    object.getObjectDescription(description, size);
     writeLine(std::string(text) + description);
 }
 

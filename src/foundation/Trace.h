@@ -13,7 +13,7 @@ bool openTrace(const Basics::CSystemString &path);
 
 /// Formats a line like printf, writes it and flushes.
 [[gnu::format(printf, 1, 2)]] void trace(const char *format, ...);
-/// Writes a line with the text and up to 1023 bytes of the object's description, and flushes.
+/// Writes a line with the text and up to 1024 bytes of the object's description, and flushes.
 void trace(const Basics::ICountedObject &object, const char *text);
 
 }  // namespace Tessitor::IO

@@ -3,6 +3,7 @@
 #include "foundation/ObjectSamples.h"
 
 #include <gtest/gtest.h>
+#include <string>
 
 using Tessitor::Basics::CCountedObject;
 
@@ -83,11 +84,17 @@ TEST(CCountedObject, DescriptionTellsTheCountWithoutClosingBracket) {
     EXPECT_STREQ(text, "[CCounted Object Base Reference Count = 1");
 }
 
-TEST(CCountedObject, DescriptionIsCutToTheBufferAndTerminated) {
-    char text[10] = "xxxxxxxxx";
-    CCountedObject().getObjectDescription(text, 9);
-    EXPECT_STREQ(text, "[CCounte");
-    EXPECT_EQ(text[9], '\0');
+TEST(CCountedObject, DescriptionThatFillsTheArrayHasNoTerminator) {
+    const std::string whole = "[CCounted Object Base Reference Count = 0";
+    const auto filled = [](std::size_t size) {
+        std::string array(64, 'x');
+        CCountedObject().getObjectDescription(array.data(), static_cast<long>(size));
+        return array.substr(0, size + 1);
+    };
+    EXPECT_EQ(filled(9), "[CCountedx");
+    EXPECT_EQ(filled(whole.size()), whole + 'x');
+    EXPECT_EQ(filled(whole.size() + 1), whole + '\0' + 'x');
+    EXPECT_EQ(filled(whole.size() + 3), whole + std::string(3, '\0') + 'x');
 }
 
 TEST(CCountedObject, DescriptionNeedsABuffer) {

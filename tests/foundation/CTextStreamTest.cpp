@@ -4,6 +4,7 @@
 #include "foundation/CLong.h"
 #include "foundation/ReadFile.h"
 
+#include <cstring>
 #include <gtest/gtest.h>
 #include <locale>
 
@@ -11,6 +12,7 @@ using Tessitor::Basics::CCountedObject;
 using Tessitor::Basics::CLong;
 using Tessitor::Basics::CString;
 using Tessitor::Basics::CSystemString;
+using Tessitor::Basics::ICountedObject;
 using Tessitor::IO::CTextStream;
 using Tessitor::IO::EStreamMode;
 
@@ -104,14 +106,20 @@ TEST_F(CTextStreamFile, IgnoresANullText) {
     EXPECT_EQ(read(), "text");
 }
 
-TEST_F(CTextStreamFile, CutsADescriptionTo255Bytes) {
-    class CWordy : public CCountedObject {
+TEST_F(CTextStreamFile, CutsADescriptionToItsBuffer) {
+    const CString text(std::string(300, 'w').c_str());
+    CTextStream(path, EStreamMode::Write) << static_cast<const ICountedObject &>(text);
+    EXPECT_EQ(read(), std::string(255, 'w'));
+}
+
+TEST_F(CTextStreamFile, WritesADescriptionThatFillsItsBufferWithoutATerminator) {
+    class CFilling : public CCountedObject {
         void getObjectDescription(char *array, long size) const override {
-            CString(std::string(300, 'w').c_str()).getObjectDescription(array, size);
+            std::memset(array, 'f', static_cast<std::size_t>(size));
         }
     };
-    CTextStream(path, EStreamMode::Write) << CWordy();
-    EXPECT_EQ(read(), std::string(255, 'w'));
+    CTextStream(path, EStreamMode::Write) << CFilling();
+    EXPECT_EQ(read(), std::string(256, 'f'));
 }
 
 TEST_F(CTextStreamFile, PlainTextIsFlushedAndTheRestOnRequest) {

@@ -4,8 +4,10 @@
 #include "foundation/CLong.h"
 #include "foundation/ReadFile.h"
 
+#include <cstring>
 #include <gtest/gtest.h>
 
+using Tessitor::Basics::CCountedObject;
 using Tessitor::Basics::CLong;
 using Tessitor::Basics::CString;
 using Tessitor::Basics::CSystemString;
@@ -51,6 +53,17 @@ TEST_F(TraceFile, CutsADescriptionTo1023Bytes) {
     const std::string text(2000, 'x');
     trace(CString(text.c_str()), "text = ");
     EXPECT_EQ(readFile(path.getString()), "text = " + text.substr(0, 1023) + "\n");
+}
+
+TEST_F(TraceFile, HoldsADescriptionThatFillsItsBufferWithoutATerminator) {
+    class CFilling : public CCountedObject {
+        void getObjectDescription(char *array, long size) const override {
+            std::memset(array, 'f', static_cast<std::size_t>(size));
+        }
+    };
+    openTrace(path);
+    trace(CFilling(), "");
+    EXPECT_EQ(readFile(path.getString()), std::string(1024, 'f') + "\n");
 }
 
 TEST_F(TraceFile, StartsAnewWhenItIsOpened) {
