@@ -10,7 +10,7 @@ class CClassManager;
 
 /// The run-time record of a class: its name, its parent's name and the count of its instances. A
 /// record registers itself with the one manager, which the first of them makes, and withdraws when
-/// it is destroyed. Names are cut to 127 bytes; a null name leaves what was there.
+/// it is destroyed. Names are cut to 128 bytes; a null name leaves what was there.
 ///
 /// Every class of the library owns one record, of the kind TClassRecord.h describes. Nothing here
 /// is for two threads at once.
@@ -58,10 +58,11 @@ private:
     static void makeManager();
     void enrol();
 
+    static constexpr int maximumNameLength = 128;
     static CClassManager *s_manager;
 
-    char m_className[128] = "UndefinedClass";
-    char m_parentClassName[128] = "UndefinedParent";
+    char m_className[maximumNameLength + 1] = "UndefinedClass";
+    char m_parentClassName[maximumNameLength + 1] = "UndefinedParent";
     SInstanceCounts m_ownCounts;
     SInstanceCounts *m_counts = &m_ownCounts;
 };

@@ -183,7 +183,7 @@ TEST_F(CClassManagerList, ReportsAClassWhoseCopiesWereNotCounted) {
 }
 
 TEST_F(CClassManagerList, ReportsANameThatIsWiderThanTheTable) {
-    const std::string name(127, 'n');
+    const std::string name(128, 'n');
     CClass wide(name.c_str());
     wide.incrementInstanceCount();
     manager.registerClass(&wide);

@@ -97,12 +97,20 @@ TEST(CClass, NullNamesChangeNothing) {
     EXPECT_STREQ(CClass(nullptr, nullptr).getClassName(), "UndefinedClass");
 }
 
-TEST(CClass, NamesAreCutTo127Bytes) {
-    const std::string longName(200, 'n');
-    EXPECT_EQ(CClass(longName.c_str()).getClassName(), longName.substr(0, 127));
+TEST(CClass, NamesAreCutTo128Bytes) {
+    const std::string fits(128, 'n'), tooLong = fits + "x";
+    EXPECT_EQ(CClass(fits.c_str()).getClassName(), fits);
+    EXPECT_EQ(CClass(tooLong.c_str()).getClassName(), fits);
+    EXPECT_EQ(CClass(CClass(fits.c_str())).getClassName(), fits);
     CClass renamed("CShort");
-    renamed.setClassName(longName.c_str());
-    EXPECT_EQ(renamed.getClassName(), longName.substr(0, 127));
+    renamed.setClassName(tooLong.c_str());
+    EXPECT_EQ(renamed.getClassName(), fits);
+}
+
+TEST(CClass, ParentNamesOf128BytesAreFound) {
+    const std::string parentName(128, 'p');
+    const CClass parent(parentName.c_str()), child("CChild", parentName.c_str());
+    EXPECT_TRUE(child.isTypeOf(parent));
 }
 
 TEST(CClass, ComparesByExactName) {
