@@ -29,6 +29,11 @@ Text &createdOnDemand(std::unique_ptr<Text> &text) {
     return *text;
 }
 
+// Through a string: setString() alone would ignore null and keep the old text.
+void store(std::unique_ptr<CString> &value, const char *text) {
+    createdOnDemand(value).setString(CString(text));
+}
+
 std::string folderOf(const std::string &path) {
     return path.substr(0, path.rfind(nativePathSeparator));
 }
@@ -40,12 +45,12 @@ void CApplicationInformation::setApplicationInformation(
     const char *registryPath, const char *copyright, void *instanceHandle) {
     s_instanceHandle = instanceHandle;
     s_moduleHandle = instanceHandle;
-    createdOnDemand(s_companyName).setString(company);
-    createdOnDemand(s_applicationName).setString(application);
-    createdOnDemand(s_description).setString(description);
-    createdOnDemand(s_versionString).setString(version);
-    createdOnDemand(s_registryPath).setString(registryPath);
-    createdOnDemand(s_copyrightString).setString(copyright);
+    store(s_companyName, company);
+    store(s_applicationName, application);
+    store(s_description, description);
+    store(s_versionString, version);
+    store(s_registryPath, registryPath);
+    store(s_copyrightString, copyright);
     createdOnDemand(s_applicationPath)
         .setString(folderOf(nativeModulePath(instanceHandle)).c_str());
     readProcessorFeatures();

@@ -16,6 +16,7 @@ class CApplicationInformation {
 public:
     /// Stores the texts and the handle, finds the folder that the module lies in, and reads the
     /// processor's features.
+    /// @param company  null, here and for the other texts, is taken as "".
     /// @param instanceHandle  the module of the effect, as nativeModuleHandle() gives it.
     static void setApplicationInformation(const char *company, const char *application,
                                           const char *description, const char *version,

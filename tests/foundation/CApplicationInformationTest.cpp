@@ -46,6 +46,18 @@ TEST_F(CApplicationInformationStore, KeepsEachTextInItsPlace) {
     EXPECT_STREQ(CApplicationInformation::getCopyrightString().getString(), "copyright");
 }
 
+TEST_F(CApplicationInformationStore, TakesNullForAnEmptyText) {
+    set();
+    CApplicationInformation::setApplicationInformation(nullptr, nullptr, nullptr, nullptr, nullptr,
+                                                       nullptr, nullptr);
+    EXPECT_STREQ(CApplicationInformation::getCompanyName().getString(), "");
+    EXPECT_STREQ(CApplicationInformation::getApplicationName().getString(), "");
+    EXPECT_STREQ(CApplicationInformation::getDescription().getString(), "");
+    EXPECT_STREQ(CApplicationInformation::getVersionString().getString(), "");
+    EXPECT_STREQ(CApplicationInformation::getRegistryPath().getString(), "");
+    EXPECT_STREQ(CApplicationInformation::getCopyrightString().getString(), "");
+}
+
 TEST_F(CApplicationInformationStore, KeepsTheHandle) {
     set();
     EXPECT_EQ(CApplicationInformation::getInstanceHandle(), nativeModuleHandle());
