@@ -11,7 +11,6 @@
 #include <cstring>
 #include <limits>
 #include <stdexcept>
-#include <string>
 #include <utility>
 
 namespace Tessitor::Basics {
@@ -27,12 +26,15 @@ constexpr std::size_t sizeOf(long size) {
     return static_cast<std::size_t>(size);
 }
 
+/// A number as text, on the stack: only a string of the library may run out of memory.
 template <typename Number>
-std::string formatted(const char *format, Number value) {
+struct SNumberText {
+    SNumberText(const char *format, Number value) {
+        std::snprintf(text, sizeof text, format, value);
+    }
+
     char text[320];  // the longest double has 314 characters before its terminator
-    std::snprintf(text, sizeof text, format, value);
-    return text;
-}
+};
 
 char upperCase(char character) {
     return static_cast<char>(std::toupper(static_cast<unsigned char>(character)));
@@ -52,10 +54,11 @@ bool isFoundAgain(const CString &find, char replacement) {
 
 TClassRecord<CString> CString::s_class("CString", "CCountedObject");
 
-CString::CString(const char *text) {
+CString::CString(const char *text) : CString(text, text == nullptr ? 0 : std::strlen(text)) {}
+
+CString::CString(const char *text, std::size_t length) {
     fenced(StringFences::construction, [&] {
-        const std::string_view given(text == nullptr ? "" : text);
-        store(given.size() + 1, given, "");
+        store(length + 1, {text, length}, "");
         s_class.incrementInstanceCount();
     });
 }
@@ -86,18 +89,18 @@ CString &CString::operator=(bool value) {
 }
 
 CString &CString::operator=(long value) {
-    fenced(StringFences::assignment, [&] { setString(formatted("%.3li", value).c_str()); });
+    fenced(StringFences::assignment, [&] { setString(SNumberText("%.3li", value).text); });
     return *this;
 }
 
 CString &CString::operator=(int value) {
-    fenced(StringFences::assignment, [&] { setString(formatted("%.3i", value).c_str()); });
+    fenced(StringFences::assignment, [&] { setString(SNumberText("%.3i", value).text); });
     return *this;
 }
 
 CString &CString::operator=(float value) {
     fenced(StringFences::assignment,
-           [&] { setString(formatted("%.3f", static_cast<double>(value)).c_str()); });
+           [&] { setString(SNumberText("%.3f", static_cast<double>(value)).text); });
     return *this;
 }
 
@@ -157,7 +160,8 @@ char CString::operator[](long index) const {
 }
 
 CString::operator CPascalString() const {
-    return CPascalString(getString(), pascalBlockSize);
+    return fenced(StringFences::conversion,
+                  [&] { return CPascalString(getString(), pascalBlockSize); });
 }
 
 void CString::setString(const CString &other) {
@@ -230,9 +234,8 @@ CString CString::getSubString(long start, long end) const {
     return fenced(StringFences::getSubString, [&] {
         if (start < 0 || start >= end || end > m_numberOfCharacters)
             return CString();
-        // An end on the number of characters would be one byte behind the block.
-        const long length = std::min(end + 1, long{m_numberOfCharacters}) - start;
-        return CString(std::string(m_text.get() + start, sizeOf(length)).c_str());
+        // An end on the number of characters would be one byte past the block.
+        return charactersFrom(start, std::min(end + 1, long{m_numberOfCharacters}) - start);
     });
 }
 
@@ -286,7 +289,7 @@ void CString::removeTrailingWhiteSpace() {
 void CString::removeLastCharacter() {
     fenced(StringFences::removeLastCharacter, [&] {
         if (m_numberOfCharacters > 1)
-            setString(std::string(m_text.get(), sizeOf(m_numberOfCharacters - 2)).c_str());
+            setString(charactersFrom(0, m_numberOfCharacters - 2));
     });
 }
 
@@ -387,19 +390,19 @@ bool CString::isWhiteSpace() const {
 }
 
 CString CString::toString(double value) {
-    return formatted("%.3f", value).c_str();
+    return SNumberText("%.3f", value).text;
 }
 
 CString CString::toString(float value) {
-    return formatted("%.3f", static_cast<double>(value)).c_str();
+    return SNumberText("%.3f", static_cast<double>(value)).text;
 }
 
 CString CString::toString(int value) {
-    return formatted("%03i", value).c_str();
+    return SNumberText("%03i", value).text;
 }
 
 CString CString::toString(long value) {
-    return formatted("%03li", value).c_str();
+    return SNumberText("%03li", value).text;
 }
 
 double CString::toDouble(const char *text) {
@@ -437,6 +440,11 @@ int CString::toInt(const CString &text) {
 
 void CString::terminateAt(std::int32_t index) {
     m_text[sizeOf(index)] = '\0';
+}
+
+CString CString::charactersFrom(long index, long number) const {
+    const std::string_view characters(m_text.get() + index, sizeOf(number));
+    return CString(characters.data(), std::min(characters.find('\0'), characters.size()));
 }
 
 // A new block of zeros that begins with the two texts, which may lie in the old block.

@@ -121,9 +121,14 @@ public:
 protected:
     /// Writes a terminator at an index of the string. The number of characters stays as it is.
     void terminateAt(std::int32_t index);
+    /// The text of so many characters from an index on, or up to a terminator among them. Unlike
+    /// getSubString(), it can take one character. Not checked: all must lie inside the string.
+    CString charactersFrom(long index, long number) const;
 
 private:
     static TClassRecord<CString> s_class;
+
+    CString(const char *text, std::size_t length);
 
     void store(std::size_t size, std::string_view text, std::string_view appended);
 

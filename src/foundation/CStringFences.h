@@ -28,6 +28,9 @@ constexpr SFence inequality{"Caught exception during string comparison, more bel
 constexpr SFence indexing{"Caught exception during string indexing, more below\n\n",
                           "Caught unknown exception during string indexing",
                           "Tessitor::Basics::CString::operator []"};
+constexpr SFence conversion{"Caught exception during string conversion, more below\n\n",
+                            "Caught unknown exception during string conversion",
+                            "Tessitor::Basics::CString::operator CPascalString"};
 constexpr SFence setString{"Caught exception during string storing, more below\n\n",
                            "Caught unknown exception during string storing",
                            "Tessitor::Basics::CString::setString"};

@@ -1,15 +1,21 @@
 #include "foundation/CSystemString.h"
 
 #include "foundation/CStringTokeniser.h"
+#include "foundation/ExceptionFence.h"
 #include "platform/NativePath.h"
 
 #include <memory>
-#include <string>
 #include <string_view>
 
 namespace Tessitor::Basics {
 
 namespace {
+
+// The sections are split and handed out in blocks that no operation of CString allocates.
+constexpr Exceptions::SFence sectionFence{
+    "Caught exception during path section get, more below\n\n",
+    "Caught unknown exception during path section get",
+    "Tessitor::Basics::CSystemString::getPathSection"};
 
 char separator() {
     return nativePathSeparator[0];
@@ -100,13 +106,13 @@ bool CSystemString::hasNoExtension() const {
 void CSystemString::removeFileName() {
     const std::int32_t last = findBackwards(separator());
     if (last != -1)
-        setString(firstCharacters(last + 1));
+        setString(charactersFrom(0, last + 1));
 }
 
 CString CSystemString::getPath() const {
     if (hasNoExtension())
         return *this;
-    return firstCharacters(findBackwards(separator()) + 1);
+    return charactersFrom(0, findBackwards(separator()) + 1);
 }
 
 void CSystemString::appendSeparator() {
@@ -121,17 +127,17 @@ void CSystemString::appendPath(const CString &path) {
 }
 
 CString CSystemString::getDrive(bool asPath) const {
-    return firstCharacters(asPath ? findForward(separator()) + 1 : 1);
+    return charactersFrom(0, asPath ? findForward(separator()) + 1 : 1);
 }
 
 CString CSystemString::getExtension() const {
     const std::int32_t dot = findBackwards('.');
-    return dot == -1 ? CString() : charactersFrom(dot);
+    return dot == -1 ? CString() : restFrom(dot);
 }
 
 CString CSystemString::getFileName() const {
     const std::int32_t last = findBackwards(separator());
-    return last == -1 ? CString() : charactersFrom(last + 1);
+    return last == -1 ? CString() : restFrom(last + 1);
 }
 
 std::int32_t CSystemString::getNumberOfPathSections() const {
@@ -139,18 +145,20 @@ std::int32_t CSystemString::getNumberOfPathSections() const {
 }
 
 CString *CSystemString::getPathSection(long index) const {
-    CStringTokeniser sections(*this, separator());
-    CString section;
-    for (long i = 0; i < index; ++i) {
+    return Exceptions::fenced(sectionFence, [&]() -> CString * {
+        CStringTokeniser sections(*this, separator());
+        CString section;
+        for (long i = 0; i < index; ++i) {
+            if (!sections.getNextToken(section))
+                return nullptr;
+        }
         if (!sections.getNextToken(section))
             return nullptr;
-    }
-    if (!sections.getNextToken(section))
-        return nullptr;
-    // Kept: only the first section is given its separator.
-    if (index == 0)
-        section.appendString(nativePathSeparator);
-    return new CString(section);
+        // Kept: only the first section is given its separator.
+        if (index == 0)
+            section.appendString(nativePathSeparator);
+        return new CString(section);
+    });
 }
 
 CString CSystemString::getLastPathSection() const {
@@ -161,25 +169,20 @@ CString CSystemString::getLastPathSection() const {
 void CSystemString::removeLastPathSection() {
     const std::int32_t last = findBackwards(separator());
     if (last >= 2)
-        setString(firstCharacters(last));
+        setString(charactersFrom(0, last));
 }
 
 void CSystemString::removeFirstPathSection() {
     const std::int32_t first = findForward(separator());
     if (first != -1)
-        setString(charactersFrom(first + 1));
+        setString(restFrom(first + 1));
 }
 
 void CSystemString::convertSlashes() {
     replaceCharWithChar('/', separator());
 }
 
-// getSubString() takes no single character.
-CString CSystemString::firstCharacters(std::int32_t number) const {
-    return std::string(getString(), static_cast<std::size_t>(number)).c_str();
-}
-
-CString CSystemString::charactersFrom(std::int32_t index) const {
+CString CSystemString::restFrom(std::int32_t index) const {
     return getSubString(index, getNumberOfCharacters() - 1);
 }
 

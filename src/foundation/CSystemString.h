@@ -63,8 +63,7 @@ public:
 private:
     static TClassRecord<CSystemString> s_class;
 
-    CString firstCharacters(std::int32_t number) const;
-    CString charactersFrom(std::int32_t index) const;
+    CString restFrom(std::int32_t index) const;
 };
 
 }  // namespace Tessitor::Basics

@@ -2,6 +2,7 @@
 
 #include "Allocation.h"
 #include "foundation/CException.h"
+#include "foundation/CPascalString.h"
 #include "foundation/CString.h"
 
 #include <gtest/gtest.h>
@@ -10,6 +11,7 @@
 #include <string>
 #include <utility>
 
+using Tessitor::Basics::CPascalString;
 using Tessitor::Basics::CString;
 using Tessitor::Exceptions::CException;
 using Tessitor::Exceptions::SFence;
@@ -42,6 +44,8 @@ constexpr SExpected formatting{"setStringWithFormat", "string storing (printf)",
                                "during string storing (printf)"};
 constexpr SExpected appending{"appendString", "string append", "during string append"};
 constexpr SExpected getting{"getString", "string get", "during string get"};
+constexpr SExpected conversion{"operator CPascalString", "string conversion",
+                               "during string conversion"};
 constexpr SExpected subString{"getSubString", "sub string get", "during sub string get"};
 constexpr SExpected character{"characterAt", "character get", "during character get"};
 constexpr SExpected upperCase{"toUpperCase", "upper case change", "upper case change"};
@@ -227,6 +231,12 @@ const SAllocatingOperation allocatingOperations[] = {
     {"AppendText", appending, [](CString &s) { s.appendString("x"); },
      " longer than what a string keeps within itself x"},
     {"GetSubString", subString, [](CString &s) { s.getSubString(0, 40); }, blockText},
+    {"ToPascalString", conversion,
+     [](CString &s) { static_cast<void>(static_cast<CPascalString>(s)); }, blockText},
+    {"TextOfDouble", construction, [](CString &) { CString::toString(1e300); }, blockText},
+    {"TextOfFloat", construction, [](CString &) { CString::toString(1e30f); }, blockText},
+    {"TextOfInt", construction, [](CString &) { CString::toString(7); }, blockText},
+    {"TextOfLong", construction, [](CString &) { CString::toString(7L); }, blockText},
     {"TrimBothEnds", whiteSpace, [](CString &s) { s.removeTrailingAndLeadingWhiteSpace(); },
      "longer than what a string keeps within itself"},
     {"TrimFront", leading, [](CString &s) { s.removeLeadingWhiteSpace(); },
@@ -289,7 +299,9 @@ TEST(CStringFences, ReadFromTheOutermostOperationDownToTheFirstFailure) {
         0, [](CString &s) { s.removeTrailingAndLeadingWhiteSpace(); }, string);
     EXPECT_EQ(report.reason, "Caught exception during white space removal, more below\n\n"
                              "Caught exception during leading white space removal, more below\n\n"
-                             "Caught unknown exception during sub string get\n\n"
+                             "Caught exception during sub string get, more below\n\n"
+                             "Caught unknown exception during string construction\n\n"
+                             "Tessitor::Basics::CString::CString\n\n"
                              "Tessitor::Basics::CString::getSubString\n\n"
                              "Tessitor::Basics::CString::removeLeadingWhiteSpace");
     EXPECT_EQ(report.function, "Tessitor::Basics::CString::removeTrailingAndLeadingWhiteSpace");

@@ -1,5 +1,7 @@
 #include "foundation/CSystemString.h"
 
+#include "Allocation.h"
+#include "foundation/CException.h"
 #include "platform/NativePath.h"
 
 #include <climits>
@@ -9,6 +11,7 @@
 
 using Tessitor::Basics::CString;
 using Tessitor::Basics::CSystemString;
+using Tessitor::Exceptions::CException;
 
 namespace {
 
@@ -290,6 +293,48 @@ TEST(CSystemString, SplitsALongPathAsThoughItEndedAfter2047Bytes) {
     const std::string folder(2040, 'f');
     EXPECT_EQ(path(folder + "/123456789").getLastPathSection(), "123456");
     EXPECT_EQ(path(folder + "/12345/789").getNumberOfPathSections(), 2);
+}
+
+/// Runs the operation again and again on a path: its first allocation fails, then its second, and
+/// so on until it succeeds. A failure other than a CException leaves here.
+/// @return what the first failure reports.
+template <typename Operation>
+std::string firstReportOf(Operation operation) {
+    std::string firstReport;
+    for (int allocation = 0;; ++allocation) {
+        CSystemString changed = path("the drive of the file:/the folder of the file/its name.txt");
+        try {
+            const CFailingAllocation failing(allocation);
+            operation(changed);
+            return firstReport;
+        } catch (const CException &exception) {
+            if (firstReport.empty())
+                firstReport = exception.getErrorReason().getString();
+        }
+    }
+}
+
+TEST(CSystemString, ReportsAShortageOfMemoryAsAnException) {
+    const char *const construction = "Caught unknown exception during string construction";
+    EXPECT_EQ(firstReportOf([](CSystemString &p) { p.removeFileName(); }), construction);
+    EXPECT_EQ(firstReportOf([](CSystemString &p) { p.getPath(); }), construction);
+    EXPECT_EQ(firstReportOf([](CSystemString &p) { p.getDrive(true); }), construction);
+    EXPECT_EQ(firstReportOf([](CSystemString &p) { p.removeLastPathSection(); }), construction);
+}
+
+TEST(CSystemString, ReportsAShortageOfMemoryForAPathSectionAsAnException) {
+    const auto get = [](long index) {
+        return [index](const CSystemString &p) {
+            const std::unique_ptr<CString> section(p.getPathSection(index));
+            EXPECT_NE(section, nullptr);
+        };
+    };
+    EXPECT_EQ(firstReportOf(get(0)), "Caught exception during path section get, more below\n\n"
+                                     "Caught unknown exception during string construction\n\n"
+                                     "Tessitor::Basics::CString::CString");
+    EXPECT_EQ(firstReportOf(get(2)), firstReportOf(get(0)));
+    EXPECT_EQ(firstReportOf([](const CSystemString &p) { p.getLastPathSection(); }),
+              firstReportOf(get(0)));
 }
 
 TEST(CSystemString, RemovesItsLastPathSection) {
