@@ -1,5 +1,3 @@
-#include "foundation/CStringFences.h"
-
 #include "Allocation.h"
 #include "foundation/CException.h"
 #include "foundation/CPascalString.h"
@@ -9,13 +7,10 @@
 #include <ostream>
 #include <stdexcept>
 #include <string>
-#include <utility>
 
 using Tessitor::Basics::CPascalString;
 using Tessitor::Basics::CString;
 using Tessitor::Exceptions::CException;
-using Tessitor::Exceptions::SFence;
-namespace StringFences = Tessitor::Basics::StringFences;
 
 namespace {
 
@@ -33,7 +28,6 @@ struct SExpected {
 };
 
 constexpr SExpected construction{"CString", "string construction", "during string construction"};
-constexpr SExpected destruction{"~CString", "string destruction", "during string destruction"};
 constexpr SExpected assignment{"operator =", "string assignment", "during string assignment"};
 constexpr SExpected addition{"operator +=", "string append", "during string append"};
 constexpr SExpected equality{"operator ==", "string comparison", "during string comparison"};
@@ -47,9 +41,6 @@ constexpr SExpected getting{"getString", "string get", "during string get"};
 constexpr SExpected conversion{"operator CPascalString", "string conversion",
                                "during string conversion"};
 constexpr SExpected subString{"getSubString", "sub string get", "during sub string get"};
-constexpr SExpected character{"characterAt", "character get", "during character get"};
-constexpr SExpected upperCase{"toUpperCase", "upper case change", "upper case change"};
-constexpr SExpected lowerCase{"toLowerCase", "lower case change", "lower case change"};
 constexpr SExpected whiteSpace{"removeTrailingAndLeadingWhiteSpace", "white space removal",
                                "during white space removal"};
 constexpr SExpected leading{"removeLeadingWhiteSpace", "leading white space removal",
@@ -58,8 +49,6 @@ constexpr SExpected trailing{"removeTrailingWhiteSpace", "trailing white space r
                              "during trailing white space removal"};
 constexpr SExpected lastCharacter{"removeLastCharacter", "removal of last character",
                                   "during removal of last character"};
-constexpr SExpected charByChar{"replaceCharWithChar", "character replacement",
-                               "during character replacement"};
 constexpr SExpected charByString{"replaceCharWithString", "character replacement",
                                  "during character replacement"};
 constexpr SExpected stringByChar{"replaceStringWithChar", "character replacement",
@@ -67,8 +56,6 @@ constexpr SExpected stringByChar{"replaceStringWithChar", "character replacement
 constexpr SExpected equals{"equals", "string comparison", "string comparison"};
 constexpr SExpected equalsIgnoringCase{"equalsIgnoringCase", "string comparison",
                                        "string comparison"};
-constexpr SExpected forward{"findForward", "forward find", "forward find"};
-constexpr SExpected backwards{"findBackwards", "backwards find", "backwards find"};
 constexpr SExpected needle{"findSubString", "substring find", "substring find"};
 constexpr SExpected description{"getObjectDescription", "get object description",
                                 "get object description"};
@@ -315,20 +302,6 @@ TEST(CStringFences, AFailedConstructionLeavesTheRecordAsItWas) {
     reportWithoutMemory(
         0, [](CString &s) { static_cast<void>(CString(s)); }, string);
     EXPECT_EQ(string.getClass().getInstanceCount(), instances);
-}
-
-TEST(CStringFences, SpeakAlsoForTheOperationsThatHaveNothingToFail) {
-    const std::pair<SExpected, SFence> fences[] = {
-        {destruction, StringFences::destruction},        {character, StringFences::characterAt},
-        {upperCase, StringFences::toUpperCase},          {lowerCase, StringFences::toLowerCase},
-        {charByChar, StringFences::replaceCharWithChar}, {forward, StringFences::findForward},
-        {backwards, StringFences::findBackwards},
-    };
-    for (const auto &[expected, fence] : fences) {
-        EXPECT_EQ(fence.function, expected.fullFunction());
-        EXPECT_EQ(fence.lead, expected.fullLead());
-        EXPECT_EQ(fence.unknown, expected.fullUnknown());
-    }
 }
 
 }  // namespace
