@@ -51,12 +51,6 @@ using Deleters = testing::Types<TObjectDeleter<CWatchedObject>, TObjectNuller<CW
                                 TCountedObjectDeleter<CWatchedObject>>;
 TYPED_TEST_SUITE(TPointerDeleterFamily, Deleters);
 
-TYPED_TEST(TPointerDeleterFamily, IgnoresNull) {
-    TypeParam deleter;
-    deleter.pointerAdded(nullptr);
-    deleter.deletePointer(nullptr);
-}
-
 TYPED_TEST(TPointerDeleterFamily, CountsItselfAndItsBases) {
     const TypeParam witness;
     const auto instances = witness.getClass().getInstanceCount();
@@ -65,6 +59,28 @@ TYPED_TEST(TPointerDeleterFamily, CountsItselfAndItsBases) {
     const Tessitor::Basics::CClass family("TPointerDeleter<TypeName>", typeid(CWatchedObject));
     EXPECT_TRUE(witness.getClass().isTypeOf(family));
     EXPECT_TRUE(witness.getClass().isTypeOf(Tessitor::Basics::CCountedObject().getClass()));
+}
+
+/// Counts what a deleter does to an object, even to one that is not there.
+struct STouched {
+    ~STouched() { ++touches; }
+    static void reference() { ++touches; }
+    static void dereference() { ++touches; }
+
+    static inline int touches = 0;
+};
+
+template <typename Deleter>
+class TPointerDeleterOfNull : public testing::Test {};
+using DeletersOfTouched = testing::Types<TObjectDeleter<STouched>, TObjectNuller<STouched>,
+                                         TCountedObjectDeleter<STouched>>;
+TYPED_TEST_SUITE(TPointerDeleterOfNull, DeletersOfTouched);
+
+TYPED_TEST(TPointerDeleterOfNull, DoesNothing) {
+    TypeParam deleter;
+    deleter.pointerAdded(nullptr);
+    deleter.deletePointer(nullptr);
+    EXPECT_EQ(STouched::touches, 0);
 }
 
 TEST(TPointerDeleter, RecordsAreNamedAfterTheType) {
