@@ -256,6 +256,15 @@ TEST_F(CTextStreamFile, ReadsNumbers) {
     EXPECT_TRUE(stream.hasFailed());
 }
 
+TEST_F(CTextStreamFile, ReadsEmptyStringAsALineIfItFailedBeforeTheFirst) {
+    write("none\nline\n");
+    CTextStream stream(path, EStreamMode::Read);
+    int number = 7;
+    stream >> number;
+    ASSERT_TRUE(stream.hasFailed());
+    EXPECT_EQ(line(stream), "Empty string");
+}
+
 TEST_F(CTextStreamFile, NumbersIgnoreTheLocaleOfTheHost) {
     class CCommas : public std::numpunct<char> {
         char do_decimal_point() const override { return ','; }

@@ -1,0 +1,32 @@
+// What a binary stream says of a file that has no positions. Only some systems name one by a path.
+#include "CTemporaryFolder.h"
+#include "foundation/CFileStream.h"
+
+#include <cstdio>
+#include <gtest/gtest.h>
+#include <memory>
+#include <sys/stat.h>
+
+using Tessitor::IO::CFileStream;
+using Tessitor::IO::EStreamMode;
+
+namespace {
+
+TEST(UnseekableFile, HasNoLengthAndAskingForItFailsTheStream) {
+    const CTemporaryFolder folder;
+    const std::string path = (folder / "pipe").string();
+    ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
+    // Opening a pipe for reading waits until somebody has opened it for writing.
+    const std::unique_ptr<std::FILE, int (*)(std::FILE *)> writer(std::fopen(path.c_str(), "r+b"),
+                                                                  std::fclose);
+    ASSERT_NE(writer, nullptr);
+
+    CFileStream stream(path.c_str(), EStreamMode::Read);
+    ASSERT_TRUE(stream.isOpen());
+    EXPECT_FALSE(stream.seekFromStart(0));
+    EXPECT_FALSE(stream.hasFailed());
+    EXPECT_EQ(stream.getStreamLength(), -1);
+    EXPECT_TRUE(stream.hasFailed());
+}
+
+}  // namespace
