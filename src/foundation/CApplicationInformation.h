@@ -10,13 +10,12 @@ class IWindow;
 
 namespace Tessitor::Basics {
 
-/// What the program is called and where it is. Filled once at start-up, only read afterwards by
-/// [any thread], and given back at the end.
+/// The names and texts of the program, and where its files are. Set once at start-up, read on
+/// [any thread] afterwards, and freed at the end.
 class CApplicationInformation {
 public:
-    /// Stores the texts and the handle, finds the folder that the module lies in, and reads the
-    /// processor's features.
-    /// @param company  null, here and for the other texts, is taken as "".
+    /// Stores the texts and the handle, finds the folder of the module, and reads the processor's
+    /// features. A text that is null is taken as "".
     /// @param instanceHandle  the module of the effect, as nativeModuleHandle() gives it.
     static void setApplicationInformation(const char *company, const char *application,
                                           const char *description, const char *version,
@@ -24,17 +23,17 @@ public:
                                           void *instanceHandle);
     static void destroyApplicationInformation();
 
-    // Each is empty as long as it has not been set.
+    // Each is empty until it is set.
     static const CString &getCompanyName();
     static const CString &getApplicationName();
     static const CString &getDescription();
     static const CString &getVersionString();
     static const CString &getRegistryPath();
     static const CString &getCopyrightString();
-    /// The folder of the module, without a separator at its end.
+    /// The folder of the module, without a trailing separator.
     static const CSystemString &getApplicationPath();
 
-    static void getApplicationFileName(CString &fileName);  ///< path of the process's program
+    static void getApplicationFileName(CString &fileName);  ///< path of the host program
     static void getPluginFileName(CString &fileName);       ///< path of the module
 
     static void *getInstanceHandle() { return s_instanceHandle; }
@@ -44,7 +43,7 @@ public:
     static void setMainWindow(GUI::Windowing::IWindow *window) { s_mainWindow = window; }
     static GUI::Windowing::IWindow *getMainWindow() { return s_mainWindow; }
 
-    /// Runs the messages of a program that has no host. @return what the loop was quit with.
+    /// Runs the message loop of a program that has no host. @return the code it was quit with.
     static int runMessageLoop();
     static void quitApplication();  ///< quits the message loop, with 0
 
@@ -56,7 +55,7 @@ private:
     static std::unique_ptr<CString> s_description;
     static std::unique_ptr<CString> s_registryPath;
     static std::unique_ptr<CSystemString> s_applicationPath;
-    // Both are the module of the effect: what windows belong to, and whose file it is.
+    // Both are the effect's module: one to make windows with, one to find its file.
     static void *s_instanceHandle;
     static void *s_moduleHandle;
     static GUI::Windowing::IWindow *s_mainWindow;  // not owned

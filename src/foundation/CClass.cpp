@@ -19,7 +19,7 @@ void copyName(char (&field)[size], const char *name) {
 
 }  // namespace
 
-// Null before the first constructor of the program runs: any record may be the first.
+// constinit, since any record may be the first and must find null here.
 constinit CClassManager *CClass::s_manager = nullptr;
 
 CClass::CClass() {
@@ -55,7 +55,7 @@ CClass::~CClass() {
     if (s_manager == nullptr)
         return;
     s_manager->withdrawClass(this);
-    // A library that was loaded and never used has nobody else to end the manager.
+    // If the library was loaded but never used, nobody else deletes the manager.
     if (s_manager->isEmpty())
         destroyClassManager(nullptr);
 }
@@ -80,7 +80,7 @@ bool CClass::operator==(const char *className) const {
 
 bool CClass::isTypeOf(const CClass &target) const {
     if (s_manager != nullptr) {
-        // Names can lead in a circle, which is longer than all the records.
+        // Parent names can form a circle, so take no more steps than there are records.
         int steps = s_manager->getClasses().getInsertIndex();
         const CClass *ancestor = s_manager->getClassWithName(m_parentClassName);
         for (; ancestor != nullptr && steps > 0; --steps) {

@@ -9,18 +9,17 @@ namespace Tessitor::Basics {
 class CClassManager;
 
 /// The run-time record of a class: its name, its parent's name and the count of its instances. A
-/// record registers itself with the one manager, which the first of them makes, and withdraws when
-/// it is destroyed. Names are cut to 128 bytes; a null name leaves what was there.
+/// record registers itself with the manager, which the first record makes, and withdraws when it is
+/// destroyed. Names are cut to 128 bytes; a null name changes nothing.
 ///
-/// Every class of the library owns one record, of the kind TClassRecord.h describes. Nothing here
-/// is for two threads at once.
+/// Every class of the library owns one record, as TClassRecord.h shows. [one thread at a time]
 class CClass {
 public:
-    CClass();  ///< nameless; not registered, though the manager is made
+    CClass();  ///< without a name and not registered; still makes the manager
     explicit CClass(const char *className);
     CClass(const char *className, const char *parentClassName);
-    CClass(const CClass &other);  ///< takes the name only
-    /// The record of an instantiated template, as templateClassName names it.
+    CClass(const CClass &other);  ///< copies the name only
+    /// The record of an instantiated template, named by templateClassName().
     /// @param templateName  a literal such as "TPointerDeleter<TypeName>".
     CClass(const char *templateName, const std::type_info &argument);
     CClass(const char *templateName, const std::type_info &argument, const char *parentClassName);
@@ -28,7 +27,7 @@ public:
            const std::type_info &parentArgument);
     virtual ~CClass();
 
-    CClass &operator=(const CClass &other);  ///< takes the name only
+    CClass &operator=(const CClass &other);  ///< copies the name only
     void setClassName(const char *className);
 
     const char *getClassName() const { return m_className; }
@@ -41,17 +40,17 @@ public:
     bool operator==(const CClass &other) const;  ///< compares the names
     bool operator==(const char *className) const;
 
-    /// Whether the class is the target or descends from it. Goes by names and along the registered
-    /// records: a parent whose name no record bears ends the walk.
+    /// Whether the class is the target or descends from it. Ancestors are looked up by name among
+    /// the registered records, so a parent without a record ends the search.
     bool isTypeOf(const CClass &target) const;
 
     /// Deletes the manager. A record built afterwards makes a new one.
-    /// @param reportPath  file for the report of the classes that still have instances, replaced if
-    ///                    it is there; null for none.
+    /// @param reportPath  file for a report of the classes that still have instances, overwritten
+    ///                    if it exists; null for no report.
     static void destroyClassManager(const char *reportPath);
 
 protected:
-    /// Counts in `counts` from now on, which must outlive the record.
+    /// Counts in `counts` from now on. They must outlive the record.
     void countIn(SInstanceCounts &counts) { m_counts = &counts; }
 
 private:

@@ -9,7 +9,7 @@ namespace Tessitor::Basics {
 
 namespace {
 
-bool standsBefore(const CClass *left, const CClass *right) {
+bool comesBefore(const CClass *left, const CClass *right) {
     if (left == nullptr || right == nullptr)
         return left != nullptr;
     return std::strcmp(left->getClassName(), right->getClassName()) < 0;
@@ -51,7 +51,7 @@ bool CClassManager::isEmpty() const {
 }
 
 void CClassManager::sortClasses() {
-    m_classes->sortSlots(standsBefore);
+    m_classes->sortSlots(comesBefore);
 }
 
 void CClassManager::writeClassInformation(IO::CTextStream &stream) const {
@@ -68,7 +68,7 @@ void CClassManager::writeClassInformation(IO::CTextStream &stream) const {
               "Total  |\n"
            << rule;
 
-    // A count that copies have driven below zero prints as the 32-bit number it is.
+    // Copies can drive a count below zero. It is then printed as an unsigned 32-bit number.
     unsigned long long instances = 0, total = 0;
     char row[1024];
     for (int i = 0; i < m_classes->getArraySize(); ++i) {

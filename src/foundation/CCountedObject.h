@@ -5,12 +5,13 @@
 
 namespace Tessitor::Basics {
 
-/// The root of the library. An object begins with a count of 0, not 1, and lives by value at that
-/// count, or on the heap until the last of those who referenced it lets go.
+/// The base of all classes of the library. An object starts with a reference count of 0, not 1. It
+/// lives either by value, at that count, or on the heap until its last reference is released.
 class CCountedObject : public ICountedObject {
 public:
     CCountedObject() { s_class.incrementInstanceCount(); }
-    /// Kept: copies the count and is not counted as an instance, though its destructor counts down.
+    /// Kept: copies the reference count and leaves the instance count alone, although the
+    /// destructor lowers it.
     CCountedObject(const CCountedObject &other) : m_referenceCount(other.m_referenceCount) {}
     ~CCountedObject() override { s_class.decrementInstanceCount(); }
 

@@ -4,14 +4,14 @@
 
 namespace Tessitor::Exceptions {
 
-/// The one exception of the library, thrown by value: why it failed, and the signature of the
-/// function that says so.
+/// The only exception of the library, thrown and caught by value. It holds a reason and the
+/// signature of the function that threw it.
 class CException : public Basics::CCountedObject {
 public:
-    /// @param errorFlag  the flag of every exception is 1, whatever is passed.
+    /// @param errorFlag  ignored: the flag of every exception is 1.
     CException(const Basics::CString &errorReason, const Basics::CString &functionName,
                bool errorFlag);
-    /// Kept: not counted as an instance, though its destructor counts down.
+    /// Kept: leaves the instance count alone, although the destructor lowers it.
     CException(const CException &other);
     CException &operator=(const CException &) = delete;
     ~CException() override { s_class.decrementInstanceCount(); }

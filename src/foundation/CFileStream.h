@@ -13,7 +13,7 @@
 
 namespace Tessitor::IO {
 
-/// What has the same size in a file of every system. A long has not.
+/// A type of the same size on every system, so not long.
 template <typename Value>
 concept BinaryValue = std::same_as<Value, char> || std::same_as<Value, std::int8_t> ||
     std::same_as<Value, std::uint8_t> || std::same_as<Value, std::int16_t> ||
@@ -21,8 +21,8 @@ concept BinaryValue = std::same_as<Value, char> || std::same_as<Value, std::int8
     std::same_as<Value, std::uint32_t> || std::same_as<Value, std::int64_t> ||
     std::same_as<Value, std::uint64_t> || std::same_as<Value, float> || std::same_as<Value, double>;
 
-/// A file of binary data, read or written, and the order of its bytes. Nothing throws: what the
-/// operators cannot do is remembered, for the caller to ask hasFailed() at the end of a sequence.
+/// Reads or writes a file of binary data, in either byte order. Nothing throws: the stream
+/// remembers if an operator fails, and the caller asks hasFailed() at the end of a sequence.
 /// Positions are longs, so on Windows they end at 2 GB. [one thread at a time]
 class CFileStream : public Basics::CCountedObject {
 public:
@@ -34,44 +34,46 @@ public:
     ~CFileStream() override;  ///< closes
     Basics::CClass &getClass() const override { return s_class; }
 
-    /// Closes what is open and forgets its failure. Writing makes the file, or empties it.
-    /// @param fileIsLittleEndian  the order of the bytes of a value in the file; the host counts as
+    /// Closes the open file and clears its failure. In write mode the new file is created or
+    /// emptied.
+    /// @param fileIsLittleEndian  byte order of the values in the file. The host counts as
     ///                            little-endian.
-    /// @param ignoreByteOrder     bytes are left as they are in memory, whatever the file's order.
-    /// @return false if the system refuses, or if a folder is to be read.
+    /// @param ignoreByteOrder     never swaps bytes, whatever the order of the file.
+    /// @return false if the system refuses, or if the path is a folder.
     bool open(const Basics::CSystemString &path, EStreamMode mode, bool fileIsLittleEndian = false,
               bool ignoreByteOrder = false);
-    /// What was written may only reach a full disk now: that sets the failure.
+    /// Sets the failure if the last bytes cannot be written, for example to a full disk.
     void close();
     bool isOpen() const { return m_isOpen; }
     bool hasFailed() const { return m_failed; }
-    /// The end of the file has been met, not just reached. True if not open.
+    /// True once a read has gone past the end; reading the last byte is not enough. True if not
+    /// open.
     bool isEndOfFile() const;
 
-    /// @return false if not open or refused. These set no failure.
+    /// @return false if not open, or if the system refuses. Seeking sets no failure.
     bool seekFromStart(long offset);
     bool seekFromHere(long offset);
     bool rewind();
 
-    /// @return bytes of the file, or -1: without a failure if it is not open for reading, with one
-    ///         if the file cannot be searched.
+    /// @return the length in bytes, or -1. The failure is set if the file has no positions, like a
+    ///         pipe, but not if the stream is not open for reading.
     long getStreamLength();
 
-    /// Bytes as they are, in no order.
-    /// @param buffer  of size bytes.
-    /// @return true if all of them went through. False if not open in this direction, without
-    ///         touching the file. These set no failure.
+    /// Transfer bytes without swapping them.
+    /// @param buffer  size bytes.
+    /// @return true if all of them were transferred. False, without touching the file, if it is not
+    ///         open in this direction. These set no failure.
     bool write(const void *buffer, std::size_t size);
     bool read(void *buffer, std::size_t size);
 
-    /// These fail if the stream is not open for writing, or if not all bytes are taken.
+    /// These set the failure if the stream is not open for writing or not all bytes are written.
     template <BinaryValue Value>
     CFileStream &operator<<(Value value);
     template <std::same_as<bool> Flag>
     CFileStream &operator<<(Flag value);  ///< one byte, 1 or 0
 
-    /// These fail if the stream is not open for reading, or if the file ends inside the value; the
-    /// value is then left alone.
+    /// These set the failure if the stream is not open for reading or the file ends within the
+    /// value. The value is then unchanged.
     template <BinaryValue Value>
     CFileStream &operator>>(Value &value);
     template <std::same_as<bool> Flag>

@@ -18,7 +18,7 @@ CHtmlString::CHtmlString(const CHtmlString &other) : CSystemString(other) {
     s_class.incrementInstanceCount();
 }
 
-// Kept, here and below: six characters never equal seven, so every address is without protocol.
+// Kept, here and below: six characters are compared with seven, so the result is always false.
 bool CHtmlString::isFileAddress() const {
     return getSubString(0, 5) == "file://";
 }

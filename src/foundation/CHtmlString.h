@@ -18,10 +18,10 @@ public:
 
     virtual bool isFileAddress() const;  ///< always false
     virtual bool isWebAddress() const;   ///< always false
-    /// Puts "http://" in front of the text, or "file://", whether it has one or not.
+    /// Puts "http://" or "file://" in front of the text, even if it already has a protocol.
     virtual void addProtocol(bool asWeb);
-    /// Opens the address with what the user has chosen for it, and does not wait.
-    /// @param localFile  if false, "http://" is put in front of the text first, and stays there.
+    /// Opens the address in the user's default program and does not wait for it.
+    /// @param localFile  if false, "http://" is first put in front of the text and stays there.
     /// @return false if the system refused.
     virtual bool openInBrowser(bool localFile);
 

@@ -6,11 +6,11 @@
 
 namespace Tessitor::Basics {
 
-/// A copy of a text for interfaces that want its length in front: one byte of length, the text, a
-/// terminator. A text of 256 bytes or more wraps in the length byte.
+/// A copy of a text for interfaces that want its length in front: a length byte, the text and a
+/// terminator. For a text of 256 bytes or more, the length byte wraps.
 ///
-/// The block has the size that is asked for, and 2 bytes if that is less. A text that does not fit
-/// with its length and terminator is cut, and the length is that of what was kept.
+/// The block has the requested size, but at least 2 bytes. A text that does not fit is cut, and the
+/// length byte holds the length of the cut text.
 class CPascalString : public CCountedObject {
 public:
     /// @param text  not null.
@@ -21,7 +21,7 @@ public:
     ~CPascalString() override { s_class.decrementInstanceCount(); }
     CClass &getClass() const override { return s_class; }
 
-    /// Replaces the block; parameters as for construction. The text may lie in the old block.
+    /// Replaces the block. Parameters as in the constructor; the text may point into the old block.
     virtual void setString(const char *text, long size);
     /// The block, length byte first; owned by this object, valid until the next setString().
     virtual const unsigned char *getString() const { return m_block.get(); }

@@ -26,7 +26,7 @@ constexpr std::size_t sizeOf(long size) {
     return static_cast<std::size_t>(size);
 }
 
-/// A number as text, on the stack: only a string of the library may run out of memory.
+/// A number as text. On the stack, since it is also made outside the fences.
 template <typename Number>
 struct SNumberText {
     SNumberText(const char *format, Number value) {
@@ -44,7 +44,7 @@ char lowerCase(char character) {
     return static_cast<char>(std::tolower(static_cast<unsigned char>(character)));
 }
 
-/// Whether the replacement is what is looked for, or nothing is: replacing would never end.
+/// Whether each replacement would be found again, so that replacing would never end.
 bool isFoundAgain(const CString &find, char replacement) {
     const std::int32_t number = find.getNumberOfCharacters();
     return number == 1 || (number == 2 && find.characterAt(0) == replacement);
@@ -63,7 +63,7 @@ CString::CString(const char *text, std::size_t length) {
     });
 }
 
-// The base is not copied: a copy is an object of its own, which nobody has referenced yet.
+// The base is not copied: nobody has referenced the copy yet.
 // NOLINTNEXTLINE(bugprone-copy-constructor-init, readability-redundant-member-init)
 CString::CString(const CString &other) : CCountedObject() {
     fenced(StringFences::construction, [&] {
@@ -183,7 +183,7 @@ void CString::setStringWithFormat(const char *format, ...) {
     if (length < 0)
         return;
 
-    // Behind fences of their own, so that nothing is thrown while the arguments are open.
+    // Two fences, so that nothing is thrown between va_start and va_end.
     const std::size_t size = sizeOf(length) + 1;
     const auto text =
         fenced(StringFences::setStringWithFormat, [&] { return std::make_unique<char[]>(size); });
@@ -199,7 +199,7 @@ void CString::appendString(const CString &other) {
 
 void CString::appendString(const char *text) {
     fenced(StringFences::appendString, [&] {
-        // Kept: the block grows by the length, so a block too large for its text stays so.
+        // Kept: the block grows by the length of the text, even if it has bytes to spare.
         store(sizeOf(m_numberOfCharacters) + std::strlen(text), m_text.get(), text);
     });
 }
@@ -216,7 +216,7 @@ const char *CString::getString() const {
 }
 
 void CString::getString(char *buffer) const {
-    // Kept: a pointer's size, not the buffer's.
+    // Kept: the size of a pointer, not of the buffer.
     fenced(StringFences::getString, [&] { getString(buffer, 8); });
 }
 
@@ -234,7 +234,7 @@ CString CString::getSubString(long start, long end) const {
     return fenced(StringFences::getSubString, [&] {
         if (start < 0 || start >= end || end > m_numberOfCharacters)
             return CString();
-        // An end on the number of characters would be one byte past the block.
+        // If end is the number of characters, its character would lie past the block.
         return charactersFrom(start, std::min(end + 1, long{m_numberOfCharacters}) - start);
     });
 }
@@ -314,7 +314,7 @@ void CString::replaceCharWithString(char find, const CString &replacement) {
 
 void CString::replaceStringWithChar(char replacement, const CString &find) {
     fenced(StringFences::replaceStringWithChar, [&] {
-        // A loop, since a text may hold more occurrences than the stack has room for calls.
+        // A loop, not recursion: a text may hold more occurrences than the stack has room for.
         while (!isFoundAgain(find, replacement)) {
             const std::int32_t position = findSubString(find);
             if (position == -1)
@@ -372,7 +372,7 @@ std::int32_t CString::findSubString(const CString &needle) const {
         const std::int32_t position = findForward(needle.m_text[0]);
         if (position == -1 || needle.m_numberOfCharacters > m_numberOfCharacters - position)
             return -1;
-        // Kept: a difference ends the search, though the needle may stand further on.
+        // Kept: a difference ends the search, even if the needle occurs further on.
         const bool isHere =
             std::equal(needle.m_text.get(), needle.m_text.get() + needle.m_numberOfCharacters - 1,
                        m_text.get() + position);
@@ -447,10 +447,10 @@ CString CString::charactersFrom(long index, long number) const {
     return CString(characters.data(), std::min(characters.find('\0'), characters.size()));
 }
 
-// A new block of zeros that begins with the two texts, which may lie in the old block.
+// Makes a block of zeros that starts with the two texts. They may point into the old block.
 void CString::store(std::size_t size, std::string_view text, std::string_view appended) {
     if (size > sizeOf(std::numeric_limits<std::int32_t>::max()))
-        throw std::length_error("a string counts its characters in 32 bits");
+        throw std::length_error("string longer than 2 GiB");
     auto block = std::make_unique<char[]>(size);
     std::copy(appended.begin(), appended.end(), std::copy(text.begin(), text.end(), block.get()));
     m_text = std::move(block);

@@ -2,7 +2,7 @@
 
 #include "foundation/ExceptionFence.h"
 
-/// What the operations of CString say of a failure that passes through them.
+/// What each operation of CString adds to a failure that passes through it.
 namespace Tessitor::Basics::StringFences {
 
 using Exceptions::SFence;

@@ -11,7 +11,7 @@ namespace Tessitor::Basics {
 
 namespace {
 
-// The sections are split and handed out in blocks that no operation of CString allocates.
+// The tokeniser and the returned string allocate outside the fences of CString.
 constexpr Exceptions::SFence sectionFence{
     "Caught exception during path section get, more below\n\n",
     "Caught unknown exception during path section get",
@@ -154,7 +154,7 @@ CString *CSystemString::getPathSection(long index) const {
         }
         if (!sections.getNextToken(section))
             return nullptr;
-        // Kept: only the first section is given its separator.
+        // Kept: only the first section gets its separator.
         if (index == 0)
             section.appendString(nativePathSeparator);
         return new CString(section);

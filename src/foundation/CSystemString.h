@@ -4,8 +4,8 @@
 
 namespace Tessitor::Basics {
 
-/// A path. The separator is the system's, nativePathSeparator; where "the last" or "the first" of
-/// something is told, that goes over all positions of the string, as CString tells.
+/// A path, with nativePathSeparator between its sections. The search for the first or last of a
+/// character covers every position of the string, even after a terminator (see CString).
 class CSystemString : public CString {
 public:
     CSystemString(const char *text = "");  ///< null is taken as ""
@@ -28,36 +28,38 @@ public:
     virtual bool operator!=(const CSystemString &other) const;
 
     virtual bool hasExtension(const CString &extension) const;
-    /// Whether the string ends with the text, which may as well be no extension. True also for ""
-    /// and for any text that is longer than the string.
+    /// Whether the string ends with the text, be it an extension or not. Also true for "" and for
+    /// any text longer than the string.
     virtual bool hasExtension(const char *extension) const;
-    virtual bool hasExtension() const;  ///< a "." stands at an index above 0
+    virtual bool hasExtension() const;  ///< the last "." has an index above 0
     virtual void setNewExtension(const CString &extension, bool removeOld);
-    /// Adds "." and the extension, with removeOld in the place of the last "." and what follows it.
+    /// Adds "." and the extension, after removeExtension() if removeOld is set.
     virtual void setNewExtension(const char *extension, bool removeOld);
-    /// Writes a terminator over the last "." above index 0. The number of characters stays.
+    /// Writes a terminator over the last "." if its index is above 0. The number of characters does
+    /// not change.
     virtual void removeExtension();
     virtual bool hasNoExtension() const;
-    virtual void removeFileName();  ///< cuts behind the last separator, if there is one
-    /// The whole if there is no extension; else up to the last separator and with it, "" without
-    /// one.
+    virtual void removeFileName();  ///< cuts after the last separator, if there is one
+    /// The whole string if it has no extension. Otherwise everything up to and including the last
+    /// separator, or "" if there is none.
     virtual CString getPath() const;
     virtual void appendSeparator();
     virtual void appendPath(const CString &path);  ///< adds a separator unless one is there
-    /// @param asPath  false for the first character alone, true for all up to the first separator
-    ///                and with it, "" if there is none.
+    /// @param asPath  false for the first character alone; true for everything up to and including
+    ///                the first separator, or "" if there is none.
     virtual CString getDrive(bool asPath) const;
-    virtual CString getExtension() const;  ///< from the last ".", else ""
-    virtual CString getFileName() const;   ///< behind the last separator; "" without one
-    /// Counts as CStringTokeniser does, which also says where a path is too long for these three.
+    virtual CString getExtension() const;  ///< from the last "." on; "" without one
+    virtual CString getFileName() const;   ///< after the last separator; "" without one
+    /// Counts like CStringTokeniser, which cuts long paths. So do the next two operations.
     virtual std::int32_t getNumberOfPathSections() const;
-    /// @return the section on the heap, for the caller to delete; null if there is none. Section 0,
-    ///         and only that, has a separator behind it, and an index below 0 gives it without one.
-    ///         A path that begins with a separator has "" as its section 0.
+    /// @return the section on the heap, for the caller to delete; null if there is none. Section 0
+    ///         alone is followed by its separator; an index below 0 gives it without. If the path
+    ///         begins with a separator, section 0 is empty.
     virtual CString *getPathSection(long index) const;
     virtual CString getLastPathSection() const;  ///< "" if there is none
-    virtual void removeLastPathSection();  ///< with its separator, unless that has an index below 2
-    virtual void removeFirstPathSection();  ///< with its separator; nothing if there is none
+    /// Cuts before the last separator. Does nothing if its index is below 2.
+    virtual void removeLastPathSection();
+    virtual void removeFirstPathSection();  ///< cuts after the first separator, if there is one
     virtual void convertSlashes();          ///< each "/" to the separator
 
 private:

@@ -7,10 +7,10 @@
 
 namespace Tessitor::IO {
 
-/// A file of text, read or written. Failures throw nothing: opening reports its own, and what does
-/// not fit the state of the stream is ignored. Numbers go by the standard stream's defaults in the
-/// classic locale, whatever the host has set, and line ends are not translated: a file has the same
-/// bytes on every system. [one thread at a time]
+/// Reads or writes a file of text. Nothing throws. Writing to a stream that is not open for writing
+/// is ignored, and so is reading from one that is not open for reading. Numbers have the default
+/// format of the standard stream in the classic locale, and line ends are not translated, so a file
+/// has the same bytes on every system. [one thread at a time]
 class CTextStream : public Basics::CCountedObject {
 public:
     CTextStream();
@@ -20,15 +20,15 @@ public:
     ~CTextStream() override;  ///< closes
     Basics::CClass &getClass() const override { return s_class; }
 
-    /// Closes what is open. Writing makes the file, or empties it.
-    /// @return false if the system refuses, or if a folder is to be read.
+    /// Closes the open file. In write mode the new file is created or emptied.
+    /// @return false if the system refuses, or if the path is a folder.
     bool open(const Basics::CSystemString &path, EStreamMode mode);
     void close();
     bool isOpenForWriting() const { return m_isOpen && m_mode == EStreamMode::Write; }
     bool isOpenForReading() const { return m_isOpen && m_mode == EStreamMode::Read; }
     bool isEndOfFile() const;  ///< true if not open; false while writing
-    /// Whether what is open has met a line too long, a text that is no number, or the system's
-    /// refusal, a full disk for one, as far as it has been flushed. The end of the file is none.
+    /// True after a line that was too long, a text that is no number, or an error of the system. A
+    /// full disk shows once the stream is flushed. The end of the file is no failure.
     bool hasFailed() const;
     void flush();
 
@@ -43,12 +43,13 @@ public:
     CTextStream &operator<<(float value);
     CTextStream &operator<<(double value);
 
-    /// Reads a line without its line feed and a carriage return before that. A line above 2047
-    /// bytes gives its first 2047 and fails the stream; a stream that has failed or ended gives the
-    /// last line again.
+    /// Reads a line, without its line feed and a carriage return before that. A line of more than
+    /// 2047 bytes gives its first 2047 and fails the stream. A stream that has failed or ended
+    /// gives the last line again, or "Empty string" if it has read none.
     CTextStream &operator>>(Basics::CString &line);
     CTextStream &operator>>(Basics::CSystemString &line);
-    /// Skips white space and reads a number: 0, and a failed stream, if there is none.
+    /// Skips white space and reads a number. If there is none, gives 0 and fails the stream. A
+    /// stream that has failed already leaves the value alone.
     CTextStream &operator>>(int &value);
     CTextStream &operator>>(long &value);
     CTextStream &operator>>(float &value);

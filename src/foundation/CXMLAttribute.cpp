@@ -13,7 +13,7 @@ using Basics::CString;
 
 namespace {
 
-// As "%f" and atof, but for the locale: a host may have set one that writes a comma.
+// "%f" and atof would use the locale of the host, which may have a decimal comma.
 CString textOf(double value) {
     char text[std::numeric_limits<double>::max_exponent10 + 16];
     const auto [end, failed] =
@@ -24,14 +24,14 @@ CString textOf(double value) {
 
 double numberIn(std::string_view text);
 
-/// @param number  one that no double holds, with nothing before or after it.
+/// @param number  outside the range of double, with no text before or after it.
 /// @return infinity if it is too large, 0 if it is too small, with its sign.
 double beyondTheRange(std::string_view number) {
     const std::size_t mark = std::min(number.find_first_of("eE"), number.size());
     const std::size_t point = std::min(number.find('.'), mark);
     const std::size_t first = number.find_first_of("123456789");
     const double place = static_cast<double>(point) - static_cast<double>(first);
-    // As a double, since an exponent can have any number of digits.
+    // A double, since the exponent may have any number of digits.
     const double exponent = mark < number.size() ? numberIn(number.substr(mark + 1)) : 0;
     const double size = place + exponent > 0 ? std::numeric_limits<double>::infinity() : 0;
     return number.front() == '-' ? -size : size;

@@ -4,14 +4,14 @@
 
 namespace Tessitor::IO {
 
-/// A name and a value of a node. Numbers become text with "%f", "%li" and "%d" and are read as
-/// CString's functions read them, but decimal only, and both with a point whatever the locale of
-/// the host; a bool is "True" or "False".
+/// A name and a value of an XML node. Numbers are written with "%f", "%li" and "%d" and read by the
+/// rules of CString, but in decimal only. The decimal separator is a point, whatever the host's
+/// locale. A bool is "True" or "False".
 class CXMLAttribute : public Basics::CCountedObject {
 public:
-    /// @param name  loses the white space at its ends, and has each blank replaced with "_". Of a
-    ///              single letter nothing is left, as CString::removeTrailingWhiteSpace() tells.
-    /// @param value  of any type that setValue() takes.
+    /// @param name   is trimmed, and each blank in it becomes "_". A single letter becomes "", see
+    ///               CString::removeTrailingWhiteSpace().
+    /// @param value  any type that setValue() takes.
     template <typename Value>
     CXMLAttribute(const Basics::CString &name, const Value &value) : CXMLAttribute(name) {
         setValue(value);
@@ -35,7 +35,7 @@ public:
     float getValueAsFloat() const;
     long getValueAsLong() const;
     int getValueAsInt() const;
-    bool getValueAsBool() const;  ///< true for "True" and for nothing else
+    bool getValueAsBool() const;  ///< true only for "True"
 
 private:
     explicit CXMLAttribute(const Basics::CString &name);

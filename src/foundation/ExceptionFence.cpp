@@ -14,8 +14,8 @@ Basics::CString reasonBelow(const char *lead, const CException &caught) {
     return reason;
 }
 
-// A report's own strings may fail as well, for want of memory above all. Their fences then let it
-// through: a report of that would fail in the same way, without end.
+// The strings of a report can run out of memory too. Their fences then let the failure through:
+// another report would only fail in the same way, without end.
 thread_local bool isReporting = false;
 
 struct SReporting {
@@ -32,7 +32,7 @@ void rethrowThrough(const SFence &fence) {
     try {
         throw;
     } catch (const CException &thrown) {
-        // Taken by value, as everywhere: the class record counts the copy's end.
+        // Caught by value, as everywhere: the copy shows in the class record.
         // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
         const CException caught(thrown);
         throw CException(reasonBelow(fence.lead, caught), fence.function, true);

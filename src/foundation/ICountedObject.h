@@ -6,15 +6,15 @@ namespace Tessitor::Basics {
 
 class CClass;
 
-/// The face of every object of the library. Whoever keeps an object calls reference, and
-/// dereference when done with it. Counts are plain integers: one object is never referenced or
-/// released on two threads at once.
+/// The interface of every object of the library. Whoever keeps an object calls reference(), and
+/// dereference() when done with it. The count is a plain integer, so an object must not be
+/// referenced or released on two threads at once.
 class ICountedObject {
 public:
     virtual ~ICountedObject() = default;
 
     virtual void reference() = 0;
-    /// Destroys the object when its count falls below 1, so also when nobody ever referenced it.
+    /// Destroys the object when its count falls below 1, even if it was never referenced.
     virtual void dereference() = 0;
     virtual std::int32_t getReferenceCount() const = 0;
 

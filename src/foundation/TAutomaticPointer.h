@@ -6,11 +6,11 @@
 
 namespace Tessitor::Collections {
 
-/// Holds one pointer; the deleter decides who owns what it points to.
+/// Holds one pointer. The deleter decides who owns the object.
 template <typename TypeName>
 class TAutomaticPointer : public Basics::CCountedObject {
 public:
-    /// @param deleter  not owned; null to delete what is held.
+    /// @param deleter  not owned; if null, objects are deleted directly.
     explicit TAutomaticPointer(TPointerDeleter<TypeName> *deleter = nullptr);
     TAutomaticPointer(const TAutomaticPointer &) = delete;
     TAutomaticPointer &operator=(const TAutomaticPointer &) = delete;
@@ -18,13 +18,13 @@ public:
     Basics::CClass &getClass() const override { return s_class; }
 
     TypeName *getPointer() const { return m_pointer; }  ///< null if empty
-    /// Takes the new one and lets the old one go, which may destroy whoever holds this object; null
-    /// takes none, and the one that is held already stays.
+    /// Takes the pointer, which may be null, and then releases the old one. Does nothing if the two
+    /// are the same. Releasing may destroy the object that this pointer is a member of.
     void setPointer(TypeName *pointer);
     void freePointer();
 
 private:
-    static void letGo(TypeName *pointer, TPointerDeleter<TypeName> *deleter);
+    static void release(TypeName *pointer, TPointerDeleter<TypeName> *deleter);
 
     static Basics::TClassRecord<TAutomaticPointer> s_class;
 
@@ -56,17 +56,17 @@ void TAutomaticPointer<TypeName>::setPointer(TypeName *pointer) {
         return;
     if (pointer != nullptr && m_deleter != nullptr)
         m_deleter->pointerAdded(pointer);
-    letGo(std::exchange(m_pointer, pointer), m_deleter);
+    release(std::exchange(m_pointer, pointer), m_deleter);
 }
 
 template <typename TypeName>
 void TAutomaticPointer<TypeName>::freePointer() {
-    letGo(std::exchange(m_pointer, nullptr), m_deleter);
+    release(std::exchange(m_pointer, nullptr), m_deleter);
 }
 
-// Touches nothing of the object: in a ring of references the last one may take it along.
+// Static, since references can form a cycle: releasing the pointer may destroy this object.
 template <typename TypeName>
-void TAutomaticPointer<TypeName>::letGo(TypeName *pointer, TPointerDeleter<TypeName> *deleter) {
+void TAutomaticPointer<TypeName>::release(TypeName *pointer, TPointerDeleter<TypeName> *deleter) {
     if (pointer == nullptr)
         return;
     if (deleter != nullptr)

@@ -4,7 +4,7 @@
 
 namespace Tessitor::Basics {
 
-/// The record that a class of the library owns.
+/// The class record that each class of the library owns.
 ///
 ///     // CPoint.h
 ///     class CPoint : public Basics::CCountedObject {
@@ -26,15 +26,15 @@ namespace Tessitor::Basics {
 ///     Basics::TClassRecord<TList<TypeName>> TList<TypeName>::s_class(
 ///         "TList<TypeName>", typeid(TypeName), "CCountedObject");
 ///
-/// Static objects are built and destroyed in an order that nothing controls, so instances come
-/// before their record and go after it. The counts therefore stand apart from it: they are there
-/// before the first constructor of the program runs and are never destroyed, and counting, which is
-/// static, does not touch the record. It is two plain increments, so a class counts its instances
-/// on one thread at a time: code that runs beside the gui, the audio path above all, makes none.
+/// Static objects of different files are built and destroyed in no fixed order, so an instance may
+/// be built before its record and outlive it. The counts are therefore kept outside the record:
+/// they exist before the first constructor of the program runs and are never destroyed. Counting is
+/// two plain increments, so the instances of a class must be made and destroyed on one thread at a
+/// time. The audio thread makes none.
 template <typename Owner>
 class TClassRecord : public CClass {
 public:
-    /// @param names  those of any constructor of CClass.
+    /// @param names  the arguments of any constructor of CClass.
     template <typename... Names>
     explicit TClassRecord(const Names &...names) : CClass(names...) {
         countIn(s_counts);

@@ -22,27 +22,29 @@ public:
     ~TPointerCollection() override;
     Basics::CClass &getClass() const override { return s_class; }
 
-    void addElement(TypeName *element);         ///< to the slot of getInsertIndex()
+    void addElement(TypeName *element);         ///< into the slot at getInsertIndex()
     TypeName *elementAtIndex(int index) const;  ///< null outside 0 to getArraySize() - 1
-    void deletePointerAtIndex(int index);       ///< nothing outside 0 to getArraySize() - 1
+    /// Empties the slot and releases its element. Ignores an index outside the slots.
+    void deletePointerAtIndex(int index);
     int getIndexOfPointer(const TypeName *pointer) const;  ///< by address; -1 if absent
     bool isPointerInArray(const TypeName *pointer) const { return getIndexOfPointer(pointer) >= 0; }
 
     int getArraySize() const { return m_arraySize; }      ///< slots allocated
     int getInsertIndex() const { return m_insertIndex; }  ///< slots filled since the last clear
 
-    void setGrowSize(int slots) { m_growSize = slots; }  ///< below 1 still grows, by 1
+    /// @param slots  added when the array is full; below 1 counts as 1.
+    void setGrowSize(int slots) { m_growSize = slots; }
     void setPointerDeleter(TPointerDeleter<TypeName> *deleter) { m_deleter = deleter; }
 
-    /// Closes the gaps, in order.
-    /// @param shrink  also gives back the free slots.
+    /// Moves the elements to the front, in order.
+    /// @param shrink  also frees the empty slots.
     void compactArray(bool shrink);
-    /// Sorts all slots, the null ones included.
+    /// Sorts all slots, including those that hold null.
     /// @param before  bool(const TypeName *, const TypeName *): a strict weak order.
     template <typename Before>
     void sortSlots(Before before);
-    void clearArray();            ///< lets every element go, in order, and frees the slots
-    void clearAndReinitialise();  ///< leaves one growth of null slots
+    void clearArray();            ///< releases every element, in order, and frees the slots
+    void clearAndReinitialise();  ///< clears, then grows once
 
 private:
     void resize(int slots);
@@ -99,7 +101,7 @@ template <typename TypeName>
 void TPointerCollection<TypeName>::deletePointerAtIndex(int index) {
     if (!isSlot(index))
         return;
-    // Empty first: what is let go may look at the collection.
+    // The slot is emptied first: releasing an element may run code that uses the collection.
     TypeName *element = std::exchange(m_array[index], nullptr);
     if (m_deleter != nullptr && element != nullptr)
         m_deleter->deletePointer(element);
@@ -150,7 +152,7 @@ void TPointerCollection<TypeName>::grow() {
     resize(m_arraySize + std::max(m_growSize, 1));
 }
 
-// No slots, no array.
+// Without slots the array is null.
 template <typename TypeName>
 void TPointerCollection<TypeName>::resize(int slots) {
     std::unique_ptr<TypeName *[]> array;

@@ -7,8 +7,8 @@
 
 namespace Tessitor::Collections {
 
-/// Decides who owns what a container points to. The container does not own its deleter, which must
-/// outlive it. Null pointers may come and are ignored.
+/// Decides who owns the elements of a container. The container does not own its deleter, which must
+/// outlive it. Null pointers are ignored.
 template <typename TypeName>
 class TPointerDeleter : public Basics::CCountedObject {
 public:
@@ -16,14 +16,14 @@ public:
     ~TPointerDeleter() override { s_class.decrementInstanceCount(); }
     Basics::CClass &getClass() const override { return s_class; }
 
-    virtual void pointerAdded(TypeName *pointer) = 0;   ///< a container took the pointer
-    virtual void deletePointer(TypeName *pointer) = 0;  ///< a container lets the pointer go
+    virtual void pointerAdded(TypeName *pointer) = 0;   ///< a container has taken it
+    virtual void deletePointer(TypeName *pointer) = 0;  ///< a container releases it
 
 private:
     static Basics::TClassRecord<TPointerDeleter> s_class;
 };
 
-/// Owns: what a container lets go is deleted.
+/// The container owns its elements: a released element is deleted.
 template <typename TypeName>
 class TObjectDeleter : public TPointerDeleter<TypeName> {
 public:
@@ -34,14 +34,14 @@ public:
     void pointerAdded(TypeName *) override {}
     void deletePointer(TypeName *pointer) override { delete pointer; }
 
-    /// @return the one of this type that containers share.
+    /// @return the deleter that all containers of this type share.
     static TObjectDeleter *getStaticDeleter();
 
 private:
     static Basics::TClassRecord<TObjectDeleter> s_class;
 };
 
-/// Owns nothing: a plain list of what others own.
+/// The container owns nothing and only lists the elements of others.
 template <typename TypeName>
 class TObjectNuller : public TPointerDeleter<TypeName> {
 public:
@@ -56,7 +56,7 @@ private:
     static Basics::TClassRecord<TObjectNuller> s_class;
 };
 
-/// Shares: a container holds one reference on each of its counted objects.
+/// The container shares its elements and holds one reference on each.
 template <typename TypeName>
 class TCountedObjectDeleter : public TPointerDeleter<TypeName> {
 public:
@@ -67,7 +67,7 @@ public:
     void pointerAdded(TypeName *pointer) override;
     void deletePointer(TypeName *pointer) override;
 
-    /// @return the one of this type that containers share.
+    /// @return the deleter that all containers of this type share.
     static TCountedObjectDeleter *getStaticDeleter();
 
 private:
@@ -95,11 +95,11 @@ Basics::TClassRecord<TCountedObjectDeleter<TypeName>>
     TCountedObjectDeleter<TypeName>::s_class("TCountedObjectDeleter<TypeName>", typeid(TypeName),
                                              "TPointerDeleter<TypeName>", typeid(TypeName));
 
-/// @return the shared deleter of this type, made at the first call and never destroyed: at the end
-///         of the program a static object may still have a container, or make one.
+/// @return the shared deleter of this type, made at the first call. It is never destroyed: static
+///         objects may use or make containers until the very end of the program.
 template <typename Deleter>
 Deleter *sharedDeleter() {
-    // Not on the heap, where each unloading of a plug-in would leak one.
+    // Not on the heap: a plug-in that is unloaded would leak it.
     alignas(Deleter) static std::byte memory[sizeof(Deleter)];
     static Deleter *const deleter = new (memory) Deleter;
     return deleter;

@@ -5,21 +5,22 @@
 
 namespace Tessitor::Collections {
 
-/// A node of a tree: a value, the parent node and the children. A node holds references on its
-/// children and on its parent, so the two keep each other alive until one of them lets go: before
-/// the tree is given up, take the parent from the children, or clear the children of a parent that
-/// something else holds as well.
+/// A node of a tree: a value, a parent and children. A node holds references on its parent and on
+/// its children, so parent and child keep each other alive until one releases the other. To free a
+/// tree, set the parent of its children to null, or clear the children of a parent that somebody
+/// else still references.
 template <typename TypeName>
 class TTreeNode : public Basics::CCountedObject {
 public:
-    /// @param valueDeleter  says who owns the value; not owned, null to delete it with the node.
+    /// @param valueDeleter  decides who owns the value. Not owned; if null, the node deletes it.
     explicit TTreeNode(TPointerDeleter<TypeName> *valueDeleter);
     TTreeNode(const TTreeNode &) = delete;
     TTreeNode &operator=(const TTreeNode &) = delete;
     ~TTreeNode() override { s_class.decrementInstanceCount(); }
     Basics::CClass &getClass() const override { return s_class; }
 
-    void addChild(TTreeNode *child) { m_children.addElement(child); }  ///< leaves its parent alone
+    /// Does not set the child's parent.
+    void addChild(TTreeNode *child) { m_children.addElement(child); }
     TCountedPointerArray<TTreeNode> &getChildren() { return m_children; }
 
     void setParent(TTreeNode *parent) { m_parent.setPointer(parent); }  ///< null for none

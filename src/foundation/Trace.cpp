@@ -45,7 +45,7 @@ void trace(const char *format, ...) {
 
 void trace(const Basics::ICountedObject &object, const char *text) {
     constexpr long size = 1024;
-    char description[size + 1] = {};  // an object may fill its part without a terminator
+    char description[size + 1] = {};  // a description may fill its part without a terminator
     object.getObjectDescription(description, size);
     writeLine(std::string(text) + description);
 }

@@ -36,7 +36,7 @@ TEST_F(CApplicationInformationStore, IsEmptyAtFirst) {
     EXPECT_STREQ(CApplicationInformation::getApplicationPath().getString(), "");
 }
 
-TEST_F(CApplicationInformationStore, KeepsEachTextInItsPlace) {
+TEST_F(CApplicationInformationStore, KeepsEachText) {
     set();
     EXPECT_STREQ(CApplicationInformation::getCompanyName().getString(), "company");
     EXPECT_STREQ(CApplicationInformation::getApplicationName().getString(), "application");
@@ -46,7 +46,7 @@ TEST_F(CApplicationInformationStore, KeepsEachTextInItsPlace) {
     EXPECT_STREQ(CApplicationInformation::getCopyrightString().getString(), "copyright");
 }
 
-TEST_F(CApplicationInformationStore, TakesNullForAnEmptyText) {
+TEST_F(CApplicationInformationStore, TakesNullAsAnEmptyText) {
     set();
     CApplicationInformation::setApplicationInformation(nullptr, nullptr, nullptr, nullptr, nullptr,
                                                        nullptr, nullptr);
@@ -64,19 +64,19 @@ TEST_F(CApplicationInformationStore, KeepsTheHandle) {
     EXPECT_EQ(CApplicationInformation::getModuleHandle(), nativeModuleHandle());
 }
 
-TEST_F(CApplicationInformationStore, ThePathIsTheModulesFolderWithoutASeparatorAtItsEnd) {
+TEST_F(CApplicationInformationStore, ApplicationPathIsTheModulesFolderWithoutATrailingSeparator) {
     set();
     const std::filesystem::path module = nativeModulePath(nativeModuleHandle());
     EXPECT_EQ(CApplicationInformation::getApplicationPath().getString(),
               module.parent_path().string());
 }
 
-TEST_F(CApplicationInformationStore, ReadsTheProcessor) {
+TEST_F(CApplicationInformationStore, ReadsTheProcessorFeatures) {
     set();
     EXPECT_TRUE(Tessitor::Basics::getProcessorFeatures().hasSse2);
 }
 
-TEST_F(CApplicationInformationStore, NamesTheFilesOfProgramAndModule) {
+TEST_F(CApplicationInformationStore, GivesTheFilesOfProgramAndModule) {
     const CDLLLoader library(SAMPLE_MODULE);
     const auto handle = reinterpret_cast<void *(*)()>(library.getFunction("sampleModuleHandle"))();
     CApplicationInformation::setApplicationInformation("", "", "", "", "", "", handle);
@@ -87,7 +87,7 @@ TEST_F(CApplicationInformationStore, NamesTheFilesOfProgramAndModule) {
     EXPECT_TRUE(std::filesystem::equivalent(module.getString(), SAMPLE_MODULE));
 }
 
-TEST_F(CApplicationInformationStore, DestroyingEmptiesItAndFreesEveryText) {
+TEST_F(CApplicationInformationStore, DestroyingFreesEveryText) {
     const auto &record = CString().getClass();
     const auto before = record.getInstanceCount();
     set();

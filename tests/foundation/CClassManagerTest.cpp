@@ -18,7 +18,7 @@ namespace {
 
 constexpr std::size_t headLength = 450;  // five lines
 
-/// Records that only the test's own manager lists, whatever the program's one makes of them.
+/// Records for a manager of the test's own. They also register with the program's manager.
 class CClassManagerList : public testing::Test {
 protected:
     std::string report() const {
@@ -49,7 +49,7 @@ TEST_F(CClassManagerList, IgnoresNull) {
     EXPECT_FALSE(manager.isClassRegistered(nullptr));
 }
 
-TEST_F(CClassManagerList, KeepsTheFirstOfAName) {
+TEST_F(CClassManagerList, KeepsTheFirstRecordOfAName) {
     const CClass another("TestBeta");
     CClass second(another);
     manager.registerClass(&beta);
@@ -73,10 +73,11 @@ TEST_F(CClassManagerList, NeverDeletesARecord) {
         CClassManager passing;
         passing.registerClass(&beta);
     }
-    EXPECT_STREQ(beta.getClassName(), "TestBeta");  // the sanitizer would tell
+    EXPECT_STREQ(beta.getClassName(),
+                 "TestBeta");  // a freed record would crash here or fail under the sanitizers
 }
 
-TEST_F(CClassManagerList, SortsByNameWithTheEmptySlotsBehind) {
+TEST_F(CClassManagerList, SortsByNameWithTheEmptySlotsLast) {
     manager.registerClass(&beta);
     manager.registerClass(&gamma);
     manager.registerClass(&alpha);
@@ -90,7 +91,7 @@ TEST_F(CClassManagerList, SortsByNameWithTheEmptySlotsBehind) {
         EXPECT_EQ(classes.elementAtIndex(i), nullptr) << i;
 }
 
-TEST_F(CClassManagerList, SortsOverHoles) {
+TEST_F(CClassManagerList, SortsAListWithEmptySlots) {
     manager.registerClass(&gamma);
     manager.registerClass(&beta);
     manager.registerClass(&alpha);
@@ -115,7 +116,7 @@ TEST_F(CClassManagerList, SortsAnEmptyList) {
     EXPECT_EQ(manager.getClasses().getArraySize(), 0);
 }
 
-TEST_F(CClassManagerList, ReportsNothingWithHeadAndZeros) {
+TEST_F(CClassManagerList, ReportsAnEmptyListAsHeadingsAndZeros) {
     EXPECT_EQ(
         report(),
         "+-----------------------------------------------------------------+----------+----------+"
@@ -136,14 +137,14 @@ TEST_F(CClassManagerList, ReportsNothingWithHeadAndZeros) {
         "+\n");
 }
 
-TEST_F(CClassManagerList, ReportsTheClassesWithInstancesAndTheirSums) {
+TEST_F(CClassManagerList, ReportsTheClassesWithInstancesAndTheirTotals) {
     manager.registerClass(&beta);
     manager.registerClass(&alpha);
     manager.registerClass(&gamma);
     for (int i = 0; i < 12; ++i)
         beta.incrementInstanceCount();
     alpha.incrementInstanceCount();
-    alpha.decrementInstanceCount();  // none left: not in the table, nor in the sums
+    alpha.decrementInstanceCount();  // no instance left: neither in the table nor in the totals
     gamma.incrementInstanceCount();
     gamma.incrementInstanceCount();
     gamma.decrementInstanceCount();
@@ -182,7 +183,7 @@ TEST_F(CClassManagerList, ReportsAClassWhoseCopiesWereNotCounted) {
     EXPECT_GT(record.getInstanceCount(), 4'000'000'000u);
 }
 
-TEST_F(CClassManagerList, ReportsANameThatIsWiderThanTheTable) {
+TEST_F(CClassManagerList, ReportsANameWiderThanTheTable) {
     const std::string name(128, 'n');
     CClass wide(name.c_str());
     wide.incrementInstanceCount();

@@ -12,15 +12,15 @@ namespace {
 struct SArgument {};
 struct SOther {};
 
-/// Whether the manager knows a class of this name: only then does a walk pass through it.
+/// Whether a class of this name is registered. Only then is it found as an ancestor.
 bool isRegistered(const char *name) {
-    const CClass last("CLastOfTheWalk", name);
+    const CClass child("CChildOfIt", name);
     CClass named;
     named.setClassName(name);
-    return last.isTypeOf(named);
+    return child.isTypeOf(named);
 }
 
-TEST(CClass, DefaultRecordIsNamelessAndNotRegistered) {
+TEST(CClass, ADefaultRecordHasNoNameAndIsNotRegistered) {
     const CClass record;
     EXPECT_STREQ(record.getClassName(), "UndefinedClass");
     EXPECT_FALSE(isRegistered("UndefinedClass"));
@@ -35,7 +35,7 @@ TEST(CClass, RegistersUnderItsNameUntilItIsDestroyed) {
     EXPECT_FALSE(isRegistered("CPassing"));
 }
 
-TEST(CClass, CountsInstancesAndEverMade) {
+TEST(CClass, CountsLiveInstancesAndAllEverMade) {
     CClass record("CCounting");
     EXPECT_EQ(record.getInstanceCount(), 0u);
     EXPECT_EQ(record.getTotalCount(), 0u);
@@ -53,24 +53,24 @@ TEST(CClass, BelowZeroTheCountWraps) {
     EXPECT_EQ(record.getTotalCount(), 0u);
 }
 
-TEST(CClass, OfTwoWithOneNameTheFirstIsRegisteredAndBothCount) {
+TEST(CClass, OfTwoRecordsWithOneNameTheFirstIsRegisteredButBothCount) {
     const CClass ancestor("CFirstAncestor");
     CClass first("CTwice", "CFirstAncestor");
     CClass second("CTwice", "CSecondAncestor");
     second.incrementInstanceCount();
     EXPECT_EQ(first.getInstanceCount(), 0u);
     EXPECT_EQ(second.getInstanceCount(), 1u);
-    // The walk from below goes on with the first one's parent.
+    // The search for ancestors goes on with the parent of the registered record.
     EXPECT_TRUE(CClass("CBelow", "CTwice").isTypeOf(ancestor));
 }
 
-TEST(CClass, TheSecondOfANameDoesNotWithdrawTheFirst) {
+TEST(CClass, ASecondRecordOfANameDoesNotWithdrawTheFirst) {
     const CClass first("CTwice");
     { const CClass second("CTwice"); }
     EXPECT_TRUE(isRegistered("CTwice"));
 }
 
-TEST(CClass, CopyTakesTheNameOnly) {
+TEST(CClass, ACopyHasOnlyTheName) {
     const CClass parent("CParent");
     CClass original("COriginal", "CParent");
     original.incrementInstanceCount();
@@ -82,7 +82,7 @@ TEST(CClass, CopyTakesTheNameOnly) {
     EXPECT_FALSE(copy.isTypeOf(parent));
 }
 
-TEST(CClass, AssignmentTakesTheNameOnly) {
+TEST(CClass, AssignmentCopiesOnlyTheName) {
     CClass left("CLeft"), right("CRight");
     right.incrementInstanceCount();
     left = right;
@@ -142,13 +142,13 @@ TEST(CClass, ATemplateRecordMayHaveATemplateParent) {
     EXPECT_FALSE(record.isTypeOf(stranger));
 }
 
-TEST(CClass, IsOfItsOwnType) {
+TEST(CClass, IsItsOwnType) {
     const CClass record("CItself", "CNobody");
     EXPECT_TRUE(record.isTypeOf(record));
     EXPECT_TRUE(CClass().isTypeOf(CClass()));
 }
 
-TEST(CClass, IsOfTheTypeOfEveryAncestor) {
+TEST(CClass, IsTheTypeOfEveryAncestor) {
     const CClass grandparent("CGrandparent"), parent("CParent", "CGrandparent");
     const CClass record("CChild", "CParent");
     EXPECT_TRUE(record.isTypeOf(parent));
@@ -157,13 +157,13 @@ TEST(CClass, IsOfTheTypeOfEveryAncestor) {
     EXPECT_FALSE(parent.isTypeOf(record));
 }
 
-TEST(CClass, AParentThatNoRecordBearsEndsTheWalk) {
+TEST(CClass, AParentWithoutARecordEndsTheSearch) {
     const CClass grandparent("CGrandparent");
     const CClass record("CChild", "CMissing");
     EXPECT_FALSE(record.isTypeOf(grandparent));
 }
 
-TEST(CClass, NamesThatLeadInACircleEndTheWalk) {
+TEST(CClass, ParentNamesInACircleEndTheSearch) {
     const CClass selfish("CSelfish", "CSelfish");
     const CClass left("CCircleLeft", "CCircleRight"), right("CCircleRight", "CCircleLeft");
     const CClass target("CElsewhere");

@@ -9,11 +9,11 @@ using Tessitor::Basics::CCountedObject;
 
 namespace {
 
-TEST(CCountedObject, BeginsAtZero) {
+TEST(CCountedObject, StartsWithACountOfZero) {
     EXPECT_EQ(CCountedObject().getReferenceCount(), 0);
 }
 
-TEST(CCountedObject, LivesUntilTheLastReferenceIsGivenBack) {
+TEST(CCountedObject, LivesUntilItsLastReferenceIsReleased) {
     bool destroyed = false;
     auto *object = new CWatchedObject(destroyed);
     object->reference();
@@ -25,7 +25,7 @@ TEST(CCountedObject, LivesUntilTheLastReferenceIsGivenBack) {
     EXPECT_TRUE(destroyed);
 }
 
-TEST(CCountedObject, DiesWhenDereferencedAtZero) {
+TEST(CCountedObject, IsDestroyedWhenDereferencedAtZero) {
     bool destroyed = false;
     (new CWatchedObject(destroyed))->dereference();
     EXPECT_TRUE(destroyed);
@@ -42,7 +42,7 @@ TEST(CCountedObject, CountsItselfInItsRecord) {
     EXPECT_EQ(record.getTotalCount(), total + 2);
 }
 
-TEST(CCountedObject, ADerivedObjectCountsInEveryRecordOfItsChain) {
+TEST(CCountedObject, ADerivedObjectCountsInItsOwnRecordAndItsBases) {
     bool destroyed = false;
     const CWatchedObject witness(destroyed);
     const CCountedObject base;
@@ -53,7 +53,7 @@ TEST(CCountedObject, ADerivedObjectCountsInEveryRecordOfItsChain) {
     EXPECT_EQ(base.getClass().getInstanceCount(), baseCount + 1);
 }
 
-TEST(CCountedObject, ACopyTakesTheCountAndDrivesTheRecordDown) {
+TEST(CCountedObject, ACopyHasTheSameCountAndLowersTheNumberOfInstances) {
     CCountedObject original;
     original.reference();
     original.reference();
@@ -69,14 +69,14 @@ TEST(CCountedObject, ACopyTakesTheCountAndDrivesTheRecordDown) {
     original.getClass().incrementInstanceCount();  // undoes the asymmetry for the next test
 }
 
-TEST(CCountedObject, AssignmentLeavesEachItsOwnCount) {
+TEST(CCountedObject, AssignmentDoesNotCopyTheCount) {
     CCountedObject left, right;
     right.reference();
     left = right;
     EXPECT_EQ(left.getReferenceCount(), 0);
 }
 
-TEST(CCountedObject, DescriptionTellsTheCountWithoutClosingBracket) {
+TEST(CCountedObject, DescriptionGivesTheCountWithoutAClosingBracket) {
     CCountedObject object;
     object.reference();
     char text[64];
@@ -97,7 +97,7 @@ TEST(CCountedObject, DescriptionThatFillsTheArrayHasNoTerminator) {
     EXPECT_EQ(filled(whole.size() + 3), whole + std::string(3, '\0') + 'x');
 }
 
-TEST(CCountedObject, DescriptionNeedsABuffer) {
+TEST(CCountedObject, DescriptionNeedsAnArray) {
     char text[] = "kept";
     CCountedObject().getObjectDescription(nullptr, 10);
     CCountedObject().getObjectDescription(text, 0);

@@ -27,7 +27,7 @@ TEST(CException, ACopyHasTheSameTexts) {
     EXPECT_EQ(copy.getErrorFlag(), 1);
 }
 
-TEST(CException, ACopyDrivesTheRecordDown) {
+TEST(CException, ACopyLowersTheNumberOfInstances) {
     const CException original("reason", "function", true);
     const auto &record = original.getClass();
     const auto instances = record.getInstanceCount(), total = record.getTotalCount();

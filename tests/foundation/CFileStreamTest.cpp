@@ -44,7 +44,7 @@ using Values =
                    std::uint32_t, std::int64_t, std::uint64_t, float, double>;
 TYPED_TEST_SUITE(CFileStreamValue, Values);
 
-TYPED_TEST(CFileStreamValue, ComesBackInEitherOrder) {
+TYPED_TEST(CFileStreamValue, IsReadBackInEitherByteOrder) {
     using Limits = std::numeric_limits<TypeParam>;
     for (const bool fileIsLittleEndian : {false, true}) {
         for (const TypeParam value :
@@ -64,7 +64,7 @@ TYPED_TEST(CFileStreamValue, ComesBackInEitherOrder) {
     }
 }
 
-TYPED_TEST(CFileStreamValue, IsLeftAloneByAFileThatEndsInside) {
+TYPED_TEST(CFileStreamValue, IsUnchangedIfTheFileEndsWithinIt) {
     this->write(std::string(sizeof(TypeParam) - 1, 'x'));
     CFileStream stream(this->path, EStreamMode::Read);
     TypeParam value(7);
@@ -88,7 +88,7 @@ TYPED_TEST(CFileStreamValue, FailsInTheWrongDirection) {
     EXPECT_EQ(this->read(), "");
 }
 
-TEST_F(CFileStreamFile, FilesAreBigEndianUnlessToldOtherwise) {
+TEST_F(CFileStreamFile, FilesAreBigEndianByDefault) {
     CFileStream(path, EStreamMode::Write) << std::int16_t{0x1234};
     EXPECT_EQ(read(), "\x12\x34");
     EXPECT_EQ(written(std::int16_t{0x1234}, false), "\x12\x34");
@@ -101,7 +101,7 @@ TEST_F(CFileStreamFile, FilesAreBigEndianUnlessToldOtherwise) {
     EXPECT_EQ(written(-2.0, false), std::string("\xc0\0\0\0\0\0\0\0", 8));
 }
 
-TEST_F(CFileStreamFile, TheOrderMayBeIgnored) {
+TEST_F(CFileStreamFile, TheByteOrderMayBeIgnored) {
     EXPECT_EQ(written(std::int16_t{0x1234}, false, true), "\x34\x12");
     CFileStream stream;
     stream.open(path, EStreamMode::Read, false, true);
@@ -110,8 +110,9 @@ TEST_F(CFileStreamFile, TheOrderMayBeIgnored) {
     EXPECT_EQ(value, 0x1234);
 }
 
-TEST_F(CFileStreamFile, ASwappedNumberMayBeNoNumberInBetween) {
-    const auto value = std::bit_cast<float>(std::uint32_t{0x0001A07F});  // swapped, it signals
+TEST_F(CFileStreamFile, KeepsTheBytesOfAFloatThatIsASignallingNaNOnceSwapped) {
+    const auto value =
+        std::bit_cast<float>(std::uint32_t{0x0001A07F});  // a signalling NaN once swapped
     EXPECT_EQ(written(value, false), std::string("\0\x01\xA0\x7F", 4));
     EXPECT_EQ(written(value, true), std::string("\x7F\xA0\x01\0", 4));
     CFileStream stream(path, EStreamMode::Read, false);
@@ -157,7 +158,7 @@ TEST(CFileStream, IsClosedAtFirst) {
     EXPECT_TRUE(stream.hasFailed());
 }
 
-TEST_F(CFileStreamFile, FailsWithoutAFileAndForgetsItWithTheNextOpen) {
+TEST_F(CFileStreamFile, FailsWithoutAFileUntilTheNextOpen) {
     CFileStream stream(path, EStreamMode::Read);
     EXPECT_FALSE(stream.isOpen());
     EXPECT_FALSE(stream.hasFailed());
@@ -171,13 +172,13 @@ TEST_F(CFileStreamFile, FailsWithoutAFileAndForgetsItWithTheNextOpen) {
     EXPECT_FALSE(stream.isOpen());
 }
 
-TEST_F(CFileStreamFile, AFolderIsNoFile) {
+TEST_F(CFileStreamFile, DoesNotOpenAFolder) {
     CFileStream stream;
     EXPECT_FALSE(stream.open(folder.path().string().c_str(), EStreamMode::Read));
     EXPECT_FALSE(stream.open(folder.path().string().c_str(), EStreamMode::Write));
 }
 
-TEST_F(CFileStreamFile, OpenedForReadingItRejectsWritingAndFailsOnlyTheResult) {
+TEST_F(CFileStreamFile, OpenForReadingItRejectsWritingWithoutAFailure) {
     write("kept");
     CFileStream stream(path, EStreamMode::Read);
     EXPECT_FALSE(stream.write("lost", 4));
@@ -189,7 +190,7 @@ TEST_F(CFileStreamFile, OpenedForReadingItRejectsWritingAndFailsOnlyTheResult) {
     EXPECT_EQ(read(), "kept");
 }
 
-TEST_F(CFileStreamFile, OpenedForWritingItRejectsReading) {
+TEST_F(CFileStreamFile, OpenForWritingItRejectsReadingWithoutAFailure) {
     CFileStream stream(path, EStreamMode::Write);
     EXPECT_TRUE(stream.write("text", 4));
     EXPECT_TRUE(stream.rewind());
@@ -199,7 +200,7 @@ TEST_F(CFileStreamFile, OpenedForWritingItRejectsReading) {
     EXPECT_FALSE(stream.hasFailed());
 }
 
-TEST_F(CFileStreamFile, AShortReadIsNone) {
+TEST_F(CFileStreamFile, AShortReadReturnsFalse) {
     write("abc");
     CFileStream stream(path, EStreamMode::Read);
     char bytes[4] = {};
@@ -210,7 +211,7 @@ TEST_F(CFileStreamFile, AShortReadIsNone) {
     EXPECT_TRUE(stream.read(bytes, 0));
 }
 
-TEST_F(CFileStreamFile, TheEndIsMetOnlyByReadingOn) {
+TEST_F(CFileStreamFile, TheEndShowsOnlyAfterAReadPastIt) {
     write("a");
     CFileStream stream(path, EStreamMode::Read);
     char byte = 0;
@@ -240,7 +241,7 @@ TEST_F(CFileStreamFile, SeeksFromTheStartAndFromHere) {
     EXPECT_FALSE(stream.hasFailed());
 }
 
-TEST_F(CFileStreamFile, WritesWhereItWasSent) {
+TEST_F(CFileStreamFile, WritesAtThePositionThatWasSought) {
     {
         CFileStream stream(path, EStreamMode::Write);
         stream.write("abcdef", 6);
@@ -250,7 +251,7 @@ TEST_F(CFileStreamFile, WritesWhereItWasSent) {
     EXPECT_EQ(read(), "aBcdef");
 }
 
-TEST_F(CFileStreamFile, TellsTheLengthAndStaysWhereItIs) {
+TEST_F(CFileStreamFile, GivesTheLengthAndKeepsItsPosition) {
     write("abcdef");
     CFileStream stream(path, EStreamMode::Read);
     stream.seekFromStart(4);
@@ -277,7 +278,7 @@ TEST_F(CFileStreamFile, ReadsAnEmptyFile) {
     EXPECT_TRUE(stream.hasFailed());
 }
 
-TEST_F(CFileStreamFile, BytesOfLineEndsAreNotTranslated) {
+TEST_F(CFileStreamFile, LineEndsAreNotTranslated) {
     const std::string bytes("\r\n\n\x1a\0\r", 6);
     {
         CFileStream stream(path, EStreamMode::Write);

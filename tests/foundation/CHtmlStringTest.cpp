@@ -17,7 +17,7 @@ bool isShellWilling = true;
 
 }  // namespace
 
-// In the place of the system's: the linker takes this one, and no test opens a browser.
+// The linker takes this instead of the library's function, so no test opens a browser.
 bool openNativeDocument(const std::string &document) {
     openedDocuments.push_back(document);
     return isShellWilling;
@@ -40,7 +40,7 @@ TEST(CHtmlString, CountsItselfAndItsBases) {
     EXPECT_TRUE(one.getClass().isTypeOf(CString().getClass()));
 }
 
-TEST(CHtmlString, IsAssigned) {
+TEST(CHtmlString, TextsAndAddressesAreAssigned) {
     CHtmlString address("a.b");
     address.removeExtension();
     const CHtmlString &itself = address;
@@ -52,7 +52,7 @@ TEST(CHtmlString, IsAssigned) {
     EXPECT_STREQ(address.getString(), "text");
 }
 
-TEST(CHtmlString, NeverTakesItselfForAnAddressWithProtocol) {
+TEST(CHtmlString, NeverFindsAProtocol) {
     for (const char *text : {"file://a", "http://a", "file://", "http://", "file:/", "a", ""}) {
         EXPECT_FALSE(CHtmlString(text).isFileAddress()) << text;
         EXPECT_FALSE(CHtmlString(text).isWebAddress()) << text;
@@ -70,7 +70,7 @@ TEST(CHtmlString, PutsTheProtocolInFront) {
     EXPECT_STREQ(address.getString(), "file://page");
 }
 
-TEST(CHtmlString, OpensALocalFileByItsTextAlone) {
+TEST(CHtmlString, OpensALocalFileWithoutAddingAProtocol) {
     openedDocuments.clear();
     CHtmlString address("dir/page.htm");
     EXPECT_TRUE(address.openInBrowser(true));
@@ -78,7 +78,7 @@ TEST(CHtmlString, OpensALocalFileByItsTextAlone) {
     EXPECT_STREQ(address.getString(), "dir/page.htm");
 }
 
-TEST(CHtmlString, OpensAnythingElseBehindAWebProtocolOfItsOwn) {
+TEST(CHtmlString, AddsTheWebProtocolToAnythingElseItOpens) {
     openedDocuments.clear();
     CHtmlString address("host");
     EXPECT_TRUE(address.openInBrowser(false));
@@ -87,7 +87,7 @@ TEST(CHtmlString, OpensAnythingElseBehindAWebProtocolOfItsOwn) {
     EXPECT_EQ(openedDocuments, (std::vector<std::string>{"http://host", "http://http://host"}));
 }
 
-TEST(CHtmlString, SaysWhenTheSystemRefuses) {
+TEST(CHtmlString, ReturnsFalseIfTheSystemRefuses) {
     isShellWilling = false;
     EXPECT_FALSE(CHtmlString("host").openInBrowser(false));
     isShellWilling = true;

@@ -7,7 +7,7 @@ using Tessitor::Basics::CPascalString;
 
 namespace {
 
-/// @return the length byte and as many bytes of the block as the text needs with its terminator.
+/// @return the length byte, and the text up to its terminator.
 std::pair<int, std::string> contents(const CPascalString &string) {
     const unsigned char *block = string.getString();
     return {block[0], reinterpret_cast<const char *>(block + 1)};
@@ -28,7 +28,7 @@ TEST(CPascalString, WrapsItsLengthAt256) {
     EXPECT_EQ(contents(CPascalString(bytes300.c_str(), 512)), SContents(44, bytes300));
 }
 
-TEST(CPascalString, CutsATextToItsBlock) {
+TEST(CPascalString, CutsATextToTheSizeOfItsBlock) {
     EXPECT_EQ(contents(CPascalString("text", 5)), SContents(3, "tex"));
     EXPECT_EQ(contents(CPascalString("text", 2)), SContents(0, ""));
     EXPECT_EQ(contents(CPascalString("text", 0)), SContents(0, ""));
@@ -37,7 +37,7 @@ TEST(CPascalString, CutsATextToItsBlock) {
               SContents(254, std::string(254, 'x')));
 }
 
-TEST(CPascalString, IsSetAnewEvenFromItself) {
+TEST(CPascalString, CanBeSetAgainEvenFromItsOwnText) {
     CPascalString string("some text", 256);
     string.setString(reinterpret_cast<const char *>(string.getString() + 6), 8);
     EXPECT_EQ(contents(string), SContents(4, "text"));

@@ -1,5 +1,5 @@
-// A program of its own: it has its own CString, compiled with fences that note what they are given.
-// Some operations of CString cannot fail, so a failure could not show which fence they use.
+// Some operations of CString cannot fail, so no failure shows which fence they use. This program
+// has a CString of its own, compiled with fences that note which one is entered.
 #include "foundation/CPascalString.h"
 #include "foundation/CString.h"
 #include "foundation/CStringFences.h"

@@ -14,7 +14,7 @@ using Tessitor::Exceptions::CException;
 
 namespace {
 
-/// What a fenced operation has to say, without the words that all have in common.
+/// The texts that the fence of an operation adds, without the words that all fences share.
 struct SExpected {
     const char *function, *lead, *unknown;
 
@@ -64,7 +64,7 @@ struct SReport {
     std::string reason, function;
 };
 
-/// @return what the operation on the string threw; both empty if nothing.
+/// @return what the operation on the string threw; both texts are empty if it threw nothing.
 template <typename Operation, typename String>
 SReport reportOf(Operation operation, String &string) {
     try {
@@ -77,8 +77,8 @@ SReport reportOf(Operation operation, String &string) {
 
 enum class EFailure { Known, Unknown };
 
-/// The string "e", whose operations fail where another operation of CString builds on them. That
-/// other one is called by its qualified name.
+/// The string "e". The operations that others of CString call fail here. The tests call those
+/// others by their qualified names, which bypasses the overrides.
 class CFailingString : public CString {
 public:
     explicit CFailingString(EFailure failure) : CString("e"), m_failure(failure) {}
@@ -171,7 +171,7 @@ const SFailingOperation failingOperations[] = {
 
 class CStringFences : public testing::TestWithParam<SFailingOperation> {};
 
-TEST_P(CStringFences, PutTheirLeadAboveAKnownFailure) {
+TEST_P(CStringFences, PutTheirLeadBeforeAKnownFailure) {
     const auto &[name, expected, run] = GetParam();
     CFailingString string(EFailure::Known);
     const SReport report = reportOf(run, string);
@@ -179,7 +179,7 @@ TEST_P(CStringFences, PutTheirLeadAboveAKnownFailure) {
     EXPECT_EQ(report.function, expected.fullFunction());
 }
 
-TEST_P(CStringFences, NameAnUnknownFailure) {
+TEST_P(CStringFences, ReportAnUnknownFailure) {
     const auto &[name, expected, run] = GetParam();
     CFailingString string(EFailure::Unknown);
     const SReport report = reportOf(run, string);
@@ -257,7 +257,7 @@ SReport reportWithoutMemory(int allocation, Operation operation, CString &string
 class CStringFencesWithoutMemory : public testing::TestWithParam<SAllocatingOperation> {};
 
 // The first allocation fails, then the second in a new try, and so on until the operation succeeds.
-TEST_P(CStringFencesWithoutMemory, ReportEachFailedAllocationAndLeaveTheStringWhole) {
+TEST_P(CStringFencesWithoutMemory, ReportEachFailedAllocationAndLeaveTheStringValid) {
     const auto &[name, expected, run, result] = GetParam();
     CString string(blockText);
     run(string);
@@ -294,7 +294,7 @@ TEST(CStringFences, ReadFromTheOutermostOperationDownToTheFirstFailure) {
     EXPECT_EQ(report.function, "Tessitor::Basics::CString::removeTrailingAndLeadingWhiteSpace");
 }
 
-TEST(CStringFences, AFailedConstructionLeavesTheRecordAsItWas) {
+TEST(CStringFences, AFailedConstructionIsNotCounted) {
     CString string;
     const auto instances = string.getClass().getInstanceCount();
     reportWithoutMemory(

@@ -18,7 +18,8 @@ using Tessitor::Basics::CSystemString;
 
 namespace {
 
-/// "a.txt" gives "a", a terminator, "txt" and the last terminator: 6 characters.
+/// A string with a terminator in the middle: "a.txt" becomes "a", a terminator, "txt" and another
+/// terminator, so it has 6 characters.
 class CCutString : public CSystemString {
 public:
     explicit CCutString(const char *text) : CSystemString(text) { removeExtension(); }
@@ -26,7 +27,7 @@ public:
 
 }  // namespace
 
-TEST(CString, OfNothingHasOneCharacterTheTerminator) {
+TEST(CString, AnEmptyStringHasOneCharacterItsTerminator) {
     const CString empty("");
     EXPECT_STREQ(empty.getString(), "");
     EXPECT_EQ(empty.getNumberOfCharacters(), 1);
@@ -36,14 +37,14 @@ TEST(CString, OfNothingHasOneCharacterTheTerminator) {
     EXPECT_EQ(empty.findBackwards('\0'), 0);
 }
 
-TEST(CString, TakesNullForNothing) {
+TEST(CString, TakesNullAsAnEmptyText) {
     const CString string(nullptr);
     EXPECT_STREQ(string.getString(), "");
     EXPECT_EQ(string.getNumberOfCharacters(), 1);
     EXPECT_STREQ(CString().getString(), "");
 }
 
-TEST(CString, CopiesTheTextAndStartsUnreferenced) {
+TEST(CString, ACopyHasTheTextButNoReferences) {
     auto *original = new CString("text");
     original->reference();
     const CString copy(*original);
@@ -54,7 +55,7 @@ TEST(CString, CopiesTheTextAndStartsUnreferenced) {
     EXPECT_STREQ(copy.getString(), "text");
 }
 
-TEST(CString, CountsEveryInstanceAndEachBaseCountsItself) {
+TEST(CString, CountsItselfAndItsBase) {
     const CString one("one");
     auto &record = one.getClass();
     auto &base = CCountedObject().getClass();
@@ -72,7 +73,7 @@ TEST(CString, CountsEveryInstanceAndEachBaseCountsItself) {
     EXPECT_TRUE(record.isTypeOf(base));
 }
 
-TEST(CString, IsAssignedTruthInWords) {
+TEST(CString, ABoolIsAssignedAsAWord) {
     CString string;
     string = true;
     EXPECT_STREQ(string.getString(), "True");
@@ -80,7 +81,7 @@ TEST(CString, IsAssignedTruthInWords) {
     EXPECT_STREQ(string.getString(), "False");
 }
 
-TEST(CString, IsAssignedWholeNumbersWithThreeDigits) {
+TEST(CString, AWholeNumberIsAssignedWithThreeDigits) {
     CString string;
     string = 7;
     EXPECT_STREQ(string.getString(), "007");
@@ -98,7 +99,7 @@ TEST(CString, IsAssignedWholeNumbersWithThreeDigits) {
     EXPECT_EQ(string.getString(), std::to_string(LONG_MAX));
 }
 
-TEST(CString, IsAssignedFloatsWithThreePlaces) {
+TEST(CString, AFloatIsAssignedWithThreeDecimals) {
     CString string;
     string = 1.5f;
     EXPECT_STREQ(string.getString(), "1.500");
@@ -108,7 +109,7 @@ TEST(CString, IsAssignedFloatsWithThreePlaces) {
     EXPECT_STREQ(string.getString(), "-340282346638528859811704183484516925440.000");
 }
 
-TEST(CString, IsAssignedTexts) {
+TEST(CString, ATextIsAssigned) {
     CString string;
     string = "text";
     EXPECT_STREQ(string.getString(), "text");
@@ -117,7 +118,7 @@ TEST(CString, IsAssignedTexts) {
     EXPECT_STREQ(string.getString(), "text");
 }
 
-TEST(CString, AssignmentOfAnEqualTextThatIsConstDoesNothing) {
+TEST(CString, AssignmentOfAConstStringDoesNothingIfTheTextsAreEqual) {
     CCutString cut("a.txt");
     CString &string = cut;
     const CString equal("a"), other("b");
@@ -128,7 +129,7 @@ TEST(CString, AssignmentOfAnEqualTextThatIsConstDoesNothing) {
     EXPECT_EQ(string.getNumberOfCharacters(), 2);
 }
 
-TEST(CString, AssignmentOfAChangeableStringDoesNothingForItselfOnly) {
+TEST(CString, AssignmentOfANonConstStringDoesNothingOnlyForItself) {
     CCutString cut("a.txt");
     CString &string = cut;
     string = cut;
@@ -139,7 +140,7 @@ TEST(CString, AssignmentOfAChangeableStringDoesNothingForItselfOnly) {
     EXPECT_EQ(string.getNumberOfCharacters(), 2);
 }
 
-TEST(CString, TakesTextsThatLieInItself) {
+TEST(CString, TakesTextsThatPointIntoItself) {
     CString string("one two");
     string = string.getString() + 4;
     EXPECT_STREQ(string.getString(), "two");
@@ -170,7 +171,7 @@ TEST(CString, ComparesBytes) {
     EXPECT_FALSE(string.equals("text"));
 }
 
-TEST(CString, ComparesWithoutCaseWhenAsked) {
+TEST(CString, ComparesIgnoringCase) {
     const CString string("TeXt"), other("tExT"), longer("texts");
     EXPECT_TRUE(string.equalsIgnoringCase(other));
     EXPECT_TRUE(string.equalsIgnoringCase("TEXT"));
@@ -181,7 +182,7 @@ TEST(CString, ComparesWithoutCaseWhenAsked) {
     EXPECT_FALSE(CString("[").equalsIgnoringCase("{"));
 }
 
-TEST(CString, GivesABlankOutsideItself) {
+TEST(CString, GivesABlankForABadIndex) {
     const CString string("abc");
     EXPECT_EQ(string.characterAt(0), 'a');
     EXPECT_EQ(string[2], 'c');
@@ -203,7 +204,7 @@ TEST(CString, BecomesAPascalStringOf256Bytes) {
     EXPECT_EQ(cut.getString()[255], 0);
 }
 
-TEST(CString, StoresWhatAFormatWrites) {
+TEST(CString, StoresFormattedText) {
     CString string("old");
     string.setStringWithFormat("%s = %.3li, %c", "name", 7L, 'x');
     EXPECT_STREQ(string.getString(), "name = 007, x");
@@ -233,7 +234,7 @@ TEST(CString, Appends) {
     EXPECT_STREQ(string.getString(), "one two three!??");
 }
 
-TEST(CString, AppendKeepsTheExcessOfABlock) {
+TEST(CString, AppendingKeepsTheSpareBytesOfABlock) {
     CCutString string("a.txt");
     string.appendString("bc");
     EXPECT_STREQ(string.getString(), "abc");
@@ -243,7 +244,7 @@ TEST(CString, AppendKeepsTheExcessOfABlock) {
     EXPECT_EQ(string.findForward('t'), -1);
 }
 
-TEST(CString, GivesAPointersSizeToABufferWithoutSize) {
+TEST(CString, CopiesSevenCharactersToABufferOfUnknownSize) {
     char buffer[16];
     std::memset(buffer, '#', sizeof buffer);
     CString("0123456789").getString(buffer);
@@ -256,7 +257,7 @@ TEST(CString, GivesAPointersSizeToABufferWithoutSize) {
     CString("ab").getString(nullptr);
 }
 
-TEST(CString, FillsABufferOfGivenSize) {
+TEST(CString, FillsABufferOfKnownSize) {
     const CString string("abcd");
     char buffer[8];
     const auto filled = [&](long size) {
@@ -281,7 +282,7 @@ TEST(CString, DescribesItselfByItsText) {
     EXPECT_STREQ(buffer, "abc");
 }
 
-TEST(CString, GivesSubStringsWithTheEndIncluded) {
+TEST(CString, SubStringsIncludeTheirEnd) {
     const CString string("abcd");
     EXPECT_STREQ(string.getSubString(0, 2).getString(), "abc");
     EXPECT_STREQ(string.getSubString(1, 2).getString(), "bc");
@@ -294,7 +295,7 @@ TEST(CString, GivesSubStringsWithTheEndIncluded) {
     EXPECT_STREQ(string.getSubString(4, 5).getString(), "");
 }
 
-TEST(CString, GivesNoSubStringOfOneCharacterOrOutsideItself) {
+TEST(CString, SubStringsWithBadOrEqualIndicesAreEmpty) {
     const CString string("abcd");
     EXPECT_STREQ(string.getSubString(3, 3).getString(), "");
     EXPECT_STREQ(string.getSubString(0, 0).getString(), "");
@@ -333,7 +334,7 @@ TEST(CString, RemovesLeadingWhiteSpace) {
     EXPECT_EQ(without(" a").getNumberOfCharacters(), 2);
 }
 
-TEST(CString, RemovesTrailingWhiteSpaceWithItsTwoOddEnds) {
+TEST(CString, RemovesTrailingWhiteSpaceButKeepsBlanksAloneAndLosesASingleLetter) {
     const auto without = [](const char *text) {
         CString string(text);
         string.removeTrailingWhiteSpace();
@@ -349,11 +350,11 @@ TEST(CString, RemovesTrailingWhiteSpaceWithItsTwoOddEnds) {
     EXPECT_STREQ(without("").getString(), "");
 }
 
-TEST(CString, RemovesWhiteSpaceAtTheFrontFirst) {
+TEST(CString, RemovesLeadingWhiteSpaceBeforeTrailing) {
     CString string("  abc  ");
     string.removeTrailingAndLeadingWhiteSpace();
     EXPECT_STREQ(string.getString(), "abc");
-    // Were the end done first, " a" would be left to the front, and the letter kept.
+    // In the other order the letter would be kept.
     string = " a ";
     string.removeTrailingAndLeadingWhiteSpace();
     EXPECT_STREQ(string.getString(), "");
@@ -370,7 +371,7 @@ TEST(CString, RemovesItsLastCharacter) {
     EXPECT_EQ(string.getNumberOfCharacters(), 1);
 }
 
-TEST(CString, RemovalOfTheLastCharacterOfABlockWithExcessOnlyTrimsTheBlock) {
+TEST(CString, RemovingTheLastCharacterOfABlockWithSpareBytesOnlyTrimsTheBlock) {
     CCutString string("ab.txt");
     string.removeLastCharacter();
     EXPECT_STREQ(string.getString(), "ab");
@@ -390,7 +391,7 @@ TEST(CString, ReplacesCharactersInPlace) {
     EXPECT_EQ(string.getNumberOfCharacters(), 7);
 }
 
-TEST(CString, ReplacesCharactersBehindATerminatorToo) {
+TEST(CString, ReplacesCharactersAfterATerminatorToo) {
     CCutString string("a.txt");
     string.replaceCharWithChar('\0', '-');
     EXPECT_STREQ(string.getString(), "a-txt");
@@ -418,8 +419,8 @@ TEST(CString, ReplacesStringsWithACharacter) {
     EXPECT_EQ(replaced("ab&lt;", '<', "&lt;"), "ab<");
     EXPECT_EQ(replaced("&lt;ab", '<', "&lt;"), "<ab");
     EXPECT_EQ(replaced("&lt;", '<', "&lt;"), "<");
-    EXPECT_EQ(replaced("&lt;&lt;", '<', "&lt;"), "<") << "a character alone in front is lost";
-    EXPECT_EQ(replaced("axbxc", '-', "x"), "-b-c") << "a character alone in front is lost";
+    EXPECT_EQ(replaced("&lt;&lt;", '<', "&lt;"), "<") << "a single character in front is lost";
+    EXPECT_EQ(replaced("axbxc", '-', "x"), "-b-c") << "a single character in front is lost";
     EXPECT_EQ(replaced("abc", '<', "&lt;"), "abc");
     EXPECT_EQ(replaced("&amp;amp;", '&', "&amp;"), "&");
     EXPECT_EQ(replaced("b&gt;&lt;", '<', "&lt;"), "b&gt;&lt;") << "only the first '&' is tried";
@@ -449,7 +450,7 @@ TEST(CString, FindsCharactersUpToTheTerminator) {
     EXPECT_EQ(string.findBackwards('\0'), 4);
 }
 
-TEST(CString, FindsASubStringOnlyAtTheFirstPlaceOfItsFirstCharacter) {
+TEST(CString, FindsASubStringOnlyWhereItsFirstCharacterFirstOccurs) {
     const CString string("one two");
     EXPECT_EQ(string.findSubString("one"), 0);
     EXPECT_EQ(string.findSubString("two"), 4);
@@ -474,7 +475,7 @@ TEST(CString, KnowsWhiteSpace) {
     EXPECT_FALSE(CString("").isWhiteSpace());
 }
 
-TEST(CString, MakesTextsOfNumbers) {
+TEST(CString, ConvertsNumbersToText) {
     EXPECT_STREQ(CString::toString(1.5).getString(), "1.500");
     EXPECT_STREQ(CString::toString(-2.25f).getString(), "-2.250");
     EXPECT_STREQ(CString::toString(7).getString(), "007");
@@ -488,7 +489,7 @@ TEST(CString, MakesTextsOfNumbers) {
     EXPECT_EQ(longest.getSubString(309, 314), "8.000");
 }
 
-TEST(CString, ReadsNumbersFromTexts) {
+TEST(CString, ConvertsTextToNumbers) {
     EXPECT_EQ(CString::toDouble(" -1.25x"), -1.25);
     EXPECT_EQ(CString::toDouble(CString("1e3")), 1000.0);
     EXPECT_EQ(CString::toDouble("none"), 0.0);
@@ -501,7 +502,7 @@ TEST(CString, ReadsNumbersFromTexts) {
     EXPECT_EQ(CString::toInt(CString("-2147483648")), INT_MIN);
 }
 
-TEST(CString, ReadsNumbersBeyondTheirTypeAsTheNearest) {
+TEST(CString, NumbersOutsideTheRangeOfTheirTypeBecomeTheNearest) {
     EXPECT_EQ(CString::toInt("2147483648"), INT_MAX);
     EXPECT_EQ(CString::toInt("-99999999999999999999"), INT_MIN);
     EXPECT_EQ(CString::toLong("99999999999999999999"), LONG_MAX);

@@ -55,7 +55,7 @@ TEST(CSystemString, CountsItselfAndItsBase) {
     EXPECT_TRUE(one.getClass().isTypeOf(base.getClass()));
 }
 
-TEST(CSystemString, IsMadeOfTextsStringsAndPaths) {
+TEST(CSystemString, IsBuiltFromTextsStringsAndPaths) {
     EXPECT_STREQ(CSystemString().getString(), "");
     EXPECT_STREQ(CSystemString(nullptr).getString(), "");
     EXPECT_STREQ(CSystemString(CString("text")).getString(), "text");
@@ -65,7 +65,7 @@ TEST(CSystemString, IsMadeOfTextsStringsAndPaths) {
     EXPECT_NE(copy->getString(), original.getString());
 }
 
-TEST(CSystemString, IsAssigned) {
+TEST(CSystemString, TextsPathsStringsAndNumbersAreAssigned) {
     CSystemString string;
     CSystemString &returned = (string = "text");
     EXPECT_EQ(&returned, &string);
@@ -78,7 +78,7 @@ TEST(CSystemString, IsAssigned) {
     EXPECT_STREQ(string.getString(), "007");
 }
 
-TEST(CSystemString, AssignmentDoesNothingForItselfOnly) {
+TEST(CSystemString, AssignmentDoesNothingOnlyForItself) {
     CSystemString string("a.txt"), same("a");
     const CSystemString &itself = string;
     string.removeExtension();
@@ -104,7 +104,7 @@ TEST(CSystemString, ComparesBytes) {
     EXPECT_EQ(string[9], ' ');
 }
 
-TEST(CSystemString, JoinsWithASeparatorEvenBehindASeparator) {
+TEST(CSystemString, JoinsWithASeparatorEvenAfterASeparator) {
     CSystemString string = path("dir");
     EXPECT_EQ(&(string += "sub"), &string);
     EXPECT_EQ(string.getString(), native("dir/sub"));
@@ -117,7 +117,7 @@ TEST(CSystemString, JoinsWithASeparatorEvenBehindASeparator) {
     EXPECT_EQ(string.getString(), native("dir//sub/dir//sub"));
 }
 
-TEST(CSystemString, JoinsWithASeparatorThroughItsBaseToo) {
+TEST(CSystemString, JoinsWithASeparatorThroughItsBaseClassToo) {
     CSystemString string("dir");
     CString &base = string;
     base += "sub";
@@ -147,7 +147,7 @@ TEST(CSystemString, AppendsTheSeparator) {
     EXPECT_EQ(after("dir/", &CSystemString::appendSeparator), native("dir//"));
 }
 
-TEST(CSystemString, HasTheExtensionItEndsWith) {
+TEST(CSystemString, HasTheExtensionThatItEndsWith) {
     const CSystemString string("name.txt");
     EXPECT_TRUE(string.hasExtension(".txt"));
     EXPECT_TRUE(string.hasExtension("txt"));
@@ -158,7 +158,7 @@ TEST(CSystemString, HasTheExtensionItEndsWith) {
     EXPECT_FALSE(string.hasExtension(CString("x.txt")));
 }
 
-TEST(CSystemString, HasAnyExtensionThatIsEmptyOrLongerThanIt) {
+TEST(CSystemString, HasEveryExtensionThatIsEmptyOrLongerThanItself) {
     EXPECT_TRUE(CSystemString("abc").hasExtension(".txt"));
     EXPECT_TRUE(CSystemString("").hasExtension("x"));
     EXPECT_TRUE(CSystemString("abc").hasExtension(""));
@@ -166,7 +166,7 @@ TEST(CSystemString, HasAnyExtensionThatIsEmptyOrLongerThanIt) {
     EXPECT_FALSE(CSystemString("abcd").hasExtension(".txt"));
 }
 
-TEST(CSystemString, HasAnExtensionIfADotStandsBehindItsFirstCharacter) {
+TEST(CSystemString, HasAnExtensionIfThereIsADotAfterItsFirstCharacter) {
     const auto has = [](const char *text) {
         const CSystemString string(text);
         EXPECT_NE(string.hasExtension(), string.hasNoExtension()) << text;
@@ -180,7 +180,7 @@ TEST(CSystemString, HasAnExtensionIfADotStandsBehindItsFirstCharacter) {
     EXPECT_FALSE(has(""));
 }
 
-TEST(CSystemString, TakesANewExtensionBehindOrInPlaceOfTheOld) {
+TEST(CSystemString, AddsANewExtensionOrReplacesTheOldOne) {
     const auto renamed = [](const char *text, bool removeOld) {
         CSystemString string(text), same(text);
         string.setNewExtension("wav", removeOld);
@@ -197,11 +197,11 @@ TEST(CSystemString, TakesANewExtensionBehindOrInPlaceOfTheOld) {
     EXPECT_EQ(renamed("", true), ".wav");
 }
 
-TEST(CSystemString, ANewExtensionMayLieInTheOldOne) {
+TEST(CSystemString, ANewExtensionMayPointIntoTheOldOne) {
     CSystemString string("a.txt");
     string.setNewExtension(string.getString() + 3, true);
     EXPECT_STREQ(string.getString(), "a.xt");
-    EXPECT_EQ(string.getNumberOfCharacters(), 9) << "the block's excess is kept";
+    EXPECT_EQ(string.getNumberOfCharacters(), 9) << "the spare bytes of the block are kept";
 }
 
 TEST(CSystemString, RemovesItsExtensionAndKeepsTheNumberOfCharacters) {
@@ -264,7 +264,7 @@ TEST(CSystemString, CountsPathSections) {
     EXPECT_EQ(path("").getNumberOfPathSections(), 0);
 }
 
-TEST(CSystemString, GivesPathSectionsAndASeparatorBehindTheFirst) {
+TEST(CSystemString, GivesPathSectionsWithASeparatorAfterTheFirst) {
     const auto section = [](const std::string &slashed, long index) {
         const std::unique_ptr<CString> found(path(slashed).getPathSection(index));
         return found == nullptr ? std::string("null") : found->getString();
@@ -289,7 +289,7 @@ TEST(CSystemString, GivesItsLastPathSection) {
     EXPECT_EQ(path("").getLastPathSection(), "");
 }
 
-TEST(CSystemString, SplitsALongPathAsThoughItEndedAfter2047Bytes) {
+TEST(CSystemString, SplitsALongPathAsIfItEndedAfter2047Bytes) {
     const std::string folder(2040, 'f');
     EXPECT_EQ(path(folder + "/123456789").getLastPathSection(), "123456");
     EXPECT_EQ(path(folder + "/12345/789").getNumberOfPathSections(), 2);

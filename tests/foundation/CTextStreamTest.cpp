@@ -64,7 +64,7 @@ TEST_F(CTextStreamFile, OpensForOneDirection) {
     EXPECT_TRUE(stream.isEndOfFile());
 }
 
-TEST_F(CTextStreamFile, TellsWhenAFileCannotBeOpened) {
+TEST_F(CTextStreamFile, ReturnsFalseIfAFileCannotBeOpened) {
     CTextStream stream(path, EStreamMode::Read);
     EXPECT_FALSE(stream.isOpenForReading());
     EXPECT_FALSE(stream.open((folder / "none" / "text.txt").string().c_str(), EStreamMode::Write));
@@ -72,13 +72,13 @@ TEST_F(CTextStreamFile, TellsWhenAFileCannotBeOpened) {
     EXPECT_TRUE(stream.open(path, EStreamMode::Write));
 }
 
-TEST_F(CTextStreamFile, AFolderIsNoFile) {
+TEST_F(CTextStreamFile, DoesNotOpenAFolder) {
     CTextStream stream;
     EXPECT_FALSE(stream.open(folder.path().string().c_str(), EStreamMode::Read));
     EXPECT_FALSE(stream.open(folder.path().string().c_str(), EStreamMode::Write));
 }
 
-TEST_F(CTextStreamFile, OpeningClosesWhatIsOpen) {
+TEST_F(CTextStreamFile, OpeningClosesTheOpenFile) {
     CTextStream stream(path, EStreamMode::Write);
     stream << CString("text");
     EXPECT_FALSE(stream.open((folder / "none").string().c_str(), EStreamMode::Read));
@@ -86,7 +86,7 @@ TEST_F(CTextStreamFile, OpeningClosesWhatIsOpen) {
     EXPECT_EQ(read(), "text");
 }
 
-TEST_F(CTextStreamFile, WritingEmptiesTheFileFirst) {
+TEST_F(CTextStreamFile, OpeningForWritingEmptiesTheFile) {
     write("old and long");
     CTextStream(path, EStreamMode::Write) << "new";
     EXPECT_EQ(read(), "new");
@@ -106,7 +106,7 @@ TEST_F(CTextStreamFile, IgnoresANullText) {
     EXPECT_EQ(read(), "text");
 }
 
-TEST_F(CTextStreamFile, CutsADescriptionToItsBuffer) {
+TEST_F(CTextStreamFile, CutsTheDescriptionOfAStringTo255Bytes) {
     const CString text(std::string(300, 'w').c_str());
     CTextStream(path, EStreamMode::Write) << static_cast<const ICountedObject &>(text);
     EXPECT_EQ(read(), std::string(255, 'w'));
@@ -122,7 +122,7 @@ TEST_F(CTextStreamFile, WritesADescriptionThatFillsItsBufferWithoutATerminator) 
     EXPECT_EQ(read(), std::string(256, 'f'));
 }
 
-TEST_F(CTextStreamFile, PlainTextIsFlushedAndTheRestOnRequest) {
+TEST_F(CTextStreamFile, OnlyCharacterArraysAreFlushedAtOnce) {
     CTextStream stream(path, EStreamMode::Write);
     stream << "now";
     EXPECT_EQ(read(), "now");
@@ -160,7 +160,7 @@ TEST_F(CTextStreamFile, ReadsLineByLine) {
     EXPECT_EQ(line(stream), "four");
 }
 
-TEST_F(CTextStreamFile, RemovesOneCarriageReturnAtTheEndOnly) {
+TEST_F(CTextStreamFile, RemovesOneCarriageReturnAtTheEndOfALine) {
     write("a\rb\r\r\n\r\n");
     CTextStream stream(path, EStreamMode::Read);
     EXPECT_EQ(line(stream), "a\rb\r");
@@ -193,7 +193,7 @@ TEST_F(CTextStreamFile, ALineOf2047BytesFits) {
     EXPECT_FALSE(stream.hasFailed());
 }
 
-TEST_F(CTextStreamFile, ALastLineOf2047BytesNeedsNoEnd) {
+TEST_F(CTextStreamFile, ALastLineOf2047BytesNeedsNoLineFeed) {
     const std::string longest(2047, 'x');
     write(longest);
     CTextStream stream(path, EStreamMode::Read);
@@ -202,7 +202,7 @@ TEST_F(CTextStreamFile, ALastLineOf2047BytesNeedsNoEnd) {
     EXPECT_FALSE(stream.hasFailed());
 }
 
-TEST_F(CTextStreamFile, ACarriageReturnTakesAPlaceInTheLine) {
+TEST_F(CTextStreamFile, ACarriageReturnCountsInTheLengthOfALine) {
     const std::string fits(2046, 'x'), tooLong(2047, 'x');
     write(fits + "\r\nnext");
     CTextStream stream(path, EStreamMode::Read);
@@ -216,7 +216,7 @@ TEST_F(CTextStreamFile, ACarriageReturnTakesAPlaceInTheLine) {
 
 class CTextStreamLongLine : public CTextStreamFile, public testing::WithParamInterface<int> {};
 
-TEST_P(CTextStreamLongLine, FailsTheStreamWhichRepeatsItself) {
+TEST_P(CTextStreamLongLine, FailsTheStreamAndIsReadAgain) {
     write(std::string(std::size_t(GetParam()), 'x') + "\nnext\n");
     CTextStream stream(path, EStreamMode::Read);
     EXPECT_EQ(line(stream), std::string(2047, 'x'));
@@ -256,7 +256,7 @@ TEST_F(CTextStreamFile, ReadsNumbers) {
     EXPECT_TRUE(stream.hasFailed());
 }
 
-TEST_F(CTextStreamFile, ReadsEmptyStringAsALineIfItFailedBeforeTheFirst) {
+TEST_F(CTextStreamFile, GivesEmptyStringIfItFailsBeforeTheFirstLine) {
     write("none\nline\n");
     CTextStream stream(path, EStreamMode::Read);
     int number = 7;

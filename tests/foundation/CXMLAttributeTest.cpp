@@ -23,11 +23,11 @@ std::string textOf(const Value &value) {
     return CXMLAttribute("name", value).getValue().getString();
 }
 
-TEST(CXMLAttribute, ItsNameHasNoBlanks) {
+TEST(CXMLAttribute, ANameHasNoBlanks) {
     EXPECT_EQ(nameOf("gain"), "gain");
     EXPECT_EQ(nameOf("two words"), "two_words");
     EXPECT_EQ(nameOf(" \t two  words \n"), "two__words");
-    EXPECT_EQ(nameOf("a\tb"), "a\tb") << "a tab is no blank";
+    EXPECT_EQ(nameOf("a\tb"), "a\tb") << "a tab is not a blank";
     EXPECT_EQ(nameOf(""), "");
 }
 
@@ -37,7 +37,7 @@ TEST(CXMLAttribute, ANameOfOneLetterIsLost) {
     EXPECT_EQ(nameOf("xy"), "xy");
 }
 
-TEST(CXMLAttribute, EveryKindOfValueIsText) {
+TEST(CXMLAttribute, EveryKindOfValueBecomesText) {
     EXPECT_EQ(textOf(CString(" any text ")), " any text ");
     EXPECT_EQ(textOf("literal"), "literal");
     EXPECT_EQ(textOf(true), "True");
@@ -53,7 +53,7 @@ TEST(CXMLAttribute, EveryKindOfValueIsText) {
     EXPECT_EQ(textOf(static_cast<const char *>(nullptr)), "");
 }
 
-TEST(CXMLAttribute, EveryKindOfValueComesBack) {
+TEST(CXMLAttribute, EveryKindOfValueIsReadBack) {
     CXMLAttribute attribute("name", 0.25);
     EXPECT_EQ(attribute.getValueAsDouble(), 0.25);
     attribute.setValue(-1.5f);
@@ -76,7 +76,7 @@ double numberIn(const std::string &text) {
     return CXMLAttribute("name", text.c_str()).getValueAsDouble();
 }
 
-TEST(CXMLAttribute, ReadsNumbersAsFarAsTheyGo) {
+TEST(CXMLAttribute, ReadsTheNumberAtTheStartOfAText) {
     EXPECT_EQ(numberIn("1.5 dB"), 1.5);
     EXPECT_EQ(numberIn(" \t\n+2.5e1"), 25);
     EXPECT_EQ(numberIn("+-2"), 0);
@@ -119,7 +119,7 @@ TEST(CXMLAttribute, TextAfterANumberBeyondTheRangeDoesNotChangeIt) {
         EXPECT_EQ(numberIn("0." + zeros + "1" + rest), 0) << rest;
 }
 
-TEST(CXMLAttribute, IsTrueForOneTextOnly) {
+TEST(CXMLAttribute, IsTrueOnlyForTheWordTrue) {
     for (const char *text : {"true", "TRUE", "1", " True", "True ", ""})
         EXPECT_FALSE(CXMLAttribute("name", text).getValueAsBool()) << text;
 }

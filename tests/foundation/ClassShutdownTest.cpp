@@ -1,4 +1,4 @@
-// A program of its own: it takes the class manager away, which every other test needs.
+// A program of its own: it destroys the class manager, which every other test needs.
 #include "CTemporaryFolder.h"
 #include "foundation/CClass.h"
 #include "foundation/ReadFile.h"
@@ -11,7 +11,7 @@ using Tessitor::Basics::CClass;
 
 namespace {
 
-/// How many managers there are: each owns one collection of records.
+/// The number of managers: each owns one collection of records.
 std::uint32_t countManagers() {
     const Tessitor::Collections::TPointerCollection<CClass> probe(nullptr);
     return probe.getClass().getInstanceCount() - 1;
@@ -48,7 +48,7 @@ TEST(ClassShutdown, ALaterRecordMakesANewManager) {
     EXPECT_EQ(countManagers(), 1u);
 }
 
-TEST(ClassShutdown, TheLastRecordTakesTheManagerAlong) {
+TEST(ClassShutdown, TheLastRecordDestroysTheManager) {
     CClass::destroyClassManager(nullptr);
     {
         const CClass first("CFirst");
@@ -58,13 +58,13 @@ TEST(ClassShutdown, TheLastRecordTakesTheManagerAlong) {
     EXPECT_EQ(countManagers(), 0u);
 }
 
-TEST(ClassShutdown, ALaterNamelessRecordMakesOneAsWell) {
+TEST(ClassShutdown, ALaterRecordWithoutANameMakesANewManagerToo) {
     CClass::destroyClassManager(nullptr);
     const CClass record;
     EXPECT_EQ(countManagers(), 1u);
 }
 
-TEST(ClassShutdown, WithoutAManagerARecordKnowsItselfOnly) {
+TEST(ClassShutdown, WithoutAManagerARecordIsOnlyItsOwnType) {
     const CClass parent("CParent"), child("CChild", "CParent");
     EXPECT_TRUE(child.isTypeOf(parent));
     CClass::destroyClassManager(nullptr);
@@ -91,7 +91,7 @@ TEST(ClassShutdown, WithAPathWritesTheSortedReport) {
     EXPECT_EQ(report.find("CIdle"), std::string::npos);
 }
 
-TEST(ClassShutdown, APathThatCannotBeWrittenIsNoFailure) {
+TEST(ClassShutdown, IgnoresAReportPathThatCannotBeWritten) {
     const CClass record("CAnyone");
     const CTemporaryFolder folder;
     CClass::destroyClassManager((folder / "missing" / "report.txt").string().c_str());

@@ -33,7 +33,7 @@ SReport caughtFrom(Operation operation) {
     return {"nothing thrown", ""};
 }
 
-TEST(ExceptionFence, HandsTheResultThrough) {
+TEST(ExceptionFence, ReturnsTheResultOfTheOperation) {
     EXPECT_EQ(fenced(outer, [] { return 7; }), 7);
     int number = 1;
     static_assert(
@@ -43,7 +43,7 @@ TEST(ExceptionFence, HandsTheResultThrough) {
     EXPECT_EQ(number, 3);
 }
 
-TEST(ExceptionFence, PutsTheLeadTextOnTopOfACaughtException) {
+TEST(ExceptionFence, PutsTheLeadTextBeforeACaughtException) {
     const SReport report = caughtFrom([] {
         fenced(outer, [] { throw CException("The key is lost", "CPocket::find()", true); });
     });
@@ -52,7 +52,7 @@ TEST(ExceptionFence, PutsTheLeadTextOnTopOfACaughtException) {
     EXPECT_EQ(report.function, "CDoor::open()");
 }
 
-TEST(ExceptionFence, LetsThroughWhatItHasNoMemoryToReport) {
+TEST(ExceptionFence, LetsAFailureThroughIfThereIsNoMemoryToReportIt) {
     bool isOutOfMemory = false;
     try {
         const CFailingAllocation failing(0, 1'000'000);
@@ -63,7 +63,7 @@ TEST(ExceptionFence, LetsThroughWhatItHasNoMemoryToReport) {
     EXPECT_TRUE(isOutOfMemory);
 }
 
-TEST(ExceptionFence, AChainReadsFromTheOutermostDown) {
+TEST(ExceptionFence, AChainReadsFromTheOutermostOperationDown) {
     const SReport report = caughtFrom([] {
         fenced(outer, [] {
             fenced(inner, [] { throw CException("The key is lost", "CPocket::find()", true); });
@@ -75,7 +75,7 @@ TEST(ExceptionFence, AChainReadsFromTheOutermostDown) {
     EXPECT_EQ(report.function, "CDoor::open()");
 }
 
-TEST(ExceptionFence, MakesAnythingElseUnknown) {
+TEST(ExceptionFence, ReportsAnyOtherExceptionAsUnknown) {
     const SReport standard = caughtFrom([] { fenced(outer, [] { throw std::bad_alloc(); }); });
     EXPECT_EQ(standard.reason, "Caught unknown exception during opening");
     EXPECT_EQ(standard.function, "CDoor::open()");
@@ -83,7 +83,7 @@ TEST(ExceptionFence, MakesAnythingElseUnknown) {
     EXPECT_EQ(number.reason, "Caught unknown exception during turning");
 }
 
-TEST(ExceptionFence, TheCatchByValueIsSeenInTheRecord) {
+TEST(ExceptionFence, TheCopyOfACatchByValueShowsInTheRecord) {
     const CException witness("", "", true);
     const auto instances = witness.getClass().getInstanceCount();
     caughtFrom([] { fenced(outer, [] { throw CException("", "", true); }); });

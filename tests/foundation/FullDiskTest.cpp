@@ -1,4 +1,4 @@
-// What the streams say of a file that takes nothing more.
+// How the streams report a full disk.
 #include "foundation/CFileStream.h"
 #include "foundation/CTextStream.h"
 #include "foundation/CXMLDocument.h"
@@ -13,7 +13,7 @@ namespace {
 
 constexpr char fullDisk[] = "/dev/full";
 
-TEST(FullDisk, FailsATextStreamOnceItIsFlushed) {
+TEST(FullDisk, FailsATextStreamWhenItIsFlushed) {
     CTextStream stream(fullDisk, EStreamMode::Write);
     ASSERT_TRUE(stream.isOpenForWriting());
     stream << Tessitor::Basics::CString("held back");
@@ -24,7 +24,7 @@ TEST(FullDisk, FailsATextStreamOnceItIsFlushed) {
     EXPECT_FALSE(stream.isEndOfFile());
 }
 
-TEST(FullDisk, FailsABinaryStreamAtTheLatestWhenItIsClosed) {
+TEST(FullDisk, FailsABinaryStreamWhenItIsClosed) {
     CFileStream stream(fullDisk, EStreamMode::Write);
     ASSERT_TRUE(stream.isOpen());
     stream << 'x';
@@ -35,7 +35,7 @@ TEST(FullDisk, FailsABinaryStreamAtTheLatestWhenItIsClosed) {
     EXPECT_FALSE(stream.hasFailed());
 }
 
-TEST(FullDisk, RefusesMoreThanTheBufferHolds) {
+TEST(FullDisk, RejectsMoreBytesThanTheBufferHolds) {
     CFileStream stream(fullDisk, EStreamMode::Write);
     const std::string bytes(1 << 20, 'x');
     EXPECT_FALSE(stream.write(bytes.data(), bytes.size()));

@@ -2,7 +2,7 @@
 
 #include "foundation/CCountedObject.h"
 
-/// Says when it dies.
+/// Sets a flag when it is destroyed.
 class CWatchedObject : public Tessitor::Basics::CCountedObject {
 public:
     explicit CWatchedObject(bool &destroyed) : m_destroyed(destroyed) {

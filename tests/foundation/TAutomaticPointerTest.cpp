@@ -18,7 +18,7 @@ TEST(TAutomaticPointer, IsEmptyAtFirst) {
     EXPECT_EQ(pointer.getPointer(), nullptr);
 }
 
-TEST(TAutomaticPointer, DeletesWithoutADeleter) {
+TEST(TAutomaticPointer, DeletesItsObjectWithoutADeleter) {
     bool first = false, second = false;
     {
         TAutomaticPointer<CWatchedObject> pointer;
@@ -43,7 +43,7 @@ TEST(TAutomaticPointer, HoldsAReferenceThroughACountingDeleter) {
     EXPECT_EQ(pointer.getPointer(), nullptr);
 }
 
-TEST(TAutomaticPointer, KeepsTheObjectThatItIsGivenAgain) {
+TEST(TAutomaticPointer, KeepsAnObjectThatItIsGivenTwice) {
     bool destroyed = false;
     auto *object = new CWatchedObject(destroyed);
     TAutomaticPointer<CWatchedObject> pointer(

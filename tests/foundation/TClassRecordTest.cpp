@@ -20,11 +20,11 @@ private:
     static TClassRecord<CEarly> s_class;
 };
 
-// Within one file the order is certain: these are built before the record and destroyed after it.
+// Within one file the order is fixed: these are built before the record and destroyed after it.
 const CEarly first, second;
 TClassRecord<CEarly> CEarly::s_class("CEarly", "CCountedObject");
 
-TEST(TClassRecord, CountsTheInstancesThatComeBeforeIt) {
+TEST(TClassRecord, CountsInstancesThatWereBuiltBeforeIt) {
     const CClass &record = first.getClass();
     EXPECT_EQ(record.getInstanceCount(), 2u);
     EXPECT_EQ(record.getTotalCount(), 2u);
@@ -47,7 +47,7 @@ TEST(TClassRecord, KnowsItsNameAndItsAncestors) {
     EXPECT_TRUE(first.getClass().isTypeOf(CCountedObject().getClass()));
 }
 
-TEST(TClassRecord, EachClassHasOneOfItsOwn) {
+TEST(TClassRecord, EachClassHasItsOwn) {
     EXPECT_NE(&first.getClass(), &CCountedObject().getClass());
     EXPECT_EQ(&first.getClass(), &second.getClass());
 }

@@ -27,7 +27,7 @@ protected:
     TPointerCollection<CCountedObject> list{nullptr};
 };
 
-/// Writes down what it is asked.
+/// Notes each call.
 class CDiary : public TPointerDeleter<CCountedObject> {
 public:
     explicit CDiary(const std::vector<CCountedObject> &objects) : m_objects(objects) {}
@@ -108,18 +108,18 @@ TEST_F(TPointerCollectionList, FindsByAddress) {
     EXPECT_FALSE(list.isPointerInArray(&objects[7]));
 }
 
-TEST_F(TPointerCollectionList, TakesNullAsAnElement) {
+TEST_F(TPointerCollectionList, NullCanBeAnElement) {
     list.addElement(nullptr);
     EXPECT_EQ(list.getInsertIndex(), 1);
 }
 
-TEST_F(TPointerCollectionList, GrowsByItsOwnStep) {
+TEST_F(TPointerCollectionList, GrowsByTheGivenStep) {
     list.setGrowSize(3);
     add(4);
     EXPECT_EQ(list.getArraySize(), 6);
 }
 
-TEST_F(TPointerCollectionList, GrowsEvenByAStepBelowOne) {
+TEST_F(TPointerCollectionList, GrowsByOneIfTheStepIsBelowOne) {
     list.setGrowSize(0);
     add(2);
     list.setGrowSize(-5);
@@ -155,7 +155,7 @@ TEST_F(TPointerCollectionList, ShrinkingKeepsTheFilledSlotsOnly) {
     EXPECT_EQ(list.elementAtIndex(4), &objects[9]);
 }
 
-TEST_F(TPointerCollectionList, ShrinkingAFullArrayLeavesItAsItIs) {
+TEST_F(TPointerCollectionList, ShrinkingAFullArrayChangesNothing) {
     add(32);
     list.compactArray(true);
     EXPECT_EQ(list.getArraySize(), 32);
@@ -163,7 +163,7 @@ TEST_F(TPointerCollectionList, ShrinkingAFullArrayLeavesItAsItIs) {
     EXPECT_EQ(list.elementAtIndex(31), &objects[31]);
 }
 
-TEST_F(TPointerCollectionList, ShrinkingToNothingStartsAnew) {
+TEST_F(TPointerCollectionList, ShrinkingAnEmptiedArrayFreesEverySlot) {
     add(2);
     list.deletePointerAtIndex(0);
     list.deletePointerAtIndex(1);
@@ -175,7 +175,7 @@ TEST_F(TPointerCollectionList, ShrinkingToNothingStartsAnew) {
     EXPECT_EQ(list.elementAtIndex(0), &objects[0]);
 }
 
-TEST_F(TPointerCollectionList, CompactingNothingDoesNothing) {
+TEST_F(TPointerCollectionList, CompactingAnEmptyArrayDoesNothing) {
     list.compactArray(false);
     list.compactArray(true);
     EXPECT_EQ(list.getArraySize(), 0);
@@ -190,7 +190,7 @@ TEST_F(TPointerCollectionList, ClearingFreesTheSlots) {
     EXPECT_EQ(list.elementAtIndex(0), nullptr);
 }
 
-TEST_F(TPointerCollectionList, ReinitialisingLeavesOneGrowth) {
+TEST_F(TPointerCollectionList, ReinitialisingLeavesOneStepOfEmptySlots) {
     add(40);
     list.clearAndReinitialise();
     EXPECT_EQ(list.getArraySize(), 32);
@@ -198,7 +198,7 @@ TEST_F(TPointerCollectionList, ReinitialisingLeavesOneGrowth) {
     EXPECT_EQ(list.elementAtIndex(0), nullptr);
 }
 
-TEST_F(TPointerCollectionList, TellsTheDeleterWhatComesAndGoes) {
+TEST_F(TPointerCollectionList, TellsTheDeleterOfEveryElementAddedOrRemoved) {
     CDiary diary(objects);
     {
         TPointerCollection<CCountedObject> watched(&diary);
@@ -207,7 +207,7 @@ TEST_F(TPointerCollectionList, TellsTheDeleterWhatComesAndGoes) {
         watched.addElement(&objects[2]);
         watched.addElement(&objects[3]);
         watched.deletePointerAtIndex(2);
-        watched.deletePointerAtIndex(2);  // a hole already
+        watched.deletePointerAtIndex(2);  // empty already
     }
     EXPECT_EQ(diary.text, "+4+null+2+3-2-4-3");
 }
@@ -233,7 +233,7 @@ TEST_F(TPointerCollectionList, SortsTheEmptySlotsToo) {
     EXPECT_EQ(list.elementAtIndex(3), nullptr);
 }
 
-/// Takes itself out of the list when it dies, as a listener does.
+/// Removes itself from the list when it is destroyed, as a listener does.
 class CLeaver : public CCountedObject {
 public:
     explicit CLeaver(TPointerCollection<CCountedObject> &list) : m_list(list) {}
@@ -243,7 +243,7 @@ private:
     TPointerCollection<CCountedObject> &m_list;
 };
 
-TEST(TPointerCollection, WhatIsDeletedMayTakeItselfOut) {
+TEST(TPointerCollection, ADeletedElementMayRemoveItself) {
     TPointerCollection<CCountedObject> list;
     list.addElement(new CLeaver(list));
     list.addElement(new CLeaver(list));

@@ -15,7 +15,7 @@ template class Tessitor::Collections::TCountedObjectDeleter<CWatchedObject>;
 
 namespace {
 
-TEST(TObjectDeleter, DeletesWhatIsLetGo) {
+TEST(TObjectDeleter, DeletesAReleasedObject) {
     TObjectDeleter<CWatchedObject> deleter;
     bool destroyed = false;
     auto *object = new CWatchedObject(destroyed);
@@ -35,7 +35,7 @@ TEST(TObjectNuller, LeavesObjectsAlone) {
     EXPECT_EQ(object.getReferenceCount(), 0);
 }
 
-TEST(TCountedObjectDeleter, HoldsAReference) {
+TEST(TCountedObjectDeleter, HoldsAReferenceUntilItReleasesTheObject) {
     TCountedObjectDeleter<CWatchedObject> deleter;
     bool destroyed = false;
     auto *object = new CWatchedObject(destroyed);
@@ -61,7 +61,7 @@ TYPED_TEST(TPointerDeleterFamily, CountsItselfAndItsBases) {
     EXPECT_TRUE(witness.getClass().isTypeOf(Tessitor::Basics::CCountedObject().getClass()));
 }
 
-/// Counts what a deleter does to an object, even to one that is not there.
+/// Counts what a deleter does to an object. Needs no object for it, so null counts too.
 struct STouched {
     ~STouched() { ++touches; }
     static void reference() { ++touches; }
@@ -71,12 +71,12 @@ struct STouched {
 };
 
 template <typename Deleter>
-class TPointerDeleterOfNull : public testing::Test {};
+class TPointerDeleterGivenNull : public testing::Test {};
 using DeletersOfTouched = testing::Types<TObjectDeleter<STouched>, TObjectNuller<STouched>,
                                          TCountedObjectDeleter<STouched>>;
-TYPED_TEST_SUITE(TPointerDeleterOfNull, DeletersOfTouched);
+TYPED_TEST_SUITE(TPointerDeleterGivenNull, DeletersOfTouched);
 
-TYPED_TEST(TPointerDeleterOfNull, DoesNothing) {
+TYPED_TEST(TPointerDeleterGivenNull, DoesNothing) {
     TypeParam deleter;
     deleter.pointerAdded(nullptr);
     deleter.deletePointer(nullptr);
@@ -90,14 +90,14 @@ TEST(TPointerDeleter, RecordsAreNamedAfterTheType) {
                 "TCountedObjectDeleter<CWatchedObject>");
 }
 
-TEST(TPointerDeleter, OneOfEachTypeIsShared) {
+TEST(TPointerDeleter, EachTypeHasOneSharedDeleter) {
     EXPECT_EQ(TObjectDeleter<CWatchedObject>::getStaticDeleter(),
               TObjectDeleter<CWatchedObject>::getStaticDeleter());
     EXPECT_EQ(TCountedObjectDeleter<CWatchedObject>::getStaticDeleter(),
               TCountedObjectDeleter<CWatchedObject>::getStaticDeleter());
 }
 
-/// An element of which no shared deleter exists before the test asks for one.
+/// An element type whose shared deleter is first made in the test below.
 class CLateElement : public Tessitor::Basics::CCountedObject {
 public:
     explicit CLateElement(bool &destroyed) : m_destroyed(destroyed) {}
@@ -107,8 +107,8 @@ private:
     bool &m_destroyed;
 };
 
-/// Static objects are destroyed in reverse order, so everything that the list needs is younger than
-/// its owner.
+/// Static objects are destroyed in reverse order of their construction. Whatever is built for the
+/// list comes after its owner, so a static deleter would be destroyed before the list.
 struct SOwnerOfALateList {
     ~SOwnerOfALateList() {
         const auto deleters = TObjectDeleter<CLateElement>().getClass().getInstanceCount();
@@ -121,7 +121,7 @@ struct SOwnerOfALateList {
     std::unique_ptr<TPointerCollection<CLateElement>> list;
 };
 
-TEST(TPointerDeleterDeathTest, ASharedDeleterIsThereForAStaticOwnerThatMakesItsListLate) {
+TEST(TPointerDeleterDeathTest, ASharedDeleterOutlivesAStaticOwnerThatMakesItsListLate) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     EXPECT_EXIT(
         {

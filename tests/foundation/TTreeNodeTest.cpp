@@ -17,7 +17,7 @@ CNode *makeNode() {
     return new CNode(TObjectDeleter<CWatchedObject>::getStaticDeleter());
 }
 
-/// Two nodes that hold each other, and the nodes that were there before.
+/// Two nodes that reference each other, and how many nodes there were before.
 class TTreeNodeFamily : public testing::Test {
 protected:
     TTreeNodeFamily() : before(countNodes()), parent(makeNode()), child(makeNode()) {
@@ -61,7 +61,7 @@ TEST(TTreeNode, HasItsOwnRecord) {
     EXPECT_TRUE(CNode(nullptr).getClass() == "TTreeNode<CWatchedObject>");
 }
 
-TEST_F(TTreeNodeFamily, ParentAndChildHoldEachOther) {
+TEST_F(TTreeNodeFamily, ParentAndChildReferenceEachOther) {
     EXPECT_EQ(child->getParent(), parent);
     EXPECT_EQ(parent->getChildren().elementAtIndex(0), child);
     EXPECT_EQ(parent->getReferenceCount(), 1);
@@ -69,7 +69,7 @@ TEST_F(TTreeNodeFamily, ParentAndChildHoldEachOther) {
     child->setParent(nullptr);
 }
 
-TEST_F(TTreeNodeFamily, BothStayUntilOneLetsGo) {
+TEST_F(TTreeNodeFamily, BothLiveUntilOneReleasesTheOther) {
     parent->reference();
     parent->dereference();
     EXPECT_FALSE(childDestroyed);
@@ -79,7 +79,7 @@ TEST_F(TTreeNodeFamily, BothStayUntilOneLetsGo) {
     EXPECT_EQ(countNodes(), before);
 }
 
-TEST_F(TTreeNodeFamily, AChildMayChangeToAnotherParentAsTheLastHoldOnBoth) {
+TEST_F(TTreeNodeFamily, AChildMayChangeItsParentEvenIfThatDestroysBoth) {
     CNode *const other = makeNode();
     other->reference();
     child->setParent(other);
@@ -89,7 +89,7 @@ TEST_F(TTreeNodeFamily, AChildMayChangeToAnotherParentAsTheLastHoldOnBoth) {
     EXPECT_EQ(countNodes(), before);
 }
 
-TEST_F(TTreeNodeFamily, ClearingTheChildrenLetsGoAsWell) {
+TEST_F(TTreeNodeFamily, ClearingTheChildrenReleasesThemToo) {
     parent->reference();
     parent->getChildren().clearArray();
     EXPECT_TRUE(childDestroyed);

@@ -1,4 +1,4 @@
-// What a binary stream says of a file that has no positions. Only some systems name one by a path.
+// How a binary stream reports a file without positions.
 #include "CTemporaryFolder.h"
 #include "foundation/CFileStream.h"
 
@@ -12,11 +12,11 @@ using Tessitor::IO::EStreamMode;
 
 namespace {
 
-TEST(UnseekableFile, HasNoLengthAndAskingForItFailsTheStream) {
+TEST(UnseekableFile, HasNoLengthSoAskingForItFailsTheStream) {
     const CTemporaryFolder folder;
     const std::string path = (folder / "pipe").string();
     ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
-    // Opening a pipe for reading waits until somebody has opened it for writing.
+    // Without a writer, opening the pipe for reading would wait for one.
     const std::unique_ptr<std::FILE, int (*)(std::FILE *)> writer(std::fopen(path.c_str(), "r+b"),
                                                                   std::fclose);
     ASSERT_NE(writer, nullptr);
