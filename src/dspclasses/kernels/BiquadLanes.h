@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dspclasses/kernels/Lanes.h"
+#include "dspclasses/kernels/StereoFrames.h"
 
 /// A biquad over both channels at once, in direct form I, with its coefficients and its history in
 /// registers. For the loops of GuardedRecursion.h.

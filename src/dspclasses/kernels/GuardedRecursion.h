@@ -16,14 +16,19 @@
 /// A sample beyond this is a recursion that has run away. Whole, so that it is the same as a float.
 inline constexpr double runawayLimit = 5.0;
 
+/// @return false for 0.0 alone, true for -0.0 as for every other value.
+inline bool isAnyBitSet(double value) {
+    return std::bit_cast<std::uint64_t>(value) != 0;
+}
+
 /// Guards in place.
 struct SActingGuard {
     SDoubles2 flush(SDoubles2 value) { return flushDenormal(value); }
 
     /// A runaway value is replaced by 1 of its sign.
     SDoubles2 contain(SDoubles2 value) {
-        const SDoubles2 isRunaway = isAbove(magnitude(value), both(runawayLimit));
-        return select(isRunaway, select(both(-0.0), value, both(1.0)), value);
+        const auto isRunaway = magnitude(value).values > runawayLimit;
+        return {isRunaway ? signedOne(value).values : value.values};
     }
 };
 
@@ -32,25 +37,27 @@ struct SActingGuard {
 class CWatchingGuard {
 public:
     SDoubles2 flush(SDoubles2 value) {
-        m_quietest = lesser(magnitude(value), m_quietest);
+        m_quietest = smaller(magnitude(value), m_quietest);
         m_bits = m_bits | value;
         return value;
     }
     SDoubles2 contain(SDoubles2 value) {
-        m_loudest = greater(magnitude(value), m_loudest);
+        m_loudest = larger(magnitude(value), m_loudest);
         return value;
     }
-    bool mightHaveActed() const {
-        const SDoubles2 quiet = isBelow(m_quietest, both(std::numeric_limits<double>::min()));
-        const SDoubles2 loud = isAbove(m_loudest, both(runawayLimit));
-        return hasAnyBit((quiet & m_bits) | loud);
-    }
+    bool mightHaveActed() const { return mightHaveActed(0) || mightHaveActed(1); }
 
 private:
+    bool mightHaveActed(int channel) const {
+        const bool isQuiet = m_quietest.values[channel] < std::numeric_limits<double>::min();
+        return (isQuiet && isAnyBitSet(m_bits.values[channel])) ||
+               m_loudest.values[channel] > runawayLimit;
+    }
+
     // A NaN stands in none of the first two: the guards let it pass as well.
-    SDoubles2 m_quietest = both(1.0);  // the smallest magnitude so far, at most 1
-    SDoubles2 m_loudest = both(0.0);   // the largest magnitude so far
-    SDoubles2 m_bits = both(0.0);      // every bit that was set in any value
+    SDoubles2 m_quietest = inBothChannels(1.0);  // the smallest magnitude so far, at most 1
+    SDoubles2 m_loudest = inBothChannels(0.0);   // the largest magnitude so far
+    SDoubles2 m_bits = inBothChannels(0.0);      // every bit that was set in any value
 };
 
 enum class EInput {
@@ -107,8 +114,7 @@ inline constexpr auto runawayFloat = static_cast<float>(runawayLimit);
     const Floats4 magnitudes = magnitude(out).values;
     if (isAnySet(magnitudes >= runawayFloat))
         return true;
-    const bool isSilent = std::bit_cast<std::uint64_t>(history) == 0 &&
-                          !isAnySet(loadFour(in).values != 0.0f) &&
+    const bool isSilent = !isAnyBitSet(history) && !isAnySet(loadFour(in).values != 0.0f) &&
                           !isAnySet(reinterpret_cast<Mask4>(out.values));  // no -0.0
     return isAnySet(magnitudes == 0.0f) && !isSilent;
 }
@@ -129,8 +135,8 @@ template <EInput input, typename Filter>
         const Floats4 quietest = smaller(magnitude(left), magnitude(right)).values;
         // A NaN on the right stands in both, and is not calm: it may hide the left.
         const bool isCalm = areAllSet((quietest > 0.0f) & (loudest < runawayFloat));
-        if (isCalm || !(mightNeedGuards(firstOf(filter.history()), inL, left) ||
-                        mightNeedGuards(secondOf(filter.history()), inR, right))) [[likely]] {
+        if (isCalm || !(mightNeedGuards(leftOf(filter.history()), inL, left) ||
+                        mightNeedGuards(rightOf(filter.history()), inR, right))) [[likely]] {
             filter = next;
             return;
         }

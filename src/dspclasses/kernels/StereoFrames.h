@@ -5,54 +5,59 @@
 
 #include <array>
 
-/// Both channels side by side: a frame is one register {left, right} in double precision, and four
-/// frames are read and written at once, so that the two channels cost what one would.
+/// Both channels side by side: a frame is one register {left, right} in double precision, so that
+/// the two channels cost what one would. Four frames are read and written at once.
+
+inline SDoubles2 frameOf(double left, double right) {
+    return {Doubles2{left, right}};
+}
+inline SDoubles2 inBothChannels(double value) {
+    return frameOf(value, value);
+}
+inline double leftOf(SDoubles2 frame) {
+    return frame.values[0];
+}
+inline double rightOf(SDoubles2 frame) {
+    return frame.values[1];
+}
+
+template <typename Sample>
+SDoubles2 loadFrame(const Sample *left, const Sample *right) {
+    return frameOf(double{*left}, double{*right});
+}
+template <typename Sample>
+void storeFrame(Sample *left, Sample *right, SDoubles2 frame) {
+    *left = static_cast<Sample>(leftOf(frame));
+    *right = static_cast<Sample>(rightOf(frame));
+}
 
 using Frames4 = std::array<SDoubles2, 4>;
 
-inline SDoubles2 loadFrame(const float *left, const float *right) {
-    return pair(double{*left}, double{*right});
-}
-inline SDoubles2 loadFrame(const double *left, const double *right) {
-    return pair(*left, *right);
-}
-
-inline void storeFrame(float *left, float *right, SDoubles2 frame) {
-    *left = static_cast<float>(firstOf(frame));
-    *right = static_cast<float>(secondOf(frame));
-}
-inline void storeFrame(double *left, double *right, SDoubles2 frame) {
-    *left = firstOf(frame);
-    *right = secondOf(frame);
-}
-
 inline Frames4 loadFrames(const float *left, const float *right) {
-    const __m128 l = _mm_loadu_ps(left), r = _mm_loadu_ps(right);
-    const __m128 early = _mm_unpacklo_ps(l, r), late = _mm_unpackhi_ps(l, r);
-    return {SDoubles2{_mm_cvtps_pd(early)}, SDoubles2{_mm_cvtps_pd(_mm_movehl_ps(early, early))},
-            SDoubles2{_mm_cvtps_pd(late)}, SDoubles2{_mm_cvtps_pd(_mm_movehl_ps(late, late))}};
+    const SFloats4 l = loadFour(left), r = loadFour(right);
+    const SFloats4 early = interleavedLow(l, r), late = interleavedHigh(l, r);
+    return {widenedLow(early), widenedHigh(early), widenedLow(late), widenedHigh(late)};
 }
 inline Frames4 loadFrames(const double *left, const double *right) {
     Frames4 frames;
     for (std::size_t k = 0; k < frames.size(); k += 2) {
-        const __m128d l = _mm_loadu_pd(left + k), r = _mm_loadu_pd(right + k);
-        frames[k] = {_mm_unpacklo_pd(l, r)};
-        frames[k + 1] = {_mm_unpackhi_pd(l, r)};
+        const SDoubles2 l = loadTwo(left + k), r = loadTwo(right + k);
+        frames[k] = interleavedLow(l, r);
+        frames[k + 1] = interleavedHigh(l, r);
     }
     return frames;
 }
 
 inline void storeFrames(float *left, float *right, const Frames4 &frames) {
-    const auto rounded = [&](std::size_t k) { return _mm_cvtpd_ps(frames[k].lanes); };
-    const __m128 early = _mm_unpacklo_ps(rounded(0), rounded(1));  // l0 l1 r0 r1
-    const __m128 late = _mm_unpacklo_ps(rounded(2), rounded(3));
-    _mm_storeu_ps(left, _mm_movelh_ps(early, late));
-    _mm_storeu_ps(right, _mm_movehl_ps(late, early));
+    const SFloats4 early = narrowed(frames[0], frames[1]);  // l0 r0 l1 r1
+    const SFloats4 late = narrowed(frames[2], frames[3]);
+    storeFour(left, evenLanes(early, late));
+    storeFour(right, oddLanes(early, late));
 }
 inline void storeFrames(double *left, double *right, const Frames4 &frames) {
     for (std::size_t k = 0; k < frames.size(); k += 2) {
-        _mm_storeu_pd(left + k, _mm_unpacklo_pd(frames[k].lanes, frames[k + 1].lanes));
-        _mm_storeu_pd(right + k, _mm_unpackhi_pd(frames[k].lanes, frames[k + 1].lanes));
+        storeTwo(left + k, interleavedLow(frames[k], frames[k + 1]));
+        storeTwo(right + k, interleavedHigh(frames[k], frames[k + 1]));
     }
 }
 
@@ -62,5 +67,5 @@ inline void flushFourInPlace(float *samples) {
 }
 inline void flushFourInPlace(double *samples) {
     for (int k = 0; k < 4; k += 2)
-        _mm_storeu_pd(samples + k, flushDenormal(SDoubles2{_mm_loadu_pd(samples + k)}).lanes);
+        storeTwo(samples + k, flushDenormal(loadTwo(samples + k)));
 }

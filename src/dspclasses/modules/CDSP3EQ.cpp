@@ -96,21 +96,21 @@ void CDSP3EQ::reset() {
 template <typename Sample>
 void CDSP3EQ::run(Sample *const *in, Sample *const *out, int frames) {
     SThreeBandLanes lanes;
-    lanes.low = pair(lowStateLeft, lowStateRight);
-    lanes.high = pair(highStateLeft, highStateRight);
+    lanes.low = frameOf(lowStateLeft, lowStateRight);
+    lanes.high = frameOf(highStateLeft, highStateRight);
     runGuarded<EInput::Read>(lanes, in, out, frames, [this](SThreeBandLanes &filter) {
-        filter.lowCoef = both(lowCoef);
-        filter.highCoef = both(highCoef);
-        filter.lowGain = both(lowGain);
-        filter.midGain = both(midGain);
-        filter.highGain = both(highGain);
+        filter.lowCoef = inBothChannels(lowCoef);
+        filter.highCoef = inBothChannels(highCoef);
+        filter.lowGain = inBothChannels(lowGain);
+        filter.midGain = inBothChannels(midGain);
+        filter.highGain = inBothChannels(highGain);
         if (resetRequest.take())
-            filter.low = filter.high = both(0.0);
+            filter.low = filter.high = inBothChannels(0.0);
     });
-    lowStateLeft = firstOf(lanes.low);
-    lowStateRight = secondOf(lanes.low);
-    highStateLeft = firstOf(lanes.high);
-    highStateRight = secondOf(lanes.high);
+    lowStateLeft = leftOf(lanes.low);
+    lowStateRight = rightOf(lanes.low);
+    highStateLeft = leftOf(lanes.high);
+    highStateRight = rightOf(lanes.high);
 }
 
 void CDSP3EQ::processReplacing(float **in, float **out, int frames) {

@@ -36,14 +36,14 @@ void CDSPHiPass::reset() {
 
 template <typename Sample>
 void CDSPHiPass::run(Sample *const *in, Sample *const *out, int frames) {
-    SHiPassLanes lanes{both(0.0), pair(left.x1, right.x1), pair(left.y1, right.y1)};
+    SHiPassLanes lanes{inBothChannels(0.0), frameOf(left.x1, right.x1), frameOf(left.y1, right.y1)};
     runGuarded<EInput::Read>(lanes, in, out, frames, [this](SHiPassLanes &filter) {
-        filter.pole = both(pole);
+        filter.pole = inBothChannels(pole);
         if (resetRequest.take())
-            filter.x1 = filter.y1 = both(0.0);
+            filter.x1 = filter.y1 = inBothChannels(0.0);
     });
-    left = {firstOf(lanes.x1), firstOf(lanes.y1)};
-    right = {secondOf(lanes.x1), secondOf(lanes.y1)};
+    left = {leftOf(lanes.x1), leftOf(lanes.y1)};
+    right = {rightOf(lanes.x1), rightOf(lanes.y1)};
 }
 
 void CDSPHiPass::processReplacing(float **in, float **out, int frames) {

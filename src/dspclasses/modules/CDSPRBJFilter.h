@@ -58,29 +58,29 @@ public:
     /// @return the state, the coefficients not yet among it.
     SBiquadLanes takeOut() const {
         SBiquadLanes lanes{};
-        lanes.x1 = pair(left.x1, right.x1);
-        lanes.x2 = pair(left.x2, right.x2);
-        lanes.y1 = pair(left.y1, right.y1);
-        lanes.y2 = pair(left.y2, right.y2);
+        lanes.x1 = frameOf(left.x1, right.x1);
+        lanes.x2 = frameOf(left.x2, right.x2);
+        lanes.y1 = frameOf(left.y1, right.y1);
+        lanes.y2 = frameOf(left.y2, right.y2);
         return lanes;
     }
 
     /// To be called every 64 frames: the coefficients as they are now, and a reset if one was asked
     /// for.
     void refresh(SBiquadLanes &lanes) {
-        lanes.b0 = both(b0);
-        lanes.b1 = both(b1);
-        lanes.b2 = both(b2);
-        lanes.a1 = both(a1);
-        lanes.a2 = both(a2);
+        lanes.b0 = inBothChannels(b0);
+        lanes.b1 = inBothChannels(b1);
+        lanes.b2 = inBothChannels(b2);
+        lanes.a1 = inBothChannels(a1);
+        lanes.a2 = inBothChannels(a2);
         if (resetRequest.take())
-            lanes.x1 = lanes.x2 = lanes.y1 = lanes.y2 = both(0.0);
+            lanes.x1 = lanes.x2 = lanes.y1 = lanes.y2 = inBothChannels(0.0);
     }
 
     /// @param lanes  what takeOut gave, after the block. The coefficients are not read.
     void putBack(const SBiquadLanes &lanes) {
-        left = {firstOf(lanes.y1), firstOf(lanes.y2), firstOf(lanes.x1), firstOf(lanes.x2)};
-        right = {secondOf(lanes.y1), secondOf(lanes.y2), secondOf(lanes.x1), secondOf(lanes.x2)};
+        left = {leftOf(lanes.y1), leftOf(lanes.y2), leftOf(lanes.x1), leftOf(lanes.x2)};
+        right = {rightOf(lanes.y1), rightOf(lanes.y2), rightOf(lanes.x1), rightOf(lanes.x2)};
     }
 
 private:

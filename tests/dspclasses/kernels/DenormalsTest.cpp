@@ -1,6 +1,6 @@
 #include "dspclasses/kernels/Denormals.h"
 
-#include "dspclasses/kernels/Lanes.h"
+#include "dspclasses/kernels/StereoFrames.h"
 #include "dspclasses/support/Signals.h"
 
 #include <bit>
@@ -60,11 +60,11 @@ TEST(Denormals, EveryLaneIsFlushedLikeAScalar) {
             for (int other = 0; other < 4; ++other)
                 EXPECT_TRUE(sameBits(flushed[other], flushDenormal(four[other]))) << four[other];
         }
-        const SDoubles2 first = flushDenormal(pair(twofold, 1.0));
-        const SDoubles2 second = flushDenormal(pair(1.0, twofold));
-        EXPECT_TRUE(sameBits(firstOf(first), flushDenormal(twofold))) << twofold;
-        EXPECT_TRUE(sameBits(secondOf(second), flushDenormal(twofold))) << twofold;
-        EXPECT_EQ(secondOf(first), 1.0);
-        EXPECT_EQ(firstOf(second), 1.0);
+        const SDoubles2 first = flushDenormal(frameOf(twofold, 1.0));
+        const SDoubles2 second = flushDenormal(frameOf(1.0, twofold));
+        EXPECT_TRUE(sameBits(leftOf(first), flushDenormal(twofold))) << twofold;
+        EXPECT_TRUE(sameBits(rightOf(second), flushDenormal(twofold))) << twofold;
+        EXPECT_EQ(rightOf(first), 1.0);
+        EXPECT_EQ(leftOf(second), 1.0);
     }
 }

@@ -17,8 +17,8 @@ constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 bool isAlarmedBy(const std::vector<double> &values, double other = 0.5) {
     CWatchingGuard left, right;
     for (const double value : values) {
-        left.contain(left.flush(pair(value, other)));
-        right.contain(right.flush(pair(other, value)));
+        left.contain(left.flush(frameOf(value, other)));
+        right.contain(right.flush(frameOf(other, value)));
     }
     EXPECT_EQ(left.mightHaveActed(), right.mightHaveActed());
     return left.mightHaveActed();
@@ -26,11 +26,11 @@ bool isAlarmedBy(const std::vector<double> &values, double other = 0.5) {
 
 /// y = x + y1 / 2, contained.
 struct SHalving {
-    SDoubles2 y1 = both(0.0);
+    SDoubles2 y1 = inBothChannels(0.0);
 
     template <typename Guard>
     SDoubles2 step(SDoubles2 x, Guard &guard) {
-        return y1 = guard.contain(guard.flush(x + both(0.5) * y1));
+        return y1 = guard.contain(guard.flush(x + inBothChannels(0.5) * y1));
     }
 
     SDoubles2 history() const { return y1; }
@@ -39,16 +39,16 @@ struct SHalving {
 /// y = factor x, and what all that came out adds up to.
 struct SScaling {
     double factor;
-    SDoubles2 sum = both(0.0);
+    SDoubles2 sum = inBothChannels(0.0);
 
     template <typename Guard>
     SDoubles2 step(SDoubles2 x, Guard &guard) {
-        const SDoubles2 y = guard.contain(guard.flush(both(factor) * x));
+        const SDoubles2 y = guard.contain(guard.flush(inBothChannels(factor) * x));
         sum = sum + y;
         return y;
     }
 
-    SDoubles2 history() const { return both(0.0); }
+    SDoubles2 history() const { return inBothChannels(0.0); }
 };
 
 /// Four frames at a time.
@@ -106,18 +106,18 @@ TEST(CWatchingGuard, IsNotBlindedByANaN) {
 
 TEST(SActingGuard, LetsANaNPass) {
     SActingGuard guard;
-    EXPECT_TRUE(std::isnan(firstOf(guard.flush(both(notANumber)))));
-    EXPECT_TRUE(std::isnan(firstOf(guard.contain(both(notANumber)))));
+    EXPECT_TRUE(std::isnan(leftOf(guard.flush(inBothChannels(notANumber)))));
+    EXPECT_TRUE(std::isnan(leftOf(guard.contain(inBothChannels(notANumber)))));
 }
 
 TEST(SActingGuard, ReplacesARunawayByOneOfItsSign) {
     SActingGuard guard;
-    const SDoubles2 replaced = guard.contain(pair(5.5, -5.5));
-    EXPECT_EQ(firstOf(replaced), 1.0);
-    EXPECT_EQ(secondOf(replaced), -1.0);
-    const SDoubles2 kept = guard.contain(pair(5.0, -5.0));
-    EXPECT_EQ(firstOf(kept), 5.0);
-    EXPECT_EQ(secondOf(kept), -5.0);
+    const SDoubles2 replaced = guard.contain(frameOf(5.5, -5.5));
+    EXPECT_EQ(leftOf(replaced), 1.0);
+    EXPECT_EQ(rightOf(replaced), -1.0);
+    const SDoubles2 kept = guard.contain(frameOf(5.0, -5.0));
+    EXPECT_EQ(leftOf(kept), 5.0);
+    EXPECT_EQ(rightOf(kept), -5.0);
 }
 
 TEST(GuardedRecursion, GuardsAtEveryPlaceOfEveryBlock) {
@@ -154,7 +154,7 @@ TEST(GuardedRecursion, GuardsAtEveryPlaceOfEveryStep) {
                     << trouble << " at frame " << place << " of " << frames;
                 // Even 1e-30 has been halved to a denormal by then, and become 0.
                 if (frames == 1100) {
-                    EXPECT_EQ(secondOf(filter.y1), 0.0);
+                    EXPECT_EQ(rightOf(filter.y1), 0.0);
                 }
             }
         }
@@ -165,7 +165,7 @@ TEST(GuardedRecursion, GuardsWhatIsBeyondTheLimitAsADoubleAlone) {
     TStereo<float> input(4);
     input.left(0) = input.right(2) = 5.0f;
     SHalving filter;
-    filter.y1 = pair(2e-9, 2e-8);
+    filter.y1 = frameOf(2e-9, 2e-8);
     const TStereo<float> output = halveInSteps(filter, input);
     EXPECT_EQ(output.channels[0][0], 1.0f);
     EXPECT_EQ(output.channels[1][2], 1.0f);
@@ -177,7 +177,7 @@ TEST(GuardedRecursion, TakesNoInputForSilenceThatComesToNothing) {
     const auto in = input.pointers(), out = output.pointers();
     SScaling filter{1e-300};
     runUpToFour<EInput::Read>(filter, in[0], in[1], out[0], out[1], 4);
-    EXPECT_EQ(secondOf(filter.sum), 0.0) << "1e-320 is a denormal";
+    EXPECT_EQ(rightOf(filter.sum), 0.0) << "1e-320 is a denormal";
 }
 
 TEST(GuardedRecursion, MakesNoNegativeZeroOfSilence) {
@@ -198,11 +198,11 @@ TEST(GuardedRecursion, GuardsAChannelBesideANaN) {
                 input.channels[isRight ? 0 : 1][static_cast<std::size_t>(i)] = NAN;
             }
             SHalving inSteps, inGroups;
-            inSteps.y1 = inGroups.y1 = both(std::numeric_limits<double>::min());
+            inSteps.y1 = inGroups.y1 = inBothChannels(std::numeric_limits<double>::min());
             SCOPED_TRACE(testing::Message() << trouble << (isRight ? " right" : " left"));
             EXPECT_TRUE(halveInSteps(inSteps, input) == halve(inGroups, input));
-            EXPECT_TRUE(sameBits(firstOf(inSteps.y1), firstOf(inGroups.y1)));
-            EXPECT_TRUE(sameBits(secondOf(inSteps.y1), secondOf(inGroups.y1)));
+            EXPECT_TRUE(sameBits(leftOf(inSteps.y1), leftOf(inGroups.y1)));
+            EXPECT_TRUE(sameBits(rightOf(inSteps.y1), rightOf(inGroups.y1)));
         }
     }
 }
@@ -210,12 +210,12 @@ TEST(GuardedRecursion, GuardsAChannelBesideANaN) {
 TEST(GuardedRecursion, TakesAQuietChannelForWhatItIs) {
     const TStereo<float> silence(4);
     SHalving filter;
-    filter.y1 = pair(0.0, std::numeric_limits<double>::min());
+    filter.y1 = frameOf(0.0, std::numeric_limits<double>::min());
     EXPECT_TRUE(halveInSteps(filter, silence) == silence);
-    EXPECT_EQ(secondOf(filter.y1), 0.0) << "half of the smallest normal number is a denormal";
-    filter.y1 = pair(0.0, 1e-100);
+    EXPECT_EQ(rightOf(filter.y1), 0.0) << "half of the smallest normal number is a denormal";
+    filter.y1 = frameOf(0.0, 1e-100);
     EXPECT_TRUE(halveInSteps(filter, silence) == silence);
-    EXPECT_EQ(secondOf(filter.y1), 1e-100 / 16.0) << "below every float, yet no denormal";
+    EXPECT_EQ(rightOf(filter.y1), 1e-100 / 16.0) << "below every float, yet no denormal";
 }
 
 TEST(GuardedRecursion, RefreshesBeforeEveryGroupAndNeverForNone) {
