@@ -18,6 +18,4 @@ struct SBiquadLanes {
         y1 = y;
         return y;
     }
-
-    SDoubles2 history() const { return x1 | x2 | y1 | y2; }
 };

@@ -7,57 +7,71 @@
 #include <cstdint>
 #include <limits>
 
-/// The loop of the recursive filters. A guard inside a recursion (a denormal becomes zero, a
-/// runaway sample is replaced) nearly never acts, yet every next sample has to wait for it. So a
-/// group of frames runs without guards while a watch notes, off the critical path, whether one
-/// would have acted; only then the group runs again with the guards in place. The bits are those
-/// of guarding every sample.
+/// The loop of the recursive filters. Each output is guarded before it goes back into the filter: a
+/// denormal becomes zero, a runaway value is replaced. A guard nearly never changes anything, yet
+/// the next sample has to wait for it. So some frames run without guards first, while a watch keeps
+/// the smallest and the largest value, which nothing waits for:
+///
+///     filter --> frames without guards, watched --> might a guard have acted? -- no --> done
+///        |                                                       |
+///        |                                                      yes
+///        +--------------> the same frames, guarded <-------------+
+///
+/// | value                      | flush gives | contain gives  | the watch            |
+/// |----------------------------|-------------|----------------|----------------------|
+/// | 0.0, nothing but zeros     | 0.0         | 0.0            | stays calm           |
+/// | 0.0 among other values     | 0.0         | 0.0            | alarms for no reason |
+/// | -0.0 or a denormal         | 0.0         | the same value | alarms on flush      |
+/// | normal, magnitude up to 5  | the same    | the same       | stays calm           |
+/// | magnitude above 5          | the same    | 1, same sign   | alarms on contain    |
+/// | NaN                        | the NaN     | the NaN        | stays calm           |
+///
+/// The bits are those of guarding every sample, as docs/kernels.md explains.
 
-/// A sample beyond this is a recursion that has run away. Whole, so that it is the same as a float.
+/// Beyond this magnitude a filter has run away.
 inline constexpr double runawayLimit = 5.0;
 
-/// @return false for 0.0 alone, true for -0.0 as for every other value.
-inline bool isAnyBitSet(double value) {
-    return std::bit_cast<std::uint64_t>(value) != 0;
-}
-
-/// Guards in place.
+/// Guards that change values.
 struct SActingGuard {
     SDoubles2 flush(SDoubles2 value) { return flushDenormal(value); }
 
-    /// A runaway value is replaced by 1 of its sign.
     SDoubles2 contain(SDoubles2 value) {
         const auto isRunaway = magnitude(value).values > runawayLimit;
         return {isRunaway ? signedOne(value).values : value.values};
     }
 };
 
-/// Lets every value pass as it is and remembers whether SActingGuard might have changed one. It
-/// misses no change; a zero among other values it takes for one, nothing but zeros it does not.
+/// Guards that change nothing and remember whether SActingGuard might have.
 class CWatchingGuard {
 public:
     SDoubles2 flush(SDoubles2 value) {
-        m_quietest = smaller(magnitude(value), m_quietest);
-        m_bits = m_bits | value;
+        m_smallest = smaller(magnitude(value), m_smallest);
+        m_allBits = m_allBits | value;
         return value;
     }
     SDoubles2 contain(SDoubles2 value) {
-        m_loudest = larger(magnitude(value), m_loudest);
+        m_largest = larger(magnitude(value), m_largest);
         return value;
     }
-    bool mightHaveActed() const { return mightHaveActed(0) || mightHaveActed(1); }
 
-private:
-    bool mightHaveActed(int channel) const {
-        const bool isQuiet = m_quietest.values[channel] < std::numeric_limits<double>::min();
-        return (isQuiet && isAnyBitSet(m_bits.values[channel])) ||
-               m_loudest.values[channel] > runawayLimit;
+    bool mightHaveActed() const {
+        const Mask2 isTiny = m_smallest.values < std::numeric_limits<double>::min();
+        const Mask2 isRunaway = m_largest.values > runawayLimit;
+        if (!isAnySet(isTiny | isRunaway)) [[likely]]
+            return false;
+        const Mask2 isZeroAlone{isPlusZero(leftOf(m_allBits)), isPlusZero(rightOf(m_allBits))};
+        return isAnySet((isTiny & ~isZeroAlone) | isRunaway);
     }
 
-    // A NaN stands in none of the first two: the guards let it pass as well.
-    SDoubles2 m_quietest = inBothChannels(1.0);  // the smallest magnitude so far, at most 1
-    SDoubles2 m_loudest = inBothChannels(0.0);   // the largest magnitude so far
-    SDoubles2 m_bits = inBothChannels(0.0);      // every bit that was set in any value
+private:
+    /// @return all bits set for 0.0, none for -0.0 or any other value.
+    static std::int64_t isPlusZero(double value) {
+        return std::bit_cast<std::uint64_t>(value) == 0 ? -1 : 0;
+    }
+
+    SDoubles2 m_smallest = inBothChannels(1.0);  // magnitude so far, no NaN
+    SDoubles2 m_largest = inBothChannels(0.0);   // magnitude so far, no NaN
+    SDoubles2 m_allBits = inBothChannels(0.0);   // every bit that was set in any value
 };
 
 enum class EInput {
@@ -65,6 +79,7 @@ enum class EInput {
     Flush,  // denormal input samples become 0.0, in the input buffer as well
 };
 
+/// Takes a filter through some frames with the guards that it is given.
 template <EInput input, typename Filter, typename Guard, typename Sample>
 [[gnu::always_inline]] inline void runFrames(Filter &filter, Guard &guard, Sample *inL, Sample *inR,
                                              Sample *outL, Sample *outR, int count) {
@@ -88,82 +103,45 @@ template <EInput input, typename Filter, typename Guard, typename Sample>
     }
 }
 
-/// Takes a filter over some frames with the guards in place. Out of line and by value, and the
-/// result goes into a variable of its own: a filter whose address is taken would not stay in
-/// registers elsewhere.
+/// @return the filter after some frames with acting guards. Out of line and by value: a filter
+/// whose
+///         address is taken here would not stay in registers in the watched run.
 template <EInput input, typename Filter, typename Sample>
-[[gnu::noinline]] Filter ranWithGuards(Filter filter, Sample *inL, Sample *inR, Sample *outL,
-                                       Sample *outR, int count) {
+[[gnu::noinline]] Filter filterAfterGuarding(Filter filter, Sample *inL, Sample *inR, Sample *outL,
+                                             Sample *outR, int count) {
     SActingGuard guard;
     runFrames<input>(filter, guard, inL, inR, outL, outR, count);
     return filter;
 }
 
-struct SNoGuard {
-    SDoubles2 flush(SDoubles2 value) { return value; }
-    SDoubles2 contain(SDoubles2 value) { return value; }
-};
-
-inline constexpr auto runawayFloat = static_cast<float>(runawayLimit);
-
-/// @param history  every bit that is set anywhere in the state of the channel.
-/// @return whether the guards might have acted in four frames of a channel, going by what came out.
-/// Zeros are what a silent filter makes of silence, and else what became of the smallest values.
-[[gnu::noinline]] inline bool mightNeedGuards(double history, const float *in,
-                                              const SFloats4 &out) {
-    const Floats4 magnitudes = magnitude(out).values;
-    if (isAnySet(magnitudes >= runawayFloat))
-        return true;
-    const bool isSilent = !isAnyBitSet(history) && !isAnySet(loadFour(in).values != 0.0f) &&
-                          !isAnySet(reinterpret_cast<Mask4>(out.values));  // no -0.0
-    return isAnySet(magnitudes == 0.0f) && !isSilent;
-}
-
-/// Takes up to four frames through a filter whose guards see nothing but what it puts out, so that
-/// its output tells whether one might have acted: as floats, what has run away is at least the
-/// limit, and what is a denormal as a double is 0. For a loop that does more than filter.
-/// @param filter  as in runGuarded; its history() is every bit that is set in the state.
-template <EInput input, typename Filter>
-[[gnu::always_inline]] inline void runUpToFour(Filter &filter, float *inL, float *inR, float *outL,
-                                               float *outR, int count) {
-    if (count == 4) [[likely]] {
-        Filter next = filter;
-        SNoGuard none;
-        runFrames<input>(next, none, inL, inR, outL, outR, 4);
-        const SFloats4 left = loadFour(outL), right = loadFour(outR);
-        const Floats4 loudest = larger(magnitude(left), magnitude(right)).values;
-        const Floats4 quietest = smaller(magnitude(left), magnitude(right)).values;
-        // A NaN on the right stands in both, and is not calm: it may hide the left.
-        const bool isCalm = areAllSet((quietest > 0.0f) & (loudest < runawayFloat));
-        if (isCalm || !(mightNeedGuards(leftOf(filter.history()), inL, left) ||
-                        mightNeedGuards(rightOf(filter.history()), inR, right))) [[likely]] {
-            filter = next;
-            return;
-        }
+/// Takes a filter through some frames: watched first, and again with guards if the watch alarms. An
+/// alarm repeats all of them, so pass few at a time.
+/// @param filter  coefficients and state of both channels, with a template step(frame, guard) that
+///                returns the next output frame. Ends in the state after the last frame.
+template <EInput input, typename Filter, typename Sample>
+[[gnu::always_inline]] inline void runWatched(Filter &filter, Sample *inL, Sample *inR,
+                                              Sample *outL, Sample *outR, int count) {
+    Filter next = filter;
+    CWatchingGuard watch;
+    runFrames<input>(next, watch, inL, inR, outL, outR, count);
+    if (watch.mightHaveActed()) [[unlikely]] {
+        // A variable of its own keeps `next` in registers.
+        const Filter guarded = filterAfterGuarding<input>(filter, inL, inR, outL, outR, count);
+        next = guarded;
     }
-    const Filter guarded = ranWithGuards<input>(filter, inL, inR, outL, outR, count);
-    filter = guarded;
+    filter = next;
 }
 
-/// Runs a filter over both channels of a block.
-/// @param filter   coefficients and state in registers, with a template step(frame, guard) that
-///                 takes one frame on. Ends in the state after the last frame.
-/// @param refresh  called with the filter before each group, so that what another thread sets lands
-///                 within the block.
+/// Runs a filter over a block, group by group.
+/// @param filter   as in runWatched.
+/// @param refresh  called with the filter before each group, so that what another thread sets takes
+///                 effect within the block.
 template <EInput input, typename Filter, typename Sample, typename Refresh>
 void runGuarded(Filter &filter, Sample *const *in, Sample *const *out, int frames,
                 Refresh refresh) {
-    Sample *inL = in[0], *inR = in[1], *outL = out[0], *outR = out[1];
     forEachGroup(frames, [&](int first, int count) {
         refresh(filter);
-        Filter next = filter;
-        CWatchingGuard watch;
-        runFrames<input>(next, watch, inL + first, inR + first, outL + first, outR + first, count);
-        if (watch.mightHaveActed()) [[unlikely]] {
-            const Filter guarded = ranWithGuards<input>(filter, inL + first, inR + first,
-                                                        outL + first, outR + first, count);
-            next = guarded;
-        }
-        filter = next;
+        runWatched<input>(filter, in[0] + first, in[1] + first, out[0] + first, out[1] + first,
+                          count);
     });
 }

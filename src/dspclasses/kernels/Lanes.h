@@ -35,6 +35,7 @@ using SFloats4 = TFour<float>;
 /// The bare vectors, and what a comparison of two Floats4 gives.
 using Doubles2 = SDoubles2::Values;
 using Floats4 = SFloats4::Values;
+using Mask2 = decltype(Doubles2{} > Doubles2{});
 using Mask4 = decltype(Floats4{} > Floats4{});
 
 inline Floats4 splat(float value) {
@@ -44,6 +45,9 @@ inline Floats4 splat(float value) {
 /// @return one bit per lane, lane 0 the lowest: 1 where the mask is set.
 inline int laneBits(const Mask4 &mask) {
     return _mm_movemask_ps(reinterpret_cast<__m128>(mask));
+}
+inline bool isAnySet(const Mask2 &mask) {
+    return _mm_movemask_pd(reinterpret_cast<__m128d>(mask)) != 0;
 }
 inline bool isAnySet(const Mask4 &mask) {
     return laneBits(mask) != 0;

@@ -126,7 +126,7 @@ void CDSPDeEsser::attenuate(float **in, float **out, int frames) {
         };
         const auto levels = [=, &lanes](const SStep &step) {
             const int i = step.first;
-            runUpToFour<EInput::Flush>(lanes, inL + i, inR + i, sideL + i, sideR + i, step.count);
+            runWatched<EInput::Flush>(lanes, inL + i, inR + i, sideL + i, sideR + i, step.count);
             // Kept: in narrow mode the detector hears the right channel only.
             const TFour<float> right = magnitude(step.load(sideR));
             return isNarrow ? right : larger(magnitude(step.load(sideL)), right);
