@@ -4,7 +4,7 @@
 #include "dspclasses/blocks/DynamicsMath.h"
 #include "dspclasses/blocks/TDetector.h"
 #include "dspclasses/kernels/BiquadLanes.h"
-#include "dspclasses/kernels/GuardedRecursion.h"
+#include "dspclasses/kernels/GuardedSteps.h"
 #include "dspclasses/kernels/WideLoop.h"
 
 #include <algorithm>
@@ -126,7 +126,8 @@ void CDSPDeEsser::attenuate(float **in, float **out, int frames) {
         };
         const auto levels = [=, &lanes](const SStep &step) {
             const int i = step.first;
-            runWatched<EInput::Flush>(lanes, inL + i, inR + i, sideL + i, sideR + i, step.count);
+            runGuardedStep<EInput::Flush>(lanes, inL + i, inR + i, sideL + i, sideR + i,
+                                          step.count);
             // Kept: in narrow mode the detector hears the right channel only.
             const TFour<float> right = magnitude(step.load(sideR));
             return isNarrow ? right : larger(magnitude(step.load(sideL)), right);
