@@ -2,11 +2,20 @@
 
 #include "dspclasses/kernels/StereoFrames.h"
 
-/// A biquad over both channels at once, in direct form I, with its coefficients and its history in
-/// registers. For the loops of GuardedRecursion.h.
+/// A biquad over both channels, in direct form I, for the loops of GuardedRecursion.h.
+///
+///     x --+--- b0 --> + ------ guards ----+--> y
+///         |           ^                   |
+///        z^-1         |                  z^-1
+///         |           |                   |
+///      x1 +--- b1 --> + <------- -a1 -----+ y1
+///         |           ^                   |
+///        z^-1         |                  z^-1
+///         |           |                   |
+///      x2 +--- b2 --> + <------- -a2 -----+ y2
 struct SBiquadLanes {
-    SDoubles2 b0, b1, b2, a1, a2;
-    SDoubles2 x1, x2, y1, y2;
+    SDoubles2 b0{}, b1{}, b2{}, a1{}, a2{};
+    SDoubles2 x1{}, x2{}, y1{}, y2{};
 
     template <typename Guard>
     SDoubles2 step(SDoubles2 x, Guard &guard) {

@@ -4,35 +4,11 @@
 
 #include <cmath>
 
-namespace {
-
-struct SThreeBandLanes {
-    SDoubles2 lowCoef, highCoef;
-    SDoubles2 lowGain, midGain, highGain;
-    SDoubles2 low, high;
-
-    template <typename Guard>
-    SDoubles2 step(SDoubles2 x, Guard &guard) {
-        low = guard.flush(low + (x - low) * lowCoef);
-        high = guard.flush(high + (x - high) * highCoef);
-        return (x - high) * highGain + (high - low) * midGain + low * lowGain;
-    }
-};
-
-}  // namespace
-
-/// Rounded to single precision half-way, and without a floor: -60 dB is not silence here.
+/// Kept: the exponent is rounded to single precision on its way, and -60 dB is not silence as it is
+/// in CDSPGain.
 static double gainFromDb(float decibels) {
-    constexpr float ln10 = 2.30258512f;
+    constexpr float ln10 = 2.30258509f;
     return std::exp(double{ln10 * decibels} * 0.05);
-}
-
-// Kept: t is twice the cosine, so the factor is not the usual one and hardly follows the frequency.
-double CDSP3EQ::smoothingFactor(float crossover) const {
-    // Rounded from double precision: cosf is not the same in every library.
-    const double angle = crossover * 6.2831855f * invSampleRate;
-    const float t = static_cast<float>(std::cos(angle)) * 2.0f;
-    return double{1.0f - (t - std::sqrt(t * t - 1.0f))};
 }
 
 void CDSP3EQ::setGain(TRelaxed<float> &decibels, TRelaxed<double> &gain, float value) {
@@ -46,7 +22,7 @@ void CDSP3EQ::setCrossover(TRelaxed<float> &crossover, TRelaxed<double> &coeffic
     if (value == crossover)
         return;
     crossover = value;
-    coefficient = smoothingFactor(value);
+    coefficient = bandSplitCoefficient(value, invSampleRate);
     reset();
 }
 
@@ -95,22 +71,15 @@ void CDSP3EQ::reset() {
 
 template <typename Sample>
 void CDSP3EQ::run(Sample *const *in, Sample *const *out, int frames) {
-    SThreeBandLanes lanes;
-    lanes.low = frameOf(lowStateLeft, lowStateRight);
-    lanes.high = frameOf(highStateLeft, highStateRight);
-    runGuarded<EInput::Read>(lanes, in, out, frames, [this](SThreeBandLanes &filter) {
-        filter.lowCoef = inBothChannels(lowCoef);
-        filter.highCoef = inBothChannels(highCoef);
-        filter.lowGain = inBothChannels(lowGain);
-        filter.midGain = inBothChannels(midGain);
-        filter.highGain = inBothChannels(highGain);
+    runGuarded<EInput::Read>(filter, in, out, frames, [this](SFilter &now) {
+        now.lowCoef = inBothChannels(lowCoef);
+        now.highCoef = inBothChannels(highCoef);
+        now.lowGain = inBothChannels(lowGain);
+        now.midGain = inBothChannels(midGain);
+        now.highGain = inBothChannels(highGain);
         if (resetRequest.take())
-            filter.low = filter.high = inBothChannels(0.0);
+            now.low = now.high = inBothChannels(0.0);
     });
-    lowStateLeft = leftOf(lanes.low);
-    lowStateRight = rightOf(lanes.low);
-    highStateLeft = leftOf(lanes.high);
-    highStateRight = rightOf(lanes.high);
 }
 
 void CDSP3EQ::processReplacing(float **in, float **out, int frames) {

@@ -1,11 +1,23 @@
 #pragma once
 
 #include "dspclasses/blocks/CResetRequest.h"
+#include "dspclasses/blocks/FilterCoefficients.h"
+#include "dspclasses/kernels/StereoFrames.h"
 #include "dspclasses/modules/CDSPBase.h"
 #include "values/TRelaxed.h"
 
-/// Three-band equaliser: two one-pole low-passes split each channel, and the bands are differences,
-/// so that at unity gains they sum to the input whatever the crossovers are.
+/// Three-band equaliser. Two one-pole low-passes split each channel, and the mid and the high band
+/// are differences: at 0 dB the sum is the input, up to rounding, whatever the crossovers.
+///
+///     x --+-----------------------------------------> + --> * high gain --+
+///         |                                           ^ -                 |
+///         +--> low-pass at the high crossover --+-----+                   v
+///         |                                     |                         + --> y
+///         |                                     +---> + --> * mid gain ---^
+///         |                                           ^ -                 |
+///         +--> low-pass at the low crossover ---+-----+                   |
+///                                               |                         |
+///                                               +---------> * low gain ---+
 class CDSP3EQ : public CDSPBase {
 public:
     enum EParameter : int {
@@ -24,18 +36,30 @@ public:
     void reset() override;
 
 private:
-    double smoothingFactor(float crossover) const;
+    /// Both channels, for runGuarded.
+    struct SFilter {
+        SDoubles2 lowCoef{}, highCoef{};
+        SDoubles2 lowGain{}, midGain{}, highGain{};
+        SDoubles2 low{}, high{};  // outputs of the two low-passes
+
+        template <typename Guard>
+        SDoubles2 step(SDoubles2 x, Guard &guard) {
+            low = guard.flush(low + (x - low) * lowCoef);
+            high = guard.flush(high + (x - high) * highCoef);
+            return (x - high) * highGain + (high - low) * midGain + low * lowGain;
+        }
+    };
+
     void setGain(TRelaxed<float> &decibels, TRelaxed<double> &gain, float value);
     void setCrossover(TRelaxed<float> &crossover, TRelaxed<double> &coefficient, float value);
 
     template <typename Sample>
     void run(Sample *const *in, Sample *const *out, int frames);
 
-    TRelaxed<double> lowCoef = smoothingFactor(350.0f);
-    TRelaxed<double> highCoef = smoothingFactor(1500.0f);
-    TRelaxed<double> lowGain = 1.0, midGain = 1.0, highGain = 1.0;  // linear
-    double lowStateLeft = 0.0, lowStateRight = 0.0;
-    double highStateLeft = 0.0, highStateRight = 0.0;
+    SFilter filter;  // takes coefficients and gains over before each group of frames
+    TRelaxed<double> lowCoef = bandSplitCoefficient(350.0f, invSampleRate);
+    TRelaxed<double> highCoef = bandSplitCoefficient(1500.0f, invSampleRate);
+    TRelaxed<double> lowGain = 1.0, midGain = 1.0, highGain = 1.0;   // linear
     TRelaxed<float> lowCrossover = 350.0f, highCrossover = 1500.0f;  // Hz
     TRelaxed<float> lowDb = 0.0f, midDb = 0.0f, highDb = 0.0f;
     CResetRequest resetRequest;

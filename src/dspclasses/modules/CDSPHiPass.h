@@ -1,11 +1,16 @@
 #pragma once
 
 #include "dspclasses/blocks/CResetRequest.h"
+#include "dspclasses/kernels/StereoFrames.h"
 #include "dspclasses/modules/CDSPBase.h"
 #include "values/TRelaxed.h"
 
 /// First-order high-pass, for rumble or for the low end of a voice. The one parameter is set
 /// whatever the index.
+///
+///     x --+----------------> + ---------------+--> y
+///         |                  ^                |
+///         +--> -1 * z^-1 ----+--- pole * z^-1 <
 class CDSPHiPass : public CDSPBase {
 public:
     enum EParameter : int {
@@ -20,15 +25,23 @@ public:
     void reset() override;
 
 private:
+    /// Both channels, for runGuarded.
+    struct SFilter {
+        SDoubles2 pole{};
+        SDoubles2 x1{}, y1{};  // last input and output
+
+        template <typename Guard>
+        SDoubles2 step(SDoubles2 x, Guard &guard) {
+            y1 = guard.flush(pole * y1 + (x - x1));
+            x1 = x;
+            return y1;
+        }
+    };
+
     template <typename Sample>
     void run(Sample *const *in, Sample *const *out, int frames);
 
-    struct SHistory {
-        double x1 = 0.0;  // last input
-        double y1 = 0.0;  // last output
-    };
-    SHistory left;
-    SHistory right;
+    SFilter filter;                       // takes the pole over before each group of frames
     TRelaxed<float> cutoff = 60.0f;       // Hz
     TRelaxed<float> pole = 0.991487861f;  // exp(-0.00854855), from cutoff
     CResetRequest resetRequest;

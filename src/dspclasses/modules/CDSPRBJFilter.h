@@ -1,36 +1,21 @@
 #pragma once
 
+#include "dspclasses/blocks/BiquadCoefficients.h"
 #include "dspclasses/blocks/CResetRequest.h"
 #include "dspclasses/kernels/BiquadLanes.h"
 #include "dspclasses/modules/CDSPBase.h"
 #include "values/TRelaxed.h"
 
-#include <cstdint>
-
 /// Stereo biquad in nine kinds: the building block of the tone modules and of the de-esser's side
-/// chain. A change of coefficients takes effect within the block, on the state as it is.
+/// chain. New coefficients take effect within the block and keep the state.
 ///
 /// Denormal samples of the input become 0.0 in the input buffer as well. A filtered sample beyond
-/// -5 to 5 is replaced by -1 or 1, so that an unstable recursion cannot run away.
-/// Source: R. Bristow-Johnson, Cookbook formulae for audio EQ biquad filter coefficients.
+/// -5 to 5 is replaced by -1 or 1, so that an unstable recursion cannot run away. Kept: not clipped
+/// at 5.
 class CDSPRBJFilter : public CDSPBase {
 public:
-    enum class EKind : std::int32_t {
-        LowPass,
-        HighPass,
-        BandPassSkirt,  // constant gain of the skirts
-        BandPassPeak,   // constant gain at the peak
-        Notch,
-        AllPass,
-        Peaking,
-        LowShelf,
-        HighShelf,
-    };
-
-    /// Divided by a0, for y = b0 x + b1 x1 + b2 x2 - a1 y1 - a2 y2.
-    struct SCoefficients {
-        double b0, b1, b2, a1, a2;
-    };
+    using EKind = EBiquadKind;
+    using SCoefficients = SBiquadCoefficients;
 
     /// A low-pass at 440 Hz, one octave.
     CDSPRBJFilter();
@@ -43,8 +28,8 @@ public:
     void setGain(float db);
     /// @param value  octaves or Q, above 0; not checked. [any thread]
     void setBandwidth(float value);
-    /// Computes the coefficients anew and resets, also when the rate is 0 or the present one. Not
-    /// beside another call; nothing in the strip changes the rate.
+    /// Computes the coefficients anew and resets. Kept: also when the rate is 0 or unchanged, which
+    /// the base ignores. Not while another thread uses the filter; nothing in the strip calls it.
     void setSampleRate(float rate);
 
     SCoefficients getCoefficients() const { return {b0, b1, b2, a1, a2}; }
@@ -53,34 +38,28 @@ public:
     void processDoubleReplacing(double **in, double **out, int frames) override;
     void reset() override;
 
-    // For a loop that does more than filter. [audio thread]
+    // For a loop that does more than filter: take the biquad out, refresh it every 64 frames, put
+    // it back after the block. [audio thread]
 
-    /// @return the state, the coefficients not yet among it.
-    SBiquadLanes takeOut() const {
-        SBiquadLanes lanes{};
-        lanes.x1 = frameOf(left.x1, right.x1);
-        lanes.x2 = frameOf(left.x2, right.x2);
-        lanes.y1 = frameOf(left.y1, right.y1);
-        lanes.y2 = frameOf(left.y2, right.y2);
-        return lanes;
-    }
+    /// @return the state of both channels. The coefficients may be old until the first refresh.
+    const SBiquadLanes &takeOut() const { return biquad; }
 
-    /// To be called every 64 frames: the coefficients as they are now, and a reset if one was asked
-    /// for.
-    void refresh(SBiquadLanes &lanes) {
-        lanes.b0 = inBothChannels(b0);
-        lanes.b1 = inBothChannels(b1);
-        lanes.b2 = inBothChannels(b2);
-        lanes.a1 = inBothChannels(a1);
-        lanes.a2 = inBothChannels(a2);
+    /// Takes the present coefficients over, and clears the state if a reset was asked for.
+    void refresh(SBiquadLanes &now) {
+        now.b0 = inBothChannels(b0);
+        now.b1 = inBothChannels(b1);
+        now.b2 = inBothChannels(b2);
+        now.a1 = inBothChannels(a1);
+        now.a2 = inBothChannels(a2);
         if (resetRequest.take())
-            lanes.x1 = lanes.x2 = lanes.y1 = lanes.y2 = inBothChannels(0.0);
+            now.x1 = now.x2 = now.y1 = now.y2 = inBothChannels(0.0);
     }
 
-    /// @param lanes  what takeOut gave, after the block. The coefficients are not read.
-    void putBack(const SBiquadLanes &lanes) {
-        left = {leftOf(lanes.y1), leftOf(lanes.y2), leftOf(lanes.x1), leftOf(lanes.x2)};
-        right = {rightOf(lanes.y1), rightOf(lanes.y2), rightOf(lanes.x1), rightOf(lanes.x2)};
+    void putBack(const SBiquadLanes &after) {
+        biquad.x1 = after.x1;
+        biquad.x2 = after.x2;
+        biquad.y1 = after.y1;
+        biquad.y2 = after.y2;
     }
 
 private:
@@ -89,19 +68,12 @@ private:
     template <typename Sample>
     void run(Sample *const *in, Sample *const *out, int frames);
 
+    SBiquadLanes biquad;  // takes the coefficients over before each group of frames
     TRelaxed<double> b0, b1, b2, a1, a2;
-
-    struct SHistory {
-        double y1 = 0.0, y2 = 0.0;  // last outputs
-        double x1 = 0.0, x2 = 0.0;  // last inputs
-    };
-    SHistory left;
-    SHistory right;
-
     TRelaxed<float> frequency = 440.0f;  // Hz
     TRelaxed<float> gainDb = 0.0f;       // dB
     TRelaxed<float> bandwidth = 1.0f;    // octaves, or the Q
-    TRelaxed<bool> useBandwidth = true;  // what bandwidth means
+    TRelaxed<bool> useBandwidth = true;  // whether bandwidth is in octaves
     TRelaxed<EKind> kind = EKind::LowPass;
     CResetRequest resetRequest;
 };

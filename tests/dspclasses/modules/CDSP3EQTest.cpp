@@ -3,6 +3,7 @@
 #include "dspclasses/modules/ModuleContract.h"
 #include "dspclasses/modules/Plain3EQ.h"
 #include "dspclasses/support/Oracle.h"
+#include "dspclasses/support/Response.h"
 
 #include <cmath>
 #include <memory>
@@ -22,12 +23,17 @@ std::unique_ptr<CDSP3EQ> makeCurved() {
     return equaliser;
 }
 
-/// @return the first sample of the impulse response with only one band let through: the low band's
-/// is its smoothing factor, the high band's what the upper filter leaves.
-double firstOfBand(CDSP3EQ &equaliser, int band) {
-    equaliser.reset();
+/// Silences the other two bands.
+void leaveOnly(CDSP3EQ &equaliser, int band) {
     for (const int other : {kLowGain, kMidGain, kHighGain})
         equaliser.setParameter(other, other == band ? 0.0f : -1e6f);
+}
+
+/// @return the first sample of a band's impulse response: the coefficient of the lower low-pass for
+///         the low band, 1 minus that of the upper one for the high band.
+double firstOfBand(CDSP3EQ &equaliser, int band) {
+    equaliser.reset();
+    leaveOnly(equaliser, band);
     TStereo<double> impulse(1);
     impulse.left(0) = 1.0;
     return render(equaliser, impulse, 1).left(0);
@@ -46,7 +52,7 @@ TEST(CDSP3EQ, StartsFlatWithItsCrossoversAt350And1500Hertz) {
     EXPECT_NEAR(1.0 - firstOfBand(equaliser, kHighGain), 0.7248, 1e-4);
 }
 
-TEST(CDSP3EQ, SmoothingFactorHardlyFollowsTheCrossover) {
+TEST(CDSP3EQ, TheCoefficientsHardlyFollowTheCrossover) {
     CDSP3EQ equaliser;
     for (const float crossover : {100.0f, 800.0f}) {
         equaliser.setParameter(kLowCrossover, crossover);
@@ -54,6 +60,20 @@ TEST(CDSP3EQ, SmoothingFactorHardlyFollowsTheCrossover) {
     }
     equaliser.setParameter(kHighCrossover, 6400.0f);
     EXPECT_NEAR(1.0 - firstOfBand(equaliser, kHighGain), 0.48, 0.005);
+}
+
+TEST(CDSP3EQ, TheLowBandReachesFarAboveItsCrossover) {
+    CDSP3EQ equaliser;
+    leaveOnly(equaliser, kLowGain);
+    EXPECT_NEAR(decibelsAt(equaliser, 350.0), 0.0, 0.01);
+    EXPECT_NEAR(decibelsAt(equaliser, 11007.6), -3.01, 0.001);
+}
+
+TEST(CDSP3EQ, TheHighBandBeginsFarAboveItsCrossover) {
+    CDSP3EQ equaliser;
+    leaveOnly(equaliser, kHighGain);
+    EXPECT_LT(decibelsAt(equaliser, 1500.0), -18.0);
+    EXPECT_GT(decibelsAt(equaliser, 11025.0), -10.0);
 }
 
 TEST(CDSP3EQ, TheMidBandIsReversedAtTheStart) {
@@ -96,7 +116,7 @@ TEST(CDSP3EQ, KeepsItsStateAtTheSameCrossover) {
     render(untouched, burst, 50);
     equaliser.setParameter(kLowGain, 6.0f);
     untouched.setParameter(kLowGain, 6.0f);
-    equaliser.setSampleRate(88200.0f);  // seen by a computation only
+    equaliser.setSampleRate(88200.0f);  // takes effect at the next computation
     equaliser.setParameter(kLowCrossover, 350.0f);
     equaliser.setParameter(kHighCrossover, 1500.0f);
     EXPECT_TRUE(render(equaliser, noise, 50) == render(untouched, noise, 50));
@@ -139,7 +159,7 @@ TEST(CDSP3EQ, IgnoresAnUnknownIndex) {
 
 TEST(CDSP3EQ, FlushesEachStateByItself) {
     CDSP3EQ equaliser;
-    TStereo<double> input(1, 3e-308);  // times the smaller factor a denormal, times the other not
+    TStereo<double> input(1, 3e-308);  // a denormal after one low-pass, not after the other
     equaliser.setParameter(kHighCrossover, 6400.0f);
     equaliser.setParameter(kLowGain, 6.0206f);
     TStereo<double> output = render(equaliser, input, 1);

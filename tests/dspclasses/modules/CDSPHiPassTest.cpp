@@ -3,17 +3,18 @@
 #include "dspclasses/modules/ModuleContract.h"
 #include "dspclasses/modules/PlainHiPass.h"
 #include "dspclasses/support/Oracle.h"
+#include "dspclasses/support/Response.h"
 
 #include <cmath>
 #include <memory>
 
 namespace {
 
-/// A burst, so that there is a history to keep or to lose.
+/// Fills the history before a test.
 const TStereo<double> burst = makeSignal<double>(ESignal::Noise, 1, 50);
 const TStereo<double> noise = makeSignal<double>(ESignal::Noise, 2, 50);
 
-/// @return the pole, read off the impulse response: 1, then pole - 1.
+/// @return the pole, from the impulse response: 1, then pole - 1.
 double poleOf(CDSPHiPass &filter) {
     filter.reset();
     TStereo<double> impulse(2);
@@ -45,6 +46,14 @@ TEST(CDSPHiPass, ComputesThePoleFromTheCutoff) {
     }
 }
 
+TEST(CDSPHiPass, IsThreeDecibelsDownAtALowCutoff) {
+    CDSPHiPass filter;
+    EXPECT_NEAR(decibelsAt(filter, 60.0), -2.97, 0.01);
+    EXPECT_NEAR(decibelsAt(filter, 6.0), -20.03, 0.05);
+    filter.setParameter(CDSPHiPass::kCutoff, 2000.0f);
+    EXPECT_NEAR(decibelsAt(filter, 2000.0), -1.80, 0.01);
+}
+
 TEST(CDSPHiPass, IgnoresTheIndex) {
     CDSPHiPass filter;
     filter.setParameter(7, 200.0f);
@@ -67,7 +76,7 @@ TEST(CDSPHiPass, RestartsFromSilenceAtANewCutoff) {
     EXPECT_TRUE(render(filter, noise, 50) == render(fresh, noise, 50));
 }
 
-TEST(CDSPHiPass, ComputesNothingForTheCutoffThatItHolds) {
+TEST(CDSPHiPass, KeepsItsPoleAtTheSameCutoff) {
     CDSPHiPass filter;
     const double before = poleOf(filter);
     filter.setSampleRate(88200.0f);
