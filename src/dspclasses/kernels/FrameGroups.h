@@ -2,10 +2,11 @@
 
 #include <algorithm>
 
-/// Runs body(first, count) over a block, group by group. A module without a state of its own reads
-/// its gains once per group: a change on another thread lands inside the block, and the loop over
-/// a group keeps them in registers. Always in line: handing the body over costs as much as a short
-/// block does.
+/// Calls body(first, count) for each group of up to 64 frames of a block. A module reads its gains
+/// or coefficients once per group: a change from another thread takes effect within the block, and
+/// the loop over a group keeps them in registers. See docs/kernels.md.
+///
+/// Always inlined: a call with the body as argument would cost as much as a short block.
 template <typename Body>
 [[gnu::always_inline]] inline void forEachGroup(int frames, Body body) {
     constexpr int groupFrames = 64;

@@ -1,20 +1,19 @@
 #pragma once
 
-/// @return whether loops may use the eight lanes of AVX2. The one definition stands alone in its
-///         source, so that a test can link another one.
+/// @return whether loops may use the eight lanes of AVX2. Defined alone in its source, so that
+///         dspclasses_baseline_tests can link a definition that says no.
 bool processorHasWideLanes();
 
-/// Everything that the loop calls is compiled once more inside this function, for AVX2.
+/// The loop and everything inlined into it, compiled a second time for AVX2.
 template <typename Loop>
 [[gnu::target("avx2"), gnu::flatten, gnu::noinline]] void runOnWideLanes(Loop loop) {
     loop();
 }
 
-/// Runs a loop over samples: as the compiler vectorises it for the eight lanes of AVX2 where the
-/// processor has them, else for the four of SSE2. A lane computes just what the plain loop would,
-/// so the bits are the same.
-/// @param loop  holds the whole loop. It takes pointers and gains by value, so that the compiler
-///              sees that no store of the loop can change them.
+/// Runs a loop as compiled for AVX2 where the processor has it, else as compiled for SSE2. A lane
+/// computes exactly what the scalar loop would, so the bits are the same. See docs/kernels.md.
+/// @param loop  () -> void, the whole loop. It captures pointers and gains by value: then the
+///              compiler knows that no store of the loop changes them.
 template <typename Loop>
 void runWide(Loop loop) {
     if (processorHasWideLanes())

@@ -8,6 +8,7 @@ void CDSPGain::setParameter(int /*index*/, float value) {
         return;
     decibels = value;
     constexpr float ln10 = 2.30258509f;
+    // Kept: a step at -60 dB, from a factor of 0.001 to silence.
     gain = value > -60.0f ? expSingle(ln10 * value * 0.05f) : 0.0f;
 }
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+// Kept: neither compared with the last value nor clamped.
 void CDSPMono::setParameter(int /*index*/, float value) {
     mode = truncated(value * 3.0f);
 }
@@ -15,7 +16,7 @@ float CDSPMono::getParameter(int /*index*/) {
 template <typename Sample>
 static void combine(const Sample *__restrict inL, const Sample *__restrict inR,
                     Sample *__restrict outL, Sample *__restrict outR, int frames) {
-    // The root of one half in single precision, in the double run as well.
+    // Kept: the root of one half rounded to single precision, for doubles too.
     constexpr Sample rootHalf = 0.70710677f;
     for (int i = 0; i < frames; ++i) {
         const Sample sum = (inL[i] + inR[i]) * rootHalf;

@@ -3,9 +3,12 @@
 #include "dspclasses/modules/CDSPBase.h"
 #include "values/TRelaxed.h"
 
-/// Moves one input across the stereo image while the other stays where it is: the right input left
-/// of the middle, the left input in the middle and right of it. The one parameter is set whatever
-/// the index.
+/// Moves one input across the stereo image and leaves the other on its side: the right input while
+/// the position is left of the middle, the left input from the middle on. The one parameter is set
+/// whatever the index.
+///
+///     | left out  |   | leftToLeft   rightToLeft  |   | left in  |
+///     | right out | = | leftToRight  rightToRight | * | right in |
 class CDSPPan : public CDSPBase {
 public:
     enum EParameter : int {
@@ -18,8 +21,8 @@ public:
     void processDoubleReplacing(double **in, double **out, int frames) override;
 
 private:
-    void spreadRightInput(float spread);  // with the position left of the middle
-    void spreadLeftInput(float spread);
+    void spreadRightInput(float spread);  // position left of the middle
+    void spreadLeftInput(float spread);   // position in the middle or right of it
     template <typename Sample>
     void run(const Sample *const *in, Sample *const *out, int frames) const;
 
@@ -27,7 +30,8 @@ private:
     // The last spread of each half, 0 in the middle and 1 at the side.
     TRelaxed<float> rightHalfSpread = 1.0f;
     TRelaxed<float> leftHalfSpread = 1.0f;
-    // Linear. A pan that has never been moved lets the signal through as it is.
+    // Linear; the identity until the pan is moved. Kept: so is a first move straight to either end,
+    // whose spread of 1 is taken for the last one.
     TRelaxed<float> leftToLeft = 1.0f;
     TRelaxed<float> leftToRight = 0.0f;
     TRelaxed<float> rightToLeft = 0.0f;

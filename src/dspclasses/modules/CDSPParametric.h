@@ -2,7 +2,7 @@
 
 #include "dspclasses/modules/CDSPRBJFilter.h"
 
-/// A peaking band.
+/// A peaking band of any width; CDSPRBJFilter does the work.
 class CDSPParametric : public CDSPBase {
 public:
     enum EParameter : int {

@@ -2,7 +2,7 @@
 
 #include "dspclasses/modules/CDSPRBJFilter.h"
 
-/// A peaking band of half an octave.
+/// A peaking band half an octave wide; CDSPRBJFilter does the work.
 class CDSPPresence : public CDSPBase {
 public:
     enum EParameter : int {

@@ -3,12 +3,14 @@
 #include "dspclasses/modules/CDSPBase.h"
 #include "values/TRelaxed.h"
 
-/// Waveshaper after Schlick's bias curve, from the identity at 0 to a strong bend at 1. The one
+/// Waveshaper: Schlick's bias curve, from the identity at 0 to a strong bend at 1. The one
 /// parameter is set whatever the index.
 ///
-/// The curve is applied to the signed sample: both half-waves bend differently, which gives the
-/// even harmonics. It has a pole among the negative samples (-0.75 at full warmth), and nothing
-/// guards it.
+///     x --> x / ((x - 1) k + x) --> y    with k = 1 - 1 / bias, bias = 0.5 + 0.2 * warmth
+///
+/// Kept: the curve is applied to the signed sample, so that the two half-waves bend differently;
+/// that gives the even harmonics. Kept: it has a pole at x = k / (1 + k), -0.75 at full warmth, and
+/// nothing guards it.
 /// Source: C. Schlick, Fast alternatives to Perlin's bias and gain functions, Graphics Gems IV.
 class CDSPWarmer : public CDSPBase {
 public:

@@ -12,7 +12,7 @@ static SMatrix matrixAt(float position) {
     return matrixOf(balance);
 }
 
-TEST(CDSPBalance, LetsBothSidesThroughInTheMiddle) {
+TEST(CDSPBalance, IsTheIdentityInTheMiddle) {
     CDSPBalance balance;
     EXPECT_EQ(balance.getParameter(0), 0.5f);
     EXPECT_EQ(matrixOf(balance), (SMatrix{1.0, 0.0, 0.0, 1.0}));
@@ -26,12 +26,12 @@ TEST(CDSPBalance, SilencesTheOtherSideAtTheEnds) {
     EXPECT_EQ(matrixAt(1.0f), (SMatrix{0.0, 0.0, 0.0, 1.0}));
 }
 
-TEST(CDSPBalance, TurnsOneSideDownByASquareRootAndLeavesTheOther) {
+TEST(CDSPBalance, LowersOneSideByASquareRootLawAndLeavesTheOther) {
     EXPECT_EQ(matrixAt(0.125f), (SMatrix{1.0, 0.0, 0.0, 0.5}));
     EXPECT_EQ(matrixAt(0.875f), (SMatrix{0.5, 0.0, 0.0, 1.0}));
 }
 
-TEST(CDSPBalance, GivesWhatTheArithmeticGivesOutsideItsRange) {
+TEST(CDSPBalance, DoesNotClampThePosition) {
     const SMatrix below = matrixAt(-1.0f), above = matrixAt(1.5f);
     EXPECT_EQ(below.leftToLeft, 1.0);
     EXPECT_TRUE(std::isnan(below.rightToRight));
@@ -39,7 +39,7 @@ TEST(CDSPBalance, GivesWhatTheArithmeticGivesOutsideItsRange) {
     EXPECT_EQ(above.rightToRight, 1.0);
 }
 
-TEST(CDSPBalance, TakesMinusZeroForTheZeroThatItHolds) {
+TEST(CDSPBalance, IgnoresMinusZeroAfterZero) {
     CDSPBalance balance;
     balance.setParameter(0, 0.0f);
     balance.setParameter(0, -0.0f);

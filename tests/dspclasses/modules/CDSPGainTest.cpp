@@ -26,7 +26,7 @@ TEST(CDSPGain, IsSilentAtMinusSixtyAndBelow) {
     }
 }
 
-TEST(CDSPGain, IsSoftButNotSilentJustAboveMinusSixty) {
+TEST(CDSPGain, IsNotSilentJustAboveMinusSixty) {
     CDSPGain gain;
     gain.setParameter(0, -59.9f);
     EXPECT_NEAR(factorOf(gain), 0.0010116, 1e-6);
@@ -46,7 +46,7 @@ TEST(CDSPGain, IgnoresTheIndex) {
     EXPECT_EQ(gain.getParameter(9), -6.0f);
 }
 
-TEST(CDSPGain, TakesMinusZeroForTheZeroThatItHolds) {
+TEST(CDSPGain, IgnoresMinusZeroAfterZero) {
     CDSPGain gain;
     gain.setParameter(0, -0.0f);
     EXPECT_FALSE(std::signbit(gain.getParameter(0)));

@@ -19,7 +19,7 @@ TEST(CDSPMono, StartsWithCombine) {
     EXPECT_EQ(mono.getParameter(0), 0.0f);
 }
 
-TEST(CDSPMono, TakesTheModeByTruncationOfTheTriple) {
+TEST(CDSPMono, TruncatesThreeTimesTheValueToAMode) {
     const float third = 1.0f / 3.0f, twoThirds = 2.0f / 3.0f;
     EXPECT_EQ(modeOf(0.0f), CDSPMono::kCombine);
     EXPECT_EQ(modeOf(std::nextafter(third, 0.0f)), CDSPMono::kCombine);
@@ -38,7 +38,7 @@ TEST(CDSPMono, DoesNotClampAndTruncatesTowardsZero) {
     EXPECT_EQ(modeOf(1e20f), std::numeric_limits<std::int32_t>::min());
 }
 
-TEST(CDSPMono, GivesBackAThirdOfTheModeWhichLeadsToTheSameMode) {
+TEST(CDSPMono, ReadsAsAThirdOfTheModeAndSetsTheSameModeAgain) {
     for (const float value : {0.0f, 0.4f, 0.99f, 1.0f}) {
         CDSPMono mono;
         mono.setParameter(3, value);
@@ -71,7 +71,7 @@ static void expectNothingWritten(float value) {
     EXPECT_EQ(output, TStereo<Sample>(8, 77)) << value;
 }
 
-TEST(CDSPMono, WritesNothingInAModeBeyondTheFour) {
+TEST(CDSPMono, WritesNothingInAnUnknownMode) {
     for (const float value : {-0.4f, 1.4f, 1e20f, std::numeric_limits<float>::quiet_NaN()}) {
         expectNothingWritten<float>(value);
         expectNothingWritten<double>(value);

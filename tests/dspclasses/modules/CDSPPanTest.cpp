@@ -16,19 +16,19 @@ static SMatrix matrixAfter(std::initializer_list<float> positions) {
 
 static const SMatrix identity{1.0, 0.0, 0.0, 1.0};
 
-TEST(CDSPPan, LetsTheSignalThroughUntilItIsMoved) {
+TEST(CDSPPan, IsTheIdentityUntilItIsMoved) {
     CDSPPan pan;
     EXPECT_EQ(pan.getParameter(0), 0.5f);
     EXPECT_EQ(matrixOf(pan), identity);
     EXPECT_EQ(matrixAfter({0.5f}), identity);
 }
 
-TEST(CDSPPan, GathersBothInputsAtASide) {
+TEST(CDSPPan, PutsBothInputsOnOneSideAtEitherEnd) {
     EXPECT_EQ(matrixAfter({0.25f, 0.0f}), (SMatrix{1.0, 0.0, 1.0, 0.0}));
     EXPECT_EQ(matrixAfter({0.75f, 1.0f}), (SMatrix{0.0, 1.0, 0.0, 1.0}));
 }
 
-TEST(CDSPPan, SkipsTheSideAsFirstPositionSinceItsSpreadStartsThere) {
+TEST(CDSPPan, IgnoresAFirstMoveStraightToEitherEnd) {
     EXPECT_EQ(matrixAfter({0.0f}), identity);
     EXPECT_EQ(matrixAfter({1.0f}), identity);
 }
@@ -39,7 +39,7 @@ TEST(CDSPPan, SpreadsTheRightInputInTheLeftHalfAndTheLeftInputInTheRight) {
     EXPECT_EQ(matrixAfter({0.75f}), (SMatrix{near, far, 0.0, 1.0}));
 }
 
-TEST(CDSPPan, DoesNotMeetInTheMiddle) {
+TEST(CDSPPan, TheHalvesDoNotMeetInTheMiddle) {
     const SMatrix middle = matrixAfter({0.75f, 0.5f});
     const double rootHalf = std::sqrt(0.5f);
     EXPECT_EQ(middle, (SMatrix{rootHalf, rootHalf, 0.0, 1.0}));
@@ -50,18 +50,18 @@ TEST(CDSPPan, DoesNotMeetInTheMiddle) {
     EXPECT_NEAR(below.rightToRight, rootHalf, 1e-6);
 }
 
-TEST(CDSPPan, RemembersTheLastSpreadOfEachHalf) {
-    // The second visit finds the spread unchanged, after the other half has set two gains anew.
+TEST(CDSPPan, EachHalfSkipsASpreadThatIsItsLastOne) {
+    // The second 0.75 has the spread of the first, but the other half has set two gains since.
     EXPECT_EQ(matrixAfter({0.75f, 0.25f, 0.75f}), identity);
     EXPECT_EQ(matrixAfter({0.25f, 0.75f, 0.25f}), (SMatrix{1.0, 0.0, 0.0, 1.0}));
     EXPECT_NE(matrixAfter({0.75f, 0.25f, 0.8f}), identity);
 }
 
-TEST(CDSPPan, KeepsItsMatrixWhereASpreadComesBack) {
+TEST(CDSPPan, KeepsItsMatrixWhenAPositionIsRepeated) {
     EXPECT_EQ(matrixAfter({0.75f, 0.25f, 0.75f, 0.75f}), identity);
 }
 
-TEST(CDSPPan, GivesWhatTheArithmeticGivesOutsideItsRange) {
+TEST(CDSPPan, DoesNotClampThePosition) {
     const SMatrix below = matrixAfter({-0.5f}), above = matrixAfter({1.5f});
     EXPECT_TRUE(std::isnan(below.rightToRight));
     EXPECT_EQ(below.rightToLeft, std::sqrt(1.5f));
@@ -79,6 +79,6 @@ TEST(CDSPPan, IgnoresTheIndex) {
 TEST(CDSPPan, EqualsThePlainReadingBitForBit) {
     expectSameBits([] { return std::make_unique<CDSPPan>(); },
                    [] { return std::make_unique<CPlainPan>(); },
-                   // More draws than one, so that a half is left and found again within a case.
+                   // Several draws, so that a case leaves a half and comes back to it.
                    {{0, 0.25f, 0.75f}, {0, 0.25f, 0.75f}, {0, 0.0f, 1.0f}});
 }

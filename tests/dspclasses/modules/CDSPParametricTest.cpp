@@ -16,7 +16,7 @@ std::unique_ptr<CDSPParametric> makeWarm() {
     return parametric;
 }
 
-/// @return a filter set by hand, which the module has to equal.
+/// @return the filter that the module must equal.
 CDSPRBJFilter makePeak(float frequency, float bandwidth, float gainDb) {
     return CDSPRBJFilter(CDSPRBJFilter::EKind::Peaking, frequency, gainDb, bandwidth, true);
 }

@@ -15,7 +15,7 @@ std::unique_ptr<CDSPPresence> makeBright() {
     return presence;
 }
 
-/// @return a filter set by hand, which the module has to equal.
+/// @return the filter that the module must equal.
 CDSPRBJFilter makePeak(float frequency, float gainDb) {
     return CDSPRBJFilter(CDSPRBJFilter::EKind::Peaking, frequency, gainDb, 0.5f, true);
 }

@@ -25,7 +25,7 @@ Sample bend(CDSPWarmer &warmer, Sample sample) {
 
 }  // namespace
 
-TEST(CDSPWarmer, StartsAsTheIdentity) {
+TEST(CDSPWarmer, IsTheIdentityAtFirst) {
     CDSPWarmer warmer;
     EXPECT_EQ(warmer.getParameter(0), 0.0f);
     const auto input = makeSignal<float>(ESignal::Noise, 1, 500);
@@ -35,7 +35,7 @@ TEST(CDSPWarmer, StartsAsTheIdentity) {
             EXPECT_NEAR(output.channels[channel][i], input.channels[channel][i], 2e-7);
 }
 
-TEST(CDSPWarmer, BendsTheHalfWavesDifferentlyAtOne) {
+TEST(CDSPWarmer, BendsTheHalfWavesDifferentlyAtFullWarmth) {
     CDSPWarmer warmer;
     warmer.setParameter(0, 1.0f);
     EXPECT_EQ(bend(warmer, 0.0f), 0.0f);
@@ -50,7 +50,7 @@ TEST(CDSPWarmer, NothingGuardsThePole) {
     CDSPWarmer warmer;
     warmer.setParameter(0, 1.0f);
     EXPECT_GT(std::abs(bend(warmer, -0.75)), 1e5);
-    // A bias of exactly 2/3 gives the curve -0.5, and the pole at -1 is hit exactly.
+    // A bias of 2/3 gives a curve of -0.5, whose pole is exactly at -1.
     warmer.setParameter(0, 5.0f / 6.0f);
     EXPECT_TRUE(std::isinf(bend(warmer, -1.0f)));
 }
@@ -68,7 +68,7 @@ TEST(CDSPWarmer, IgnoresTheIndex) {
     EXPECT_EQ(warmer.getParameter(3), 0.25f);
 }
 
-TEST(CDSPWarmer, TakesMinusZeroForTheZeroThatItHolds) {
+TEST(CDSPWarmer, IgnoresMinusZeroAfterZero) {
     CDSPWarmer warmer;
     warmer.setParameter(0, -0.0f);
     EXPECT_FALSE(std::signbit(warmer.getParameter(0)));

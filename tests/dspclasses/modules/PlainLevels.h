@@ -4,8 +4,7 @@
 
 #include <cmath>
 
-/// The plain readings of the level and stereo modules: one frame after the other, every gain read
-/// at each use.
+/// The plain readings of the level and stereo modules: frame by frame, each gain read at each use.
 
 class CPlainGain : public CDSPBase {
 public:
@@ -129,8 +128,8 @@ public:
             if (p == leftHalfSpread)
                 return;
             leftHalfSpread = p;
-            rightToLeft = withoutDust(std::sqrt(p * 0.5f + 0.5f));
-            rightToRight = withoutDust(std::sqrt(0.5f - p * 0.5f));
+            rightToLeft = zeroIfInaudible(std::sqrt(p * 0.5f + 0.5f));
+            rightToRight = zeroIfInaudible(std::sqrt(0.5f - p * 0.5f));
         } else {
             rightToRight = 1.0f;
             rightToLeft = 0.0f;
@@ -138,8 +137,8 @@ public:
             if (p == rightHalfSpread)
                 return;
             rightHalfSpread = p;
-            leftToLeft = withoutDust(std::sqrt(0.5f - p * 0.5f));
-            leftToRight = withoutDust(std::sqrt(p * 0.5f + 0.5f));
+            leftToLeft = zeroIfInaudible(std::sqrt(0.5f - p * 0.5f));
+            leftToRight = zeroIfInaudible(std::sqrt(p * 0.5f + 0.5f));
         }
     }
     float getParameter(int) override { return pan; }
@@ -159,7 +158,7 @@ public:
     }
 
 private:
-    static float withoutDust(float gain) { return gain < 1e-20f ? 0.0f : gain; }
+    static float zeroIfInaudible(float gain) { return gain < 1e-20f ? 0.0f : gain; }
 
     float pan = 0.5f;
     float rightHalfSpread = 1.0f, leftHalfSpread = 1.0f;

@@ -5,8 +5,8 @@
 
 #include <cmath>
 
-/// The plain reading of the biquad: kinds by number, the coefficients formula by formula, one
-/// channel after the other and one sample after the other.
+/// The plain reading of the biquad: kinds by number, one formula per coefficient, one channel after
+/// the other, sample by sample.
 class CPlainRBJFilter : public CDSPBase {
 public:
     CPlainRBJFilter(int filterKind, float hz, float db, float width, bool widthInOctaves)
