@@ -308,7 +308,9 @@ TEST(CString, SubStringsWithBadOrEqualIndicesAreEmpty) {
 }
 
 TEST(CString, SubStringsEndAtATerminatorInTheMiddle) {
-    EXPECT_STREQ(CCutString("ab.txt").getSubString(0, 5).getString(), "ab");
+    const CString part = CCutString("ab.txt").getSubString(0, 5);
+    EXPECT_STREQ(part.getString(), "ab");
+    EXPECT_EQ(part.getNumberOfCharacters(), 3);
 }
 
 TEST(CString, ChangesCase) {
