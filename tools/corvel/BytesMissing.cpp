@@ -8,7 +8,8 @@ namespace Tessitor::Tool {
 
 namespace {
 
-// Programs that write into a pipe put such a length, since they cannot go back and correct it.
+// A program that writes to a pipe cannot go back and fill in the length. It writes 0 or a length
+// from here up.
 constexpr std::uint32_t unknownFrom = 0x7F000000;
 
 struct SChunkHead {

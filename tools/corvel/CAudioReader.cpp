@@ -36,7 +36,7 @@ CAudioReader::CAudioReader(const fs::path &file)
     if (const auto missing = bytesMissing(file))
         throw CJobError(file.string() + ": truncated, " + std::to_string(missing) +
                         " bytes of audio are missing");
-    // An Ogg file has its length in its last page.
+    // The length of an Ogg file is in its last page.
     if (!knowsLength() && (m_info.format & SF_FORMAT_TYPEMASK) == SF_FORMAT_OGG)
         throw CJobError(file.string() + ": truncated, the end of the audio is missing");
 }

@@ -14,13 +14,14 @@ struct SSoundFileCloser {
 /// Reads an audio file: WAV, AIFF, FLAC or Ogg with one or two channels.
 class CAudioReader {
 public:
-    /// @throws CJobError if the file is missing, cut short, of another kind or has more channels.
+    /// @throws CJobError if the file is missing, cut short, in another format, or has more than two
+    ///         channels.
     explicit CAudioReader(const std::filesystem::path &file);
 
     int sampleRate() const { return m_info.samplerate; }
     int channels() const { return m_info.channels; }
-    int format() const { return m_info.format; }  ///< of libsndfile
-    /// False for FLAC that was written into a pipe: it does not contain its length.
+    int format() const { return m_info.format; }  ///< libsndfile's format code
+    /// False for FLAC that was written to a pipe: it does not contain its length.
     bool knowsLength() const { return m_info.frames != SF_COUNT_MAX; }
     std::int64_t frames() const { return m_info.frames; }  ///< SF_COUNT_MAX if unknown
 

@@ -39,7 +39,7 @@ CAudioWriter::CAudioWriter(const std::filesystem::path &file, int format, int sa
     m_file.reset(sf_open(m_pending.path().c_str(), SFM_WRITE, &info));
     if (m_file == nullptr)
         fail(sf_strerror(nullptr));
-    // The peak chunk holds the time of day, so equal sounds would give different files.
+    // The peak chunk contains the time of day. With it, each run would write a different file.
     sf_command(m_file.get(), SFC_SET_ADD_PEAK_CHUNK, nullptr, SF_FALSE);
 }
 

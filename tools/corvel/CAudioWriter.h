@@ -11,22 +11,22 @@
 
 namespace Tessitor::Tool {
 
-/// Writes an audio file. The file appears when finish() is called, complete or not at all.
+/// Writes an audio file. It appears only when finish() succeeds, so it is never incomplete.
 class CAudioWriter {
 public:
-    /// @param format  of libsndfile.
+    /// @param format  libsndfile's format code.
     /// @throws CJobError if the file cannot be created.
     CAudioWriter(const std::filesystem::path &file, int format, int sampleRate, int channels);
 
     int channels() const { return m_channels; }
 
-    /// Appends interleaved samples. For integer formats they are rounded and clipped; in
-    /// floating-point formats they are kept.
+    /// Appends interleaved samples. Integer formats round and clip them; floating-point formats do
+    /// not change them.
     /// @throws CJobError if the file cannot be written.
     void write(const float *samples, std::int64_t frames);
     void write(const double *samples, std::int64_t frames);
 
-    /// Completes the file and moves it to its place.
+    /// Completes the file and gives it its final name.
     /// @throws CJobError if that fails.
     void finish();
 
@@ -39,7 +39,7 @@ private:
 
     std::filesystem::path m_place;
     int m_channels;
-    int m_bits;                 // of the integers; 0 for floating-point samples
+    int m_bits;                 // per integer sample; 0 for floating point
     std::int64_t m_frames = 0;  // written
     std::uint64_t m_clipped = 0;
     std::vector<std::int32_t> m_integers;

@@ -13,7 +13,8 @@ AEffect *enter(const CEffectLibrary &library) {
     AEffect *effect = library.enter(hostCallback);
     if (effect == nullptr)
         throw CJobError(library.file().string() + ": the effect does not start");
-    // Without the magic number nothing in the record can be called, not even to close the effect.
+    // Without the magic number no function pointer in the record can be trusted, not even the one
+    // that closes the effect.
     if (effect->magic != kEffectMagic || effect->dispatcher == nullptr)
         throw CJobError(library.file().string() + ": not a VST 2 effect (no valid record)");
     return effect;
@@ -46,7 +47,7 @@ std::intptr_t CEffectInstance::dispatch(AEffectOpcode opcode, std::int32_t index
 }
 
 std::string CEffectInstance::text(AEffectOpcode opcode, std::int32_t index, std::intptr_t value) {
-    // Some effects write more than the published lengths, which go up to 64.
+    // The published interface allows at most 64 bytes, but some effects write more.
     std::array<char, 512> buffer{};
     dispatch(opcode, index, value, buffer.data());
     buffer.back() = '\0';

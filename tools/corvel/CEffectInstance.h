@@ -20,7 +20,7 @@ struct SRunSettings {
     bool rightOutputConnected = true;
 };
 
-/// One effect, opened and closed as a host does it. [one thread at a time]
+/// One instance of an effect, from opening to closing. [one thread at a time]
 class CEffectInstance {
 public:
     /// Calls the library's entry function and opens the effect.
@@ -45,11 +45,11 @@ public:
     }
 
     /// @return the state of the current program. The effect owns it; valid until the next call.
-    /// @throws CJobError if the effect gives none.
+    /// @throws CJobError if the effect returns none.
     std::span<const std::byte> programChunk();
     void setProgramChunk(std::span<const std::byte> chunk);
 
-    /// Sends rate, block size, mains on and start. The transport starts at 0.
+    /// Sends sample rate, block size, precision, mains on and start. The transport starts at 0.
     void start(const SRunSettings &settings);
     /// Sends stop and mains off. Does nothing unless started.
     void stop();

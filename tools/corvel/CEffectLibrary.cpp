@@ -11,7 +11,7 @@ namespace Tessitor::Tool {
 
 namespace {
 
-// A name without a folder would be searched for in the system's library path.
+// The path is made absolute: the loader would look for a bare file name in the system's folders.
 void *openLibrary(const fs::path &file) {
     if (!fs::exists(file))
         throw CJobError(file.string() + ": no such file");

@@ -31,8 +31,8 @@ public:
     /// Calls the entry function. @return null if the effect refuses.
     AEffect *enter(audioMasterCallback host) const { return m_entry(host); }
 
-    /// Hold it while an instance is created or destroyed. Hosts do both on one thread, so effects
-    /// count their instances without a lock.
+    /// Must be held while an instance is created or destroyed: hosts do both on one thread, so
+    /// effects count their instances without a lock.
     std::mutex &lifetimeLock() const { return m_lifetimeLock; }
 
 private:

@@ -17,7 +17,7 @@ struct SSettingsRequest {
     std::vector<std::string> set;        // "NAME=VALUE"
 };
 
-/// @return the name of a program, empty if the effect gives none.
+/// @return the name of a program; empty if the effect has none for it.
 std::string programName(CEffectInstance &effect, std::int32_t program);
 
 /// @param text  a number from 0, or a name in upper or lower case.
@@ -35,12 +35,13 @@ public:
         std::string display;  // with the unit
     };
 
-    /// @param trial  an instance to try values on. Afterwards the request is applied to it.
-    /// @throws CCallError if the effect has no such program, module or parameter.
+    /// @param trial  an instance to look up names and try values on. In the end the request is
+    ///               applied to it, too.
+    /// @throws CCallError if the effect has no such program, module, parameter or value.
     CEffectSettings(const SSettingsRequest &request, CEffectInstance &trial);
 
-    /// @param effect  a new instance. Each parameter is set only once, so no module keeps a trace
-    ///                of values that were tried.
+    /// @param effect  must be new: the sound of some modules depends on earlier values, such as
+    ///                those that were tried on the other instance.
     void applyTo(CEffectInstance &effect) const;
 
     const std::string &programName() const { return m_programName; }

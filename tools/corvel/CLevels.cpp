@@ -9,7 +9,7 @@ namespace Tessitor::Tool {
 
 namespace {
 
-// Independent lanes let the compiler vectorise without reordering any sum.
+// Each lane has its own sum, so the compiler can vectorise without reordering additions.
 constexpr std::size_t lanes = 8;
 
 }  // namespace

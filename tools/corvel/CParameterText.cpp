@@ -13,9 +13,9 @@ namespace Tessitor::Tool {
 
 namespace {
 
-// Fine enough to find every text that is not a number, and to separate the branches of a law. It
-// includes tenths and hundredths: some pairs, such as "30:70", are displayed at a single such
-// value.
+// Fine enough to find every text that is not a number, and to separate the branches of a law. The
+// grid contains the exact tenths and hundredths: some pairs, such as "30:70", are only displayed at
+// one of these.
 constexpr int gridSteps = 1000;
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
@@ -34,7 +34,7 @@ bool beginsNumber(std::string_view text) {
            (std::isdigit(static_cast<unsigned char>(text[sign])) != 0 || text[sign] == '.');
 }
 
-// Removes the number at the start of the text, if there is one.
+// Removes the number at the start of the text and returns it.
 std::optional<double> takeNumber(std::string_view &text) {
     for (const std::string_view silence : {"-oo", "-inf"}) {
         if (text.starts_with(silence)) {
@@ -126,7 +126,7 @@ float CParameterText::valueOf(std::string_view text) const {
     return valueIn(widest, within);
 }
 
-/// @return at least one point of each range of values that are displayed as asked.
+/// @return at least one point of each range of values that the effect displays as asked.
 std::vector<CParameterText::SPoint> CParameterText::pointsShowing(const SReading &asked) const {
     std::vector<SPoint> points;
     for (std::size_t step = 0; step <= gridSteps; ++step) {
@@ -141,7 +141,7 @@ std::vector<CParameterText::SPoint> CParameterText::pointsShowing(const SReading
     return points;
 }
 
-/// @return the nearest points if no value is displayed as asked.
+/// @return the points nearest to what is asked, for the case that no value is displayed so.
 std::vector<CParameterText::SPoint> CParameterText::pointsBeside(const SReading &asked) const {
     constexpr double oneDigit = 1.0;  // both numbers of a pair are truncated and may not add up
     std::vector<SPoint> points;
@@ -153,7 +153,7 @@ std::vector<CParameterText::SPoint> CParameterText::pointsBeside(const SReading 
         if (step == gridSteps || !between(point, m_grid[step + 1], asked))
             continue;
         const auto [low, high] = narrow(point, m_grid[step + 1], asked);
-        // Silence is not near any number.
+        // "-oo" is not near any number.
         if (std::isfinite(*low.shown.number) && std::isfinite(*high.shown.number))
             points.insert(points.end(), {low, high});
     }
@@ -179,7 +179,8 @@ bool CParameterText::between(const SPoint &low, const SPoint &high, const SReadi
            (*low.shown.number < *asked.number) != (*high.shown.number < *asked.number);
 }
 
-/// @return the same point twice if it is displayed as asked, otherwise the nearest two around it.
+/// Bisects between two points for one that is displayed as asked.
+/// @return that point twice; if there is none, the nearest points on both sides.
 std::pair<CParameterText::SPoint, CParameterText::SPoint>
 CParameterText::narrow(SPoint low, SPoint high, const SReading &asked) const {
     for (;;) {
@@ -198,7 +199,7 @@ CParameterText::narrow(SPoint low, SPoint high, const SReading &asked) const {
 }
 
 CParameterText::SSpan CParameterText::spanAround(const SPoint &point) const {
-    // Find the last value that is displayed like the text, towards one that is not.
+    // Bisects for the last value that is displayed like the point.
     const auto edge = [&](float inside, float outside) {
         for (;;) {
             const float middle = inside + (outside - inside) / 2.0f;
@@ -218,7 +219,7 @@ CParameterText::SSpan CParameterText::spanAround(const SPoint &point) const {
 }
 
 float CParameterText::valueIn(const SSpan &span, const SPoint &within) const {
-    // Switches are set to an end, and knobs rest in the middle.
+    // A switch is set to an end of its range, and many knobs are neutral in the middle.
     for (const float plain : {0.0f, 1.0f, 0.5f})
         if (plain >= span.first && plain <= span.last && pointAt(plain).shown == within.shown)
             return plain;

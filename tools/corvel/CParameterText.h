@@ -9,8 +9,8 @@
 
 namespace Tessitor::Tool {
 
-/// Finds the normalised value that an effect displays as a given text. Only the display is known of
-/// the parameter's law: it may rise, fall, jump or repeat itself, and the display is rounded.
+/// Finds the normalised value that an effect displays as a given text. The law between the two is
+/// unknown: it may rise, fall, jump or repeat itself, and the display is rounded.
 class CParameterText {
 public:
     /// Returns the effect's display of a normalised value, without the unit.
@@ -22,9 +22,10 @@ public:
     /// @param text  a plain number from 0 to 1 is the normalised value itself. Anything else is
     ///              compared with the display and the unit; spaces, case and trailing zeros do not
     ///              matter.
-    /// @return 0, 1 or 0.5 if one of them is displayed as the text, otherwise the middle of the
-    ///         values that are. If no value is, one with the nearest number.
-    /// @throws CCallError if the display shows neither the text nor numbers on both sides of it.
+    /// @return the middle of the range of values that are displayed as the text, or 0, 1 or 0.5 if
+    ///         the range contains one of these. If no value is displayed as the text, a value with
+    ///         the nearest number.
+    /// @throws CCallError if the effect displays neither the text nor numbers on both sides of it.
     float valueOf(std::string_view text) const;
 
 private:

@@ -13,14 +13,14 @@ namespace Tessitor::Tool {
 
 namespace {
 
-// Follows links: the target is replaced and the link stays.
+// Follows links, so that the target is replaced and the link stays.
 fs::path resolved(const fs::path &place) {
     std::error_code error;
     const fs::path real = fs::weakly_canonical(place, error);
     return error ? place : real;
 }
 
-// Exclusively, so that no existing file is overwritten, not even that of another corvel process.
+// Opens with "x", so that no existing file is overwritten, not even that of another corvel process.
 fs::path makeFileBeside(const fs::path &place) {
     constexpr int attempts = 1000;
     for (int number = 0; number < attempts; ++number) {
@@ -42,7 +42,7 @@ fs::path makeFileBeside(const fs::path &place) {
 }  // namespace
 
 CPendingFile::CPendingFile(const fs::path &place) : m_place(resolved(place)) {
-    // Renaming would replace a device or a pipe.
+    // Renaming would replace a device or a pipe with a file.
     if (fs::exists(m_place) && !fs::is_regular_file(m_place))
         throw CJobError(place.string() + ": cannot be written (not a file)");
     m_path = makeFileBeside(m_place);

@@ -9,8 +9,8 @@ namespace Tessitor::Tool {
 class CPendingFile {
 public:
     /// Creates the empty file to write to.
-    /// @throws CJobError if the folder does not exist or is not writable, or if `place` is
-    ///         something other than a file.
+    /// @throws CJobError if the folder does not exist or is not writable, or if `place` exists and
+    ///         is not a regular file.
     explicit CPendingFile(const std::filesystem::path &place);
     /// Deletes the file unless it was committed.
     ~CPendingFile();

@@ -8,14 +8,14 @@
 
 namespace Tessitor::Tool {
 
-/// A progress bar in one line of standard error. [any thread]
+/// A progress bar on one line of standard error. [any thread]
 class CProgressBar {
 public:
-    /// @param shown  false to show nothing, as in a pipe.
+    /// @param shown  false to draw nothing, for standard error that is not a terminal.
     CProgressBar(std::size_t jobs, bool shown);
     ~CProgressBar();
 
-    /// @param done  the share of that job, from 0 to 1.
+    /// @param done  how much of that job is done, from 0 to 1.
     void report(std::size_t job, double done);
 
     /// Removes the line until the next report, so that something else can be printed.

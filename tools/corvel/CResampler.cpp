@@ -22,7 +22,7 @@ CResampler::CResampler(std::string file, double fromRate, double toRate, int cha
 }
 
 std::span<const float> CResampler::convert(std::span<const float> samples) {
-    // With room for the samples that the converter has held back.
+    // Room for samples that the converter has held back from earlier calls.
     constexpr double spareFrames = 1024.0;
     std::size_t used = 0, made = 0;
     while (used < samples.size()) {

@@ -15,9 +15,9 @@ public:
     /// @throws CJobError if the converter does not support the ratio.
     CResampler(std::string file, double fromRate, double toRate, int channels);
 
-    /// Takes samples and returns those that are ready. They lag by the length of the filter, so
+    /// Converts samples and returns as many as are ready. They lag by the length of the filter, so
     /// feed silence at the end.
-    /// @return memory of the converter, valid until the next call.
+    /// @return samples in the converter's own memory, valid until the next call.
     std::span<const float> convert(std::span<const float> samples);
     std::span<const double> convert(std::span<const double> samples);
 
@@ -31,7 +31,7 @@ private:
     std::size_t m_channels;
     std::unique_ptr<SRC_STATE, SDeleter> m_state;
     std::vector<float> m_converted;
-    std::vector<float> m_narrowed;  // to and from double precision
+    std::vector<float> m_narrowed;  // input and output of the form in double precision
     std::vector<double> m_widened;
 };
 

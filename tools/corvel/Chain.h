@@ -12,16 +12,16 @@ namespace Tessitor::Tool {
 /// The modules that the user has put into the channel strip, by slot, in running order.
 using Chain = std::vector<int>;
 
-/// @param labels  module labels as in the editor, in upper or lower case, separated by commas;
-///                empty or "none" for the empty chain.
+/// @param labels  module labels (Slots.h), in upper or lower case, separated by commas; empty or
+///                "none" for the empty chain.
 /// @throws CCallError if there is no such module, or it appears twice.
 Chain chainFromText(std::string_view labels);
 
-/// @return the label that the editor shows for a slot of 2 to 17.
+/// @param slot  2 to 17.
 std::string_view moduleLabel(int slot);
 
-/// The part of a program's running order after its fixed head. An endless list is cut where it
-/// repeats.
+/// The part of a program's running order after its fixed head. A cyclic list is cut where it would
+/// repeat.
 Chain chainOf(const Corvel::SProgram &program);
 void setChain(Corvel::SProgram &program, const Chain &chain);
 

@@ -13,7 +13,7 @@ namespace Tessitor::Tool {
 // exit status. Before it starts working it may throw CCallError or CJobError.
 
 struct SRenderCall {
-    std::optional<std::string> plugin;  // the effect file; none for the one next to the program
+    std::optional<std::string> plugin;  // the effect file; by default the one next to the program
     std::vector<std::string> files;     // the last one is the output
     SSettingsRequest settings;
     SRenderOptions options;

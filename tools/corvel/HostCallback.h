@@ -4,8 +4,9 @@
 
 namespace Tessitor::Tool {
 
-/// What this host tells one effect. The effect's `resvd1`, a field for the host, points to it.
-/// Until it does, questions about the instance are answered with 0.
+/// What this host tells one instance of an effect. The `resvd1` of the instance, a field reserved
+/// for the host, points to it. Before that is set, the answer to any question about the instance
+/// is 0.
 struct SHostState {
     VstTimeInfo time{};
     std::int32_t blockSize = 0;  // frames
@@ -13,7 +14,7 @@ struct SHostState {
     bool rightOutputConnected = true;
 };
 
-/// The host's entry for effects. [any thread]
+/// The function through which effects call this host. [any thread]
 std::intptr_t hostCallback(AEffect *effect, std::int32_t opcode, std::int32_t index,
                            std::intptr_t value, void *ptr, float opt);
 

@@ -34,7 +34,7 @@ constexpr std::array categoryNames = {
     "unknown",     "effect",          "synth",       "analysis",        "mastering", "spatializer",
     "room effect", "surround effect", "restoration", "offline process", "shell",     "generator"};
 
-// The questions that hosts are known to ask
+// The capabilities that hosts are known to ask about
 constexpr const char *canDoWords[] = {"plugAsChannelInsert",
                                       "plugAsSend",
                                       "mixDryWet",
@@ -69,8 +69,8 @@ std::string hexadecimal(std::int32_t number) {
     return text.data();
 }
 
-// The published order of the letters starts at the highest byte. Some effects store them in memory
-// order instead.
+// By the published interface the first letter is the highest byte. Some effects store the letters
+// in memory order instead.
 std::string lettersInMemory(std::int32_t id) {
     std::string letters;
     for (int byte = 0; byte < 4; ++byte) {

@@ -14,7 +14,7 @@ namespace {
 struct SFileHeader {
     std::array<char, 32> identityAndType;
     std::uint64_t segmentTable;  // offset in the file
-    std::uint64_t sectionTable;  // offset; for the linker, at the end of the file; 0 for none
+    std::uint64_t sectionTable;  // offset, at the end of the file; 0 for none
     std::array<char, 6> flags;
     std::uint16_t segmentSize;  // bytes of one entry
     std::uint16_t segmentCount;

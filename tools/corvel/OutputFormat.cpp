@@ -19,7 +19,7 @@ struct SContainer {
     int format;            // to write
     std::vector<int> kin;  // variants: read, and kept in the output
     std::vector<std::string_view> extensions;
-    std::vector<int> sampleTypes;  // the one that loses the least first
+    std::vector<int> sampleTypes;  // the least lossy first
 };
 
 const std::array<SContainer, 4> containers = {{
@@ -50,7 +50,7 @@ struct SSampleType {
     const char *name;   // in --format
     const char *title;  // in messages
     int format;
-    int bits;  // of the integers; 0 for floating-point samples
+    int bits;  // per integer sample; 0 for floating point
 };
 
 constexpr SSampleType sampleTypes[] = {

@@ -16,12 +16,12 @@ struct SFormatRequest {
 };
 
 /// @param text  "wav", "aiff", "flac" or "ogg", optionally followed by ":" and a sample type.
-/// @throws CCallError if there is no such container or type, or the container cannot hold the type.
+/// @throws CCallError if there is no such container, or it does not support the type.
 SFormatRequest formatFromText(std::string_view text);
 
 /// @return the format to write. The container is the requested one, otherwise that of the extension
 ///         of `out`, otherwise that of the input. The sample type is the requested one, otherwise
-///         that of the input, otherwise the type of the container that loses the least.
+///         that of the input, otherwise the closest that the container supports.
 int outputFormat(int inputFormat, const SFormatRequest &request, const std::filesystem::path &out);
 
 /// @return false if the extension belongs to another container or to none.
@@ -41,8 +41,8 @@ std::string extensionOf(int format);
 /// @return a readable text: "WAV, 24-bit".
 std::string describeFormat(int format);
 
-/// @return bits of the integers that a file of this format is written from; 0 if it is written from
-///         floating-point samples.
+/// @return the bits per sample if a file of this format is written from integers; 0 if it is
+///         written from floating-point samples.
 int integerBits(int format);
 
 }  // namespace Tessitor::Tool

@@ -9,7 +9,7 @@ namespace Tessitor::Tool {
 void print(const std::string &text);
 void printJson(const nlohmann::ordered_json &json);
 
-/// Prints one line to standard error, after the program's name.
+/// Prints one line to standard error, with the program's name in front.
 void printRemark(const std::string &line);
 
 }  // namespace Tessitor::Tool

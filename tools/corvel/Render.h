@@ -47,7 +47,8 @@ struct SRenderResult {
 /// Receives the progress, from 0 to 1.
 using RenderListener = std::function<void(double done)>;
 
-/// @throws CJobError if the effect is not stereo, or lacks the process call that is needed.
+/// @throws CJobError if the effect is not stereo, or cannot process in the precision of the
+///         options.
 void requireRenderable(const CEffectInstance &effect, const SRenderOptions &options);
 
 /// Renders one file with a new instance, so that earlier files leave no trace.

@@ -16,7 +16,7 @@ struct SRenderOutcome {
     std::string error;  // empty if there is a result
 };
 
-/// @return some lines of text about a successful job.
+/// @return a report on a successful job, in several lines.
 std::string describe(const SRenderOutcome &outcome, const CEffectSettings &settings);
 
 /// @return warnings for the user, one line each.

@@ -35,7 +35,7 @@ public:
 private:
     using Samples = std::span<const Sample>;  // interleaved
 
-    // Long enough to be worth a system call, short enough to stay in the cache on the whole path.
+    // Long enough for a system call to pay, short enough to stay in the cache on the whole path.
     static constexpr std::size_t chunkFrames = 16384;
 
     void feed(Samples samples);
@@ -53,7 +53,7 @@ private:
     const std::int64_t m_tailFrames;
     std::optional<CResampler> m_toStrip, m_fromStrip;
 
-    std::vector<Sample> m_chunk;      // read at a time
+    std::vector<Sample> m_chunk;      // one read from the file
     std::vector<Sample> m_processed;  // the effect's output for a chunk
     std::vector<Sample> m_inLeft, m_inRight, m_outLeft, m_outRight;  // one block
 

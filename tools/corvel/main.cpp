@@ -16,7 +16,7 @@ constexpr const char *generalHelp = R"(
 The effect is the file named with --plugin. By default it is ../plugin/Corvel.so, seen from
 this program's folder, or Corvel.so in the same folder.
 
-Exit status: 0 on success, 1 if a job failed, 2 if the call was wrong.
+Exit status: 0 on success, 1 if a job failed, 2 if the command line was wrong.
 
 See corvel COMMAND --help for the options of a command.
 )";
@@ -30,20 +30,20 @@ Files
 
   Inputs are WAV, AIFF, FLAC and Ogg files with one or two channels at any sample rate. The
   output keeps the rate of its input. A mono file is processed as if the host had connected
-  only the left input, and the output is stereo; with --mono it is the strip's mono sum.
+  only the left input. Its output is stereo, or with --mono the strip's mono sum.
 
   The container is taken from --format, else from OUT's extension, else from the input. The
   sample type is taken from --format, else from the input, else it is the closest that the
-  container supports. Integer samples are clipped, and a warning counts them;
-  floating-point samples are not clipped.
+  container supports. Integer formats clip samples beyond full scale, and a warning says how
+  many; floating-point formats keep them.
     wav, aiff   8, 16, 24, 32, float, double
     flac        8, 16, 24
     ogg         vorbis, opus
 
 Settings
   --set NAME=VALUE sets a parameter and may be repeated. corvel params lists the names;
-  upper and lower case are the same. A plain VALUE from 0 to 1 is the normalised value
-  that hosts store. Any other VALUE is a text as the effect displays it, with its unit:
+  case does not matter. A plain VALUE from 0 to 1 is the normalised value that hosts
+  store. Any other VALUE is a text as the effect displays it, with its unit:
   -18dB, "120 Hz", 3:1, Linked, 100:80. If several values display that text, the middle
   one is used, or 0, 1 or 0.5 if it is among them. If no value displays it, the closest
   displayed number is used. A number outside the range is an error.
@@ -51,7 +51,7 @@ Settings
   --chain lists the modules in running order, separated by commas: Balance, Pan, Gain,
   3Band, Rumble Filter, HiPass, Presence, Parametric, Gate, Compressor, DeEsser,
   Modulator 1, Modulator 2, Warmer, Delay, Reverb. Each may appear only once; "none" is the
-  empty chain. The strip runs any number of them.
+  empty chain.
 
   The program is set first, then the chain, then the parameters in the given order.
 
@@ -61,7 +61,7 @@ Examples
   corvel render phone.wav out.wav --resample --json
 )";
 
-/// Connects the options of one command to its call.
+/// A subcommand and the function that runs it.
 struct SCommand {
     CLI::App *app;
     std::function<int()> run;
