@@ -1,8 +1,8 @@
 # cmake -D SOURCE=<repository> -P CheckFloors.cmake
-# Every folder is a floor: its files include their own folder and those that its row in the table of
-# docs/architecture.md names, and a row names only rows above it. No file outside src/platform
-# includes a system header or asks which system it is built for, and the headers of src/platform show
-# nothing of one.
+# Every folder is a floor. Its files may include files of their own folder and of those in its row of
+# the table in docs/architecture.md, and a row may name only rows above it. Only the files in
+# src/platform/linux and src/platform/win32 may include system headers or test which system they are
+# built for.
 cmake_minimum_required(VERSION 3.25)
 
 # Sets floors, and floor_<folder> to the folders that it may include.
@@ -15,7 +15,7 @@ foreach(row IN LISTS rows)
     string(REGEX MATCHALL "[a-z0-9/]+" lower "${CMAKE_MATCH_3}")
     foreach(other IN LISTS lower)
         if(NOT other IN_LIST floors)
-            string(APPEND wrong "docs/architecture.md: ${folder} may not name ${other}, which is not above it\n")
+            string(APPEND wrong "docs/architecture.md: ${folder} names ${other}, which is not above it\n")
         endif()
     endforeach()
     list(APPEND floors ${folder})
@@ -43,7 +43,7 @@ set(standard
     source_location span sstream stack stdexcept stop_token streambuf string string_view syncstream
     system_error thread tuple type_traits typeindex typeinfo unordered_map unordered_set utility
     valarray variant vector version)
-# The compiler's own, the same on every system.
+# Headers of the compiler, the same on every system
 set(compiler cpuid.h cxxabi.h emmintrin.h immintrin.h)
 set(libraries_corvel CLI/CLI.hpp nlohmann/json.hpp samplerate.h sndfile.h)
 
@@ -51,14 +51,14 @@ file(GLOB_RECURSE files RELATIVE ${SOURCE} ${SOURCE}/src/*.h ${SOURCE}/src/*.cpp
     ${SOURCE}/tools/*.cpp)
 list(LENGTH files count)
 if(count LESS 100 OR NOT floors)
-    message(FATAL_ERROR "only ${count} files in ${SOURCE}, on the floors ${floors}")
+    message(FATAL_ERROR "found only ${count} files in ${SOURCE} and the floors \"${floors}\"")
 endif()
 
 foreach(file IN LISTS files)
     string(REGEX REPLACE "^(src|tools)/" "" path ${file})
     find_floor(${path} floor)
     if(floor STREQUAL "")
-        string(APPEND wrong "${file}: its folder is on no floor\n")
+        string(APPEND wrong "${file}: its folder is not in the table of docs/architecture.md\n")
         continue()
     endif()
     set(is_backend NO)
@@ -77,17 +77,17 @@ foreach(file IN LISTS files)
         elseif(line MATCHES "<([^>]+)>")
             if(NOT is_backend AND NOT CMAKE_MATCH_1 IN_LIST standard AND NOT CMAKE_MATCH_1 IN_LIST compiler
                 AND NOT CMAKE_MATCH_1 IN_LIST libraries_${floor})
-                string(APPEND wrong "${file}: ${CMAKE_MATCH_1} is no standard header\n")
+                string(APPEND wrong "${file}: must not include the system header ${CMAKE_MATCH_1}\n")
             endif()
         else()
-            string(APPEND wrong "${file}: not from the include root: ${line}\n")
+            string(APPEND wrong "${file}: must name the path from the include root: ${line}\n")
         endif()
     endforeach()
 
     file(STRINGS ${SOURCE}/${file} conditions
         REGEX "^[ \t]*#[ \t]*(el)?if.*(_WIN32|_WIN64|__MINGW|__linux|__unix|__APPLE__)")
     if(conditions AND NOT is_backend)
-        string(APPEND wrong "${file}: asks for the system: ${conditions}\n")
+        string(APPEND wrong "${file}: must not test for a system: ${conditions}\n")
     endif()
 endforeach()
 

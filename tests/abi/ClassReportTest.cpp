@@ -19,7 +19,8 @@ class CReportingFile : public CPluginFile {
 public:
     CReportingFile() : CPluginFile(CORVEL_REPORTING_FILE, "openEffect") {}
 
-    /// Ends the class library. @return the instance counts of all classes that still have any.
+    /// Ends the class library.
+    /// @return the instance counts of all classes that still have instances.
     std::map<std::string, std::uint32_t> report() const {
         const CTemporaryFolder folder;
         const std::string path = (folder / "report.txt").string();
@@ -27,7 +28,7 @@ public:
 
         const std::string text = readFile(path);
         if (text.empty())
-            throw std::runtime_error("the class library has ended before");
+            throw std::runtime_error("the class library has already ended");
         std::map<std::string, std::uint32_t> instances;
         std::istringstream lines(text);
         for (std::string line; std::getline(lines, line);) {
@@ -36,8 +37,8 @@ public:
             std::getline(columns, edge, '|');
             std::getline(columns, name, '|');
             std::getline(columns, count, '|');
-            // Only rows of classes have both: rules have no columns, headings no number, sums no
-            // name.
+            // Only the rows of classes have a name and a number: rules have no columns, headings no
+            // number, sums no name.
             const std::size_t begin = name.find_first_not_of(' ');
             if (begin != std::string::npos && std::isdigit(count.back()) != 0)
                 instances[name.substr(begin, name.size() - begin - 1)] =
@@ -47,7 +48,7 @@ public:
     }
 };
 
-/// Everything that a host may ask of an effect, except closing it.
+/// Calls everything that a host may call, except closing.
 void use(const CLoadedEffect &effect) {
     effect.send(effSetSampleRate, 0, 0, nullptr, 96000.0f);
     effect.send(effSetBlockSize, 0, 500);

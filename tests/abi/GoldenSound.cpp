@@ -9,8 +9,8 @@
 
 namespace {
 
-// Syllables of noise with pauses, made without a mathematical library: those differ between systems
-// in their last bits.
+// Syllables of noise with pauses. No sine or exponential is used: their last bits differ between
+// systems.
 TStereo<float> makeSyllables() {
     constexpr int syllables = 24, longest = 6000;
     CRandom random(2026);

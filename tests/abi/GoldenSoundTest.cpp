@@ -12,5 +12,5 @@ TEST(GoldenSound, OfEveryProgramIsUnchanged) {
             expected.push_back(line);
     }
     EXPECT_THAT(goldenSound(), testing::ElementsAreArray(expected))
-        << "scripts/golden.sh writes the table anew where the sound was changed on purpose";
+        << "if the sound was changed on purpose, run scripts/golden.sh to rewrite the table";
 }

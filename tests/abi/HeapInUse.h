@@ -3,5 +3,5 @@
 #include <cstddef>
 
 /// @return the bytes that the process has allocated and not freed; 0 under a sanitizer that
-/// replaces malloc.
+///         replaces malloc.
 std::size_t heapInUse();

@@ -6,7 +6,8 @@
 #include <gtest/gtest.h>
 #include <thread>
 
-// Call sequences observed in real hosts. All must lead to the same state and the same sound.
+// Call sequences observed in real hosts. Those that restore a saved state must all lead to the same
+// parameters and the same sound.
 
 namespace {
 
@@ -17,7 +18,7 @@ protected:
 
     CLoadedEffect load() { return {file, FakeHost::callback}; }
 
-    // The state to be saved: another program and two edits.
+    // What a host saves, and the sound that belongs to it.
     struct SState {
         std::vector<char> bank, preset;
         std::vector<float> parameters;
@@ -56,6 +57,7 @@ protected:
 
 }  // namespace
 
+// Ardour 7.3
 TEST_F(HostSequences, ParametersThenMainsThenProgramThenBank) {
     const SState state = edited();
     const CLoadedEffect effect = load();
@@ -70,6 +72,7 @@ TEST_F(HostSequences, ParametersThenMainsThenProgramThenBank) {
     expectState(effect, state);
 }
 
+// Qtractor 0.9.31
 TEST_F(HostSequences, BankThenEveryParameterInShuffledOrder) {
     const SState state = edited();
     const CLoadedEffect effect = load();
@@ -88,6 +91,7 @@ TEST_F(HostSequences, BankThenEveryParameterInShuffledOrder) {
     expectState(effect, state);
 }
 
+// MusE 4.1
 TEST_F(HostSequences, BankAfterProcessingStartedThenParametersOnTheAudioThread) {
     const SState state = edited();
     const CLoadedEffect effect = load();
@@ -109,6 +113,7 @@ TEST_F(HostSequences, BankAfterProcessingStartedThenParametersOnTheAudioThread) 
     EXPECT_EQ(result, state.sound);
 }
 
+// Audacity 3.2.4
 TEST_F(HostSequences, ProgramChunkBetweenBeginAndEnd) {
     const SState state = edited();
     const CLoadedEffect effect = load();
@@ -133,6 +138,7 @@ TEST_F(HostSequences, ProgramChunkBetweenBeginAndEnd) {
     expectState(effect, state);
 }
 
+// Ardour 7.3, for the instance from which it lists the programs
 TEST_F(HostSequences, ClosesAfterAHandfulOfCalls) {
     const CLoadedEffect effect = load();
     effect.send(effOpen);
@@ -141,12 +147,14 @@ TEST_F(HostSequences, ClosesAfterAHandfulOfCalls) {
     effect.send(effMainsChanged, 0, 0);
 }
 
+// Audacity 3.2.4 passes the parameter as the value and 0 as the index.
 TEST_F(HostSequences, SaysThatEveryParameterCanBeAutomated) {
     const CLoadedEffect effect = load();
     EXPECT_EQ(effect.send(effCanBeAutomated, kUnused63), 1);
     EXPECT_EQ(effect.send(effCanBeAutomated, kInGain, kUnused63), 1);
 }
 
+// MusE 4.1 processes in place and cuts blocks at automation points.
 TEST_F(HostSequences, BlocksOfAnyLengthAndBuffersInPlaceSoundTheSame) {
     const TStereo<float> voice = makeSignal<float>(ESignal::Bursts, 2, 6000);
     const CLoadedEffect steady = load(), cut = load();

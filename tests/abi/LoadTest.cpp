@@ -34,6 +34,7 @@ TEST(PluginFile, ReturnsNoEffectToAHostWithoutAVersion) {
     EXPECT_EQ(file.entry()(FakeHost::callback), nullptr);
 }
 
+// Qtractor 0.9.31 answers 2 and MusE 4.1 answers 2300.
 TEST(PluginFile, ReturnsAnEffectToHostsOfOldVersions) {
     FakeHost host;
     const CPluginFile file;
@@ -44,6 +45,7 @@ TEST(PluginFile, ReturnsAnEffectToHostsOfOldVersions) {
     }
 }
 
+// Audacity 3.2.4 crashes if it is asked for more.
 TEST(PluginFile, AsksOnlyForTheVersionBeforeThereIsAnEffect) {
     FakeHost host;
     const CPluginFile file;
@@ -53,7 +55,7 @@ TEST(PluginFile, AsksOnlyForTheVersionBeforeThereIsAnEffect) {
     EXPECT_EQ(host.calls(audioMasterVersion).size(), 1u);
 }
 
-TEST(PluginFile, MayBeLoadedAndUnloadedRepeatedly) {
+TEST(PluginFile, CanBeLoadedAndUnloadedRepeatedly) {
     FakeHost host;
     for (int i = 0; i < 5; ++i) {
         const CPluginFile file;
@@ -62,10 +64,10 @@ TEST(PluginFile, MayBeLoadedAndUnloadedRepeatedly) {
     }
 }
 
-TEST(PluginFile, GivesAllItsMemoryBackWhenItIsUnloaded) {
+TEST(PluginFile, FreesAllItsMemoryWhenItIsUnloaded) {
     FakeHost host;
     host.logging = false;
-    loadRunAndUnload();  // what the loader sets up for the first library stays
+    loadRunAndUnload();  // the loader keeps what it allocates for the first library
     const std::size_t before = heapInUse();
     constexpr std::size_t loads = 20;
     for (std::size_t i = 0; i < loads; ++i)
@@ -152,6 +154,7 @@ TEST(LoadedEffect, HasNoEditor) {
     EXPECT_EQ(rect, nullptr);
 }
 
+// Giada's pin record ends after the first 80 bytes.
 TEST(LoadedEffect, WritesNoMoreThanTheShortestPinRecordOfAnyHost) {
     FakeHost host;
     const CPluginFile file;

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-/// A plug-in file, by default the built one, loaded as a host loads it.
+/// A loaded plug-in file; by default the built one.
 class CPluginFile {
 public:
     using Entry = AEffect *(*)(audioMasterCallback);

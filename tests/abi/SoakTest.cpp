@@ -8,8 +8,8 @@
 #include <numeric>
 #include <span>
 
-// Random calls in random order: the effect and its plain version stay equal to the bit, and no call
-// leaks memory.
+// Random calls in random order. After each, the effect must equal its plain version to the bit, and
+// no call may leak memory.
 
 namespace {
 
@@ -54,7 +54,7 @@ public:
     }
 
 private:
-    // First of all, so that no later tempo needs more memory: the slowest gives the longest delay.
+    // The slowest tempo has the longest delay. It comes first, so that no later tempo needs memory.
     void lengthenDelay() {
         setParameter(kDlySync, 1.0f);
         host.time = VstTimeInfo{};
@@ -138,7 +138,7 @@ private:
         ASSERT_TRUE(result == expected) << frames << " frames";
     }
 
-    // With a mono output the right buffer is null, so its samples stay as they were.
+    // With a mono output the right buffer is null, so the right channel is compared as zeros.
     template <typename Effect, typename Sample>
     static TStereo<Sample> run(Effect &to, TStereo<Sample> input, bool isMonoOut, bool inPlace) {
         TStereo<Sample> output = inPlace ? input : TStereo<Sample>(input.frames());
@@ -153,7 +153,7 @@ private:
 
     using SProgram = CPlainEffect::SProgram;
 
-    // Any value; the ends and the middle come up more often than by chance.
+    // Any value, but more often than by chance an end or the middle of the range.
     float anyValue() {
         if (random.chance(0.2))
             return static_cast<float>(random.whole(0, 2)) * 0.5f;

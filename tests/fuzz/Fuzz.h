@@ -11,14 +11,14 @@
 #include <utility>
 
 /// The body of a fuzz target: does everything possible with the input and aborts if a requirement
-/// fails. libFuzzer calls it, and Replay.cpp does so with the corpus.
+/// fails. libFuzzer calls it with inputs that it generates, Replay.cpp with the corpus.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);
 
 /// Aborts with the message unless the condition holds.
 inline void require(bool holds, const char *what) {
     if (holds)
         return;
-    std::fprintf(stderr, "Does not hold: %s\n", what);
+    std::fprintf(stderr, "Requirement failed: %s\n", what);
     std::abort();
 }
 
@@ -38,7 +38,7 @@ private:
     std::string m_path = (m_folder / "input").string();
 };
 
-/// The bytes up to the first zero, as a function that takes a C string sees them.
+/// The bytes up to the first zero: what a function sees of them as a C string.
 inline std::string untilZero(const std::string &bytes) {
     return bytes.substr(0, bytes.find('\0'));
 }

@@ -56,7 +56,7 @@ int main(int count, char **arguments) {
     int files = 0;
     for (const auto &entry : std::filesystem::directory_iterator(path)) {
         const std::string bytes = readFile(entry.path().string());
-        std::printf("%s, seeds below %u\n", entry.path().filename().string().c_str(), number);
+        std::printf("%s and %u mutations\n", entry.path().filename().string().c_str(), number);
         std::fflush(stdout);
         run(bytes);
         for (unsigned seed = 0; seed < number; ++seed)

@@ -1,7 +1,7 @@
-// Stored programs. The first byte chooses the current program and whether the chunk is a bank; the
-// rest is the chunk. The effect trusts its host's chunks, so the input is brought into the range of
-// trusted ones: normalised values, since others trip the delay line's assertion or ask for
-// gigabytes, and links to existing slots. A chain that never ends is loaded but not run.
+// The input: a byte that chooses the current program and whether the chunk is a bank, then the
+// chunk. The effect trusts the chunks of its host, so the input is made valid first: values become
+// normalised, since others fail the delay line's assertion or allocate gigabytes, and links lead to
+// existing slots. A cyclic chain is loaded but not run.
 #include "Fuzz.h"
 #include "effect/CCorvel.h"
 
@@ -59,7 +59,7 @@ void requireTexts(CCorvel &effect) {
         char text[256];
         std::memset(text, 'x', sizeof text);
         effect.getParameterDisplay(id, text);
-        require(std::memchr(text, '\0', sizeof text) != nullptr, "a display text ends");
+        require(std::memchr(text, '\0', sizeof text) != nullptr, "a display text is terminated");
     }
 }
 
@@ -90,11 +90,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
 
     effect.setProgram(isPreset ? order % programCount : 0);
     require(effect.setChunk(programs.data(), byteSize, isPreset) == byteSize,
-            "a chunk is taken whole");
+            "setChunk accepts the whole chunk");
     void *stored = nullptr;
-    require(effect.getChunk(&stored, isPreset) == byteSize, "a chunk is given whole");
+    require(effect.getChunk(&stored, isPreset) == byteSize, "getChunk returns a whole chunk");
     require(std::equal(programs.begin(), programs.end(), static_cast<const SProgram *>(stored)),
-            "what was taken is given");
+            "getChunk returns what setChunk received");
     requireNames(effect);
     requireTexts(effect);
     if (hasEnd(programs[0]))

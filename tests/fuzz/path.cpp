@@ -1,4 +1,4 @@
-// A path, followed by commands that change it, each with a text.
+// The input: a path, then commands that change it, each followed by a text.
 #include "Fuzz.h"
 #include "foundation/CHtmlString.h"
 
@@ -71,7 +71,7 @@ void change(CHtmlString &path, std::uint8_t order, const CString &text) {
 
 void look(const CHtmlString &path, const CString &text) {
     require(std::strlen(path.getString()) < static_cast<std::size_t>(path.getNumberOfCharacters()),
-            "a text fits into its characters");
+            "the number of characters includes the terminator");
     path.hasExtension(text);
     path.getDrive(true);
     path.getDrive(false);
@@ -82,9 +82,9 @@ void look(const CHtmlString &path, const CString &text) {
     for (const std::int32_t index : {-1, 0, sections - 1, sections, sections + 1}) {
         const std::unique_ptr<CString> section(path.getPathSection(index));
         require(section != nullptr || index >= sections || sections == 0,
-                "every section that is counted is there");
+                "every counted section exists");
     }
-    require(!path.isFileAddress() && !path.isWebAddress(), "these two never know");
+    require(!path.isFileAddress() && !path.isWebAddress(), "both always return false");
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
-// A file, read line by line and compared with a simple split; then read as a mixture of lines and
-// numbers, as the first bytes command.
+// The input: a file. It is read line by line and compared with a simple split. Then it is read as a
+// mixture of lines and numbers, which its own bytes choose.
 #include "Fuzz.h"
 #include "foundation/CTextStream.h"
 
@@ -22,10 +22,10 @@ void requireLines(const std::string &path, const std::string &bytes) {
         std::string expected = untilZero(bytes.substr(position, length));
         if (expected.ends_with('\r'))
             expected.pop_back();
-        require(line == expected.c_str(), "a line is what stands between two line feeds");
-        require(stream.hasFailed() == (end - position > longestLine), "only a long line fails");
+        require(line == expected.c_str(), "a line is the text between two line feeds");
+        require(stream.hasFailed() == (end - position > longestLine), "only an overlong line fails");
         require(stream.hasFailed() || stream.isEndOfFile() == (end == bytes.size()),
-                "the last line is the end");
+                "the file ends with the last line");
         position = std::min(end + 1, bytes.size());
     }
 }

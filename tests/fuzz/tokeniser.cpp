@@ -1,4 +1,4 @@
-// A delimiter, then a text.
+// The input: a delimiter, then a text.
 #include "Fuzz.h"
 #include "foundation/CStringTokeniser.h"
 
@@ -19,18 +19,18 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     std::int32_t read = 0;
     while (const std::unique_ptr<char[]> token{tokeniser.getNextToken()}) {
         require(std::string(token.get()).find(delimiter) == std::string::npos,
-                "no delimiter is in a token");
+                "a token contains no delimiter");
         joined += (read > 0 ? std::string(1, delimiter) : "") + token.get();
         ++read;
     }
     require(read == count, "as many tokens are read as are counted");
-    require(held.starts_with(joined), "the tokens are the text from its start");
+    require(held.starts_with(joined), "the tokens are joined to the start of the text");
 
     CString token("kept");
-    require(!tokeniser.getNextToken(token) && token == "kept", "there are no more");
+    require(!tokeniser.getNextToken(token) && token == "kept", "there are no more tokens");
     tokeniser.setDelimiter(',');
     tokeniser.setText(text.c_str());
-    require(!tokeniser.hasMoreTokens(), "a new text is not counted");
+    require(!tokeniser.hasMoreTokens(), "the tokens of a new text are not counted yet");
     tokeniser.countTokens();
     while (tokeniser.getNextToken(token))
         require(token.getNumberOfCharacters() <= 2048, "a token is no longer than the text");

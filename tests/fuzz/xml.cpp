@@ -1,6 +1,6 @@
-// An XML file; the declaration at its start is added here. What was read must form a tree, and what
-// the tree writes must be readable again. The two trees may differ: a root with a name of one
-// letter is written as "</>", which reads as a closing tag.
+// The input: an XML file without the declaration at its start, which is added here. What was read
+// must form a tree, and the file written from the tree must be readable. The two trees may differ:
+// a root with a name of one letter is written as "</>", which reads as a closing tag.
 #include "Fuzz.h"
 #include "foundation/CXMLDocument.h"
 
@@ -25,7 +25,7 @@ void requireTree(const CXMLDocument &document) {
             attribute->getValueAsInt();
         }
         for (int i = 0; i < node->getNumberOfChildren(); ++i) {
-            require(node->getChild(i)->getParent() == node, "a child knows its parent");
+            require(node->getChild(i)->getParent() == node, "a child points to its parent");
             require(node->getChild(i)->getReferenceCount() == 1, "a child belongs to its parent");
             open.push_back(node->getChild(i));
         }

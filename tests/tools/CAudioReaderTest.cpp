@@ -91,7 +91,7 @@ TEST(CAudioReader, FlacWithoutALengthIsRead) {
     SSound sound = voice(3, 5000);
     sound.format = SF_FORMAT_FLAC | SF_FORMAT_PCM_16;
     writeSound(folder / "piped", sound);
-    // The number of frames: the last 36 bits before the 16 bytes of the checksum, at 26.
+    // Clears the number of frames: the 36 bits in front of the checksum, which starts at byte 26.
     std::string bytes = readFile(folder / "piped");
     bytes[21] = static_cast<char>(bytes[21] & '\xF0');
     bytes.replace(22, 4, std::string(4, '\0'));

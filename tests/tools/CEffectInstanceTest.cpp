@@ -113,7 +113,7 @@ TEST(CEffectInstance, TimeAdvancesFromBlockToBlock) {
     EXPECT_EQ(time->samplePos, 0.0);
 }
 
-TEST(CEffectInstance, GivesTextsAndChunks) {
+TEST(CEffectInstance, ReturnsTextsAndChunks) {
     const CEffectLibrary library(testEffect("Whole"));
     CEffectInstance effect(library);
     EXPECT_EQ(effect.text(effGetParamName, 1), "Freq");

@@ -124,7 +124,7 @@ TEST(CParameterText, ASwitchIsSetToItsEnd) {
     EXPECT_EQ(parameter.valueOf("Linked"), 1.0f);
 }
 
-TEST(CParameterText, ATextOfASingleValueIsFound) {
+TEST(CParameterText, ATextThatOnlyOneValueDisplaysIsFound) {
     const CParameterText parameter("", route);
     EXPECT_EQ(parameter.valueOf("Stereo"), 1.0f);
     EXPECT_NEAR(parameter.valueOf("AllRight"), 5.0f / 6.0f, 1e-4f);
@@ -139,7 +139,7 @@ TEST(CParameterText, BothBranchesOfAFoldedLawAreSearched) {
     EXPECT_NEAR(parameter.valueOf("-10dB"), 0.375f, 1e-4f);
 }
 
-TEST(CParameterText, SilenceHasANameOfItsOwn) {
+TEST(CParameterText, SilenceIsFoundByItsText) {
     const CParameterText parameter("dB", threshold);
     EXPECT_EQ(parameter.valueOf("-oo"), 0.0f);
     EXPECT_EQ(parameter.valueOf("-oo dB"), 0.0f);
@@ -151,13 +151,13 @@ TEST(CParameterText, TheFirstNumberAboveSilenceIsFound) {
     EXPECT_EQ(threshold(parameter.valueOf("-59.99dB")), "-59.99");
 }
 
-TEST(CParameterText, ANumberBetweenTwoDisplayedOnesGivesTheNearest) {
+TEST(CParameterText, ANumberBetweenTwoDisplayedOnesIsRoundedToTheNearest) {
     const CParameterText parameter("Hz", frequency);
     EXPECT_EQ(frequency(parameter.valueOf("120.4Hz")), "120");
     EXPECT_EQ(frequency(parameter.valueOf("120.6Hz")), "121");
 }
 
-TEST(CParameterText, TheNearestNumberAlsoGivesTheMiddleOfItsValues) {
+TEST(CParameterText, TheMiddleIsUsedForTheNearestNumberToo) {
     const CParameterText parameter("Hz", frequency);
     EXPECT_EQ(parameter.valueOf("120.4Hz"), parameter.valueOf("120Hz"));
 }
@@ -175,11 +175,11 @@ TEST(CParameterText, BothSidesOfABalanceAreFound) {
         EXPECT_EQ(balance(parameter.valueOf(text)), text);
 }
 
-TEST(CParameterText, ATruncatedPairIsFoundOrTheNearestOne) {
+TEST(CParameterText, APairThatNoValueDisplaysIsReplacedByTheNearest) {
     const CParameterText parameter("", mix);
     EXPECT_EQ(parameter.valueOf("30:70"), 0.7f);  // the only value with this display
     EXPECT_EQ(mix(parameter.valueOf("100:0")), "100:0");
-    EXPECT_EQ(mix(0.6f), "39:60");  // and no value gives 40:60
+    EXPECT_EQ(mix(0.6f), "39:60");  // no value is displayed as 40:60
     EXPECT_THAT(mix(parameter.valueOf("40:60")), testing::AnyOf("39:60", "40:59"));
     EXPECT_NE(refusal(parameter, "40:40"), "");
     EXPECT_NE(refusal(parameter, "130:0"), "");
@@ -224,7 +224,7 @@ TEST(CParameterText, AnEmptyTextAndANaNAreRefused) {
         EXPECT_NE(refusal(parameter, text), "") << text;
 }
 
-TEST(CParameterText, AParameterWithoutADisplayTakesOnlyNormalisedValues) {
+TEST(CParameterText, AParameterWithoutADisplayAcceptsOnlyNormalisedValues) {
     const CParameterText parameter("", [](float) { return std::string(); });
     EXPECT_EQ(parameter.valueOf("0.25"), 0.25f);
     EXPECT_NE(refusal(parameter, "On"), "");

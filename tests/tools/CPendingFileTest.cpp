@@ -49,12 +49,12 @@ TEST(CPendingFile, FollowsLinks) {
     EXPECT_EQ(readFile(folder / "target"), "new");
 }
 
-TEST(CPendingFile, NeedsItsFolder) {
+TEST(CPendingFile, FailsIfTheFolderIsMissing) {
     const CTemporaryFolder folder;
     EXPECT_THROW(CPendingFile(folder / "missing/place"), CJobError);
 }
 
-TEST(CPendingFile, ReplacesNothingButAFile) {
+TEST(CPendingFile, ReplacesNoFolderAndNoDevice) {
     const CTemporaryFolder folder;
     std::filesystem::create_directory(folder / "folder");
     EXPECT_THROW(CPendingFile(folder / "folder"), CJobError);

@@ -47,7 +47,7 @@ TEST(CResampler, ASineKeepsItsPositionInTime) {
         ASSERT_NEAR(converted[i], expected[i], 1e-4) << i;
 }
 
-TEST(CResampler, ThePartitionOfTheInputDoesNotMatter) {
+TEST(CResampler, TheLengthOfThePiecesDoesNotMatter) {
     const std::vector<float> samples = sine(700.0, 8000.0, 8000, 1);
     CResampler whole("file", 8000.0, 44100.0, 1), pieces("file", 8000.0, 44100.0, 1);
     const std::vector<float> fromWhole = convertInPieces(whole, samples, samples.size());

@@ -7,7 +7,7 @@
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
 
-// Tests of the program together with the effect of this build
+// Tests of the command-line host together with the built effect
 
 using namespace Tessitor::Tool;
 
@@ -80,7 +80,7 @@ TEST_F(ChannelStrip, EveryDisplayedTextCanBeSet) {
     }
 }
 
-TEST_F(ChannelStrip, TheEmptyProgramKeepsAVoiceBitForBit) {
+TEST_F(ChannelStrip, TheEmptyProgramPassesAVoiceBitForBit) {
     const SSound sound = voice(31, 100000);
     EXPECT_EQ(render(sound, {"--program", "Empty"}).samples, sound.samples);
     EXPECT_EQ(render(sound, {"--program", "Empty", "--double"}).samples, sound.samples);

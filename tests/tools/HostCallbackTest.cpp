@@ -21,7 +21,7 @@ protected:
 
 }  // namespace
 
-TEST_F(HostCallback, GivesItsVersionWithoutAnEffect) {
+TEST_F(HostCallback, ReturnsItsVersionWithoutAnEffect) {
     EXPECT_EQ(hostCallback(nullptr, audioMasterVersion, 0, 0, nullptr, 0.0f), 2400);
 }
 
@@ -34,7 +34,7 @@ TEST_F(HostCallback, AnswersEveryQuestionWithoutAnEffectOrState) {
     EXPECT_EQ(ask(audioMasterGetTime), 0);
 }
 
-TEST_F(HostCallback, PinsAreConnectedWhenTheAnswerIsZero) {
+TEST_F(HostCallback, AnswersZeroForAConnectedPin) {
     EXPECT_EQ(ask(audioMasterPinConnected, 0), 0);
     EXPECT_EQ(ask(audioMasterPinConnected, 1), 0);
     EXPECT_NE(ask(audioMasterPinConnected, 2), 0);
@@ -46,7 +46,7 @@ TEST_F(HostCallback, PinsAreConnectedWhenTheAnswerIsZero) {
     EXPECT_NE(ask(audioMasterPinConnected, 1, 1), 0);
 }
 
-TEST_F(HostCallback, GivesTimeRateAndBlockSizeOfTheInstance) {
+TEST_F(HostCallback, ReturnsTimeRateAndBlockSizeOfTheInstance) {
     state.time.tempo = 97.0;
     state.time.sampleRate = 48000.0;
     state.blockSize = 256;
@@ -57,7 +57,7 @@ TEST_F(HostCallback, GivesTimeRateAndBlockSizeOfTheInstance) {
     EXPECT_EQ(ask(audioMasterGetBlockSize), 256);
 }
 
-TEST_F(HostCallback, GivesItsNamesAndCapabilities) {
+TEST_F(HostCallback, ReturnsItsNamesAndCapabilities) {
     char text[64] = {};
     EXPECT_EQ(ask(audioMasterGetProductString, 0, 0, text), 1);
     EXPECT_STREQ(text, "corvel");

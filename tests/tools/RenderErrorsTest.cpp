@@ -5,8 +5,8 @@
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
 
-// Each error of `corvel render` gives one line with the file and the reason, and an exit status. An
-// existing output file is not changed.
+// Each error of `corvel render` prints one line with the file and the reason, and sets the exit
+// status. An existing output file is not changed.
 
 using testing::HasSubstr;
 using testing::StartsWith;

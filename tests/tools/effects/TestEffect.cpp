@@ -217,7 +217,7 @@ private:
     }
 
     void resume() {
-        // 0 means connected.
+        // audioMasterPinConnected returns 0 for a connected pin.
         m_mono = m_host(&m_record, audioMasterPinConnected, 1, 0, nullptr, 0.0f) != 0;
         m_held.fill(std::vector<double>(latency, 0.0));
         m_tempo = -1.0;

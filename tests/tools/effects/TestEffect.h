@@ -4,5 +4,5 @@
 
 /// An effect for tests of the command-line host. To the host it looks like the channel strip. It
 /// appends every call to the file named by CORVEL_TEST_LOG, one per line, after the number of the
-/// instance. Macros select variants that lack something.
+/// instance. Macros select variants that lack a feature.
 AEffect *enterTestEffect(audioMasterCallback host);

@@ -30,7 +30,7 @@ void writeSound(const std::filesystem::path &file, const SSound &sound) {
     SNDFILE *handle = sf_open(file.c_str(), SFM_WRITE, &info);
     if (handle == nullptr)
         throw std::runtime_error(sf_strerror(nullptr));
-    // Without this, full scale is written as 2^(bits - 1) - 1.
+    // Without this, libsndfile scales integers by 2^(bits - 1) - 1.
     sf_command(handle, SFC_SET_CLIPPING, nullptr, SF_TRUE);
     sf_writef_double(handle, sound.samples.data(), static_cast<sf_count_t>(sound.frames()));
     sf_close(handle);

@@ -14,8 +14,8 @@ struct SSound {
     std::size_t frames() const { return samples.size() / static_cast<std::size_t>(channels); }
 };
 
-/// @return something like a voice: tones, noise and rests, below full scale. Equal seeds give equal
-///         samples. All are multiples of 2^-15, which every lossless format can hold.
+/// @return a signal like a voice: tones, noise and rests, below full scale. The same seed gives the
+///         same samples. All are multiples of 2^-15, which every lossless format can hold.
 SSound voice(unsigned seed, std::size_t frames, int channels = 2);
 
 void writeSound(const std::filesystem::path &file, const SSound &sound);
