@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""table.py FILE: prints the results of dspclasses_bench, which FILE holds as JSON, as one table."""
+"""table.py FILE: prints a table of the results of dspclasses_bench. FILE is its output in JSON."""
 
 import json
 import sys
@@ -8,7 +8,7 @@ sample_rate = 44100
 
 
 def least_ns_per_frame(results):
-    """(name, precision, side, block) -> the least over the repetitions, as they were registered."""
+    """(name, precision, side, block) -> minimum over the repetitions, in the order of registration."""
     least = {}
     registration = lambda run: (run["family_index"], run["per_family_instance_index"])
     for run in sorted(results["benchmarks"], key=registration):
@@ -37,7 +37,7 @@ def main():
             )
     for (name, _, side, _), ns in least.items():
         if side == "chain":
-            print(f"{name} that waits for the one before: {ns:.2f} ns")
+            print(f"{name} that waits for the previous result: {ns:.2f} ns")
 
 
 if __name__ == "__main__":

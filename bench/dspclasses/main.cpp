@@ -7,8 +7,8 @@
 static constexpr int longestBlock = 4096;
 static constexpr int inputFrames = 2 * longestBlock;  // small enough to stay in the caches
 
-/// All measurements use the same memory, laid out so that no channel slows another down: the
-/// distance of two streams modulo a page can cost more time than a kernel.
+/// The buffers of all measurements. Their sizes keep the channels at different places within a
+/// page: two streams at the same place can cost each other more time than a kernel takes.
 template <typename Sample>
 struct SBuffers {
     alignas(64) Sample inL[inputFrames + 256];
@@ -23,7 +23,7 @@ struct SBuffers {
     }
 };
 
-/// Processes one block after the other. Counts frames.
+/// Processes block after block. Counts frames.
 template <typename Sample>
 static void measure(benchmark::State &state, const SSubject::Make &make) {
     static SBuffers<Sample> buffers;

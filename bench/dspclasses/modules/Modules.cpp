@@ -79,8 +79,8 @@ std::vector<SSubject> modulesToMeasure() {
                                         {{CDSPDelay::kTime, 775.0f}, {CDSPDelay::kPingPong, 1.0f}}),
         subject<CDSPReverb, CPlainReverb>(
             "Reverb", {{CDSPReverb::kRoomSize, 75.0f}, {CDSPReverb::kDryLevel, 1.0f}}),
-        subject<CDSPReverb, CPlainReverb>("Reverb, least room", {{CDSPReverb::kRoomSize, 1.0f},
-                                                                 {CDSPReverb::kSpread, 0.5f},
-                                                                 {CDSPReverb::kDryLevel, 1.0f}}),
+        subject<CDSPReverb, CPlainReverb>("Reverb, smallest room", {{CDSPReverb::kRoomSize, 1.0f},
+                                                                    {CDSPReverb::kSpread, 0.5f},
+                                                                    {CDSPReverb::kDryLevel, 1.0f}}),
     };
 }

@@ -7,7 +7,8 @@
 using Tessitor::Corvel::factoryPrograms;
 using Tessitor::Corvel::SProgram;
 
-/// Sets up a strip as the effect does: its values start at 0, so a 0 is not sent.
+/// Sends the parameters of a program to a strip. The effect starts with all values at 0 and sends
+/// only changes, so a 0 is not sent here either.
 template <typename Set>
 static void sendParameters(const SProgram &program, Set set) {
     for (int id = 0; id < kParameterCount; ++id) {

@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-/// What is measured: a module or a strip and its plain version, set up alike.
+/// A module or a strip to measure, with its plain version. Both are set up with the same values.
 struct SSubject {
     using Make = std::function<std::unique_ptr<CDSPBase>()>;
 
