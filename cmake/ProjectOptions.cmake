@@ -1,5 +1,5 @@
 option(CORVEL_BENCHMARKS "Build the benchmark programs" OFF)
-option(CORVEL_FUZZERS "Build the fuzz targets for libFuzzer, which clang brings" OFF)
+option(CORVEL_FUZZERS "Build the fuzz targets for libFuzzer, which is part of clang" OFF)
 set(CORVEL_SANITIZERS "" CACHE STRING "Sanitizers of the whole build: address,undefined or thread")
 
 set(CMAKE_CXX_STANDARD 20)
@@ -27,7 +27,7 @@ else()
 endif()
 
 if(WIN32)
-    # The standard printf, so that formatted numbers are the same on both systems
+    # The printf of MinGW instead of Microsoft's, so that both systems format numbers in the same way
     target_compile_definitions(project_options INTERFACE __USE_MINGW_ANSI_STDIO=1)
 endif()
 

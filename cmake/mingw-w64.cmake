@@ -13,10 +13,11 @@ set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 
-# Windows aligns the stack to 16 bytes only, and spilled AVX registers need 32.
+# Windows aligns the stack to 16 bytes only, but the compiler saves AVX registers there with aligned
+# 32-byte moves. The assembler turns these into unaligned ones.
 set(CMAKE_CXX_FLAGS_INIT "-Wa,-muse-unaligned-vector-move")
 
-# Linked statically, so that a user installs one file and no others.
+# Linked statically, so that users need no run-time libraries.
 set(CMAKE_EXE_LINKER_FLAGS_INIT "-static")
 set(CMAKE_MODULE_LINKER_FLAGS_INIT "-static")
 

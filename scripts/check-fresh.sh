@@ -26,7 +26,7 @@ debootstrap --variant=minbase bookworm "$root" "$mirror" > "$top/build/debootstr
 rm -rf "$root/etc/apt/sources.list"
 cp -a /etc/apt/. "$root/etc/apt/"
 cp /etc/resolv.conf /etc/hosts "$root/etc/"
-mount --bind "$root" "$root"  # so that / is a mount point, as on any machine
+mount --bind "$root" "$root"  # so that / is a mount point inside, too
 mount -t proc proc "$root/proc"
 mount --bind /dev "$root/dev"
 mount -t devpts devpts "$root/dev/pts" 2> /dev/null || mount --bind /dev/pts "$root/dev/pts"

@@ -36,7 +36,7 @@ plt.rcParams.update(
 
 
 def play(sound, chain, **settings):
-    """What the effect makes of `sound`, one or two columns, with `chain` from its program Empty."""
+    """Renders `sound` (one or two columns) with the program Empty, the modules of `chain` and `settings`."""
     stereo = sound if sound.ndim == 2 else np.column_stack([sound, sound])
     with tempfile.TemporaryDirectory() as work:
         source, result = Path(work, "in.wav"), Path(work, "out.wav")
@@ -60,7 +60,7 @@ def tone(hertz, seconds, level_db):
 
 
 def steps(levels_db, seconds):
-    """Full waves of a constant size, so that the gain shows in every sample."""
+    """A square wave that steps from level to level. It is never 0, so every sample shows the gain."""
     size = np.concatenate([np.full(int(seconds * RATE), 10 ** (db / 20)) for db in levels_db])
     return size * np.where(np.arange(size.size) // 22 % 2 == 0, 1.0, -1.0)
 
@@ -164,7 +164,7 @@ def filters():
 
 
 def draw_static(axis, chain, label, hertz, **settings):
-    """Output over input level of a steady tone, when everything has settled."""
+    """Draws output level against input level for a steady tone, after everything has settled."""
     inputs = np.arange(-60, 1)
     outputs = [rms_db(play(tone(hertz, 2.0, db), chain, **settings)[-RATE // 4 :]) + 3.01 for db in inputs]
     axis.plot(inputs, np.maximum(outputs, -80), label=label)
@@ -284,7 +284,7 @@ def delay():
 
 def reverb():
     figure, (response, decay) = panels("Reverb: impulse response, left", "Reverb: decay")
-    # The spread comes last: it fits the diffusers to the room.
+    # The spread comes after the room size: it fits the diffusers to the room.
     wet = {"RvRmSize": "20m2", "RvSpread": "0.4", "RvDryLvl": "0", "RvERLvl": "0.7", "RvTlLvl": "0.7"}
     heard = play(impulse(1.0, 1.0), "Reverb", RvTime="2.00s", **wet)[:, 0]
     picked = slice(0, int(0.5 * RATE))

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# golden.sh: rewrites the table of hashes of what every factory program makes of a generated signal.
-# The tests compare with this table, so run it only after an intended change of sound.
+# golden.sh: plays a generated signal through every factory program and rewrites the table of hashes of
+# the results, tests/abi/golden.txt. The tests compare with this table, so run it only after an intended
+# change of sound.
 set -euo pipefail
 cd "$(dirname "$(realpath "$0")")/.."
 

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# setup.sh [run|test|figures|fuzz]: installs through apt what the build and the run need, with "test"
-# (the default) also what the tests need, with "figures" what draws the pictures of the
-# documentation, with "fuzz" what the fuzzers need. Quiet and quick when nothing is missing.
+# setup.sh [run|test|figures|fuzz]: installs missing packages with apt. "run" is what building and running
+# need. The others add to it: "test" (the default) what the tests need, "figures" what draws the pictures
+# of the documentation, "fuzz" what the fuzzers need. Prints nothing if no package is missing.
 set -euo pipefail
 
 run_packages=(
@@ -9,13 +9,13 @@ run_packages=(
     libxcb1-dev                    # talks to the X server
     libsndfile1-dev libsamplerate0-dev libcli11-dev nlohmann-json3-dev  # the command-line host
     googletest locales             # the tests, part of every whole build
-    libbenchmark-dev python3       # the benchmarks, and the table that they print
-    alsa-utils                     # its speaker test ships recorded human speech
+    libbenchmark-dev python3       # the benchmarks and the table of their results
+    alsa-utils                     # contains recorded speech, for its speaker test
 )
 test_packages=(
-    git                                                 # tests of the source tree list its files
+    git                                                 # for scripts/golden.sh and scripts/check-fresh.sh
     g++-mingw-w64-x86-64-posix gcc-mingw-w64-x86-64-posix  # the Windows build
-    wine wine64 xvfb xauth                              # and where its tests run
+    wine wine64 xvfb xauth                              # run the Windows tests
 )
 figures_packages=(python3-matplotlib python3-soundfile)
 fuzz_packages=(clang-14 libclang-rt-14-dev)  # libFuzzer and the sanitizers that go with it

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # test.sh: sets up, builds for both systems and runs all tests, natively and as Windows programs under
-# Wine. The tests that change the effect from one thread while another plays run again under
+# Wine. The tests of the effect, some of which use it on two threads at once, run again under
 # ThreadSanitizer.
 set -euo pipefail
 cd "$(dirname "$(realpath "$0")")/.."
