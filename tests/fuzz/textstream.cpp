@@ -23,7 +23,7 @@ void requireLines(const std::string &path, const std::string &bytes) {
         if (expected.ends_with('\r'))
             expected.pop_back();
         require(line == expected.c_str(), "a line is the text between two line feeds");
-        require(stream.hasFailed() == (end - position > longestLine), "only an overlong line fails");
+        require(stream.hasFailed() == (end - position > longestLine), "only overlong lines fail");
         require(stream.hasFailed() || stream.isEndOfFile() == (end == bytes.size()),
                 "the file ends with the last line");
         position = std::min(end + 1, bytes.size());
