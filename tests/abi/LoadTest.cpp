@@ -34,7 +34,7 @@ TEST(PluginFile, ReturnsNoEffectToAHostWithoutAVersion) {
     EXPECT_EQ(file.entry()(FakeHost::callback), nullptr);
 }
 
-// Qtractor 0.9.31 answers 2 and MusE 4.1 answers 2300.
+// Qtractor 0.9.31 gives its version as 2, MusE 4.1 as 2300.
 TEST(PluginFile, ReturnsAnEffectToHostsOfOldVersions) {
     FakeHost host;
     const CPluginFile file;

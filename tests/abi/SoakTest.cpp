@@ -54,7 +54,7 @@ public:
     }
 
 private:
-    // The slowest tempo has the longest delay. It comes first, so that no later tempo needs memory.
+    // The slowest tempo has the longest delay. Set first, it leaves no allocation to later tempos.
     void lengthenDelay() {
         setParameter(kDlySync, 1.0f);
         host.time = VstTimeInfo{};

@@ -24,7 +24,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         ++read;
     }
     require(read == count, "as many tokens are read as are counted");
-    require(held.starts_with(joined), "the tokens are joined to the start of the text");
+    require(held.starts_with(joined), "joined, the tokens are the start of the text");
 
     CString token("kept");
     require(!tokeniser.getNextToken(token) && token == "kept", "there are no more tokens");

@@ -141,7 +141,7 @@ std::vector<CParameterText::SPoint> CParameterText::pointsShowing(const SReading
     return points;
 }
 
-/// @return the points nearest to what is asked, for the case that no value is displayed so.
+/// @return the points nearest to what is asked. Used if no value is displayed as asked.
 std::vector<CParameterText::SPoint> CParameterText::pointsBeside(const SReading &asked) const {
     constexpr double oneDigit = 1.0;  // both numbers of a pair are truncated and may not add up
     std::vector<SPoint> points;
