@@ -61,7 +61,7 @@ TEST(CDSPOnePole, FlushesADenormalFromItsStateAndItsResult) {
     EXPECT_EQ(filter.tick(0.0f), 0.0f);
 }
 
-TEST(CDSPOnePole, EqualsThePlainReadingBitForBit) {
+TEST(CDSPOnePole, EqualsThePlainVersionBitForBit) {
     CDSPOnePole filter;
     CPlainOnePole plain;
     for (std::uint64_t seed = 1; seed <= 200; ++seed) {

@@ -42,7 +42,7 @@ TEST(CSleepingDetector, StaysAwakeWhileTheSignalIsLoud) {
     EXPECT_LT(awake.gain.decibels, -5.0f);
 }
 
-TEST(CSleepingDetector, EqualsThePlainReadingUntilItFallsAsleep) {
+TEST(CSleepingDetector, EqualsThePlainVersionUntilItFallsAsleep) {
     for (std::uint64_t seed = 1; seed < 50; ++seed) {
         SCOPED_TRACE(seed);
         CRandom random(seed);

@@ -93,7 +93,7 @@ TEST(DSPAllPassDeathTest, StopsAtALengthOfZero) {
                  "Assertion failed: newDelayLength!=0, file dspclasses/DSPAllPass, line 46");
 }
 
-TEST(DSPAllPass, RunsEqualThePlainReadingTickByTick) {
+TEST(DSPAllPass, RunsEqualThePlainVersionTickByTick) {
     for (std::uint64_t seed = 1; seed <= 300; ++seed) {
         CRandom random(seed);
         DSPAllPass allPass;

@@ -170,7 +170,7 @@ TEST(DelayLine, SweptRunsKeepAwayFromTheirOwnWrites) {
     EXPECT_FALSE(can({4.0f, INFINITY, 5.0f}));
 }
 
-TEST(DelayLine, RunsEqualThePlainReadingFrameByFrame) {
+TEST(DelayLine, RunsEqualThePlainVersionFrameByFrame) {
     int sweeps = 0;
     for (std::uint64_t seed = 1; seed <= 300; ++seed) {
         CRandom random(seed);

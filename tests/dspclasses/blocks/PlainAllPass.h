@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <vector>
 
-/// The plain reading of the all-pass: one tick a call.
+/// The plain version of the all-pass: one tick a call.
 class CPlainAllPass {
 public:
     void setDelayLength(int length) {

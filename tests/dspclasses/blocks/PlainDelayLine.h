@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <vector>
 
-/// The plain reading of the delay line: one sample a call, every index masked at its use.
+/// The plain version of the delay line: one sample a call, every index masked at its use.
 class CPlainDelayLine {
 public:
     explicit CPlainDelayLine(std::uint32_t size) { resize(size); }

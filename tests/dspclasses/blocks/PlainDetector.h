@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <cstring>
 
-/// The plain reading of the detector of the compressor and the de-esser: one sample at a time, one
+/// The plain version of the detector of the compressor and the de-esser: one sample at a time, one
 /// step after the other. `next` is the field that follows in memory the one a double-precision step
 /// stores; NeighbourFlush.h shows why that matters.
 struct SPlainDetector {

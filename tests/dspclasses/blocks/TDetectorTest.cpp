@@ -12,7 +12,7 @@ namespace {
 
 constexpr SGainLaw anyLaw{-0.5f, 0.0f, 1.0f};
 
-/// Runs a block of levels through the detector and its plain reading and compares the states. No
+/// Runs a block of levels through the detector and its plain version and compares the states. No
 /// field is flushed by a neighbour.
 template <typename Sample>
 void expectSameState(const SPlainDetector &plain, SDetectorState &state,
@@ -66,7 +66,7 @@ TYPED_TEST_SUITE(TDetectorState, Precisions);
 
 }  // namespace
 
-TYPED_TEST(TDetectorState, EqualsThePlainReadingForExcessesOfAnySize) {
+TYPED_TEST(TDetectorState, EqualsThePlainVersionForExcessesOfAnySize) {
     for (std::uint64_t seed = 1; seed < 3000; ++seed) {
         SCOPED_TRACE(seed);
         CRandom random(seed);
@@ -85,7 +85,7 @@ TYPED_TEST(TDetectorState, EqualsThePlainReadingForExcessesOfAnySize) {
     }
 }
 
-TYPED_TEST(TDetectorState, EqualsThePlainReadingNearTheSmallestNormalPeak) {
+TYPED_TEST(TDetectorState, EqualsThePlainVersionNearTheSmallestNormalPeak) {
     constexpr double least{std::numeric_limits<float>::min()};
     const SPlainDetector plain{.attackCoef = 0.9f, .releaseCoef = 0.9f};
     for (std::uint64_t seed = 1; seed < 20000; ++seed) {

@@ -183,7 +183,7 @@ TEST(CDSP3EQ, FallsSilentAfterABurst) {
     expectSilenceAfterABurst<double>(makeCurved, 20000);
 }
 
-TEST(CDSP3EQ, EqualsThePlainReadingBitForBit) {
+TEST(CDSP3EQ, EqualsThePlainVersionBitForBit) {
     expectSameBits([] { return std::make_unique<CDSP3EQ>(); },
                    [] { return std::make_unique<CPlain3EQ>(); },
                    {{kLowGain, -12.0f, 12.0f},

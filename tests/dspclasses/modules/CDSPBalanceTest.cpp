@@ -53,7 +53,7 @@ TEST(CDSPBalance, IgnoresTheIndex) {
     EXPECT_EQ(matrixOf(balance), (SMatrix{1.0, 0.0, 0.0, 0.5}));
 }
 
-TEST(CDSPBalance, EqualsThePlainReadingBitForBit) {
+TEST(CDSPBalance, EqualsThePlainVersionBitForBit) {
     expectSameBits([] { return std::make_unique<CDSPBalance>(); },
                    [] { return std::make_unique<CPlainBalance>(); }, {{0, 0.0f, 1.0f}});
 }

@@ -311,12 +311,12 @@ TEST(CDSPComp, KeepsToTheContractOfAModule) {
     }
 }
 
-TEST(CDSPComp, EqualsThePlainReadingBitForBit) {
+TEST(CDSPComp, EqualsThePlainVersionBitForBit) {
     expectSameBits(
         makeComp, [] { return std::make_unique<CPlainComp>(); }, laws);
 }
 
-TEST(CDSPComp, EqualsThePlainReadingWithParametersThatNoKnobGives) {
+TEST(CDSPComp, EqualsThePlainVersionWithParametersThatNoKnobGives) {
     expectSameBits(makeComp, [] { return std::make_unique<CPlainComp>(); },
                    {{kThreshold, -200.0f, 30.0f},
                     {kAttack, -0.5f, 5.0f},

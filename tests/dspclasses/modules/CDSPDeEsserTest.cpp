@@ -335,12 +335,12 @@ TEST(CDSPDeEsser, KeepsToTheContractOfAModule) {
     }
 }
 
-TEST(CDSPDeEsser, EqualsThePlainReadingBitForBit) {
+TEST(CDSPDeEsser, EqualsThePlainVersionBitForBit) {
     expectSameBits(
         makeDeEsser, [] { return std::make_unique<CPlainDeEsser>(); }, laws);
 }
 
-TEST(CDSPDeEsser, EqualsThePlainReadingWithParametersThatNoKnobGives) {
+TEST(CDSPDeEsser, EqualsThePlainVersionWithParametersThatNoKnobGives) {
     expectSameBits(makeDeEsser, [] { return std::make_unique<CPlainDeEsser>(); },
                    {{kThreshold, -200.0f, 30.0f},
                     {kSpeed, -1.0f, 3.0f},

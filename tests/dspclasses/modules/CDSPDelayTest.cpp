@@ -48,7 +48,7 @@ std::unique_ptr<CDSPDelay> makeShortPingPong() {
     return delay;
 }
 
-/// A delay or its plain reading, run until its lines are about to wrap.
+/// A delay or its plain version, run until its lines are about to wrap.
 template <typename Delay>
 std::unique_ptr<Delay> makeNearTheWrap() {
     auto delay = std::make_unique<Delay>();
@@ -326,7 +326,7 @@ TEST(CDSPDelay, KeepsToTheContractOfAModule) {
     }
 }
 
-TEST(CDSPDelay, EqualsThePlainReadingAtEveryTime) {
+TEST(CDSPDelay, EqualsThePlainVersionAtEveryTime) {
     expectSameBits([] { return std::make_unique<CDSPDelay>(); },
                    [] { return std::make_unique<CPlainDelay>(); },
                    levelsAnd({{kTime, 0.0f, 40.0f}}), 1000);
@@ -335,7 +335,7 @@ TEST(CDSPDelay, EqualsThePlainReadingAtEveryTime) {
                    levelsAnd({{kTime, 50.0f, 1500.0f}}), 300);
 }
 
-TEST(CDSPDelay, EqualsThePlainReadingInTempo) {
+TEST(CDSPDelay, EqualsThePlainVersionInTempo) {
     expectSameBits([] { return std::make_unique<CDSPDelay>(); },
                    [] { return std::make_unique<CPlainDelay>(); },
                    levelsAnd({{kTempo, 20.0f, 60000.0f},
@@ -346,7 +346,7 @@ TEST(CDSPDelay, EqualsThePlainReadingInTempo) {
                    1000);
 }
 
-TEST(CDSPDelay, EqualsThePlainReadingAsTheLinesWrap) {
+TEST(CDSPDelay, EqualsThePlainVersionAsTheLinesWrap) {
     expectSameBits(makeNearTheWrap<CDSPDelay>, makeNearTheWrap<CPlainDelay>,
                    levelsAnd({{kTime, 0.0f, 3000.0f}}), 200);
 }

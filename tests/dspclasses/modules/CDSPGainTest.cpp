@@ -64,7 +64,7 @@ TEST(CDSPGain, HasNothingToReset) {
     EXPECT_EQ(factorOf(gain), before);
 }
 
-TEST(CDSPGain, EqualsThePlainReadingBitForBit) {
+TEST(CDSPGain, EqualsThePlainVersionBitForBit) {
     expectSameBits([] { return std::make_unique<CDSPGain>(); },
                    [] { return std::make_unique<CPlainGain>(); }, {{0, -60.0f, 6.0f}});
 }

@@ -257,11 +257,11 @@ TEST(CDSPGate, KeepsToTheContractOfAModule) {
     expectSilenceAfterABurst<double>(makeAtHalf, 100);
 }
 
-TEST(CDSPGate, EqualsThePlainReadingBitForBit) {
+TEST(CDSPGate, EqualsThePlainVersionBitForBit) {
     expectSameBits(makeGate, makePlain, laws);
 }
 
-TEST(CDSPGate, EqualsThePlainReadingWithParametersThatNoKnobGives) {
+TEST(CDSPGate, EqualsThePlainVersionWithParametersThatNoKnobGives) {
     expectSameBits(makeGate, makePlain,
                    {{kThreshold, -200.0f, 30.0f}, {kAttack, -0.5f, 0.5f}, {kRelease, -0.5f, 0.5f}});
     expectSameBits(makeGate, makePlain,

@@ -127,7 +127,7 @@ TEST(CDSPHiPass, FallsSilentAfterABurst) {
     expectSilenceAfterABurst<double>(makeAt500Hz, 20000);
 }
 
-TEST(CDSPHiPass, EqualsThePlainReadingBitForBit) {
+TEST(CDSPHiPass, EqualsThePlainVersionBitForBit) {
     expectSameBits([] { return std::make_unique<CDSPHiPass>(); },
                    [] { return std::make_unique<CPlainHiPass>(); }, {{0, 1.0f, 2000.0f}});
 }

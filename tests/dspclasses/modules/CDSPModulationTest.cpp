@@ -290,7 +290,7 @@ TEST(CDSPModulation, KeepsToTheContractOfAModule) {
     }
 }
 
-TEST(CDSPModulation, EqualsThePlainReadingBitForBit) {
+TEST(CDSPModulation, EqualsThePlainVersionBitForBit) {
     expectSameBits([] { return std::make_unique<CDSPModulation>(); },
                    [] { return std::make_unique<CPlainModulation>(); },
                    {{kType, 0.0f, 1.0f},
@@ -303,7 +303,7 @@ TEST(CDSPModulation, EqualsThePlainReadingBitForBit) {
                     {kSpread, 0.0f, 1.0f}});
 }
 
-TEST(CDSPModulation, EqualsThePlainReadingFarOutsideTheParameterRanges) {
+TEST(CDSPModulation, EqualsThePlainVersionFarOutsideTheParameterRanges) {
     // Sweeps that come near the newest sample or wrap in the line, and oscillators that wrap every
     // few samples.
     expectSameBits([] { return std::make_unique<CDSPModulation>(); },

@@ -78,7 +78,7 @@ TEST(CDSPMono, WritesNothingInAnUnknownMode) {
     }
 }
 
-TEST(CDSPMono, EqualsThePlainReadingBitForBit) {
+TEST(CDSPMono, EqualsThePlainVersionBitForBit) {
     expectSameBits([] { return std::make_unique<CDSPMono>(); },
                    [] { return std::make_unique<CPlainMono>(); }, {{0, 0.0f, 1.0f}});
 }

@@ -76,7 +76,7 @@ TEST(CDSPPan, IgnoresTheIndex) {
     EXPECT_EQ(matrixOf(pan), matrixAfter({0.25f}));
 }
 
-TEST(CDSPPan, EqualsThePlainReadingBitForBit) {
+TEST(CDSPPan, EqualsThePlainVersionBitForBit) {
     expectSameBits([] { return std::make_unique<CDSPPan>(); },
                    [] { return std::make_unique<CPlainPan>(); },
                    // Several draws, so that a case leaves a half and comes back to it.

@@ -66,7 +66,7 @@ TEST(CDSPParametric, KeepsItsStateToItself) {
     expectInstancesApart(makeWarm);
 }
 
-TEST(CDSPParametric, EqualsThePlainReadingBitForBit) {
+TEST(CDSPParametric, EqualsThePlainVersionBitForBit) {
     expectSameBits([] { return std::make_unique<CDSPParametric>(); },
                    [] { return std::make_unique<CPlainParametric>(); },
                    {{0, 100.0f, 6000.0f}, {1, 0.125f, 1.0f}, {2, -12.0f, 12.0f}});

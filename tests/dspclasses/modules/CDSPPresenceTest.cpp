@@ -63,7 +63,7 @@ TEST(CDSPPresence, KeepsItsStateToItself) {
     expectInstancesApart(makeBright);
 }
 
-TEST(CDSPPresence, EqualsThePlainReadingBitForBit) {
+TEST(CDSPPresence, EqualsThePlainVersionBitForBit) {
     expectSameBits([] { return std::make_unique<CDSPPresence>(); },
                    [] { return std::make_unique<CPlainPresence>(); },
                    {{0, 1000.0f, 6000.0f}, {1, -12.0f, 12.0f}});

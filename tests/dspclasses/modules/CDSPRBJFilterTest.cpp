@@ -252,13 +252,13 @@ TEST(CDSPRBJFilter, FallsSilentAfterABurst) {
 
 class CDSPRBJFilterKinds : public testing::TestWithParam<int> {};
 
-TEST_P(CDSPRBJFilterKinds, EqualThePlainReadingBitForBit) {
+TEST_P(CDSPRBJFilterKinds, EqualThePlainVersionBitForBit) {
     expectSameBitsOfKind(GetParam(), true, 15000.0f);
     expectSameBitsOfKind(GetParam(), false, 15000.0f);
 }
 
 // The recursion is unstable there, and the guard acts all the time.
-TEST_P(CDSPRBJFilterKinds, EqualThePlainReadingBeyondHalfTheSampleRate) {
+TEST_P(CDSPRBJFilterKinds, EqualThePlainVersionBeyondHalfTheSampleRate) {
     expectSameBitsOfKind(GetParam(), true, 40000.0f);
 }
 

@@ -50,7 +50,7 @@ int firstSound(const std::vector<float> &samples) {
         samples.begin());
 }
 
-/// A module or its plain reading, run until the lines of the network are about to wrap.
+/// A module or its plain version, run until the lines of the network are about to wrap.
 template <typename Reverb>
 std::unique_ptr<Reverb> makeNearTheWrap() {
     auto reverb = std::make_unique<Reverb>();
@@ -259,19 +259,19 @@ TEST(CDSPReverb, KeepsToTheContractOfAModule) {
     }
 }
 
-TEST(CDSPReverb, EqualsThePlainReadingBitForBit) {
+TEST(CDSPReverb, EqualsThePlainVersionBitForBit) {
     expectSameBits([] { return std::make_unique<CDSPReverb>(); },
                    [] { return std::make_unique<CPlainReverb>(); }, inUse);
 }
 
-TEST(CDSPReverb, EqualsThePlainReadingInSmallRooms) {
+TEST(CDSPReverb, EqualsThePlainVersionInSmallRooms) {
     std::vector<SParameterRange> small = inUse;
     small[0].high = 8.0f;
     expectSameBits([] { return std::make_unique<CDSPReverb>(); },
                    [] { return std::make_unique<CPlainReverb>(); }, small);
 }
 
-TEST(CDSPReverb, EqualsThePlainReadingFarOutsideTheParameterRanges) {
+TEST(CDSPReverb, EqualsThePlainVersionFarOutsideTheParameterRanges) {
     // Lengths beyond the capacity of the lines wrap, down to a single sample.
     expectSameBits([] { return std::make_unique<CDSPReverb>(); },
                    [] { return std::make_unique<CPlainReverb>(); },
@@ -285,7 +285,7 @@ TEST(CDSPReverb, EqualsThePlainReadingFarOutsideTheParameterRanges) {
                    500);
 }
 
-TEST(CDSPReverb, EqualsThePlainReadingAsTheLinesWrap) {
+TEST(CDSPReverb, EqualsThePlainVersionAsTheLinesWrap) {
     expectSameBits(makeNearTheWrap<CDSPReverb>, makeNearTheWrap<CPlainReverb>, inUse, 200);
 }
 

@@ -87,7 +87,7 @@ TEST(CDSPWarmer, TakesBlocksOfAnyLength) {
     expectEmptyBlocksDoNothing(makeWarm);
 }
 
-TEST(CDSPWarmer, EqualsThePlainReadingBitForBit) {
+TEST(CDSPWarmer, EqualsThePlainVersionBitForBit) {
     expectSameBits([] { return std::make_unique<CDSPWarmer>(); },
                    [] { return std::make_unique<CPlainWarmer>(); }, {{0, 0.0f, 1.0f}});
 }

@@ -5,7 +5,7 @@
 
 #include <cmath>
 
-/// The plain reading of the compressor: each sample goes through the six steps, with all running
+/// The plain version of the compressor: each sample goes through the six steps, with all running
 /// state in the fields.
 class CPlainComp : public CDSPBase {
 public:

@@ -8,7 +8,7 @@
 #include <cmath>
 #include <vector>
 
-/// The plain reading of the de-esser: the filter runs over the whole block, then each frame goes
+/// The plain version of the de-esser: the filter runs over the whole block, then each frame goes
 /// through the steps, with all running state in the fields.
 class CPlainDeEsser : public CDSPBase {
 public:

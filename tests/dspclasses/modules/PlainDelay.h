@@ -7,7 +7,7 @@
 #include <cmath>
 #include <cstdint>
 
-/// The plain reading of the delay: one frame after the other, every field read at each use.
+/// The plain version of the delay: one frame after the other, every field read at each use.
 class CPlainDelay : public CDSPBase {
 public:
     CPlainDelay() { setDelay(1000); }

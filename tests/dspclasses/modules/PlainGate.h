@@ -5,7 +5,7 @@
 
 #include <cmath>
 
-/// The plain reading of the gate: each frame goes through the steps, with all running state in the
+/// The plain version of the gate: each frame goes through the steps, with all running state in the
 /// fields.
 class CPlainGate : public CDSPBase {
 public:

@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-/// The plain readings of the level and stereo modules: frame by frame, each gain read at each use.
+/// The plain versions of the level and stereo modules: frame by frame, each gain read at each use.
 
 class CPlainGain : public CDSPBase {
 public:

@@ -7,7 +7,7 @@
 #include <cmath>
 #include <cstdint>
 
-/// The plain reading of the modulators: the whole left channel of a block, then the right, every
+/// The plain version of the modulators: the whole left channel of a block, then the right, every
 /// field read at each use.
 class CPlainModulation : public CDSPBase {
 public:

@@ -14,7 +14,7 @@
 #include "dspclasses/modules/PlainWarmer.h"
 #include "dspclasses/strip/PlainStrip.h"
 
-/// The plain reading of every module of the strip, by slot.
+/// The plain version of every module of the strip, by slot.
 inline CPlainStrip::Modules makePlainModules() {
     CPlainStrip::Modules modules;
     modules[kInGainSlot] = std::make_unique<CPlainGain>();

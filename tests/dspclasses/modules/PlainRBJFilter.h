@@ -5,7 +5,7 @@
 
 #include <cmath>
 
-/// The plain reading of the biquad: kinds by number, one formula per coefficient, one channel after
+/// The plain version of the biquad: kinds by number, one formula per coefficient, one channel after
 /// the other, sample by sample.
 class CPlainRBJFilter : public CDSPBase {
 public:

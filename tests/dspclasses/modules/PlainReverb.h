@@ -9,7 +9,7 @@
 #include <cmath>
 #include <cstddef>
 
-/// The plain reading of the reverb: one frame after the other, every field read at each use.
+/// The plain version of the reverb: one frame after the other, every field read at each use.
 class CPlainReverb final : public CDSPBase {
 public:
     CPlainReverb() {
