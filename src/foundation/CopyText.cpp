@@ -10,8 +10,7 @@ void copyText(char *target, long size, const char *text) {
         return;
     const auto room = static_cast<std::size_t>(size);
     const std::size_t length = std::min(std::strlen(text), room - 1);
-    std::memcpy(target, text, length);
-    std::memset(target + length, 0, room - length);
+    std::fill(std::copy_n(text, length, target), target + room, '\0');
 }
 
 }  // namespace Tessitor::Basics
