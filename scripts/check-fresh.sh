@@ -20,6 +20,7 @@ trap release EXIT
 release
 rm -rf --one-file-system "$root"
 
+# shellcheck disable=SC2016  # apt-get fills in the address
 mirror=$(apt-get indextargets --format '$(REPO_URI)' 'Created-By: Packages' 'Codename: bookworm' | head -n 1)
 debootstrap --variant=minbase bookworm "$root" "$mirror" > "$top/build/debootstrap.log" 2>&1 ||
     { tail -n 20 "$top/build/debootstrap.log" >&2; exit 1; }
@@ -35,7 +36,7 @@ mount -t tmpfs tmpfs "$root/dev/shm"
 git clone -q "$top" "$root/root/corvel"
 for command in scripts/run.sh scripts/run.sh scripts/test.sh; do
     echo "== $command"
-    # shellcheck disable=SC2016
+    # shellcheck disable=SC2016  # the inner bash expands it
     time chroot "$root" env -i HOME=/root PATH=/usr/sbin:/usr/bin:/sbin:/bin TERM=dumb \
         bash -c 'cd /root/corvel && "$1"' fresh "$command"
 done

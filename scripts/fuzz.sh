@@ -6,7 +6,7 @@ cd "$(dirname "$(realpath "$0")")/.."
 
 corpus=tests/fuzz/corpus/${1:-}
 if [ $# -ne 2 ] || [ ! -d "$corpus" ] || [ -z "$1" ]; then
-    echo "usage: fuzz.sh {$(ls tests/fuzz/corpus | paste -sd'|')} SECONDS" >&2
+    echo "usage: fuzz.sh {$(basename -a tests/fuzz/corpus/* | paste -sd'|')} SECONDS" >&2
     exit 2
 fi
 
