@@ -8,11 +8,9 @@ namespace Tessitor::Midi {
 
 Basics::TClassRecord<CMidiEvent> CMidiEvent::s_class("CMidiEvent", "CCountedObject");
 
-CMidiEvent::CMidiEvent(const CMidiEvent &other)
-    : CCountedObject(), m_status(other.m_status), m_value(other.m_value),
-      m_subValue(other.m_subValue), m_channel(other.m_channel), m_delta(other.m_delta),
-      m_pitchBend(other.m_pitchBend) {
-    s_class.incrementInstanceCount();
+// The copy is counted as an instance and has no references yet.
+CMidiEvent::CMidiEvent(const CMidiEvent &other) : CMidiEvent() {
+    *this = other;
 }
 
 bool CMidiEvent::isNoteOff() const {

@@ -9,9 +9,9 @@ CTimeSignature::CTimeSignature(std::int32_t numerator, std::int32_t denominator)
     s_class.incrementInstanceCount();
 }
 
-CTimeSignature::CTimeSignature(const CTimeSignature &other)
-    : CCountedObject(), m_numerator(other.m_numerator), m_denominator(other.m_denominator) {
-    s_class.incrementInstanceCount();
+// The copy is counted as an instance and has no references yet.
+CTimeSignature::CTimeSignature(const CTimeSignature &other) : CTimeSignature() {
+    *this = other;
 }
 
 void CTimeSignature::setTimeSignature(std::int32_t numerator, std::int32_t denominator) {

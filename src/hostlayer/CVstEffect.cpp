@@ -47,7 +47,8 @@ CVstEffect::CVstEffect(audioMasterCallback host, int parameters, int programs)
     for (int note = 0; note < numberOfNotes; ++note) {
         auto values = std::make_unique<NoteValues>();
         m_notes.addElement(values.get());
-        values.release();  // owned by the collection now; addElement() may have thrown before
+        // Owned by the collection from here on; addElement() may have thrown before.
+        static_cast<void>(values.release());
     }
     m_midiEvents.setChannel(0);
     m_criticalSection = new Threading::CCriticalSection;
