@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # check-fresh.sh [FOLDER]: checks that the README's two commands do everything on a fresh machine. It
 # installs a minimal Debian 12 into FOLDER (build/fresh by default, emptied first) from this machine's
-# package sources, clones the last commit into it and runs both commands there. Needs root and
-# debootstrap.
+# package sources, clones the last commit into it and runs both commands there, then lint.sh. Needs
+# root and debootstrap.
 set -euo pipefail
 top=$(dirname "$(dirname "$(realpath "$0")")")
 root=$(realpath -m "${1:-$top/build/fresh}")
@@ -34,7 +34,7 @@ mount -t devpts devpts "$root/dev/pts" 2> /dev/null || mount --bind /dev/pts "$r
 mount -t tmpfs tmpfs "$root/dev/shm"
 
 git clone -q "$top" "$root/root/corvel"
-for command in scripts/run.sh scripts/run.sh scripts/test.sh; do
+for command in scripts/run.sh scripts/run.sh scripts/test.sh scripts/lint.sh; do
     echo "== $command"
     # shellcheck disable=SC2016  # the inner bash expands it
     time chroot "$root" env -i HOME=/root PATH=/usr/sbin:/usr/bin:/sbin:/bin TERM=dumb \

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# setup.sh [run|test|figures|fuzz]: installs missing packages with apt. "run" is what building and running
-# need. The others add to it: "test" (the default) what the tests need, "figures" what draws the pictures
-# of the documentation, "fuzz" what the fuzzers need. Prints nothing if no package is missing.
+# setup.sh [run|test|lint|figures|fuzz]: installs missing packages with apt. "run" is what building and
+# running need. The others add to it: "test" (the default) what the tests need, "lint" what the tests
+# and scripts/lint.sh need, "figures" what draws the pictures of the documentation, "fuzz" what the
+# fuzzers need. Prints nothing if no package is missing.
 set -euo pipefail
 
 run_packages=(
@@ -17,6 +18,8 @@ test_packages=(
     g++-mingw-w64-x86-64-posix gcc-mingw-w64-x86-64-posix  # the Windows build
     wine wine64 xvfb xauth                              # run the Windows tests
 )
+# Each version formats and warns in its own way, so these are pinned.
+lint_packages=(clang-format-14 clang-tidy-14 shellcheck pyflakes3)
 figures_packages=(python3-matplotlib python3-soundfile)
 fuzz_packages=(clang-14 libclang-rt-14-dev)  # libFuzzer and the sanitizers that go with it
 
@@ -24,9 +27,10 @@ packages=("${run_packages[@]}")
 case "${1:-test}" in
 run) ;;
 test) packages+=("${test_packages[@]}") ;;
+lint) packages+=("${test_packages[@]}" "${lint_packages[@]}") ;;
 figures) packages+=("${figures_packages[@]}") ;;
 fuzz) packages+=("${fuzz_packages[@]}") ;;
-*) echo "usage: setup.sh [run|test|figures|fuzz]" >&2; exit 2 ;;
+*) echo "usage: setup.sh [run|test|lint|figures|fuzz]" >&2; exit 2 ;;
 esac
 
 installed=$(dpkg-query -W -f '${db:Status-Status} ${Package}\n' "${packages[@]}" 2>/dev/null || true)

@@ -41,7 +41,7 @@ bool CDelayBuffer::grow(std::uint32_t size) {
     while (capacity > present->capacity) {
         grown->older = present;
         if (newest.compare_exchange_weak(present, grown.get(), std::memory_order_acq_rel)) {
-            grown.release();
+            static_cast<void>(grown.release());
             return true;
         }
     }

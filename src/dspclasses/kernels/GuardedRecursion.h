@@ -103,9 +103,9 @@ template <EInput input, typename Filter, typename Guard, typename Sample>
     }
 }
 
-/// @return the filter after some frames with acting guards. Out of line and by value: a filter
-/// whose
-///         address is taken here would not stay in registers in the watched run.
+/// Runs some frames with acting guards. Out of line and by value: a filter whose address is taken
+/// here would not stay in registers in the watched run.
+/// @return the filter after the last frame.
 template <EInput input, typename Filter, typename Sample>
 [[gnu::noinline]] Filter filterAfterGuarding(Filter filter, Sample *inL, Sample *inR, Sample *outL,
                                              Sample *outR, int count) {

@@ -5,9 +5,8 @@
 #include <cmath>
 #include <complex>
 
-/// @return 20 log10 |H| at a frequency in Hz, from the impulse response at 44.1 kHz, which must
-/// have
-///         died away after `frames`.
+/// @param frames  after which the impulse response has died away.
+/// @return 20 log10 |H| at a frequency in Hz, from the impulse response at 44.1 kHz.
 template <typename Module>
 double decibelsAt(Module &module, double hz, int frames = 20000) {
     module.reset();
