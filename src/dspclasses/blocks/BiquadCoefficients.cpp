@@ -9,7 +9,7 @@ struct SRawCoefficients {
     double b0, b1, b2, a0, a1, a2;
 };
 
-/// What the formulas of all kinds are made of, named as in the source.
+/// The terms that the formulas share, named as in the publication.
 struct SAngle {
     double sn, cs;  // sine and cosine of w0, the frequency in radians per sample
     double alpha;   // sn / (2 Q)
@@ -24,7 +24,7 @@ SAngle angleOf(const SBiquadDesign &design) {
     return {sn, std::cos(w0), alpha};
 }
 
-/// The kinds without a gain. In the comments s is in units of the frequency.
+/// The kinds without a gain. In the comments, s is relative to the frequency.
 SRawCoefficients rawWithoutGain(EBiquadKind kind, const SAngle &angle) {
     const auto [sn, cs, alpha] = angle;
     // All of them have the poles of s^2 + s/Q + 1.
@@ -45,7 +45,7 @@ SRawCoefficients rawWithoutGain(EBiquadKind kind, const SAngle &angle) {
     }
 }
 
-/// The kinds with a gain, A^2 as a factor.
+/// The kinds with a gain; as a factor it is A^2.
 SRawCoefficients rawWithGain(EBiquadKind kind, const SAngle &angle, double gainDb) {
     const auto [sn, cs, alpha] = angle;
     const double A = std::pow(10.0, gainDb / 40.0);
@@ -66,7 +66,7 @@ SRawCoefficients rawWithGain(EBiquadKind kind, const SAngle &angle, double gainD
     }
 }
 
-/// Never inlined: GCC 12.2 vectorises two neighbouring ones at -O3 and drops their rounding.
+/// Never inlined: at -O3, GCC 12.2 vectorises two neighbouring calls and drops their rounding.
 [[gnu::noinline]] double throughFloat(double value) {
     return double{static_cast<float>(value)};
 }

@@ -26,13 +26,14 @@ struct SBiquadDesign {
     double frequency;   // Hz, above 0 and below half the sample rate; not checked
     double gainDb;      // of the peak or the shelf; the other kinds ignore it
     double bandwidth;   // octaves or the Q, above 0; not checked
-    bool isInOctaves;   // what bandwidth is
+    bool isInOctaves;   // whether bandwidth is in octaves; if not, it is the Q
     double sampleTime;  // 1 / sample rate, seconds
 };
 
-/// Each kind is an analogue filter H(s), see the source, turned into a digital one by the bilinear
-/// transform; its frequency is met exactly. In octaves, the bandwidth lies between the -3 dB points
-/// of a band-pass or a notch, and between the points of half the gain in dB of a peak.
+/// Each kind is an analogue filter H(s) (given beside each formula in the .cpp), made digital by
+/// the bilinear transform, which is exact at the filter's frequency. A bandwidth in octaves is the
+/// distance between the -3 dB points of a band-pass or a notch, or between the points of a peak
+/// that have half its gain in dB.
 ///
 /// [any thread] Cannot fail. Costs a sine, a cosine, a sinh and, with a gain, a power.
 /// Source: R. Bristow-Johnson, Cookbook formulae for audio EQ biquad filter coefficients.

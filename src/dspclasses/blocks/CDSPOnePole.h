@@ -10,7 +10,7 @@
 ///                  |           |           gain at 0 Hz: 1
 ///                  +-- pole -- z^-1        at half the sample rate: (1 - pole) / (1 + pole)
 ///
-/// The pole of a new filter is 1: it outputs 0 until setPole.
+/// The pole of a new filter is 1: it outputs 0 until setPole is called.
 ///
 /// The setters may run on any thread. `state` belongs to the thread that ticks: a tick that runs at
 /// the same time as clear() may undo it.

@@ -10,8 +10,8 @@
 CDelayBuffer::SMemory::SMemory(std::uint32_t length)
     : capacity(length), cells(std::make_unique<float[]>(std::size_t{length} + 1)) {}
 
-/// 2^ceil(log2(size)). Kept: the logarithm is in single precision. A size of more than half the
-/// range of 32 bits therefore gives 0, and the line does not grow.
+/// 2^ceil(log2(size)). Kept: the logarithm is in single precision. A result of 2^32 wraps to 0; the
+/// line then does not grow.
 static std::uint32_t roundedUpToPowerOfTwo(std::uint32_t size) {
     if ((size & (size - 1)) == 0)
         return size;
@@ -37,7 +37,8 @@ bool CDelayBuffer::grow(std::uint32_t size) {
     if (capacity <= present->capacity)
         return false;
     auto grown = std::make_unique<SMemory>(capacity);
-    // Another thread may put its own memory in front first. If that one is large enough, ours goes.
+    // Another thread may put its own memory in front first. If that one is large enough, ours is
+    // dropped.
     while (capacity > present->capacity) {
         grown->older = present;
         if (newest.compare_exchange_weak(present, grown.get(), std::memory_order_acq_rel)) {

@@ -5,10 +5,10 @@
 #include <memory>
 
 /// The memory of a delay line. Any thread may grow it without a lock while the audio thread uses
-/// it: growing puts a larger memory in front of the ones before, and frees none of them.
+/// it: growing puts a larger memory in front of the existing ones and frees none of them.
 ///
 ///     newest --> 16384 samples --> 4096 samples --> 4 samples
-///                                  ^ a block of audio that began before the growth ends in here
+///                                  ^ a block that began before the growth may finish in this one
 ///
 /// Each memory is at least twice as long as the one before it, so the older ones together never
 /// take more room than the newest.
@@ -33,7 +33,7 @@ public:
     ~CDelayBuffer();
 
     /// Makes room for `size` samples, rounded as above; allocates. The new memory holds zeros.
-    /// @return false if there already was as much room, and nothing has changed. [any thread]
+    /// @return false if there was already enough room; then nothing has changed. [any thread]
     bool grow(std::uint32_t size);
 
     const SMemory &getNewest() const { return *newest.load(std::memory_order_acquire); }

@@ -2,14 +2,15 @@
 
 #include "values/TRelaxed.h"
 
-/// A reset that any thread asks for and the audio thread carries out. Running state thus belongs to
-/// the audio thread alone: it needs no atomics, may live in registers for a whole block, and a
-/// block that runs at that moment cannot undo the reset.
+/// A reset that any thread may request and the audio thread carries out. So the running state
+/// belongs to the audio thread alone: it needs no atomics, it may live in registers for a whole
+/// block, and a block that is running cannot undo the reset.
 class CResetRequest {
 public:
     void ask() { m_asked = true; }  ///< [any thread]
 
-    /// @return true if a reset was asked for since the last call: the caller clears its state now.
+    /// @return true if a reset was requested since the last call; the caller must then clear its
+    ///         state.
     /// [audio thread]
     bool take() {
         if (!m_asked)

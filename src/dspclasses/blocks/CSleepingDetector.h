@@ -2,8 +2,8 @@
 
 #include "dspclasses/blocks/DetectorState.h"
 
-/// The detector of TDetector in double precision, one frame at a time, for a detector whose peak is
-/// flushed by its own last gain in dB (NeighbourFlush.h).
+/// The same detector as TDetector in double precision, but frame by frame, for a module in which
+/// the detector's own last gain in dB flushes its peak (NeighbourFlush.h).
 ///
 /// While that gain is 0 dB, every peak is flushed, so nothing rises above the threshold and the
 /// gain stays at 0 dB: the detector is asleep. Only single precision, which has a proper denormal
@@ -15,13 +15,13 @@ public:
     CSleepingDetector(SDetectorState &state, SGain &gain, const SDetectorSettings &settings)
         : m_state(state), m_gain(gain), m_settings(settings) {}
 
-    /// @return whether the detector will stay inactive for all levels to come.
+    /// @return whether the detector will stay inactive whatever levels follow.
     bool isAsleep() const;
 
-    /// Moves on by one frame.
+    /// Advances by one frame.
     void detect(double level);
 
-    /// Moves on by many frames while asleep, whatever their levels.
+    /// Advances by many frames while asleep; their levels do not matter.
     void sleep(int frames);
 
 private:

@@ -8,8 +8,8 @@
 #include <cstddef>
 #include <new>
 
-// Kept: this name, the expressions and the line numbers below are the fixed text of the reports.
-// They follow neither the names nor the lines of this file.
+// Kept: the text of the reports is fixed. This name, the expressions and the line numbers below
+// belong to it and do not follow this file.
 static constexpr const char *sourceName = "dspclasses/DSPAllPass";
 
 DSPAllPass::DSPAllPass() : buffer(std::make_unique<float[]>(static_cast<std::size_t>(capacity))) {}
@@ -31,7 +31,7 @@ float DSPAllPass::tick(float sample) {
     return sample;
 }
 
-/// Ticks up to the end of the ring.
+/// Ticks `count` samples, none of them past the end of the ring.
 /// @param delayed  the cells of the ring that the stretch reads and overwrites.
 static void runStretch(float *samples, float *delayed, float coefficient, int count) {
     runWide([=] {

@@ -2,7 +2,8 @@
 
 #include <memory>
 
-/// Schroeder all-pass: every frequency at its level, spread over time. A new one delays by 8.
+/// Schroeder all-pass: keeps the level of every frequency and spreads the signal over time. A new
+/// one delays by 8 samples.
 ///
 ///             w                                    H(z) = (c + z^-N) / (1 + c z^-N)
 ///     x --(+)----+-------- c --------(+)--> y
@@ -11,8 +12,8 @@
 ///          |                       | d
 ///          +---------- c ----------+
 ///
-/// The audio thread ticks; setDelayLength replaces and clears the samples that it ticks on, so the
-/// caller holds one lock around both.
+/// The audio thread ticks; setDelayLength replaces and clears the samples that it works on, so the
+/// caller must hold the same lock for both.
 class DSPAllPass {
 public:
     DSPAllPass();
@@ -25,7 +26,7 @@ public:
 
     float tick(float sample);
 
-    /// tick of `count` samples, in place.
+    /// Ticks `count` samples in place.
     void run(float *samples, int count);
 
     /// Silences the whole buffer and sets the position to 0; the length stays.

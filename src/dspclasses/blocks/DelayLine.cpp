@@ -5,8 +5,8 @@
 #include "dspclasses/blocks/SweptRead.h"
 #include "dspclasses/blocks/WholeCount.h"
 
-// Kept: this name, the expressions and the line numbers below are the fixed text of the reports.
-// They follow neither the names nor the lines of this file.
+// Kept: the text of the reports is fixed. This name, the expressions and the line numbers below
+// belong to it and do not follow this file.
 static constexpr const char *sourceName = "dspclasses/DelayLine";
 
 static void assertNotNegative(float offset) {

@@ -18,12 +18,12 @@ struct SDelayRing;
 ///
 /// The samples and the write position belong to the audio thread. resize and setConstantOffset may
 /// run on any thread at the same time: a new offset takes effect between two reads, and a block
-/// that runs while the line grows may end in the memory that it began in, see CDelayBuffer.
+/// that runs while the line grows may finish in the memory that it began in, see CDelayBuffer.
 class DelayLine {
 public:
     explicit DelayLine(std::uint32_t size);
 
-    /// Grows the line to the next power of two; it then is silent. A line never shrinks: a smaller
+    /// Grows the line to the next power of two and silences it. A line never shrinks: a smaller
     /// size changes nothing. Allocates. [any thread]
     /// @param size  samples; 0 counts as 2.
     void resize(std::uint32_t size);
@@ -47,21 +47,21 @@ public:
     /// Silences the whole line. The write position stays.
     void clear();
 
-    // Runs of frames. Frame by frame, a read comes before the write of the same frame. A run does
-    // all its reads first and then all its writes, so no frame of it may read what the run writes:
-    // getLongestRun and canReadRun tell how long a run may be. See docs/kernels.md.
+    // Runs of frames. In each frame, the read comes before the write. A run does all its reads
+    // first and then all its writes, so no frame may read what its own run writes. getLongestRun
+    // and canReadRun return how long a run may be. See docs/kernels.md.
 
     void write(const float *samples, int count);
 
-    /// @return frames that a run at this offset may have, at least 1.
+    /// @return the longest run allowed at this offset, in frames; at least 1.
     int getLongestRun(float offset) const;
     void read(float offset, float *samples, int count) const;
     int getLongestConstantRun() const;
     void readConstant(float *samples, int count) const;
 
     /// @param offsets  samples, one per frame.
-    /// @return whether a run of `count` frames may read at these offsets. False for a NaN too; the
-    ///         frames then go one by one.
+    /// @return whether a run of `count` frames may read at these offsets. False also for a NaN. If
+    ///         false, process the frames one by one.
     bool canReadRun(const float *offsets, int count) const;
     void readRun(const float *offsets, float *samples, int count) const;
 

@@ -9,9 +9,9 @@
 #include <limits>
 #include <type_traits>
 
-/// The arithmetic of a detector up to the excess over the threshold, four frames at a time: what
-/// TDetector runs as the first stages of its loop. Each structure is what one stage hands to the
-/// next.
+/// The arithmetic of a detector up to the excess over the threshold, four frames at a time.
+/// TDetector runs it as the first stages of its loop. Each structure is the result that one stage
+/// passes to the next.
 template <typename Sample>
 struct TDetectorStages {
     using Four = TFour<Sample>;
@@ -70,7 +70,8 @@ struct TDetectorStages {
     }
 
 private:
-    /// Digital silence has no logarithm, so the bias is added in the precision of the samples.
+    /// Digital silence has no logarithm, so the bias is added first, in the precision of the
+    /// samples.
     static TDoubles<4> aboveZero(const SFloats4 &levels) {
         return widened({levels.values + smoothingBias});
     }

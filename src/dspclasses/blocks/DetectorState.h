@@ -10,7 +10,7 @@ struct SDetectorSettings {
     SGainLaw law;
 };
 
-/// What a detector carries from frame to frame. Floats also where the samples are doubles.
+/// What a detector carries from frame to frame. Floats even if the samples are doubles.
 struct SDetectorState {
     float peak = 0.0f;
     float smoothedExcessDb = 0.0f;

@@ -16,12 +16,12 @@ float smoothExcess(const SFollower &smoother, float smoothedDb, Sample excessDb)
     return smoother.next(smoothedDb + smoothingBias, excessDb) - smoothingBias;
 }
 
-/// The same for an excess of 0, while that is not above the smoothed one.
+/// The same for an excess of 0 that is not above the smoothed one: only the release applies.
 inline float decayExcess(const SFollower &smoother, float smoothedDb) {
     return (smoothedDb + smoothingBias) * smoother.releaseCoef - smoothingBias;
 }
 
-/// Keeps the slow case out of the loop.
+/// Not inlined, to keep the slow case out of the loop.
 template <typename Sample>
 [[gnu::noinline]] Floats4 smoothFourWithBias(const SFollower &smoother, float smoothedDb,
                                              const TFour<Sample> &excessesDb) {
@@ -32,7 +32,7 @@ template <typename Sample>
 
 /// smoothExcess for four frames, with the same bits. Two shorter recursions cover nearly all
 /// frames: below the threshold a decay, above it a follower without the bias.
-/// @param smoothedDb  of the frame before; becomes that of the fourth.
+/// @param smoothedDb  of the frame before; updated to that of the fourth.
 /// @param areAbove    the frames that are above the threshold; the excess of the others is 0.
 template <typename Sample>
 [[gnu::always_inline]] inline Floats4 smoothFour(const SFollower &smoother, float &smoothedDb,

@@ -10,7 +10,7 @@ float highPassPole(float cutoff, float invSampleRate) {
 }
 
 double bandSplitCoefficient(float crossover, float invSampleRate) {
-    // Rounded from double precision: cosf is not the same in every library.
+    // The cosine is rounded from double precision, since cosf differs between libraries.
     const double angle = crossover * 6.2831855f * invSampleRate;
     // Kept: a low-pass that is 3 dB down at the angle has t = 2 - cos.
     const float t = static_cast<float>(std::cos(angle)) * 2.0f;

@@ -13,8 +13,8 @@ struct SFollower {
     float attackCoef;   // share of the distance to the input that is left after one frame
     float releaseCoef;  // the same while falling
 
-    /// @return the state one frame later. Computed in the precision of the input, stored as a
-    /// float.
+    /// @return the state one frame later, computed in the precision of the input and stored as a
+    ///         float.
     template <typename Sample>
     float next(float state, Sample input) const {
         const Sample coef{input > Sample{state} ? attackCoef : releaseCoef};
@@ -27,7 +27,7 @@ inline constexpr SFollower peakFollower{smoothingCoefficient(2.0f, 44100.0f),
                                         smoothingCoefficient(15.0f, 44100.0f)};
 
 /// Runs a recursion over four frames.
-/// @param state  of the frame before; becomes that of the fourth.
+/// @param state  of the frame before; updated to that of the fourth.
 /// @param next   (state of the frame before, input) -> state.
 template <typename Sample, typename Next>
 [[gnu::always_inline]] inline Floats4 recurseFour(float &state, const TFour<Sample> &input,
@@ -48,7 +48,7 @@ template <typename Sample, typename Next>
 ///
 /// So for attackCoef < releaseCoef the larger product is always the one wanted. Otherwise both
 /// inequalities turn round and the smaller one is wanted.
-/// @param state  of the frame before; becomes that of the fourth.
+/// @param state  of the frame before; updated to that of the fourth.
 template <typename Sample>
 [[gnu::always_inline]] inline Floats4 followFour(const SFollower &follower, float &state,
                                                  const TFour<Sample> &input) {

@@ -7,8 +7,8 @@
 #include <cstddef>
 #include <cstdint>
 
-/// The ring of a delay line as a run of frames finds it. A sample is named by its distance, which
-/// is 0 for the newest:
+/// The ring of a delay line at the start of a run of frames. A sample is addressed by its distance
+/// from the newest one:
 ///
 ///     place        0   1   2   3   4   5   6   7
 ///     distance     2   1   0   7   6   5   4   3
@@ -56,7 +56,7 @@ struct SDelayRing {
     }
 
     /// Stores `count` samples, denormals as 0.
-    /// @return the place of the newest sample from now on.
+    /// @return the new place of the newest sample.
     std::uint32_t write(const float *from, int count) const {
         std::uint32_t place = newest;
         while (count > 0) {

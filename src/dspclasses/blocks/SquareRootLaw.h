@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-/// @param share  of the power, that the lowered side keeps, from 0 to 1.
+/// @param share  of its power that the lowered side keeps, from 0 to 1.
 /// @return its gain, sqrt(share), and exactly 0 below -400 dB. Kept: a negative share gives a NaN.
 inline float squareRootLaw(float share) {
     const float gain = std::sqrt(share);

@@ -5,10 +5,10 @@
 #include "dspclasses/kernels/Lanes.h"
 #include "dspclasses/kernels/WideLoop.h"
 
-/// Reads of a run at an offset of its own for every frame, interpolated: four frames at a time,
-/// each lane with its own place in the ring.
+/// Interpolated reads of a run that has an offset for each frame. Four frames are read at a time,
+/// each lane from its own place in the ring.
 
-/// @return the sample `offset` samples back from the newest one that the given frame finds.
+/// @return the sample `offset` samples before the one that is the newest at the given frame.
 inline float readSwept(const SDelayRing &ring, std::uint32_t frame, float offset) {
     const std::uint32_t distance = wholeCount(offset);
     const float *newer = ring.samples + ring.placeOf(distance, frame);
@@ -32,8 +32,8 @@ inline SFloats4 readFourSwept(const SDelayRing &ring, std::uint32_t frame, const
 }
 
 /// @return whether `count` frames may read at these offsets before the run writes. False if an
-///         offset is so near or so far that a frame would meet a sample of the run itself, or is a
-///         NaN; the frames then go one by one.
+///         offset is a NaN, or so near or so far that a frame would read a sample of its own run.
+///         The frames must then be processed one by one.
 inline bool canReadRunSwept(const SDelayRing &ring, const float *offsets, int count) {
     constexpr std::uint32_t lastWholeFloat = 1 << 24;
     if (ring.mask >= lastWholeFloat)
@@ -50,7 +50,7 @@ inline bool canReadRunSwept(const SDelayRing &ring, const float *offsets, int co
     return can != 0;
 }
 
-/// @param offsets  one per frame, for which canReadRunSwept holds.
+/// @param offsets  one per frame; canReadRunSwept must be true for them.
 inline void readRunSwept(const SDelayRing &ring, const float *offsets, float *to, int count) {
     int i = 0;
     for (; i + 4 <= count; i += 4)

@@ -10,7 +10,7 @@
 /// The detector of the compressor and the de-esser. A fast follower of peaks decides whether the
 /// signal is above the threshold. If it is, the present level (not the peak) gives the excess over
 /// the threshold in dB; if not, the excess is 0. A slower follower with the attack and the release
-/// that the user sets smooths the excess, and the gain law makes a gain of it.
+/// that the user sets smooths the excess, and the gain law turns it into a gain.
 ///
 ///     level --+--> peak follower --> peak > threshold? --+-----------------------+
 ///             |      2 ms, 15 ms                         |                       |

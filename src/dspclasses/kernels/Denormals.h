@@ -3,8 +3,8 @@
 #include <bit>
 #include <cstdint>
 
-/// Replaces denormals by zero with a test of each value. The processor's own flush-to-zero mode
-/// is left alone, since it belongs to the host.
+/// Tests each value and replaces a denormal by zero. The processor's flush-to-zero mode is left
+/// alone: it belongs to the host.
 
 /// @return true for zero of either sign and for denormals: the exponent bits are all zero.
 inline bool isDenormalOrZero(float value) {

@@ -6,7 +6,7 @@
 /// or coefficients once per group: a change from another thread takes effect within the block, and
 /// the loop over a group keeps them in registers. See docs/kernels.md.
 ///
-/// Always inlined: a call with the body as argument would cost as much as a short block.
+/// Always inlined: an ordinary call that passes the body would cost as much as a short block.
 template <typename Body>
 [[gnu::always_inline]] inline void forEachGroup(int frames, Body body) {
     constexpr int groupFrames = 64;

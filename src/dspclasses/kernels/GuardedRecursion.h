@@ -17,7 +17,7 @@
 ///        |                                                      yes
 ///        +--------------> the same frames, guarded <-------------+
 ///
-/// | value                      | flush gives | contain gives  | the watch            |
+/// | value                      | flushed     | contained      | the watch            |
 /// |----------------------------|-------------|----------------|----------------------|
 /// | 0.0, nothing but zeros     | 0.0         | 0.0            | stays calm           |
 /// | 0.0 among other values     | 0.0         | 0.0            | alarms for no reason |
@@ -28,7 +28,7 @@
 ///
 /// The bits are those of guarding every sample, as docs/kernels.md explains.
 
-/// Beyond this magnitude a filter has run away.
+/// A filter whose output exceeds this magnitude has run away.
 inline constexpr double runawayLimit = 5.0;
 
 /// Guards that change values.
@@ -69,9 +69,9 @@ private:
         return std::bit_cast<std::uint64_t>(value) == 0 ? -1 : 0;
     }
 
-    SDoubles2 m_smallest = inBothChannels(1.0);  // magnitude so far, no NaN
-    SDoubles2 m_largest = inBothChannels(0.0);   // magnitude so far, no NaN
-    SDoubles2 m_allBits = inBothChannels(0.0);   // every bit that was set in any value
+    SDoubles2 m_smallest = inBothChannels(1.0);  // magnitude so far, NaNs ignored
+    SDoubles2 m_largest = inBothChannels(0.0);   // magnitude so far, NaNs ignored
+    SDoubles2 m_allBits = inBothChannels(0.0);   // every bit set in any value so far
 };
 
 enum class EInput {
@@ -79,7 +79,7 @@ enum class EInput {
     Flush,  // denormal input samples become 0.0, in the input buffer as well
 };
 
-/// Takes a filter through some frames with the guards that it is given.
+/// Runs a filter over some frames with the given guards.
 template <EInput input, typename Filter, typename Guard, typename Sample>
 [[gnu::always_inline]] inline void runFrames(Filter &filter, Guard &guard, Sample *inL, Sample *inR,
                                              Sample *outL, Sample *outR, int count) {
@@ -114,10 +114,10 @@ template <EInput input, typename Filter, typename Sample>
     return filter;
 }
 
-/// Takes a filter through some frames: watched first, and again with guards if the watch alarms. An
-/// alarm repeats all of them, so pass few at a time.
+/// Runs a filter over some frames: first watched, then again with guards if the watch alarms. An
+/// alarm repeats all frames, so pass few at a time.
 /// @param filter  coefficients and state of both channels, with a template step(frame, guard) that
-///                returns the next output frame. Ends in the state after the last frame.
+///                returns the next output frame. Updated to the state after the last frame.
 template <EInput input, typename Filter, typename Sample>
 [[gnu::always_inline]] inline void runWatched(Filter &filter, Sample *inL, Sample *inR,
                                               Sample *outL, Sample *outR, int count) {
@@ -125,7 +125,7 @@ template <EInput input, typename Filter, typename Sample>
     CWatchingGuard watch;
     runFrames<input>(next, watch, inL, inR, outL, outR, count);
     if (watch.mightHaveActed()) [[unlikely]] {
-        // A variable of its own keeps `next` in registers.
+        // A separate variable lets the compiler keep `next` in registers.
         const Filter guarded = filterAfterGuarding<input>(filter, inL, inR, outL, outR, count);
         next = guarded;
     }
@@ -134,8 +134,8 @@ template <EInput input, typename Filter, typename Sample>
 
 /// Runs a filter over a block, group by group.
 /// @param filter   as in runWatched.
-/// @param refresh  called with the filter before each group, so that what another thread sets takes
-///                 effect within the block.
+/// @param refresh  called with the filter before each group, so that changes from another thread
+///                 take effect within the block.
 template <EInput input, typename Filter, typename Sample, typename Refresh>
 void runGuarded(Filter &filter, Sample *const *in, Sample *const *out, int frames,
                 Refresh refresh) {

@@ -6,9 +6,9 @@
 #include <type_traits>
 
 /// Values side by side in the registers of the processor. A lane computes exactly what the scalar
-/// operation would, so a kernel on lanes gives the same bits as one without.
+/// operation would, so a kernel on lanes produces the same bits as a scalar one.
 ///
-/// `values` is a compiler vector, which has the operators of its elements: a comparison gives a
+/// `values` is a compiler vector, which has the operators of its elements: a comparison yields a
 /// mask, and mask ? a : b selects lane by lane. Four doubles are one register of AVX2 or two of
 /// SSE2, and the calling convention depends on which. So functions take and return the structure,
 /// and those that may see four doubles are always inlined.
@@ -17,22 +17,22 @@ struct TLanes {
     using Word = std::conditional_t<sizeof(Value) == 4, std::uint32_t, std::uint64_t>;
     using Values [[gnu::vector_size(count * sizeof(Value))]] = Value;
     using Bits [[gnu::vector_size(count * sizeof(Value))]] = Word;
-    /// The same at any address, aligned or not.
+    /// Values at any address, aligned or not.
     using InArray
         [[gnu::vector_size(count * sizeof(Value)), gnu::aligned(sizeof(Value)), gnu::may_alias]] =
             Value;
     Values values;
 };
 
-/// In the filters {left, right}, see StereoFrames.h.
+/// {left, right} in the filters; see StereoFrames.h.
 using SDoubles2 = TLanes<double, 2>;
 
-/// In the modules mostly four frames of one channel.
+/// In the modules, usually four frames of one channel.
 template <typename Value>
 using TFour = TLanes<Value, 4>;
 using SFloats4 = TFour<float>;
 
-/// The bare vectors, and what a comparison of two Floats4 gives.
+/// The bare vectors, and the masks that comparing two of them yields.
 using Doubles2 = SDoubles2::Values;
 using Floats4 = SFloats4::Values;
 using Mask2 = decltype(Doubles2{} > Doubles2{});
@@ -88,14 +88,14 @@ inline void storeTwo(double *to, SDoubles2 lanes) {
     *reinterpret_cast<SDoubles2::InArray *>(to) = lanes.values;
 }
 
-/// @return a0 b0 a1 b1, of the lower half of each.
+/// @return a0 b0 a1 b1, from the lower halves.
 inline SFloats4 interleavedLow(SFloats4 a, SFloats4 b) {
     return {__builtin_shufflevector(a.values, b.values, 0, 4, 1, 5)};
 }
 inline SDoubles2 interleavedLow(SDoubles2 a, SDoubles2 b) {
     return {__builtin_shufflevector(a.values, b.values, 0, 2)};
 }
-/// @return a2 b2 a3 b3, of the upper half of each.
+/// @return a2 b2 a3 b3, from the upper halves.
 inline SFloats4 interleavedHigh(SFloats4 a, SFloats4 b) {
     return {__builtin_shufflevector(a.values, b.values, 2, 6, 3, 7)};
 }
@@ -112,7 +112,7 @@ inline SFloats4 oddLanes(SFloats4 a, SFloats4 b) {
     return {__builtin_shufflevector(a.values, b.values, 1, 3, 5, 7)};
 }
 
-/// Lanes 0 and 1 (2 and 3) as doubles. By intrinsics, since GCC 12 would convert lane by lane.
+/// Lanes 0 and 1 (2 and 3) as doubles. Intrinsics, since GCC 12 would convert lane by lane.
 inline SDoubles2 widenedLow(SFloats4 a) {
     return {_mm_cvtps_pd(a.values)};
 }
@@ -132,21 +132,21 @@ template <typename Value>
     return {reinterpret_cast<typename Four::Values>(bits)};
 }
 
-/// The larger of each lane; b's where they are equal or one is a NaN.
+/// The larger value in each lane; b's if they are equal or either is a NaN.
 template <typename Value>
 [[gnu::always_inline]] inline TFour<Value> larger(const TFour<Value> &a, const TFour<Value> &b) {
     return {a.values > b.values ? a.values : b.values};
 }
 
-/// The smaller of each lane; b's where they are equal or one is a NaN.
+/// The smaller value in each lane; b's if they are equal or either is a NaN.
 template <typename Value>
 [[gnu::always_inline]] inline TFour<Value> smaller(const TFour<Value> &a, const TFour<Value> &b) {
     return {a.values < b.values ? a.values : b.values};
 }
 
-// Two doubles by intrinsics. From vector expressions GCC 12 makes integer instructions for the
-// bits, and a slower order around the comparisons: the three-band equaliser takes up to 11 %
-// longer.
+// Intrinsics for two doubles. From vector expressions, GCC 12 generates integer instructions for
+// the bit operations and a slower order around the comparisons: the three-band equaliser then takes
+// up to 11 % longer.
 
 inline SDoubles2 magnitude(SDoubles2 a) {
     return {_mm_andnot_pd(_mm_set1_pd(-0.0), a.values)};
@@ -173,7 +173,7 @@ template <typename Value, int count>
     return {magnitude(a).values < std::numeric_limits<Value>::min() ? Values{} : a.values};
 }
 
-// The same for floats in one instruction each. GCC 12 misses it if one operand is a constant.
+// For four floats in one instruction, which GCC 12 does not find if one operand is a constant.
 inline SFloats4 larger(SFloats4 a, SFloats4 b) {
     return {_mm_max_ps(a.values, b.values)};
 }
@@ -181,27 +181,27 @@ inline SFloats4 smaller(SFloats4 a, SFloats4 b) {
     return {_mm_min_ps(a.values, b.values)};
 }
 
-/// Four whole numbers, which wrap as unsigned ones do.
+/// Four unsigned integers, which wrap.
 using SCounts4 = TFour<std::uint32_t>;
 
-/// @param a  from 0 to below 2^31.
+/// @param a  at least 0 and below 2^31.
 /// @return each lane without its fraction.
 inline SCounts4 wholeParts(SFloats4 a) {
     const auto whole = __builtin_convertvector(a.values, TFour<std::int32_t>::Values);
     return {reinterpret_cast<SCounts4::Values>(whole)};
 }
-/// @param a  from 0 to below 2^31.
+/// @param a  at least 0 and below 2^31.
 inline SFloats4 toFloats(SCounts4 a) {
     const auto whole = reinterpret_cast<TFour<std::int32_t>::Values>(a.values);
     return {__builtin_convertvector(whole, SFloats4::Values)};
 }
 
-/// Two neighbours from each of two places: {first[0], first[1], second[0], second[1]}.
+/// Two adjacent floats from each of two addresses: {first[0], first[1], second[0], second[1]}.
 inline SFloats4 loadPairs(const float *first, const float *second) {
     const auto pair = [](const float *place) { return reinterpret_cast<const __m64 *>(place); };
     return {_mm_loadh_pi(_mm_loadl_pi(_mm_setzero_ps(), pair(first)), pair(second))};
 }
-/// The first of each pair, and the second of each, where a and b hold two pairs each.
+/// The first, or the second, value of each pair; a and b have two pairs each.
 inline SFloats4 firstOfPairs(SFloats4 a, SFloats4 b) {
     return {_mm_shuffle_ps(a.values, b.values, _MM_SHUFFLE(2, 0, 2, 0))};
 }

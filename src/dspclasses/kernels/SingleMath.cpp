@@ -26,13 +26,13 @@ float logSingle(float x) {
 
 // The power
 
-/// e to the power x to some 100 bits, for x from -700 to 700.
+/// e to the power x, precise to some 100 bits, for x from -700 to 700.
 static SDoubleDouble expPrecisely(SDoubleDouble x) {
     constexpr double ln2Rest = -0x1.ff0342542fc33p-94;
     const double k = std::nearbyint(x.high * 0x1.71547652b82fep+0);
     const SDoubleDouble r = x + SDoubleDouble{-k * ln2High, 0.0} + exactProduct(-k, ln2Low) +
                             SDoubleDouble{-k * ln2Rest, 0.0};
-    constexpr int terms = 24;  // the first one left out is below 2^-115
+    constexpr int terms = 24;  // the first omitted term is below 2^-115
     constexpr SDoubleDouble one{1.0, 0.0};
     SDoubleDouble sum = one;
     for (int n = terms; n > 0; --n)
@@ -48,8 +48,8 @@ static SDoubleDouble logPrecisely(double x) {
     return SDoubleDouble{rough, 0.0} + (quotient + SDoubleDouble{-1.0, 0.0});
 }
 
-/// The float nearest to the value. A power this close to a double is that double exactly; it may be
-/// a midpoint between two floats, which the conversion rounds to even.
+/// The float nearest to the value. A power this close to a double equals it exactly; it may be a
+/// midpoint between two floats, which the conversion rounds to even.
 static float nearestFloat(SDoubleDouble value) {
     if (std::abs(value.low) < value.high * 0x1p-70)
         return static_cast<float>(value.high);
@@ -57,8 +57,8 @@ static float nearestFloat(SDoubleDouble value) {
 }
 
 float powSingle(float base, float exponent) {
-    // The relative error is below 2^-44. If both ends of twice that interval convert to the same
-    // float, it is the nearest one; nearly always they do.
+    // The relative error is below 2^-44. If both ends of four times that interval convert to the
+    // same float, as they nearly always do, it is the nearest one.
     const double rough = expClamped(double{exponent} * logDouble(base));
     const auto low = static_cast<float>(rough * (1.0 - 0x1p-42));
     const auto high = static_cast<float>(rough * (1.0 + 0x1p-42));

@@ -2,8 +2,8 @@
 
 /// The exponential, the logarithm and the power for the modules and the parameter laws. Every
 /// single-precision result is the float nearest to the true value. So it is the same with every
-/// compiler, on every system and in four lanes (SingleMathLanes.h), which the C library does not
-/// promise. docs/kernels.md explains how. [any thread] None of them can fail.
+/// compiler, on every system and in four lanes (SingleMathLanes.h); the C library does not promise
+/// that. docs/kernels.md explains how. [any thread] None of them can fail.
 
 /// @return e to the power x; 0 or infinity where the true value underflows or overflows, NaN for
 ///         NaN.

@@ -3,7 +3,7 @@
 #include "dspclasses/kernels/Lanes.h"
 
 /// SingleMath for one or four lanes. Four doubles fill one register of AVX2 or two of SSE2, so call
-/// the forms for four lanes inside runWide. Everything is inlined.
+/// the four-lane forms inside runWide. Everything is inlined.
 ///
 /// Each function is computed in double precision and then rounded to float. The result is the
 /// nearest float unless the small error of the double crosses the midpoint between two floats.
@@ -130,8 +130,8 @@ template <int lanes>
     return {reinterpret_cast<Values>((bits - roundedAway) | 1u)};
 }
 
-/// Conversion to double, which is exact. Written lane by lane: the compiler makes one AVX2
-/// instruction of it, while it splits a __builtin_convertvector in two.
+/// Conversion to double, which is exact. Written lane by lane: the compiler turns this into one
+/// AVX2 instruction, but splits a __builtin_convertvector in two.
 [[gnu::always_inline]] inline TDoubles<4> widened(const SFloats4 &x) {
     const Floats4 &v = x.values;
     return {TDoubles<4>::Values{v[0], v[1], v[2], v[3]}};
@@ -143,8 +143,8 @@ template <int lanes>
 }
 
 /// The float nearest to each exact sum. The sum as a double is off by less than one unit in the
-/// last place. If both doubles beside it convert to the same float, so does the exact sum. If not,
-/// which happens about once in 2^26 calls, all lanes are rounded to odd first.
+/// last place. If the doubles on both sides of it convert to the same float, so does the exact sum.
+/// If not, which happens about once in 2^26 calls, all lanes are rounded to odd first.
 [[gnu::always_inline]] inline SFloats4 nearestFloats(const TDoubleSums<4> &sum) {
     const TDoubles<4>::Values total = sum.high + sum.low;
     const SFloats4 inner = narrowed({total * (1.0 - 0x1p-52)});
@@ -157,7 +157,7 @@ template <int lanes>
 /// The exponents beyond which e^x is 0 or infinity as a float.
 inline constexpr float lowestExponent = -110.0f, highestExponent = 100.0f;
 
-/// @return x held within those exponents; NaN for NaN.
+/// @return x clamped to those exponents; NaN for NaN.
 [[gnu::always_inline]] inline TDoubles<4> clampedExponents(const SFloats4 &x) {
     // x goes second: smaller and larger return their second argument if one of the two is NaN.
     const SFloats4 capped = smaller(SFloats4{splat(highestExponent)}, x);
