@@ -4,8 +4,7 @@
 
 #include <cmath>
 
-/// Kept: the exponent is rounded to single precision on its way, and -60 dB is not silence as it is
-/// in CDSPGain.
+/// Kept: the exponent is rounded to single precision. Unlike in CDSPGain, -60 dB is not silence.
 static double gainFromDb(float decibels) {
     constexpr float ln10 = 2.30258509f;
     return std::exp(double{ln10 * decibels} * 0.05);

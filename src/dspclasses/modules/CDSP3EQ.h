@@ -56,7 +56,7 @@ private:
     template <typename Sample>
     void run(Sample *const *in, Sample *const *out, int frames);
 
-    SFilter filter;  // takes coefficients and gains over before each group of frames
+    SFilter filter;  // receives coefficients and gains before each group of frames
     TRelaxed<double> lowCoef = bandSplitCoefficient(350.0f, invSampleRate);
     TRelaxed<double> highCoef = bandSplitCoefficient(1500.0f, invSampleRate);
     TRelaxed<double> lowGain = 1.0, midGain = 1.0, highGain = 1.0;   // linear

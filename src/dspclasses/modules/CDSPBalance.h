@@ -3,7 +3,7 @@
 #include "dspclasses/modules/CDSPBase.h"
 #include "values/TRelaxed.h"
 
-/// Attenuates one side and leaves the other at unity. The one parameter is set whatever the index.
+/// Attenuates one side and leaves the other at unity. It has one parameter and ignores the index.
 class CDSPBalance : public CDSPBase {
 public:
     enum EParameter : int {

@@ -3,7 +3,7 @@
 #include <bit>
 #include <cstdint>
 
-// It enters coefficients, and the output is fixed to the bit.
+// Coefficients are computed from it, and every bit of the output must stay the same.
 static_assert(std::bit_cast<std::uint32_t>(1.0f / 44100.0f) == 0x37BE37C6);
 
 CDSPBase::~CDSPBase() = default;

@@ -68,8 +68,8 @@ template <typename Sample>
     step.store(out, TFour<Sample>{step.load(in).values * factors});
 }
 
-/// Kept: the gain of the right channel does not follow its own detector. That only decides between
-/// the last gain of the left channel, held for the whole block, and the make-up.
+/// Kept: the gain of the right channel does not follow its own detector. That detector only chooses
+/// between the last gain of the left channel, held for the whole block, and the make-up.
 class CHeldGain {
 public:
     explicit CHeldGain(float gain) : m_gain(splat(gain)) {}
@@ -95,8 +95,8 @@ SDetectorSettings CDSPComp::settings() const {
 
 template <typename Sample>
 void CDSPComp::run(Sample *const *in, Sample *const *out, int frames) {
-    // Setting the mode also asks for a reset. Taken before the mode is read, the request clears the
-    // old mode's state in this block or at the latest in the next.
+    // Setting the mode also requests a reset. The request is taken before the mode is read, so the
+    // old mode's state is cleared in this block or, at the latest, in the next.
     if (resetRequest.take())
         clear();
     if (frames <= 0)

@@ -17,7 +17,7 @@ public:
         kRelease,     ///< ms
         kRatio,       ///< above 0, not checked
         kMakeUp,      ///< dB
-        kStereoMode,  ///< from 0.5 linked, below separate
+        kStereoMode,  ///< linked from 0.5 up, below that separate
     };
 
     /// Setting the stereo mode also resets, whether it changes or not.
@@ -25,7 +25,7 @@ public:
     float getParameter(int index) override;
     /// Denormal input samples become 0.0 in the input buffers as well.
     void processReplacing(float **in, float **out, int frames) override;
-    /// Leaves the input buffers as they are.
+    /// Does not change the input buffers.
     void processDoubleReplacing(double **in, double **out, int frames) override;
     void reset() override;
 

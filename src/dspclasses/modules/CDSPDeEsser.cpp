@@ -102,7 +102,7 @@ SDetectorSettings CDSPDeEsser::settings() const {
 }
 
 /// @param x         input, one sample or four.
-/// @param side      what the filter passed of it.
+/// @param side      the part of it that the filter passes.
 /// @param isNarrow  whether only that part is attenuated.
 template <typename Samples>
 [[gnu::always_inline]] static inline Samples attenuated(const Samples &x, const Samples &side,
@@ -110,8 +110,8 @@ template <typename Samples>
     return isNarrow ? (x - side) + side * gain : x * gain;
 }
 
-/// The filter runs inside the detector's loop: its recursion and the detector's then wait at the
-/// same time.
+/// The filter runs inside the detector's loop: the processor can work on one recursion while the
+/// other waits for its last result.
 void CDSPDeEsser::attenuate(float **in, float **out, int frames) {
     float *inL = in[0], *inR = in[1], *sideL = singleSide.left(), *sideR = singleSide.right();
     float *outL = out[0], *outR = out[1];
@@ -145,7 +145,7 @@ void CDSPDeEsser::attenuate(float **in, float **out, int frames) {
     gain = settings().law.gain(isActive, detector.smoothedExcessDb);
 }
 
-/// Frame by frame until the detector falls asleep, then the rest at one gain.
+/// Runs frame by frame until the detector falls asleep, then applies one gain to the rest.
 void CDSPDeEsser::attenuate(double **in, double **out, int frames) {
     process(filter, in, doubleSide.channels().data(), frames);
     const bool isNarrow = narrow;
@@ -164,9 +164,9 @@ void CDSPDeEsser::attenuate(double **in, double **out, int frames) {
 double CDSPDeEsser::doubleLevelAt(int frame, bool isNarrow) {
     const double sideL = std::abs(doubleSide.left()[frame]);
     const double sideR = std::abs(doubleSide.right()[frame]);
-    // Kept: in narrow mode the sample that decides for the left channel comes from the single
-    // precision buffer. It is left from the last block in single precision, or 0 past the end of
-    // that buffer.
+    // Kept: in narrow mode the left channel is judged by a sample of the single-precision buffer.
+    // That sample dates from the last block in single precision, or is 0 past the end of the
+    // buffer.
     const float stale = frame < singleSide.size() ? singleSide.left()[frame] : 0.0f;
     const double candidate = isNarrow ? double{std::abs(stale)} : sideL;
     return candidate > sideR ? sideL : sideR;

@@ -10,8 +10,8 @@
 /// De-esser: a high-pass filter derives a side chain, and one detector on both of its channels
 /// attenuates the whole signal (wide) or only what the filter passes (narrow).
 ///
-/// Denormal input samples become 0.0 in the input buffers as well. A block that is longer than 512
-/// frames and than any before in its precision allocates.
+/// Denormal input samples become 0.0 in the input buffers as well. A block allocates if it is
+/// longer than 512 frames and than every earlier block in its precision.
 ///
 /// The two precisions are deliberately not equivalent: in double precision the detector does not
 /// rise above the threshold, and the signal passes unchanged.
@@ -22,8 +22,8 @@ public:
         kSpeed,      ///< 0, the fastest, to 1
         kRatio,      ///< above 0, not checked
         kFrequency,  ///< Hz
-        kBand,       ///< from 0.5 narrow, below wide
-        kListen,     ///< from 0.5 the output is the side chain and the detector pauses
+        kBand,       ///< narrow from 0.5 up, below that wide
+        kListen,     ///< from 0.5 up, outputs the side chain and pauses the detector
     };
 
     void setParameter(int index, float value) override;

@@ -88,8 +88,7 @@ void CDSPDelay::setBeat(float ms) {
     setDelay(syncMode == kHalfBeat ? whole >> 1 : whole);
 }
 
-/// @return a quarter of a bar, in beats. Kept: without its fraction, so a bar of three beats gives
-/// 0.
+/// @return a quarter of a bar, in beats. Kept: without its fraction, so 0 for a bar of three beats.
 static float wholeQuarters(std::int32_t beatsPerBar) {
     const std::int32_t quarters = beatsPerBar / 4;
     return static_cast<float>(quarters);
@@ -139,7 +138,7 @@ struct SLevels {
     float dry, wet, feedback;
 };
 
-/// One channel of a run.
+/// Mixes one channel of a run.
 /// @param echo    read from the channel's own line.
 /// @param fedBack the echo that goes back into that line: its own, or in ping-pong mode that of
 ///                the other channel.

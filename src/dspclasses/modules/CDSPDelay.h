@@ -53,8 +53,8 @@ private:
     template <typename Sample>
     void run(const Sample *const *in, Sample *const *out, int frames);
 
-    TRelaxed<std::uint32_t> delayMs = 0;         // present time
-    TRelaxed<std::uint32_t> freeDelayMs = 1000;  // the time to come back to from a synchronised one
+    TRelaxed<std::uint32_t> delayMs = 0;            // present time
+    TRelaxed<std::uint32_t> freeDelayMs = 1000;     // used again once sync ends
     TRelaxed<std::uint32_t> lineCapacity = 131072;  // samples
     TRelaxed<float> delaySamples = 0.0f;            // from delayMs
     TRelaxed<float> feedback = 0.5f;

@@ -3,7 +3,7 @@
 #include "dspclasses/modules/CDSPBase.h"
 #include "values/TRelaxed.h"
 
-/// Level; -60 dB and below is silence. The one parameter is set whatever the index.
+/// Level; -60 dB and below is silence. It has one parameter and ignores the index.
 class CDSPGain : public CDSPBase {
 public:
     enum EParameter : int {

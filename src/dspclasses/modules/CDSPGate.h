@@ -7,8 +7,8 @@
 #include "values/TRelaxed.h"
 
 /// Noise gate with one detector for both channels. The gain moves in decibels, by a constant factor
-/// per sample: towards 0 dB while the peaks are above the threshold, towards -60 dB while not. It
-/// rests at exactly 1 and at exactly 0.
+/// per sample: towards 0 dB while the peaks are above the threshold, otherwise towards -60 dB. It
+/// comes to rest at a factor of exactly 1 or exactly 0.
 class CDSPGate : public CDSPBase {
 public:
     enum EParameter : int {

@@ -5,8 +5,8 @@
 #include "dspclasses/modules/CDSPBase.h"
 #include "values/TRelaxed.h"
 
-/// First-order high-pass, for rumble or for the low end of a voice. The one parameter is set
-/// whatever the index.
+/// First-order high-pass, for rumble or for the low end of a voice. It has one parameter and
+/// ignores the index.
 ///
 ///     x --+----------------> + ---------------+--> y
 ///         |                  ^                |
@@ -41,7 +41,7 @@ private:
     template <typename Sample>
     void run(Sample *const *in, Sample *const *out, int frames);
 
-    SFilter filter;                       // takes the pole over before each group of frames
+    SFilter filter;                       // receives the pole before each group of frames
     TRelaxed<float> cutoff = 60.0f;       // Hz
     TRelaxed<float> pole = 0.991487861f;  // exp(-0.00854855), from cutoff
     CResetRequest resetRequest;

@@ -57,7 +57,7 @@ float CDSPModulation::getParameter(int index) {
     }
 }
 
-/// Kept: the types part at 0.4 and 0.7, though they read as 0, 0.5 and 1.
+/// Kept: the type changes at 0.4 and at 0.7, although the types read as 0, 0.5 and 1.
 static CDSPModulation::EType typeAt(float value) {
     const std::int32_t tenths = truncated(value * 10.0f);
     if (tenths < 0 || tenths > 6)
@@ -148,7 +148,7 @@ struct CDSPModulation::SSettings {
     std::uint32_t depth, base;  // samples
 };
 
-/// For each frame the phase of the oscillator, then the offset to read at.
+/// For each frame, first the phase of the oscillator, later the offset to read at.
 struct CDSPModulation::SSweep {
     float left[groupFrames];
     float right[groupFrames];
@@ -164,7 +164,7 @@ void CDSPModulation::advanceOscillators(SSweep &sweep, int frames, float increme
             sweep.left[i] = left = nextSweepPhase(left, increment);
             sweep.right[i] = right = nextSweepPhase(right, increment);
         }
-        // Repeats the group if a change of spread has shifted the phase during it.
+        // Repeats the group if a change of spread has shifted the phase in the meantime.
     } while (!phaseRight.compare_exchange_strong(rightBefore, right));
     phaseLeft = left;
 }
@@ -206,7 +206,7 @@ void CDSPModulation::runChannel(const Sample *in, Sample *out, int frames,
         line.write(toLine, frames);
         return;
     }
-    // The sweep comes so near that a frame reads what another frame of the group writes.
+    // Frame by frame, since a frame may read what its own group writes.
     for (int i = 0; i < frames; ++i) {
         line.read(sweep[i], delayed, 1);
         mixChannel(in + i, delayed, out + i, toLine, 1, settings);

@@ -9,7 +9,7 @@
 #include <cstdint>
 
 /// Vibrato, automatic double tracking (ADT) and phaser: a delay per channel, swept by an
-/// oscillator. Three gains make a plain delay, a delay with feedback or an all-pass of it. One
+/// oscillator. Three gains turn it into a plain delay, a delay with feedback or an all-pass. One
 /// channel:
 ///
 ///     x --+------------------------------------ dry gain ----(+)--> out

@@ -5,14 +5,14 @@
 
 #include <cstdint>
 
-/// Routing of two channels. The one parameter is set whatever the index.
+/// Routing of two channels. It has one parameter and ignores the index.
 class CDSPMono : public CDSPBase {
 public:
     enum EParameter : int {
         kRouting,  ///< 0 to 1; three times that, truncated, is the EMode, so only 1 is stereo
     };
 
-    /// A value outside 0 to 1 gives a mode that has no name here and writes no output.
+    /// A value outside 0 to 1 may set a mode that has no name here; no output is then written.
     enum EMode : std::int32_t {
         kCombine,   // both outputs carry the sum, 3 dB down
         kAllLeft,   // both carry the left input
@@ -21,7 +21,7 @@ public:
     };
 
     void setParameter(int index, float value) override;
-    float getParameter(int index) override;  ///< a third of the mode, which leads back to it
+    float getParameter(int index) override;  ///< a third of the mode; sets the same mode again
     void processReplacing(float **in, float **out, int frames) override;
     void processDoubleReplacing(double **in, double **out, int frames) override;
 

@@ -3,11 +3,10 @@
 #include "dspclasses/blocks/SquareRootLaw.h"
 #include "dspclasses/kernels/FrameGroups.h"
 
-// Kept: each half skips its spread if it is the last one of that half, but has set the gains of the
-// other input by then. So the matrix depends on the positions before: from 0.75 to 0.25 and back to
-// 0.75 ends at the identity.
-// Kept: the halves do not meet in the middle. Just below it the right input is spread, from it on
-// the left one.
+// Kept: each half skips a spread that equals its last one, but has already set the gains of the
+// other input by then. So the matrix depends on earlier positions: moving from 0.75 to 0.25 and
+// back to 0.75 ends at the identity. Kept: the halves do not meet in the middle. Just below the
+// middle the right input is spread, from the middle on the left one.
 void CDSPPan::setParameter(int /*index*/, float value) {
     if (value == pan)
         return;
@@ -43,8 +42,8 @@ float CDSPPan::getParameter(int /*index*/) {
     return pan;
 }
 
-// A function of its own: GCC honours __restrict on parameters only, and vectorises the loop because
-// of it.
+// A separate function: GCC honours __restrict only on parameters, and needs it to vectorise the
+// loop.
 template <typename Sample>
 static void mix(const Sample *__restrict inL, const Sample *__restrict inR, Sample *__restrict outL,
                 Sample *__restrict outR, int frames, Sample ll, Sample lr, Sample rl, Sample rr) {

@@ -4,8 +4,8 @@
 #include "values/TRelaxed.h"
 
 /// Moves one input across the stereo image and leaves the other on its side: the right input while
-/// the position is left of the middle, the left input from the middle on. The one parameter is set
-/// whatever the index.
+/// the position is left of the middle, the left input from the middle on. It has one parameter and
+/// ignores the index.
 ///
 ///     | left out  |   | leftToLeft   rightToLeft  |   | left in  |
 ///     | right out | = | leftToRight  rightToRight | * | right in |
@@ -30,8 +30,8 @@ private:
     // The last spread of each half, 0 in the middle and 1 at the side.
     TRelaxed<float> rightHalfSpread = 1.0f;
     TRelaxed<float> leftHalfSpread = 1.0f;
-    // Linear; the identity until the pan is moved. Kept: so is a first move straight to either end,
-    // whose spread of 1 is taken for the last one.
+    // Linear; the identity until the pan is moved. Kept: a first move straight to either end
+    // changes nothing, since its spread of 1 equals the initial one.
     TRelaxed<float> leftToLeft = 1.0f;
     TRelaxed<float> leftToRight = 0.0f;
     TRelaxed<float> rightToLeft = 0.0f;

@@ -28,8 +28,9 @@ public:
     void setGain(float db);
     /// @param value  octaves or Q, above 0; not checked. [any thread]
     void setBandwidth(float value);
-    /// Computes the coefficients anew and resets. Kept: also when the rate is 0 or unchanged, which
-    /// the base ignores. Not while another thread uses the filter; nothing in the strip calls it.
+    /// Recomputes the coefficients and resets. Kept: also if the rate is 0 or unchanged, which the
+    /// base ignores. Must not run while another thread uses the filter; nothing in the strip calls
+    /// it.
     void setSampleRate(float rate);
 
     SCoefficients getCoefficients() const { return {b0, b1, b2, a1, a2}; }
@@ -44,7 +45,7 @@ public:
     /// @return the state of both channels. The coefficients may be old until the first refresh.
     const SBiquadLanes &takeOut() const { return biquad; }
 
-    /// Takes the present coefficients over, and clears the state if a reset was asked for.
+    /// Copies the present coefficients, and clears the state if a reset was requested.
     void refresh(SBiquadLanes &now) {
         now.b0 = inBothChannels(b0);
         now.b1 = inBothChannels(b1);
@@ -68,7 +69,7 @@ private:
     template <typename Sample>
     void run(Sample *const *in, Sample *const *out, int frames);
 
-    SBiquadLanes biquad;  // takes the coefficients over before each group of frames
+    SBiquadLanes biquad;  // receives the coefficients before each group of frames
     TRelaxed<double> b0, b1, b2, a1, a2;
     TRelaxed<float> frequency = 440.0f;  // Hz
     TRelaxed<float> gainDb = 0.0f;       // dB

@@ -105,7 +105,7 @@ void CDSPReverb::setReverbTime(float seconds) {
         return;
     reverbTime = seconds;
     decay = decayPerSample(seconds, sampleRate);
-    // Kept: the tap gains do not follow. The next change of room takes the new decay for them.
+    // Kept: the tap gains do not follow. The next change of room applies the new decay to them.
     applyDecayToTails();
 }
 
@@ -119,7 +119,7 @@ void CDSPReverb::setSpread(float value) {
         return;
     spread = value;
     const SDiffuserLengths lengths = diffuserLengths(value, tailLengths[3]);
-    // Kept: chosen without a formula, like the lengths.
+    // Kept: like the lengths, the coefficients follow no formula.
     constexpr float coefficients[lines] = {0.75f, 0.75f, 0.625f, 0.625f};
     for (int k = 0; k < lines; ++k) {
         diffuserLeft[k].setDelayLength(lengths.left[k]);
@@ -156,7 +156,7 @@ void CDSPReverb::readLines(SReverbGroup &group, int frames) const {
         tailDelays[k].read(tailLengths[k], group.tail[k], frames);
 }
 
-/// The two recursions from frame to frame. They share a loop, since the processor can work on one
+/// The two recursions from frame to frame. They share a loop, so that the processor can work on one
 /// while the other waits for its last result.
 void CDSPReverb::filterInputAndWalls(const float *left, const float *right, SReverbGroup &group,
                                      int frames) {
@@ -179,8 +179,8 @@ void CDSPReverb::diffuseInput(SReverbGroup &group, int frames) {
     diffuserRight[0].run(group.right, frames);
 }
 
-/// Writes the mean of both channels to the early line and reads its taps. The line holds four
-/// samples, so that the taps find all that they need in those four and the group itself.
+/// Writes the mean of both channels to the early line and reads its taps. The line has four
+/// samples. These and the group itself contain every sample that the taps read.
 void CDSPReverb::runEarlyLine(SReverbGroup &group, int frames) {
     constexpr int held = 4;
     float mono[held + SReverbGroup::longest];
@@ -213,7 +213,7 @@ void CDSPReverb::diffuseWet(SReverbGroup &group, int frames) {
 namespace {
 
 /// @return the samples in single precision, in which the whole network runs.
-/// @param room  takes them if they are not.
+/// @param room  receives the converted samples if they are doubles.
 const float *asFloats(const float *samples, float * /*room*/, int /*frames*/) {
     return samples;
 }

@@ -29,7 +29,7 @@ struct SReverbGroup;
 ///     wet -> all-passes [1] [2] [3] of the left  -> (+) -> out L         dry: in L times dry level
 ///     wet -> all-passes [1] [2] [3] of the right -> (+) -> out R              in R times dry level
 ///
-/// It runs in groups of frames; docs/kernels.md says why and how long they are.
+/// It runs in groups of frames; docs/kernels.md explains why and how long they are.
 ///
 /// Setting the spread clears the all-passes and reallocates those that grow, so it must not run at
 /// the same time as the audio thread. Kept: it takes the lengths from the present room, and a later
@@ -67,7 +67,7 @@ private:
     void run(const Sample *const *in, Sample *const *out, int frames);
 
     // The stages of a group of frames, in this order.
-    int framesAhead() const;  ///< how many may run before one needs what another feeds to a line
+    int framesAhead() const;  ///< frames that may run before one needs what another feeds to a line
     void readLines(SReverbGroup &group, int frames) const;
     void filterInputAndWalls(const float *left, const float *right, SReverbGroup &group,
                              int frames);

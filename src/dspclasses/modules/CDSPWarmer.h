@@ -3,8 +3,8 @@
 #include "dspclasses/modules/CDSPBase.h"
 #include "values/TRelaxed.h"
 
-/// Waveshaper: Schlick's bias curve, from the identity at 0 to a strong bend at 1. The one
-/// parameter is set whatever the index.
+/// Waveshaper: Schlick's bias curve, from the identity at 0 to a strong bend at 1. It has one
+/// parameter and ignores the index.
 ///
 ///     x --> x / ((x - 1) k + x) --> y    with k = 1 - 1 / bias, bias = 0.5 + 0.2 * warmth
 ///

@@ -12,8 +12,8 @@ inline double decayPerSample(float seconds, float sampleRate) {
     return std::pow(0.001, 1.0 / double{seconds * sampleRate});
 }
 
-/// @return the gain after so many samples, decay^samples. Kept: the power is in single precision,
-///         which makes long reverb times inexact by up to a tenth of a decibel in 60.
+/// @return the gain after that many samples, decay^samples. Kept: the power is in single precision,
+///         which makes long reverb times inexact, by up to 0.1 dB in 60 dB.
 inline float decayAfter(float samples, double decay) {
     return powSingle(static_cast<float>(decay), samples);
 }

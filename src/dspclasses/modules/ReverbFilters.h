@@ -21,7 +21,7 @@ public:
 
     float tick(float sample) {
         state = gain * sample + pole * state;
-        // A branch and not flushDenormal: the next tick need not wait for the test.
+        // A branch rather than flushDenormal, so that the next tick need not wait for the test.
         if (isDenormalOrZero(state))
             state = 0.0f;
         return state;
@@ -43,7 +43,7 @@ public:
           pole(perLine([=](int k) { return dampers[k].getPole(); })),
           state(perLine([=](int k) { return dampers[k].getState(); })) {}
 
-    /// @param ends  what the lines return.
+    /// @param ends  the outputs of the lines.
     SFloats4 tick(SFloats4 ends) {
         state = flushDenormal(gain * (ends * lineGain) + pole * state);
         return state;

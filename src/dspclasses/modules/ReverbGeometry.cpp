@@ -7,10 +7,10 @@
 #include <cstdint>
 
 SReverbRoom reverbRoom(float metres, float sampleRate) {
-    // Kept: the constants are cut to so many digits.
+    // Kept: the constants have only these digits.
     constexpr float secondsPerMetre = 0.00294f;                      // 1 / 340
     constexpr std::array ratios{1.0f, 0.81649f, 0.7071f, 0.63245f};  // sqrt(2/2, 2/3, 2/4, 2/5)
-    constexpr std::array taps{0.41f, 0.3f, 0.155f, 0.0f};            // without a formula
+    constexpr std::array taps{0.41f, 0.3f, 0.155f, 0.0f};            // follow no formula
     constexpr float nearestTap = 5.0f;
     SReverbRoom room;
     room.delayBase = sampleRate * metres * secondsPerMetre;

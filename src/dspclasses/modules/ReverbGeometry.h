@@ -14,9 +14,11 @@ struct SReverbRoom {
     std::array<float, reverbLines> tapOffsets;   // in the early line
 };
 
-/// delayBase       = metres sampleRate / (340 m/s)
-/// tailLengths[k]  = floor(delayBase sqrt(2 / (2 + k))), so that the echoes of two lines rarely
-/// meet tapOffsets[k]   = floor(delayBase times 0.41, 0.3, 0.155 and 0) + 5
+///     delayBase       = metres sampleRate / (340 m/s)
+///     tailLengths[k]  = floor(delayBase sqrt(2 / (2 + k)))
+///     tapOffsets[k]   = floor(delayBase times 0.41, 0.3, 0.155 and 0) + 5
+///
+/// The square roots keep the echoes of two lines from meeting often.
 /// @param metres  from 1.
 SReverbRoom reverbRoom(float metres, float sampleRate);
 

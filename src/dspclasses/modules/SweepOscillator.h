@@ -22,16 +22,16 @@ inline float sweepIncrement(float speedHz, float secondsPerSample) {
 
 inline float nextSweepPhase(float phase, float increment) {
     phase += increment;
-    // A branch: it is mispredicted once a cycle only, and the next phase need not wait for the
-    // test.
+    // A branch, so that the next phase need not wait for the test. It is mispredicted only once a
+    // cycle.
     if (phase > 1.0f) [[unlikely]]
         phase -= 2.0f;
     return phase;
 }
 
 /// @param spreadChange  1 shifts by a quarter of a cycle.
-/// @return the phase after a change of the stereo offset. Kept: it does not wrap at -1. Below, the
-///         wave is above 1 until the oscillator has come back.
+/// @return the phase after a change of the stereo offset. Kept: it does not wrap at -1. Below -1
+///         the wave can exceed 1 until the oscillator has come back.
 inline float shiftedSweepPhase(float phase, float spreadChange) {
     phase += spreadChange * 0.5f;
     return phase > 1.0f ? phase - 2.0f : phase;

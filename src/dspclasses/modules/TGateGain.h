@@ -34,15 +34,15 @@ public:
     /// @return the natural logarithm of the gain.
     float exponent() const { return m_exponent; }
 
-    /// @return whether the gain stays where it is for all frames of a step. A bit per frame is set
-    ///         in openFrames where the gate is open, and in allFrames for every frame.
+    /// @return whether the gain stays where it is for all frames of a step. openFrames has one bit
+    ///         per frame, set if the gate is open; allFrames has all of these bits set.
     bool rests(int openFrames, int allFrames) const {
         if (openFrames == allFrames)
             return !isBelowOne();
         return openFrames == 0 && (!isAboveZero() || m_decibels == 0.0f);
     }
 
-    /// Moves on by one frame.
+    /// Advances by one frame.
     void move(bool isOpen) {
         if (isOpen && isBelowOne()) {
             moveBy(attackFactor);

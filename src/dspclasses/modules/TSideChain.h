@@ -11,7 +11,8 @@ public:
     /// Allocates if the block is longer than any before; the contents are then lost.
     void grow(int frames) {
         const auto needed = static_cast<std::size_t>(frames);
-        // The right one grows last, so a failed allocation leaves it too short.
+        // The right one grows last: if an allocation fails, it is still too short and the next call
+        // tries again.
         if (needed <= m_right.size())
             return;
         m_left.assign(needed, 0);
