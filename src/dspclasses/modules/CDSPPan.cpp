@@ -5,8 +5,9 @@
 
 // Kept: each half skips a spread that equals its last one, but has already set the gains of the
 // other input by then. So the matrix depends on earlier positions: moving from 0.75 to 0.25 and
-// back to 0.75 ends at the identity. Kept: the halves do not meet in the middle. Just below the
-// middle the right input is spread, from the middle on the left one.
+// back to 0.75 ends at the identity.
+// Kept: the halves do not meet in the middle. Just below the middle the right input is spread, from
+// the middle on the left one.
 void CDSPPan::setParameter(int /*index*/, float value) {
     if (value == pan)
         return;

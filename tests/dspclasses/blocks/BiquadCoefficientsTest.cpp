@@ -85,12 +85,12 @@ TEST(BiquadCoefficients, ABandPassAndANotchAreThreeDecibelsDownAtBothEndsOfTheir
     }
 }
 
-TEST(BiquadCoefficients, ABandPassOfConstantSkirtsKeepsThemWhateverTheQ) {
+TEST(BiquadCoefficients, ABandPassOfConstantSkirtGainKeepsItsSkirtsAtAnyQ) {
     const double narrow = decibelsAt(withQ(EBiquadKind::BandPassSkirt, 8.0), 50.0);
     EXPECT_NEAR(decibelsAt(withQ(EBiquadKind::BandPassSkirt, 2.0), 50.0), narrow, 0.03);
 }
 
-TEST(BiquadCoefficients, AnAllPassTurnsThePhaseByHalfACycleAtItsFrequency) {
+TEST(BiquadCoefficients, AnAllPassShiftsThePhaseByHalfACycleAtItsFrequency) {
     const auto c = withQ(EBiquadKind::AllPass, 2.0);
     const std::complex<double> z1 = std::polar(1.0, -3.141592653589793 * 1000.0 / nyquist);
     const auto h = (c.b0 + c.b1 * z1 + c.b2 * z1 * z1) / (1.0 + c.a1 * z1 + c.a2 * z1 * z1);
@@ -98,7 +98,7 @@ TEST(BiquadCoefficients, AnAllPassTurnsThePhaseByHalfACycleAtItsFrequency) {
     EXPECT_NEAR(h.imag(), 0.0, 1e-9);
 }
 
-TEST(BiquadCoefficients, AHighPassOfTwoOrdersFallsTwelveDecibelsAnOctave) {
+TEST(BiquadCoefficients, AHighPassFallsTwelveDecibelsAnOctave) {
     const auto c = withQ(EBiquadKind::HighPass, std::sqrt(0.5));
     EXPECT_NEAR(decibelsAt(c, 1000.0), 10.0 * std::log10(0.5), 1e-6);
     EXPECT_NEAR(decibelsAt(c, 40.0) - decibelsAt(c, 20.0), 12.04, 0.01);

@@ -21,7 +21,7 @@ TEST(CDSPOnePole, HoldsItsStateWithAPoleOfOne) {
     EXPECT_EQ(filter.tick(-1.0f), 0.5f);
 }
 
-TEST(CDSPOnePole, SharesAUnitBetweenGainAndPole) {
+TEST(CDSPOnePole, GainAndPoleAddUpToOne) {
     CDSPOnePole filter;
     filter.setPole(0.25f);
     EXPECT_EQ(filter.tick(1.0f), 0.75f);
@@ -43,7 +43,7 @@ TEST(CDSPOnePole, PassesZeroHertzAndAttenuatesHalfTheSampleRateByItsFormula) {
     }
 }
 
-TEST(CDSPOnePole, ClearForgetsOnlyTheState) {
+TEST(CDSPOnePole, ClearResetsOnlyTheState) {
     CDSPOnePole filter;
     filter.setPole(0.25f);
     filter.tick(1.0f);
@@ -53,7 +53,7 @@ TEST(CDSPOnePole, ClearForgetsOnlyTheState) {
     EXPECT_EQ(filter.tick(1.0f), 0.75f);
 }
 
-TEST(CDSPOnePole, FlushesADenormalFromItsStateAndItsResult) {
+TEST(CDSPOnePole, FlushesADenormalInItsStateAndItsResult) {
     CDSPOnePole filter;
     filter.setPole(0.5f);
     EXPECT_EQ(filter.tick(1.5e-38f), 0.0f);

@@ -5,7 +5,7 @@
 #include <cmath>
 #include <gtest/gtest.h>
 
-TEST(SGainLaw, GivesTheOffsetWhileInactiveAndTheSlopeWhileActive) {
+TEST(SGainLaw, ReturnsTheOffsetWhileInactiveAndFollowsTheSlopeWhileActive) {
     const SGainLaw law{-0.5f, 6.0f, linearFromDecibels(6.0f)};
     EXPECT_EQ(law.gain(false, 20.0f).decibels, 6.0f);
     EXPECT_EQ(law.gain(false, 20.0f).linear, linearFromDecibels(6.0f));
@@ -13,7 +13,7 @@ TEST(SGainLaw, GivesTheOffsetWhileInactiveAndTheSlopeWhileActive) {
     EXPECT_EQ(law.gain(true, 20.0f).linear, linearFromDecibels(-4.0f));
 }
 
-TEST(CGainsByLaw, GivesEachFrameTheGainOfTheLaw) {
+TEST(CGainsByLaw, ReturnsTheGainOfTheLawForEachFrame) {
     CRandom random(1);
     const auto draw = [&random](double low, double high) {
         return static_cast<float>(random.real(low, high));

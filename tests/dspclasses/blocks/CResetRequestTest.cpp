@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-TEST(CResetRequest, IsTakenOnceHoweverOftenItWasAskedFor) {
+TEST(CResetRequest, IsTakenOnceHoweverOftenItWasRequested) {
     CResetRequest request;
     EXPECT_FALSE(request.take());
     request.ask();

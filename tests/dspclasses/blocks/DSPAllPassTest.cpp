@@ -32,7 +32,7 @@ TEST(DSPAllPass, RespondsToAnImpulseAtEachMultipleOfItsLength) {
               (std::vector<float>{0.5f, 0, 0, 0.75f, 0, 0, -0.375f, 0, 0, 0.1875f}));
 }
 
-TEST(DSPAllPass, LeavesTheLevelOfEveryFrequency) {
+TEST(DSPAllPass, KeepsTheLevelOfEveryFrequency) {
     DSPAllPass allPass;
     allPass.setDelayLength(7);
     allPass.setCoefficient(0.625f);

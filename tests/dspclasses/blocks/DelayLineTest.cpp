@@ -212,7 +212,7 @@ TEST(DelayLine, RunsEqualThePlainVersionFrameByFrame) {
 }
 
 TEST(DelayLine, InterpolatesInfinitiesLikeAnyOtherSample) {
-    // A fraction of 0 leaves a sample unchanged, but gives a NaN beside an infinity.
+    // A fraction of 0 leaves a sample unchanged, except beside an infinity, where it yields a NaN.
     DelayLine line(8);
     CPlainDelayLine plain(8);
     for (const float sample : {1.0f, INFINITY, 2.0f, -INFINITY, NAN, 3.0f}) {
@@ -230,7 +230,7 @@ TEST(DelayLine, InterpolatesInfinitiesLikeAnyOtherSample) {
 }
 
 TEST(DelayLine, MayGrowWhileABlockRuns) {
-    // Each write wraps many times, in the memory that it found at its beginning.
+    // Each write wraps many times, always in the memory that was the newest when it began.
     DelayLine line(8);
     constexpr int growths = 12;
     std::atomic<int> writes = 0;

@@ -11,7 +11,7 @@ TEST(DynamicsMath, LinearFromDecibelsIsAFactorOfTenPerTwentyDecibels) {
     }
 }
 
-TEST(DynamicsMath, SmoothingCoefficientLeavesOneOverEAfterTheTime) {
+TEST(DynamicsMath, SmoothingCoefficientLeavesOneOverEAfterTheTimeConstant) {
     for (const float sampleRate : {44100.0f, 96000.0f}) {
         for (const float ms : {1.0f, 2.0f, 15.0f, 100.0f, 1000.0f}) {
             const double frames = double{ms} * double{sampleRate} / 1000.0;

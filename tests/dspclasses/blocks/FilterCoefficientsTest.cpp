@@ -38,7 +38,7 @@ TEST(FilterCoefficients, AHighPassRisesAboveUnityAtHalfTheSampleRate) {
     EXPECT_NEAR(highPassDb(2000.0, 22050.0), 1.15, 0.01);
 }
 
-TEST(FilterCoefficients, TheHighPassPoleTakesTwoPiOneUnitShort) {
+TEST(FilterCoefficients, TheHighPassPoleUsesTwoPiOneUnitInTheLastPlaceShort) {
     // A cutoff at which the last bit of 2 pi moves the pole.
     const float cutoff = 1500.0f;
     const auto poleWith = [=](float twoPi) {
@@ -49,7 +49,7 @@ TEST(FilterCoefficients, TheHighPassPoleTakesTwoPiOneUnitShort) {
     EXPECT_EQ(highPassPole(cutoff, invSampleRate), poleWith(shorter));
 }
 
-TEST(FilterCoefficients, TheBandsSplitElsewhereThanAtTheCrossover) {
+TEST(FilterCoefficients, TheBandsDoNotSplitAtTheCrossover) {
     struct SRow {
         float crossover;
         double split;  // Hz
@@ -68,7 +68,7 @@ TEST(FilterCoefficients, TheBandsSplitElsewhereThanAtTheCrossover) {
     }
 }
 
-TEST(FilterCoefficients, ACrossoverAboveASixthOfTheSampleRateIsNotANumber) {
+TEST(FilterCoefficients, ACrossoverAboveASixthOfTheSampleRateReturnsNaN) {
     EXPECT_TRUE(std::isnan(bandSplitCoefficient(7400.0f, invSampleRate)));
     EXPECT_FALSE(std::isnan(bandSplitCoefficient(7300.0f, invSampleRate)));
 }

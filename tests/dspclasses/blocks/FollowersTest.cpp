@@ -13,7 +13,7 @@ TYPED_TEST_SUITE(SFollowerPrecision, Precisions);
 
 namespace {
 
-/// Compares four frames in one call with four calls. Any NaN equals any other.
+/// Compares one call for four frames with four calls. All NaNs count as equal.
 template <typename Sample>
 void expectFourLikeSingleFrames(const SFollower &follower, float state,
                                 const TFour<Sample> &input) {

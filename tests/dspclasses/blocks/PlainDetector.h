@@ -8,8 +8,8 @@
 #include <cstring>
 
 /// The plain version of the detector of the compressor and the de-esser: one sample at a time, one
-/// step after the other. `next` is the field that follows in memory the one a double-precision step
-/// stores; NeighbourFlush.h shows why that matters.
+/// step after the other. `next` is the field that follows the stored one in memory;
+/// NeighbourFlush.h shows why that matters in double precision.
 struct SPlainDetector {
     static constexpr float K = 0.115129255f;
 

@@ -5,7 +5,8 @@
 
 namespace {
 
-/// A ring of eight samples and the repeated one ahead of them, `newest` as its write position.
+/// A ring of eight samples, with the repeated one in front of them and `newest` as its write
+/// position.
 class CRing {
 public:
     SDelayRing at(std::uint32_t newest) { return {cells.data() + 1, 7, newest}; }
@@ -22,7 +23,7 @@ std::vector<float> oneTo(int last) {
 
 }  // namespace
 
-TEST(SDelayRing, PlacesGoRoundTheRing) {
+TEST(SDelayRing, PlacesWrapAroundTheRing) {
     CRing memory;
     const SDelayRing ring = memory.at(2);
     EXPECT_EQ(ring.placeOf(0), 2u);
@@ -32,20 +33,20 @@ TEST(SDelayRing, PlacesGoRoundTheRing) {
     EXPECT_EQ(ring.placeOf(8), 2u);
 }
 
-TEST(SDelayRing, AWriteBeginsBesideTheNewestSampleAndGoesRound) {
+TEST(SDelayRing, AWriteBeginsAfterTheNewestSampleAndWraps) {
     CRing memory;
     EXPECT_EQ(memory.at(5).write(oneTo(4).data(), 4), 1u);
-    // The last sample of the ring, 2, is repeated ahead of the first one.
+    // The last sample of the ring, 2, is repeated in front of the first one.
     EXPECT_EQ(memory.cells, (std::vector<float>{2, 3, 4, 0, 0, 0, 0, 1, 2}));
 }
 
-TEST(SDelayRing, AWriteMayGoRoundMoreThanOnce) {
+TEST(SDelayRing, AWriteMayWrapMoreThanOnce) {
     CRing memory;
     EXPECT_EQ(memory.at(7).write(oneTo(19).data(), 19), 2u);
     EXPECT_EQ(memory.cells, (std::vector<float>{16, 17, 18, 19, 12, 13, 14, 15, 16}));
 }
 
-TEST(SDelayRing, AReadGoesRoundAndInterpolatesAcrossTheEnd) {
+TEST(SDelayRing, AReadWrapsAndInterpolatesAcrossTheEnd) {
     CRing memory;
     const SDelayRing ring = memory.at(memory.at(5).write(oneTo(8).data(), 8));
     std::vector<float> samples(4);

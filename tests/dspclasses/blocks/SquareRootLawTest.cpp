@@ -9,11 +9,11 @@ TEST(SquareRootLaw, IsTheSquareRootOfTheShare) {
     EXPECT_EQ(squareRootLaw(1e-38f), std::sqrt(1e-38f));
 }
 
-TEST(SquareRootLaw, GivesZeroForAnInaudibleShare) {
+TEST(SquareRootLaw, ReturnsZeroForAnInaudibleShare) {
     EXPECT_EQ(squareRootLaw(0.0f), 0.0f);
     EXPECT_EQ(squareRootLaw(0.9e-40f), 0.0f);
 }
 
-TEST(SquareRootLaw, GivesNaNForANegativeShare) {
+TEST(SquareRootLaw, ReturnsNaNForANegativeShare) {
     EXPECT_TRUE(std::isnan(squareRootLaw(-0.25f)));
 }

@@ -20,7 +20,7 @@ TEST(WholeCount, KeepsTheLow32BitsOfALargerCount) {
     EXPECT_EQ(wholeCount(0x1.000002p33f), 1024u);
 }
 
-TEST(WholeCount, GivesZeroForInfinitiesNaNsAndHugeValues) {
+TEST(WholeCount, ReturnsZeroForInfinitiesNaNsAndHugeValues) {
     EXPECT_EQ(wholeCount(INFINITY), 0u);
     EXPECT_EQ(wholeCount(-INFINITY), 0u);
     EXPECT_EQ(wholeCount(NAN), 0u);

@@ -30,7 +30,7 @@ void expectEdges() {
     }
 }
 
-/// Zero, the least of a normal number, and that of infinities and NaNs.
+/// The exponents of zero, of the smallest normal number, and of infinities and NaNs.
 template <typename Sample>
 constexpr std::uint64_t exponentBits[3] = {0, 0x00800000u, 0x7f800000u};
 template <>
@@ -38,7 +38,7 @@ constexpr std::uint64_t exponentBits<double>[3] = {0, 0x0010000000000000u, 0x7ff
 
 }  // namespace
 
-TEST(Denormals, EndAsPositiveZeroAndNothingElseDoes) {
+TEST(Denormals, AndZerosBecomePositiveZeroAndNothingElseDoes) {
     expectEdges<float>();
     expectEdges<double>();
 }
@@ -46,7 +46,8 @@ TEST(Denormals, EndAsPositiveZeroAndNothingElseDoes) {
 TEST(Denormals, EveryLaneIsFlushedLikeAScalar) {
     CRandom random(3);
     for (int number = 0; number < 1000; ++number) {
-        // Signs and low bits at random; the exponent is zero, the least, or that of infinity.
+        // Signs and low bits at random; the exponent is zero, the smallest normal one, or that of
+        // infinity.
         const std::uint64_t bits = random.bits();
         const auto exponent = static_cast<std::uint64_t>(random.whole(0, 2));
         const float single = std::bit_cast<float>(

@@ -27,7 +27,7 @@ bool alarms(const std::vector<double> &values, double other = 0.5) {
 
 }  // namespace
 
-TEST(GuardedRecursion, EachKindOfValueIsGuardedAndWatchedAsTheTableSays) {
+TEST(GuardedRecursion, GuardsAndWatchesEachKindOfValueAsInItsTable) {
     constexpr double smallestNormal = std::numeric_limits<double>::min();
     const double aboveFive = std::nextafter(5.0, 6.0);
     struct SRow {

@@ -33,7 +33,7 @@ TStereo<float> halveFourByFour(SHalving &filter, TStereo<float> input) {
 
 }  // namespace
 
-TEST(GuardedSteps, GiveTheBitsOfAGuardedGroup) {
+TEST(GuardedSteps, ProduceTheBitsOfAGuardedGroup) {
     for (const float trouble : {8.0f, -8.0f, 6.0f, -0.0f, 1e-30f}) {
         for (const int frames : {1, 2, 3, 4, 5, 8, 11, 1100}) {
             for (int place = 0; place < std::min(frames, 12); ++place) {

@@ -65,7 +65,7 @@ void expectLanesLikeScalars(std::vector<float> arguments, FourLanes onFourLanes,
 
 }  // namespace
 
-TEST(SingleMath, LanesGiveTheBitsOfTheScalarForm) {
+TEST(SingleMath, LanesReturnTheBitsOfTheScalarForm) {
     std::vector<float> exponents = ofBothSigns(spread(0.0f, infinity));
     exponents.insert(exponents.end(), {infinity, -infinity, NAN, 0.0f, -0.0f});
     expectLanesLikeScalars(
@@ -76,7 +76,7 @@ TEST(SingleMath, LanesGiveTheBitsOfTheScalarForm) {
 }
 
 // The digests were computed on Linux with GCC, where the tests against the reference also run.
-TEST(SingleMath, GivesTheSameBitsOnEverySystem) {
+TEST(SingleMath, ReturnsTheSameBitsOnEverySystem) {
     const auto power = [](float base) {
         return [base](float exponent) { return powSingle(base, exponent); };
     };
@@ -98,7 +98,7 @@ TEST(SingleMath, ExponentialUnderflowsToZeroAndOverflowsToInfinity) {
     EXPECT_EQ(expSingle(-infinity), 0.0f);
     EXPECT_EQ(expSingle(std::numeric_limits<float>::max()), infinity);
     EXPECT_TRUE(std::isnan(expSingle(NAN)));
-    // The last finite result and the first one above; the least denormal and the first zero.
+    // The last finite result and the first one above; the smallest denormal and the first zero.
     EXPECT_EQ(expSingle(0x1.62e42ep6f), 0x1.ffff08p127f);
     EXPECT_EQ(expSingle(0x1.62e43p6f), infinity);
     EXPECT_EQ(expSingle(-0x1.9fe368p6f), 0x1p-149f);
@@ -128,7 +128,7 @@ TEST(SingleMath, LogarithmIsRoundedOnce) {
     }
 }
 
-TEST(SingleMath, PowerGivesExactPowers) {
+TEST(SingleMath, PowerReturnsExactPowers) {
     EXPECT_EQ(powSingle(2.0f, 10.0f), 1024.0f);
     EXPECT_EQ(powSingle(2.0f, -149.0f), 0x1p-149f);
     EXPECT_EQ(powSingle(5.0f, 3.0f), 125.0f);

@@ -3,8 +3,8 @@
 #include <cmath>
 #include <quadmath.h>
 
-/// The true values of the functions of SingleMath, rounded to float. A long double with its 64 bits
-/// decides nearly all of them. A value too close to the midpoint between two floats is computed
+/// The true values of the functions of SingleMath, rounded to float. The 64 bits of a long double
+/// decide nearly all of them. A value too close to the midpoint between two floats is computed
 /// again in the compiler's quad format, which has 113 bits.
 namespace SingleReference {
 

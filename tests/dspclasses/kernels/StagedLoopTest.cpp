@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Runs a block through stages that each pass the number of their step on in a plain variable.
+/// Runs a block through stages. Each passes the number of its step to the next in a plain variable.
 class CStagedBlock {
 public:
     static constexpr int stages = 7;
@@ -30,7 +30,7 @@ private:
         EXPECT_EQ(step.first, 4 * m_steps[stage]) << "stage " << stage;
         EXPECT_EQ(step.count, std::min(4, m_frames - step.first));
         if (stage > 0) {
-            EXPECT_EQ(m_workedOn[stage - 1], step.first) << "what stage " << stage << " finds";
+            EXPECT_EQ(m_workedOn[stage - 1], step.first) << "what stage " << stage << " receives";
         }
         m_workedOn[stage] = step.first;
         ++m_steps[stage];

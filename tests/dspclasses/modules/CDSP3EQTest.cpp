@@ -29,8 +29,8 @@ void leaveOnly(CDSP3EQ &equaliser, int band) {
         equaliser.setParameter(other, other == band ? 0.0f : -1e6f);
 }
 
-/// @return the first sample of a band's impulse response: the coefficient of the lower low-pass for
-///         the low band, 1 minus that of the upper one for the high band.
+/// @return the first sample of a band's impulse response: for the low band the coefficient of the
+///         lower low-pass, for the high band 1 minus that of the upper one.
 double firstOfBand(CDSP3EQ &equaliser, int band) {
     equaliser.reset();
     leaveOnly(equaliser, band);
@@ -52,7 +52,7 @@ TEST(CDSP3EQ, StartsFlatWithItsCrossoversAt350And1500Hertz) {
     EXPECT_NEAR(1.0 - firstOfBand(equaliser, kHighGain), 0.7248, 1e-4);
 }
 
-TEST(CDSP3EQ, TheCoefficientsHardlyFollowTheCrossover) {
+TEST(CDSP3EQ, TheCoefficientsHardlyDependOnTheCrossover) {
     CDSP3EQ equaliser;
     for (const float crossover : {100.0f, 800.0f}) {
         equaliser.setParameter(kLowCrossover, crossover);
@@ -81,7 +81,7 @@ TEST(CDSP3EQ, TheMidBandIsReversedAtTheStart) {
     EXPECT_LT(firstOfBand(equaliser, kMidGain), 0.0);
 }
 
-TEST(CDSP3EQ, EachGainScalesItsBandAlone) {
+TEST(CDSP3EQ, EachGainScalesOnlyItsBand) {
     CDSP3EQ flat;
     for (const int band : {kLowGain, kMidGain, kHighGain}) {
         const double before = firstOfBand(flat, band);

@@ -271,7 +271,7 @@ TEST(CDSPComp, InDoublePrecisionLinkedAppliesTheMakeUpOnly) {
                 steady(5000, 0.5 * factor, -0.9 * factor));
 }
 
-TEST(CDSPComp, InDoublePrecisionSeparateDoesNothingWithoutAMakeUp) {
+TEST(CDSPComp, InDoublePrecisionSeparatePassesTheSignalWithoutAMakeUp) {
     auto comp = makeSeparate();
     const TStereo<double> loud = steady(5000, 0.5, 0.9);
     EXPECT_TRUE(render(*comp, loud, 500) == loud);
@@ -300,8 +300,8 @@ TEST(CDSPComp, InDoublePrecisionAThresholdOfZeroFlushesBothExcesses) {
     EXPECT_TRUE(render(*comp, loud, 2000) == steady(8000, 4.0 * factor, 4.0 * factor));
 }
 
-TEST(CDSPComp, KeepsToTheContractOfAModule) {
-    // Not when separate: there the right channel is held for a whole block.
+TEST(CDSPComp, KeepsTheContractOfAModule) {
+    // Only linked: in separate mode the right channel's gain is held for a whole block.
     expectBlocksOfAnyLength(makeTwoToOne);
     expectInstancesApart(makeTwoToOne);
     for (const auto &make : {makeTwoToOne, makeSeparate}) {

@@ -57,7 +57,7 @@ TStereo<Sample> sibilant(int frames, double left, double right) {
     stereo.channels = {sine<Sample>(9000.0, left, frames), sine<Sample>(9000.0, right, frames)};
     return stereo;
 }
-/// A tone that it stops.
+/// A tone that the filter stops.
 template <typename Sample>
 TStereo<Sample> vowel(int frames, double level) {
     TStereo<Sample> stereo;
@@ -65,7 +65,7 @@ TStereo<Sample> vowel(int frames, double level) {
     return stereo;
 }
 
-/// The gain from `first` for `count` frames: the root of the ratio of the energies.
+/// The gain over `count` frames from `first`: the square root of the ratio of the energies.
 template <typename Sample>
 double gainOver(const std::vector<Sample> &output, const std::vector<Sample> &input, int first,
                 int count) {
@@ -317,7 +317,7 @@ TEST(CDSPDeEsser, InDoublePrecisionAThresholdOfZeroFlushesTheExcessWhileAsleep) 
     plain.setParameter(kRatio, 2.0f);
     const auto loud = sibilant<float>(settled, 0.5, 0.5);
     expectSame(-30.0f, loud);
-    // Until the excess has just fallen below what keeps the detector active.
+    // Until the excess has just fallen below the limit that keeps the detector active.
     const auto quiet = vowel<float>(100, 0.01);
     while (!(expectSame(-30.0f, quiet) == quiet)) {
     }
@@ -325,7 +325,7 @@ TEST(CDSPDeEsser, InDoublePrecisionAThresholdOfZeroFlushesTheExcessWhileAsleep) 
     expectSame(-30.0f, loud);
 }
 
-TEST(CDSPDeEsser, KeepsToTheContractOfAModule) {
+TEST(CDSPDeEsser, KeepsTheContractOfAModule) {
     for (const auto &make : {makeWide, makeNarrow}) {
         expectBlocksOfAnyLength(make);
         expectEmptyBlocksDoNothing(make);

@@ -25,8 +25,8 @@ TStereo<Sample> impulse(int frames, Sample left, Sample right) {
     return input;
 }
 
-/// @return the frame of the first echo of an impulse at frame 0, which is one more than the delay
-///         in samples, since a line is read before it is written.
+/// @return the frame of the first echo of an impulse at frame 0, one more than the delay in
+///         samples, since a line is read before it is written.
 int firstEcho(CDSPDelay &delay) {
     echoesOnly(delay);
     const TStereo<float> output = render(delay, impulse(150000, 1.0f, 1.0f), 4096);
@@ -174,7 +174,7 @@ TEST(CDSPDelay, IgnoresThePresentTempo) {
     EXPECT_EQ(delay.getParameter(kTime), 800.0f);
 }
 
-TEST(CDSPDelay, ATempoOfZeroGivesTheShortestDelay) {
+TEST(CDSPDelay, ATempoOfZeroSetsTheShortestDelay) {
     CDSPDelay delay;
     delay.setParameter(kSync, 1.0f);
     delay.setParameter(kTempo, 0.0f);
@@ -287,7 +287,7 @@ TEST(CDSPDelay, MixesDryAndWet) {
     EXPECT_EQ(output.right(89), -0.5);
 }
 
-TEST(CDSPDelay, DoubleRunsKeepTheDrySignalInDoubleAndTheLineInSingle) {
+TEST(CDSPDelay, InDoublePrecisionTheDrySignalIsDoubleAndTheLineSingle) {
     auto delay = makeShort();
     const double sample = 1.0 / 3.0;
     TStereo<double> output = render(*delay, impulse(200, sample, sample), 64);
@@ -316,7 +316,7 @@ TEST(CDSPDelay, ResetSilencesTheLinesAndKeepsTheParameters) {
     EXPECT_TRUE(render(delay, silence, 4096) == silence);
 }
 
-TEST(CDSPDelay, KeepsToTheContractOfAModule) {
+TEST(CDSPDelay, KeepsTheContractOfAModule) {
     for (const auto &make : {makeShort, makeShortPingPong}) {
         expectBlocksOfAnyLength(make);
         expectEmptyBlocksDoNothing(make);

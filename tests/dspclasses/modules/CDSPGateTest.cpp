@@ -249,7 +249,7 @@ TEST(CDSPGate, LeavesItsInputUnchanged) {
     check(makeSignal<double>(ESignal::Denormals, 1, 100));
 }
 
-TEST(CDSPGate, KeepsToTheContractOfAModule) {
+TEST(CDSPGate, KeepsTheContractOfAModule) {
     expectBlocksOfAnyLength(makeAtHalf);
     expectEmptyBlocksDoNothing(makeAtHalf);
     expectInstancesApart(makeAtHalf);

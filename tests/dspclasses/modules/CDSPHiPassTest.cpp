@@ -84,7 +84,7 @@ TEST(CDSPHiPass, KeepsItsPoleAtTheSameCutoff) {
     EXPECT_EQ(poleOf(filter), before);
 }
 
-TEST(CDSPHiPass, ResetForgetsTheHistoryAndKeepsTheCutoff) {
+TEST(CDSPHiPass, ResetClearsTheHistoryAndKeepsTheCutoff) {
     CDSPHiPass filter, fresh;
     filter.setParameter(0, 500.0f);
     fresh.setParameter(0, 500.0f);

@@ -105,7 +105,7 @@ TEST(CDSPModulation, StartsWithTheRightOscillatorAnEighthOfACycleAhead) {
     EXPECT_NEAR(static_cast<double>(top(offsets.left) - top(offsets.right)), 44100.0 / 8, 100.0);
 }
 
-TEST(CDSPModulation, CutsTheTypeFromTenTimesTheValue) {
+TEST(CDSPModulation, SelectsTheTypeByTenTimesTheValueTruncated) {
     const auto typeAt = [](float value) {
         CDSPModulation modulation;
         modulation.setParameter(kType, value);
@@ -279,7 +279,7 @@ TEST(CDSPModulation, ResetSilencesTheWholeLines) {
     EXPECT_TRUE(render(*sweep, TStereo<float>(4096), 500) == TStereo<float>(4096));
 }
 
-TEST(CDSPModulation, KeepsToTheContractOfAModule) {
+TEST(CDSPModulation, KeepsTheContractOfAModule) {
     for (const float type : {vibrato, adt, phaser}) {
         const auto make = [type] { return makeOfType(type); };
         expectBlocksOfAnyLength(make);
@@ -344,7 +344,7 @@ TEST(CDSPModulation, NoChangeOfSpreadIsLostWhileABlockRuns) {
                 continue;
         }
     });
-    // One block ahead of the changes, so that the next change comes while a block runs.
+    // One block ahead of the changes, so that the next change happens while a block runs.
     const TStereo<float> silence(blockFrames);
     for (; blocks <= changes; ++blocks) {
         while (changed < blocks)
@@ -354,9 +354,9 @@ TEST(CDSPModulation, NoChangeOfSpreadIsLostWhileABlockRuns) {
     user.join();
     sweep->setParameter(kSpread, 0.0f);
     CRamp ramp;
-    ramp.through(*sweep, 22050);  // a phase below -1 has come back by then
+    ramp.through(*sweep, 22050);  // a phase below -1 has returned to its range by then
     const SOffsets together = ramp.through(*sweep, 44100);
-    // Rounding separates the two by a few samples; a lost change would by hundreds.
+    // Rounding separates the two by a few samples; a lost change would separate them by hundreds.
     for (std::size_t i = 0; i < together.left.size(); i += 10)
         ASSERT_NEAR(together.left[i], together.right[i], 50.0) << i;
 }

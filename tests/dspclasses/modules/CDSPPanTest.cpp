@@ -79,6 +79,6 @@ TEST(CDSPPan, IgnoresTheIndex) {
 TEST(CDSPPan, EqualsThePlainVersionBitForBit) {
     expectSameBits([] { return std::make_unique<CDSPPan>(); },
                    [] { return std::make_unique<CPlainPan>(); },
-                   // Several draws, so that a case leaves a half and comes back to it.
+                   // Several draws, so that a case leaves a half and returns to it.
                    {{0, 0.25f, 0.75f}, {0, 0.25f, 0.75f}, {0, 0.0f, 1.0f}});
 }

@@ -46,7 +46,7 @@ Sample firstOutput(Sample sample) {
     return output.left(0);
 }
 
-/// Makes the setters of a filter the parameters 0 to 2, for the oracle.
+/// Maps parameters 0 to 2 to the setters of a filter, for the oracle.
 template <typename Filter>
 class TAsModule : public Filter {
 public:
@@ -205,7 +205,7 @@ TEST(CDSPRBJFilter, KeepsItsStateWhenTheCoefficientsChange) {
     }
 }
 
-TEST(CDSPRBJFilter, ANewSampleRateComputesAnewAndResets) {
+TEST(CDSPRBJFilter, ANewSampleRateRecomputesTheCoefficientsAndResets) {
     CDSPRBJFilter filter;
     render(filter, makeSignal<double>(ESignal::Noise, 3, 30), 30);
     filter.setSampleRate(88200.0f);

@@ -92,7 +92,7 @@ TEST(CDSPReverb, IgnoresAnUnknownIndex) {
     EXPECT_TRUE(impulseResponse(changed, 9000) == impulseResponse(usual, 9000));
 }
 
-TEST(CDSPReverb, TakesTheSmallestRoomForASmallerOne) {
+TEST(CDSPReverb, RaisesTheRoomSizeToTheSmallestOne) {
     for (const float metres : {0.5f, 1.0f, 0.0f, -3.0f}) {
         CDSPReverb reverb;
         reverb.setParameter(kRoomSize, metres);
@@ -113,7 +113,7 @@ TEST(CDSPReverb, TheEarlyTapsFallWithinFourSamples) {
     reverb->setParameter(kInputDamping, 1.0f);  // no filter
     const TStereo<float> output = impulseResponse(*reverb, 12);
     const float sum = 0.75f;                      // of the diffused channels, halved
-    const float chain = 0.75f * 0.625f * 0.625f;  // through the all-passes at once
+    const float chain = 0.75f * 0.625f * 0.625f;  // the undelayed path through the all-passes
     const double decay = std::pow(0.001, 1.0 / (2.0 * 44100.0));
     const auto gain = [&](double offset) { return std::pow(decay, offset); };
     const std::vector<float> &left = output.channels[0];
@@ -139,7 +139,7 @@ TEST(CDSPReverb, ANewReverbTimeDoesNotChangeTheTaps) {
     auto usual = makeWet(1.0f, 0.0f), longer = makeWet(1.0f, 0.0f);
     longer->setParameter(kTime, 7.0f);
     EXPECT_TRUE(impulseResponse(*longer, 3000) == impulseResponse(*usual, 3000));
-    // A new room takes the present reverb time for the gains of the taps and of the lines.
+    // A new room applies the present reverb time to the gains of the taps and the lines.
     usual->setParameter(kRoomSize, 50.0f);
     longer->setParameter(kRoomSize, 50.0f);
     EXPECT_FALSE(impulseResponse(*longer, 3000) == impulseResponse(*usual, 3000));
@@ -161,7 +161,8 @@ TEST(CDSPReverb, DampingSetsTheFilters) {
         return double{impulseResponse(*reverb, 8203).left(8202)};
     };
     EXPECT_NEAR(bright(kWallDamping, 0.8f) / bright(kWallDamping, 0.4f), 0.2 / 0.6, 1e-5);
-    // The left sample gives g, and the right one g + p g with the state that the left one has left.
+    // The left sample yields g; the right one g + p g, since the filter still has the state of the
+    // left.
     EXPECT_NEAR(bright(kInputDamping, 0.5f) / bright(kInputDamping, 1.0f), 0.5 * 2.5 / 2.0, 1e-5);
 }
 
@@ -203,7 +204,7 @@ TEST(CDSPReverb, WithoutSpreadBothSidesAreEqual) {
     EXPECT_EQ(output.channels[0], output.channels[1]);
 }
 
-TEST(CDSPReverb, RunsOnUnheardWithBothLevelsAtZero) {
+TEST(CDSPReverb, KeepsRunningWithBothLevelsAtZero) {
     auto reverb = makeWet(0.0f, 0.0f);
     reverb->setParameter(kDryLevel, 1.0f);
     const auto input = makeSignal<float>(ESignal::Noise, 2, 20000);
@@ -231,7 +232,7 @@ TEST(CDSPReverb, ATailHasNoDenormal) {
     EXPECT_LT(std::count_if(output.channels[0].begin(), output.channels[0].end(), denormal), 400);
 }
 
-TEST(CDSPReverb, DoubleRunsKeepTheDrySignalInDouble) {
+TEST(CDSPReverb, InDoublePrecisionTheDrySignalStaysDouble) {
     auto reverb = makeWet(0.0f, 0.0f);
     reverb->setParameter(kDryLevel, 0.7f);
     const auto input = makeSignal<double>(ESignal::Noise, 2, 500);
@@ -251,7 +252,7 @@ TEST(CDSPReverb, ResetSilencesEverythingAndKeepsTheParameters) {
     EXPECT_TRUE(render(*reverb, input, 4096) == render(*fresh, input, 4096));
 }
 
-TEST(CDSPReverb, KeepsToTheContractOfAModule) {
+TEST(CDSPReverb, KeepsTheContractOfAModule) {
     for (const auto &make : {makeReverb, makeSmall}) {
         expectBlocksOfAnyLength(make);
         expectEmptyBlocksDoNothing(make);
@@ -289,7 +290,7 @@ TEST(CDSPReverb, EqualsThePlainVersionAsTheLinesWrap) {
     expectSameBits(makeNearTheWrap<CDSPReverb>, makeNearTheWrap<CPlainReverb>, inUse, 200);
 }
 
-TEST(CDSPReverbDeathTest, StopsAtASpreadThatGivesAnAllPassNoLength) {
+TEST(CDSPReverbDeathTest, StopsAtASpreadThatLeavesAnAllPassNoLength) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     CDSPReverb reverb;
     EXPECT_DEATH(reverb.setParameter(kSpread, 3.203f),

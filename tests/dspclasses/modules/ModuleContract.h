@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-/// What every module with a running state keeps to; `make` gives a module that is set up and new.
+/// The rules for every module with a running state. `make` returns a new module, already set up.
 
 /// The output depends on the samples alone, not on how they are cut into blocks.
 template <typename Make>
@@ -22,7 +22,8 @@ void expectBlocksOfAnyLength(Make make) {
     check(makeSignal<double>(ESignal::Noise, 7, frames));
 }
 
-/// No frames: nothing is written, and the next block goes on as if there had been no call.
+/// A block without frames writes nothing, and the next block continues as if there had been no
+/// call.
 template <typename Make>
 void expectEmptyBlocksDoNothing(Make make) {
     const auto input = makeSignal<float>(ESignal::Noise, 3, 100);
@@ -36,7 +37,7 @@ void expectEmptyBlocksDoNothing(Make make) {
     EXPECT_TRUE(render(*interrupted, input, 100) == render(*usual, input, 100));
 }
 
-/// Two modules that run in turns do what each does alone: there is no state outside a module.
+/// Two modules that run in turns behave as each does alone: there is no state outside a module.
 template <typename Make>
 void expectInstancesApart(Make make) {
     auto inputA = makeSignal<float>(ESignal::Noise, 11, 300);
@@ -51,7 +52,7 @@ void expectInstancesApart(Make make) {
     EXPECT_TRUE(got == expected);
 }
 
-/// A burst, then silence: the recursion does not stay among the denormals, the output ends as zero.
+/// After a burst, the recursion does not linger among the denormals: the output ends at zero.
 template <typename Sample, typename Make>
 void expectSilenceAfterABurst(Make make, int silentFrames) {
     auto module = make();
@@ -63,8 +64,8 @@ void expectSilenceAfterABurst(Make make, int silentFrames) {
     EXPECT_EQ(output.right(output.frames() - 1), Sample{0});
 }
 
-/// Each parameter reads as it was set, at both ends of its range, and no index beside them does
-/// anything. `ranges` holds every index from 0 on.
+/// Each parameter reads as it was set, at both ends of its range, and no other index has an effect.
+/// `ranges` holds every index from 0 on.
 template <typename Make, typename Ranges>
 void expectParametersReadAsSet(Make make, const Ranges &ranges) {
     auto module = make(), untouched = make();

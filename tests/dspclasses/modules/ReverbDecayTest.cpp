@@ -9,7 +9,7 @@ TEST(ReverbDecay, FallsBy60DecibelsInTheReverbTime) {
         const double decay = decayPerSample(seconds, sampleRate);
         EXPECT_NEAR(20.0 * std::log10(decay) * double{seconds * sampleRate}, -60.0, 1e-6)
             << seconds;
-        // The power takes the decay in single precision.
+        // The power is computed from the decay in single precision.
         const float gain = decayAfter(seconds * sampleRate, decay);
         EXPECT_NEAR(20.0 * std::log10(double{gain}), -60.0, 0.1) << seconds;
     }

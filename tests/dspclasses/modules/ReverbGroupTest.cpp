@@ -55,7 +55,7 @@ TEST(ReverbGroup, TheWetSignalInvertsEverySecondLine) {
     EXPECT_EQ(group->right[0], group->left[0]);
 }
 
-TEST(ReverbGroup, TheMonoMeanHasNoDenormal) {
+TEST(ReverbGroup, TheMonoMixHasNoDenormal) {
     const float left[] = {1.0f, 1.5e-38f}, right[] = {0.5f, 0.0f};
     float mono[2];
     mixToMono(left, right, mono, 2);

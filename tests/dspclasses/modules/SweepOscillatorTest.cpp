@@ -11,7 +11,7 @@ TEST(SweepOscillator, ItsWaveRunsFromZeroToOne) {
     EXPECT_EQ(sweepWave(1.0f), 0.5f);
 }
 
-TEST(SweepOscillator, TurnsAsOftenASecondAsItsSpeedSays) {
+TEST(SweepOscillator, CompletesAsManyCyclesASecondAsItsSpeedInHertz) {
     const float increment = sweepIncrement(2.0f, 1.0f / 1024.0f);
     float phase = -0.75f;
     int cycles = 0;
