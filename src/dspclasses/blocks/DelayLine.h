@@ -71,6 +71,6 @@ private:
     CDelayBuffer buffer;
     TRelaxed<std::uint32_t> writeIndex = 0;  // place of the newest sample
     TRelaxed<std::uint32_t> constantOffset = 0;
-    // Kept: always 0. The interpolation remains, since 0 times an infinite neighbour gives a NaN.
+    // Kept: always 0. The interpolation remains, since 0 times an infinite neighbour is a NaN.
     float constantFraction = 0.0f;
 };

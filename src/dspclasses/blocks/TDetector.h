@@ -8,9 +8,9 @@
 #include "dspclasses/kernels/StagedLoop.h"
 
 /// The detector of the compressor and the de-esser. A fast follower of peaks decides whether the
-/// signal is above the threshold. If it is, the present level (not the peak) gives the excess over
-/// the threshold in dB; if not, the excess is 0. A slower follower with the attack and the release
-/// that the user sets smooths the excess, and the gain law turns it into a gain.
+/// signal is above the threshold. If it is, the excess in dB is that of the present level (not the
+/// peak) over the threshold; if not, the excess is 0. A slower follower with the attack and the
+/// release that the user sets smooths the excess, and the gain law turns it into a gain.
 ///
 ///     level --+--> peak follower --> peak > threshold? --+-----------------------+
 ///             |      2 ms, 15 ms                         |                       |

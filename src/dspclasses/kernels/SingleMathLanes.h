@@ -117,7 +117,7 @@ template <int lanes>
 }
 
 /// The sum rounded to odd: if the addition is inexact, the last bit of the result is 1. Such a
-/// double is never the midpoint between two floats, so rounding it to float gives the same as
+/// double is never the midpoint between two floats, so rounding it to float has the same result as
 /// rounding the exact sum.
 template <int lanes>
 [[gnu::always_inline]] inline TDoubles<lanes> roundedToOdd(const TDoubleSums<lanes> &sum) {

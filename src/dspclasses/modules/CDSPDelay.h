@@ -18,8 +18,8 @@
 ///     in R likewise, with the right line; in ping-pong mode its feedback comes from echo L
 ///
 /// Kept: a change of time moves the read point at once, without a crossfade, which can be heard.
-/// A time of more than 2972 ms, which only a slow tempo gives, allocates longer lines, and these
-/// start empty. Two such changes must not run at the same time.
+/// A time of more than 2972 ms, which the strip reaches only at a slow tempo, allocates longer
+/// lines, which start silent. Two such changes must not run at the same time.
 class CDSPDelay : public CDSPBase {
 public:
     enum EParameter : int {

@@ -51,7 +51,7 @@ namespace {
 }
 
 /// Kept: the peak is not flushed. In silence it decays to a denormal so small that rounding keeps
-/// it there, and that holds the gate open while the threshold is still 0.
+/// it there, which keeps the gate open while the threshold is still 0.
 /// @return whether the peak is at that point, so that the follower need not run. Arithmetic on
 ///         denormals is slow on some processors.
 template <typename Sample>

@@ -29,7 +29,7 @@
 ///
 ///     offset = base + depth * wave of the oscillator, in samples
 ///
-/// A width of more than 4096 samples, 92 ms, allocates longer lines, and these start empty. The
+/// A width of more than 4096 samples, 92 ms, allocates longer lines, which start silent. The
 /// oscillators keep running across a reset.
 class CDSPModulation : public CDSPBase {
 public:

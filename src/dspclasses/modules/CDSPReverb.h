@@ -32,8 +32,8 @@ struct SReverbGroup;
 /// It runs in groups of frames; docs/kernels.md explains why and how long they are.
 ///
 /// Setting the spread clears the all-passes and reallocates those that grow, so it must not run at
-/// the same time as the audio thread. Kept: it takes the lengths from the present room, and a later
-/// change of room does not change them.
+/// the same time as the audio thread. Kept: the lengths are computed from the present room, and a
+/// later change of room does not change them.
 class CDSPReverb : public CDSPBase {
 public:
     enum EParameter : int {

@@ -8,8 +8,8 @@
 ///
 ///     x --> x / ((x - 1) k + x) --> y    with k = 1 - 1 / bias, bias = 0.5 + 0.2 * warmth
 ///
-/// Kept: the curve is applied to the signed sample, so that the two half-waves bend differently;
-/// that gives the even harmonics. Kept: it has a pole at x = k / (1 + k), -0.75 at full warmth, and
+/// Kept: the curve is applied to the signed sample, so that the two half-waves bend differently,
+/// which adds the even harmonics. Kept: it has a pole at x = k / (1 + k), -0.75 at full warmth, and
 /// nothing guards it.
 /// Source: C. Schlick, Fast alternatives to Perlin's bias and gain functions, Graphics Gems IV.
 class CDSPWarmer : public CDSPBase {

@@ -19,7 +19,7 @@ struct SAwake {
     SGain gain{.decibels = -7.5f, .linear = linearFromDecibels(-7.5f)};
 };
 
-/// The number of frames that the detector takes to fall asleep at this level.
+/// The number of frames until the detector falls asleep at this level.
 int framesUntilAsleep(CSleepingDetector &detector, double level) {
     int frames = 0;
     for (; !detector.isAsleep() && frames < 100000; ++frames)

@@ -9,7 +9,7 @@ TEST(WholeCount, DropsTheFraction) {
     EXPECT_EQ(wholeCount(-0.5f), 0u);
 }
 
-TEST(WholeCount, HoldsMoreThanASignedInteger) {
+TEST(WholeCount, CountsBeyondASignedInteger) {
     EXPECT_EQ(wholeCount(3e9f), 3000000000u);
     EXPECT_EQ(wholeCount(4294967040.0f), 4294967040u);
 }

@@ -169,7 +169,7 @@ TEST(CDSP3EQ, FlushesEachStateByItself) {
     EXPECT_TRUE(output == render(expected, input, 1));
 }
 
-TEST(CDSP3EQ, TakesBlocksOfAnyLength) {
+TEST(CDSP3EQ, AcceptsBlocksOfAnyLength) {
     expectBlocksOfAnyLength(makeCurved);
     expectEmptyBlocksDoNothing(makeCurved);
 }

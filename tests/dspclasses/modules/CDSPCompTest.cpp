@@ -175,7 +175,7 @@ TEST(CDSPComp, AppliesTheMakeUpOnTopOfTheReduction) {
                 1e-3);
 }
 
-TEST(CDSPComp, LinkedGivesBothChannelsTheGainOfTheLouder) {
+TEST(CDSPComp, LinkedAppliesTheGainOfTheLouderChannelToBoth) {
     for (const bool isLeft : {false, true}) {
         auto comp = makeTwoToOne();
         TStereo<float> output =

@@ -89,7 +89,7 @@ TEST(CDSPDelay, IgnoresAnUnknownIndex) {
     EXPECT_EQ(firstEcho(delay), 44101);
 }
 
-TEST(CDSPDelay, TakesWholeMillisecondsAndWholeSamples) {
+TEST(CDSPDelay, RoundsDownToWholeMillisecondsAndWholeSamples) {
     CDSPDelay delay;
     delay.setParameter(kTime, 100.9f);
     EXPECT_EQ(delay.getParameter(kTime), 100.0f);
@@ -112,7 +112,7 @@ TEST(CDSPDelay, TheSyncModeIsTwiceTheValueWithoutItsFraction) {
     EXPECT_EQ(modeAt(1.0f), 1.0f);
 }
 
-TEST(CDSPDelay, TakesAHalfOrAWholeBeatOfTheTempo) {
+TEST(CDSPDelay, LastsAHalfOrAWholeBeatInSync) {
     CDSPDelay delay;
     delay.setParameter(kSync, 0.5f);
     EXPECT_EQ(delay.getParameter(kTime), 250.0f);

@@ -113,7 +113,7 @@ TEST(CDSPHiPass, FlushesADenormalOutputAtEveryPlaceOfABlock) {
     }
 }
 
-TEST(CDSPHiPass, TakesBlocksOfAnyLength) {
+TEST(CDSPHiPass, AcceptsBlocksOfAnyLength) {
     expectBlocksOfAnyLength(makeAt500Hz);
     expectEmptyBlocksDoNothing(makeAt500Hz);
 }

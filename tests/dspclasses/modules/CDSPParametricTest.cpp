@@ -57,7 +57,7 @@ TEST(CDSPParametric, ResetClearsTheFilterAndKeepsTheParameters) {
     EXPECT_EQ(parametric->getParameter(2), -9.0f);
 }
 
-TEST(CDSPParametric, TakesBlocksOfAnyLength) {
+TEST(CDSPParametric, AcceptsBlocksOfAnyLength) {
     expectBlocksOfAnyLength(makeWarm);
     expectEmptyBlocksDoNothing(makeWarm);
 }

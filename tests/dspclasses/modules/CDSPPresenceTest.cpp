@@ -54,7 +54,7 @@ TEST(CDSPPresence, ResetClearsTheFilterAndKeepsTheParameters) {
     EXPECT_EQ(presence->getParameter(1), 9.0f);
 }
 
-TEST(CDSPPresence, TakesBlocksOfAnyLength) {
+TEST(CDSPPresence, AcceptsBlocksOfAnyLength) {
     expectBlocksOfAnyLength(makeBright);
     expectEmptyBlocksDoNothing(makeBright);
 }

@@ -236,7 +236,7 @@ TEST(CDSPRBJFilter, HasNoParameters) {
     EXPECT_EQ(filter.getParameter(0), 0.0f);
 }
 
-TEST(CDSPRBJFilter, TakesBlocksOfAnyLength) {
+TEST(CDSPRBJFilter, AcceptsBlocksOfAnyLength) {
     expectBlocksOfAnyLength(makeShelf);
     expectEmptyBlocksDoNothing(makeShelf);
 }

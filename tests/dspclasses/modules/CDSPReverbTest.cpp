@@ -125,8 +125,8 @@ TEST(CDSPReverb, TheEarlyTapsFallWithinFourSamples) {
         EXPECT_EQ(left[i], 0.0f) << i;
 }
 
-TEST(CDSPReverb, OneInputFilterTakesLeftAndRightInTurn) {
-    // The filter still holds a left impulse when it takes the right sample of the same frame.
+TEST(CDSPReverb, OneInputFilterProcessesLeftAndRightInTurn) {
+    // The filter still contains a left impulse when it filters the right sample of the same frame.
     const auto early = [](float left, float right) {
         auto reverb = makeWet(1.0f, 0.0f);
         return double{impulseResponse(*reverb, 2, left, right).left(1)};

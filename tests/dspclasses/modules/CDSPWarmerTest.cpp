@@ -82,7 +82,7 @@ TEST(CDSPWarmer, HasNothingToReset) {
     EXPECT_EQ(bend(*warmer, 0.5f), before);
 }
 
-TEST(CDSPWarmer, TakesBlocksOfAnyLength) {
+TEST(CDSPWarmer, AcceptsBlocksOfAnyLength) {
     expectBlocksOfAnyLength(makeWarm);
     expectEmptyBlocksDoNothing(makeWarm);
 }

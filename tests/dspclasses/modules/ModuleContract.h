@@ -65,7 +65,7 @@ void expectSilenceAfterABurst(Make make, int silentFrames) {
 }
 
 /// Each parameter reads as it was set, at both ends of its range, and no other index has an effect.
-/// `ranges` holds every index from 0 on.
+/// `ranges` contains every index from 0 up.
 template <typename Make, typename Ranges>
 void expectParametersReadAsSet(Make make, const Ranges &ranges) {
     auto module = make(), untouched = make();

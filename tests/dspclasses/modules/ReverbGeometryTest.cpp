@@ -7,14 +7,14 @@
 using Lengths = std::array<int, 4>;
 using Floats = std::array<float, 4>;
 
-TEST(ReverbGeometry, GivesTheLengthsOfTheDefaultRoom) {
+TEST(ReverbGeometry, ComputesTheLengthsOfTheDefaultRoom) {
     const SReverbRoom room = reverbRoom(100.0f, 44100.0f);
     EXPECT_NEAR(room.delayBase, 12965.4f, 0.001f);
     EXPECT_EQ(room.tailLengths, (Floats{12965.0f, 10586.0f, 9167.0f, 8199.0f}));
     EXPECT_EQ(room.tapOffsets, (Floats{5320.0f, 3894.0f, 2014.0f, 5.0f}));
 }
 
-TEST(ReverbGeometry, GivesTheLengthsOfTheSmallestRoom) {
+TEST(ReverbGeometry, ComputesTheLengthsOfTheSmallestRoom) {
     const SReverbRoom room = reverbRoom(1.0f, 44100.0f);
     EXPECT_EQ(room.tailLengths, (Floats{129.0f, 105.0f, 91.0f, 81.0f}));
     EXPECT_EQ(room.tapOffsets, (Floats{58.0f, 43.0f, 25.0f, 5.0f}));
@@ -32,13 +32,13 @@ TEST(ReverbGeometry, TheLinesAreShorterBySquareRoots) {
     }
 }
 
-TEST(ReverbGeometry, TheCapacityHoldsTheLongestLineOfTheLargestRoom) {
+TEST(ReverbGeometry, TheCapacityFitsTheLongestLineOfTheLargestRoom) {
     EXPECT_EQ(reverbLineCapacity(44100.0f), 52882u);
     EXPECT_GT(static_cast<float>(reverbLineCapacity(44100.0f)),
               reverbRoom(400.0f, 44100.0f).tailLengths[0] + 1.0f);
 }
 
-TEST(ReverbGeometry, TheDiffusersOfASideTakeTheShortestLineTogether) {
+TEST(ReverbGeometry, TheDiffusersOfASideAddUpToTheShortestLine) {
     for (const float spread : {0.0f, 0.3f, 1.0f}) {
         const SDiffuserLengths lengths = diffuserLengths(spread, 1341.0f);
         for (const Lengths &side : {lengths.left, lengths.right})
