@@ -48,7 +48,9 @@ def complaint(subject):
 
 
 def git(*arguments):
-    done = subprocess.run(["git", *arguments], check=True, stdout=subprocess.PIPE, text=True)
+    done = subprocess.run(["git", *arguments], stdout=subprocess.PIPE, text=True)
+    if done.returncode != 0:
+        sys.exit(2)  # git has said why
     return done.stdout.splitlines()
 
 

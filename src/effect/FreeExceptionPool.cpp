@@ -1,8 +1,9 @@
-// NOLINTBEGIN(bugprone-reserved-identifier): libstdc++ exports it and declares it in no header.
+// libstdc++ exports this function but declares it in no header.
+// NOLINTBEGIN(clang-diagnostic-reserved-identifier)
 namespace __gnu_cxx {
 void __freeres();
 }  // namespace __gnu_cxx
-// NOLINTEND(bugprone-reserved-identifier)
+// NOLINTEND(clang-diagnostic-reserved-identifier)
 
 namespace {
 
