@@ -2,7 +2,7 @@
 
 #include "dspclasses/kernels/StereoFrames.h"
 
-/// A biquad over both channels, in direct form I, for the loops of GuardedRecursion.h.
+/// A biquad for both channels at once, in direct form I, for the loops of GuardedRecursion.h.
 ///
 ///     x --+--- b0 --> + ------ guards ----+--> y
 ///         |           ^                   |

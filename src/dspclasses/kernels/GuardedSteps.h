@@ -5,6 +5,10 @@
 /// The guarded recursion inside a loop of four-frame steps that does more than filter. There the
 /// watch costs time: on every step it would slow the de-esser by 2 to 6 %. So the outputs, which
 /// the loop loads anyway, are tested first. The watch runs only if they leave a doubt.
+///
+///     four frames without guards --> outputs beyond doubt? -- yes --> done
+///                                               |
+///                                               no --> the same frames, watched
 
 struct SNoGuard {
     SDoubles2 flush(SDoubles2 value) { return value; }
