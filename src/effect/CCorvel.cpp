@@ -23,7 +23,7 @@ constexpr SPin outputPins[] = {{"Left output", "L out"}, {"Right output", "R out
 constexpr std::string_view abilities[] = {"plugAsChannelInsert", "plugAsSend", "2in2out",
                                           "receiveVstMidiEvent"};
 
-// Copies at most what a record holds: names from chunks and hosts may lack a terminator.
+// Cuts the name to the length of a record: names from chunks and hosts may lack a terminator.
 void copyName(char *to, const char *from) {
     const char *end = std::find(from, from + sizeof(SProgram::name) - 1, '\0');
     *std::copy(from, end, to) = '\0';
@@ -94,8 +94,8 @@ void CCorvel::processDoubleReplacing(double **inputs, double **outputs, int samp
     CVstEffect::processDoubleReplacing(inputs, outputs, sampleFrames);
 }
 
-// Replaces the output in spite of its name. The host's accumulating entry never gets here; the base
-// class answers it and does nothing.
+// Kept: overwrites the outputs, although "process" is the name of the accumulating operation. The
+// host cannot call it: the base class handles that entry and does nothing.
 void CCorvel::process(float **inputs, float **outputs, long sampleFrames) {
     readTempo();
     runStrip(&CDSPMultiFX::processReplacing, inputs, outputs, static_cast<int>(sampleFrames));
@@ -155,8 +155,8 @@ void CCorvel::loadProgram(int program) {
     applyProgram(m_programs[std::size_t(program)]);
 }
 
-// Takes no lock: a block that runs at the same time may use some values and links of the old
-// program and some of the new one.
+// Takes no lock, so a block that is processed meanwhile may mix values and links of the old program
+// with those of the new one.
 void CCorvel::applyProgram(const SProgram &program) {
     for (int id = 0; id < kParameterCount; ++id)
         setParameter(id, program.parameters[std::size_t(id)]);

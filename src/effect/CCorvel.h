@@ -12,16 +12,16 @@
 
 namespace Tessitor::Corvel {
 
-/// The effect that the host talks to. It joins the channel strip, the parameters as the host sees
-/// them and the stored programs. The constructor sets up all state, so calls may come in any order.
-/// The host's sample rate and block size are recorded and never passed on.
+/// The effect that the host talks to. It combines the channel strip, the parameters as the host
+/// sees them and the stored programs. The constructor sets up all state, so calls may come in any
+/// order. The host's sample rate and block size are recorded but never passed to the strip.
 class CCorvel : public Vst::CVstEffect {
 public:
     explicit CCorvel(audioMasterCallback host);
     ~CCorvel() override;
 
-    /// Resets every module, in the chain or not. Also asks the host whether the right input is
-    /// connected; if not, the left input feeds both channels. [gui thread]
+    /// Resets every module, including those outside the chain. Also asks the host whether the right
+    /// input is connected; if not, the left input feeds both channels. [gui thread]
     void resume() override;
 
     /// [audio thread] Reads the tempo and runs the strip under the lock.
@@ -29,27 +29,27 @@ public:
     void processDoubleReplacing(double **inputs, double **outputs, int sampleFrames) override;
     void process(float **inputs, float **outputs, long sampleFrames) override;
 
-    /// The only way for a value to reach the strip. [any thread]
-    /// @param index  0 to 63, not checked.  @param value  normalised, not clamped.
+    /// Every parameter value reaches the strip through here. [any thread]
+    /// @param index  0 to 63, not checked. @param value normalised, not clamped.
     void setParameter(int index, float value) override;
     float getParameter(int index) override;
     void getParameterLabel(int index, char *label) override;
     void getParameterDisplay(int index, char *text) override;
     void getParameterName(int index, char *text) override;
 
-    /// Saves the current values in the current program's record and changes to another program:
-    /// its values through setParameter, then its running order. No module is reset. [gui thread]
+    /// Saves the current values in the current program's record, then loads the other program: its
+    /// values through setParameter, then its running order. No module is reset. [gui thread]
     void setProgram(int program) override;
     void setProgramName(char *name) override;
     void getProgramName(char *name) override;
     bool getProgramNameIndexed(int category, int index, char *text) override;
 
-    /// @param data  set to the effect's own records, which stay valid as long as the effect.
-    /// @return bytes: one record with isPreset, else all twenty. [gui thread]
+    /// @param data  receives a pointer to the effect's own records, valid as long as the effect.
+    /// @return the size in bytes: one record if isPreset, otherwise all twenty. [gui thread]
     int getChunk(void **data, bool isPreset) override;
     /// Loads one record into the current program, or all twenty. The bytes are trusted; byteSize is
-    /// ignored. After a bank is loaded the first program sounds, whichever is current.
-    /// @return bytes read. [gui thread]
+    /// ignored. Kept: a bank puts the first program's values into effect, but the program number
+    /// stays. @return the number of bytes read. [gui thread]
     int setChunk(void *data, int byteSize, bool isPreset) override;
 
     bool getInputProperties(int index, VstPinProperties *properties) override;

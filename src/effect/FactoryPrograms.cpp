@@ -12,7 +12,7 @@ struct SValue {
     float value;  // normalised
 };
 
-// Half for most parameters; these are the exceptions that most programs share.
+// A parameter is at 0.5 unless it is listed here or in the program itself.
 constexpr SValue baselineExceptions[] = {
     {kInMono, 1.0f},  {kGateAtt, 0.2f}, {kGateRel, 0.2f},   {kCmpLink, 1.0f},
     {kDeSBand, 0.0f}, {kDeSLstn, 0.0f}, {kMod1Type, 0.3f},  {kMod1Mix, 0.7f},

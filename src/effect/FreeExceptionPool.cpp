@@ -7,14 +7,15 @@ void __freeres();
 
 namespace {
 
-/// The C++ run-time that is linked into this library sets 71 kB aside for exceptions that are
-/// thrown when memory has run out. It never frees them, so each load would cost the host that much.
+/// The C++ run-time that is linked into this library reserves 71 kB for exceptions that are thrown
+/// when memory has run out. It never frees them, so each load of the plug-in would leak 71 kB.
 struct SExceptionPool {
     ~SExceptionPool() { __gnu_cxx::__freeres(); }
 };
 
-// Built before every other static object, so destroyed after all of them: until then an exception
-// could still need the pool. 101 is the first priority that the compiler does not keep for itself.
+// Constructed before every other static object, so destroyed after all of them: until then an
+// exception could still need the pool. 101 is the first priority that is not reserved for the
+// compiler.
 [[gnu::init_priority(101)]] SExceptionPool exceptionPool;
 
 }  // namespace

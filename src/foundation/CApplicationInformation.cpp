@@ -29,7 +29,7 @@ Text &createdOnDemand(std::unique_ptr<Text> &text) {
     return *text;
 }
 
-// A CString takes null as "", while setString() would ignore it and keep the old text.
+// A CString built from null is "", while setString(null) would keep the old text.
 void store(std::unique_ptr<CString> &value, const char *text) {
     createdOnDemand(value).setString(CString(text));
 }

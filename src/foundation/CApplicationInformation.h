@@ -15,8 +15,8 @@ namespace Tessitor::Basics {
 class CApplicationInformation {
 public:
     /// Stores the texts and the handle, finds the folder of the module, and reads the processor's
-    /// features. A text that is null is taken as "".
-    /// @param instanceHandle  the module of the effect, as nativeModuleHandle() gives it.
+    /// features. A null text counts as "".
+    /// @param instanceHandle  the module of the effect; see nativeModuleHandle().
     static void setApplicationInformation(const char *company, const char *application,
                                           const char *description, const char *version,
                                           const char *registryPath, const char *copyright,
@@ -43,9 +43,9 @@ public:
     static void setMainWindow(GUI::Windowing::IWindow *window) { s_mainWindow = window; }
     static GUI::Windowing::IWindow *getMainWindow() { return s_mainWindow; }
 
-    /// Runs the message loop of a program that has no host. @return the code it was quit with.
+    /// Runs the message loop of a program that has no host. @return the exit code.
     static int runMessageLoop();
-    static void quitApplication();  ///< quits the message loop, with 0
+    static void quitApplication();  ///< ends the message loop with exit code 0
 
 private:
     static std::unique_ptr<CString> s_applicationName;
@@ -55,7 +55,7 @@ private:
     static std::unique_ptr<CString> s_description;
     static std::unique_ptr<CString> s_registryPath;
     static std::unique_ptr<CSystemString> s_applicationPath;
-    // Both are the effect's module: one to make windows with, one to find its file.
+    // Both are the effect's module: the first is for creating windows, the second for its path.
     static void *s_instanceHandle;
     static void *s_moduleHandle;
     static GUI::Windowing::IWindow *s_mainWindow;  // not owned

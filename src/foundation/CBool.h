@@ -8,8 +8,8 @@ namespace Tessitor::Basics {
 class CBool : public CCountedObject {
 public:
     CBool(bool value = false);
-    CBool(const char *text);     ///< as setValue() reads it
-    CBool(const CString &text);  ///< the same
+    CBool(const char *text);     ///< parsed by setValue()
+    CBool(const CString &text);  ///< parsed by setValue()
     CBool(const CBool &other);
     ~CBool() override { s_class.decrementInstanceCount(); }
     CClass &getClass() const override { return s_class; }
@@ -17,7 +17,7 @@ public:
 
     CBool &operator=(const CBool &other) = default;
     void setValue(bool value) { m_value = value; }
-    void setValue(const char *text);  ///< true for "True" and for nothing else
+    void setValue(const char *text);  ///< true only for "True"
     void setValue(const CString &text);
     bool getValue() const { return m_value; }
 

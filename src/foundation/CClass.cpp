@@ -19,7 +19,7 @@ void copyName(char (&field)[size], const char *name) {
 
 }  // namespace
 
-// constinit, since any record may be the first and must find null here.
+// constinit: whichever static record is constructed first must find null here.
 constinit CClassManager *CClass::s_manager = nullptr;
 
 CClass::CClass() {
@@ -80,7 +80,7 @@ bool CClass::operator==(const char *className) const {
 
 bool CClass::isTypeOf(const CClass &target) const {
     if (s_manager != nullptr) {
-        // Parent names can form a circle, so take no more steps than there are records.
+        // Parent names can form a cycle, so take no more steps than there are records.
         int steps = s_manager->getClasses().getInsertIndex();
         const CClass *ancestor = s_manager->getClassWithName(m_parentClassName);
         for (; ancestor != nullptr && steps > 0; --steps) {

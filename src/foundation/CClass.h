@@ -9,13 +9,13 @@ namespace Tessitor::Basics {
 class CClassManager;
 
 /// The run-time record of a class: its name, its parent's name and the count of its instances. A
-/// record registers itself with the manager, which the first record makes, and withdraws when it is
-/// destroyed. Names are cut to 128 bytes; a null name changes nothing.
+/// record registers itself with the manager, which the first record creates, and withdraws when it
+/// is destroyed. Names are cut to 128 bytes; a null name changes nothing.
 ///
 /// Every class of the library owns one record, as TClassRecord.h shows. [one thread at a time]
 class CClass {
 public:
-    CClass();  ///< without a name and not registered; still makes the manager
+    CClass();  ///< without a name and not registered; still creates the manager
     explicit CClass(const char *className);
     CClass(const char *className, const char *parentClassName);
     CClass(const CClass &other);  ///< copies the name only
@@ -40,17 +40,17 @@ public:
     bool operator==(const CClass &other) const;  ///< compares the names
     bool operator==(const char *className) const;
 
-    /// Whether the class is the target or descends from it. Ancestors are looked up by name among
-    /// the registered records, so a parent without a record ends the search.
+    /// @return true if the class is the target or descends from it. Ancestors are looked up by name
+    ///         among the registered records, so a parent without a record ends the search.
     bool isTypeOf(const CClass &target) const;
 
-    /// Deletes the manager. A record built afterwards makes a new one.
+    /// Deletes the manager. The next record that is constructed creates a new one.
     /// @param reportPath  file for a report of the classes that still have instances, overwritten
     ///                    if it exists; null for no report.
     static void destroyClassManager(const char *reportPath);
 
 protected:
-    /// Counts in `counts` from now on. They must outlive the record.
+    /// Counts instances in `counts` from now on. It must outlive the record.
     void countIn(SInstanceCounts &counts) { m_counts = &counts; }
 
 private:

@@ -10,8 +10,7 @@ class CTextStream;
 
 namespace Tessitor::Basics {
 
-/// The list of class records. It owns none of them. CClass keeps the only manager that the program
-/// uses.
+/// The list of class records. It owns none of them. The program has one manager, which CClass owns.
 class CClassManager {
 public:
     CClassManager();
@@ -21,7 +20,8 @@ public:
     /// Adds the record, which must outlive the manager or be withdrawn. Ignores null, and a record
     /// whose name is already listed.
     void registerClass(CClass *record);
-    /// Removes this very record. Does nothing if only another record of its name is listed.
+    /// Removes this record, found by its address. Does nothing if the list has another record of
+    /// the same name instead.
     void withdrawClass(const CClass *record);
     bool isClassRegistered(const CClass *record) const;  ///< compares names; false for null
     CClass *getClassWithName(const char *name) const;    ///< null if there is none

@@ -6,8 +6,8 @@
 
 namespace Tessitor::Threading {
 
-/// The lock of the library. A thread that holds it may take it again, and gives it back as often.
-/// Everything here is for [any thread], except construction and destruction.
+/// The library's recursive lock: a thread that holds it may lock it again, and must unlock it as
+/// often. [any thread], except construction and destruction.
 class CCriticalSection : public Basics::CCountedObject {
 public:
     CCriticalSection();
@@ -18,8 +18,8 @@ public:
 
     void lock();
     void unlock();  ///< for the thread that holds the lock
-    /// @param milliseconds  below 1 waits without end; else tries every 5 ms until it is used up.
-    /// @return whether the lock was taken.
+    /// @param milliseconds  tries every 5 ms until this time is up; below 1 it waits forever.
+    /// @return true if the lock was taken.
     bool tryLock(long milliseconds);
 
 private:

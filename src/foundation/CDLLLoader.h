@@ -15,11 +15,11 @@ public:
     Basics::CClass &getClass() const override { return s_class; }
 
     /// Unloads the present library and loads this file. If the system refuses the file, because it
-    /// is not a library or needs one that is missing, the reason goes to the trace and there are no
-    /// functions.
+    /// is not a library or needs one that is missing, the reason goes to the trace, and
+    /// getFunction() returns null from then on.
     /// @throws CException if there is no such file. The present library then stays loaded.
     void loadDll(const Basics::CString &path);
-    /// @return the exported function, to be cast to its type; null if none has that name.
+    /// @return the exported function, to be cast to its type; null if there is none of that name.
     void *getFunction(const Basics::CString &name) const;
 
 private:

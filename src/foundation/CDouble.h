@@ -4,7 +4,7 @@
 
 namespace Tessitor::Basics {
 
-/// A number of double precision as an object.
+/// A double-precision number as an object.
 class CDouble : public TRealNumber<CDouble, double> {
 public:
     CDouble(double value = 0);

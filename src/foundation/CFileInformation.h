@@ -9,14 +9,14 @@ namespace Tessitor::Host {
 class CFileInformation : public Basics::CCountedObject {
 public:
     CFileInformation();
-    explicit CFileInformation(const Basics::CSystemString &path);  ///< reads at once
+    explicit CFileInformation(const Basics::CSystemString &path);  ///< calls readInformation()
     CFileInformation(const CFileInformation &other);
     ~CFileInformation() override { s_class.decrementInstanceCount(); }
     Basics::CClass &getClass() const override { return s_class; }
 
     virtual CFileInformation &operator=(const CFileInformation &other);
 
-    /// @return false if there is no such file or folder; nothing is changed then.
+    /// @return false if there is no such file or folder. Nothing is changed in that case.
     bool readInformation(const Basics::CSystemString &path);
 
     /// See SNativeFile::attributes. 11 before anything is read.

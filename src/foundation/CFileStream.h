@@ -34,15 +34,15 @@ public:
     ~CFileStream() override;  ///< closes
     Basics::CClass &getClass() const override { return s_class; }
 
-    /// Closes the open file and clears its failure. In write mode the new file is created or
+    /// Closes the open file and clears the failure. In write mode the new file is created or
     /// emptied.
-    /// @param fileIsLittleEndian  byte order of the values in the file. The host counts as
-    ///                            little-endian.
+    /// @param fileIsLittleEndian  byte order of the values in the file. The machine is assumed to
+    ///                            be little-endian.
     /// @param ignoreByteOrder     never swaps bytes, whatever the order of the file.
     /// @return false if the system refuses, or if the path is a folder.
     bool open(const Basics::CSystemString &path, EStreamMode mode, bool fileIsLittleEndian = false,
               bool ignoreByteOrder = false);
-    /// Sets the failure if the last bytes cannot be written, for example to a full disk.
+    /// Sets the failure if the last bytes cannot be written, for example because the disk is full.
     void close();
     bool isOpen() const { return m_isOpen; }
     bool hasFailed() const { return m_failed; }
@@ -55,14 +55,14 @@ public:
     bool seekFromHere(long offset);
     bool rewind();
 
-    /// @return the length in bytes, or -1. The failure is set if the file has no positions, like a
-    ///         pipe, but not if the stream is not open for reading.
+    /// @return the length in bytes. If the stream is not open for reading, -1. If the file cannot
+    ///         seek, like a pipe, -1 too, and the failure is set.
     long getStreamLength();
 
     /// Transfer bytes without swapping them.
     /// @param buffer  size bytes.
-    /// @return true if all of them were transferred. False, without touching the file, if it is not
-    ///         open in this direction. These set no failure.
+    /// @return true if all of them were transferred. If the stream is not open in this direction,
+    ///         the file is left alone. These operations never set the failure.
     bool write(const void *buffer, std::size_t size);
     bool read(void *buffer, std::size_t size);
 

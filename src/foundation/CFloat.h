@@ -4,7 +4,7 @@
 
 namespace Tessitor::Basics {
 
-/// A number of single precision as an object.
+/// A single-precision number as an object.
 class CFloat : public TRealNumber<CFloat, float> {
 public:
     CFloat(float value = 0);

@@ -53,7 +53,7 @@ CLong &CLong::operator/=(const CLong &other) {
     if (other.m_value == 0)
         m_value = 0;
     else if (other.m_value == -1)
-        m_value = fromBits(0 - bits(m_value));  // the lowest number has no opposite
+        m_value = fromBits(0 - bits(m_value));  // the smallest number has no positive counterpart
     else
         m_value /= other.m_value;
     return *this;

@@ -6,8 +6,8 @@
 
 namespace Tessitor::Basics {
 
-/// A number as an object. Arithmetic never traps: it wraps at the ends of the range, and a division
-/// by 0 gives 0. [one thread at a time]
+/// An integer as an object. Arithmetic never traps: it wraps at the ends of the range, and dividing
+/// by 0 returns 0. [one thread at a time]
 class CLong : public CCountedObject {
 public:
     CLong(long value = 0);
@@ -36,7 +36,8 @@ public:
         return left.m_value <=> right.m_value;
     }
 
-    /// @param width  least number of places, filled with zeros on the left; the sign takes one.
+    /// @param width  minimum number of characters, the sign included; padded with zeros on the
+    ///               left.
     static CString toString(long value, int width);
 
 private:

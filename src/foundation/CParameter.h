@@ -4,8 +4,8 @@
 
 namespace Tessitor::MathTools {
 
-/// A value and the range that a normalised value from 0 to 1 is spread over: 0.5 in 0 to 1 at
-/// first. Nothing keeps the value inside. [one thread at a time]
+/// A value and its range. Normalised values from 0 to 1 map linearly to the range. Starts at 0.5,
+/// in a range from 0 to 1. The value is never clamped. [one thread at a time]
 class CParameter : public Basics::CCountedObject {
 public:
     CParameter() { s_class.incrementInstanceCount(); }
@@ -18,7 +18,7 @@ public:
     virtual double getValue() const { return m_value; }
     virtual void getValueAsString(Basics::CString &text) const;  ///< with two decimals
     virtual void setNormalisedValue(double value);
-    /// Sets the normalised value. @return what getValue() gives then.
+    /// Sets the normalised value. @return the new getValue().
     virtual double updateValue(double value);
 
     CParameter &operator=(const CParameter &other) = default;

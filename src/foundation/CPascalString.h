@@ -6,11 +6,11 @@
 
 namespace Tessitor::Basics {
 
-/// A copy of a text for interfaces that want its length in front: a length byte, the text and a
+/// A copy of a text for interfaces that expect its length first: a length byte, the text and a
 /// terminator. For a text of 256 bytes or more, the length byte wraps.
 ///
 /// The block has the requested size, but at least 2 bytes. A text that does not fit is cut, and the
-/// length byte holds the length of the cut text.
+/// length byte is that of the cut text.
 class CPascalString : public CCountedObject {
 public:
     /// @param text  not null.

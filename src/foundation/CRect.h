@@ -46,17 +46,17 @@ public:
     void inset(std::int32_t by);  ///< moves each edge inwards, or outwards if negative
     /// Multiplies left, top, width and height, and truncates each.
     void scale(double factor);
-    /// Left and top become the smaller of the two. Kept: the width becomes the larger of this right
-    /// edge and the distance from the new left to the other right edge, which is too large for a
-    /// rectangle away from the origin. The height likewise.
+    /// The new left is the smaller of the two. Kept: the new width is the larger of this right edge
+    /// and the distance from the new left to the other right edge. That is too large if the
+    /// rectangle is not at the origin. Top and height likewise.
     void unionWith(const CRect &rect);
     bool pointIsInside(const CPoint &point) const;  ///< the edges count as inside
 
     /// @return true if the rectangles overlap or share an edge.
     static bool intersects(const CRect &a, const CRect &b);
-    /// The area that both cover. If they do not meet, its width or height is negative.
+    /// The area that both cover. If they do not touch, its width or height is negative.
     static void getIntersection(const CRect &a, const CRect &b, CRect &out);
-    /// The same on the heap, but all zero if they do not meet.
+    /// The same on the heap, but all zero if they do not touch.
     static std::unique_ptr<CRect> getNewIntersection(const CRect &a, const CRect &b);
 
     SNativeRect toNative() const { return {m_left, m_top, m_right, m_bottom}; }

@@ -26,7 +26,7 @@ constexpr std::size_t sizeOf(long size) {
     return static_cast<std::size_t>(size);
 }
 
-/// A number as text. On the stack, since it is also made outside the fences.
+/// A number as text. It is on the stack because some operations need it outside their fences.
 template <typename Number>
 struct SNumberText {
     SNumberText(const char *format, Number value) {
@@ -44,7 +44,7 @@ char lowerCase(char character) {
     return static_cast<char>(std::tolower(static_cast<unsigned char>(character)));
 }
 
-/// Whether each replacement would be found again, so that replacing would never end.
+/// @return true if each replacement would be found again, so that replacing would never end.
 bool isFoundAgain(const CString &find, char replacement) {
     const std::int32_t number = find.getNumberOfCharacters();
     return number == 1 || (number == 2 && find.characterAt(0) == replacement);
@@ -372,7 +372,7 @@ std::int32_t CString::findSubString(const CString &needle) const {
         const std::int32_t position = findForward(needle.m_text[0]);
         if (position == -1 || needle.m_numberOfCharacters > m_numberOfCharacters - position)
             return -1;
-        // Kept: a difference ends the search, even if the needle occurs further on.
+        // Kept: the first mismatch ends the search, even if the needle occurs further on.
         const bool isHere =
             std::equal(needle.m_text.get(), needle.m_text.get() + needle.m_numberOfCharacters - 1,
                        m_text.get() + position);
@@ -447,7 +447,7 @@ CString CString::charactersFrom(long index, long number) const {
     return CString(characters.data(), std::min(characters.find('\0'), characters.size()));
 }
 
-// Makes a block of zeros that starts with the two texts. They may point into the old block.
+// Creates a zeroed block and copies both texts to its start. They may point into the old block.
 void CString::store(std::size_t size, std::string_view text, std::string_view appended) {
     if (size > sizeOf(std::numeric_limits<std::int32_t>::max()))
         throw std::length_error("string longer than 2 GiB");

@@ -18,7 +18,7 @@ class CPascalString;
 /// operations that work on positions also see the bytes after that terminator.
 ///
 /// Text arguments may point into the string itself. They must not be null unless the operation
-/// allows it. A bad index gives a blank or "", a failed search gives -1.
+/// allows it. For a bad index, operations return a blank or ""; for a failed search, -1.
 ///
 /// When memory runs out, or a text would exceed 2 GiB, an operation throws CException. Its reason
 /// lists every operation that the failure passed through. If there is no memory for that reason
@@ -28,7 +28,7 @@ class CPascalString;
 /// A string belongs to one thread at a time.
 class CString : public CCountedObject {
 public:
-    CString(const char *text = "");  ///< null is taken as ""
+    CString(const char *text = "");  ///< null counts as ""
     CString(const CString &other);
     ~CString() override;
 
@@ -37,13 +37,14 @@ public:
     CClass &getClass() const override { return s_class; }
 
     virtual CString &operator=(bool value);   ///< "True" or "False"
-    virtual CString &operator=(long value);   ///< "%.3li": 7 gives "007"
+    virtual CString &operator=(long value);   ///< "%.3li": 7 becomes "007"
     virtual CString &operator=(int value);    ///< as for long
     virtual CString &operator=(float value);  ///< "%.3f"
     virtual CString &operator=(const char *text);
     /// Does nothing if the texts are equal.
     virtual CString &operator=(const CString &other);
-    /// Overload for a string that is not const: does nothing only if other is this very object.
+    /// Overload for a string that is not const. Copies even an equal text; does nothing only if
+    /// other is this object.
     virtual CString &operator=(CString &other);
     virtual CString &operator+=(const char *text);
     virtual CString &operator+=(const CString &other);
@@ -51,7 +52,7 @@ public:
     virtual bool operator==(const char *text) const;
     virtual bool operator!=(const CString &other) const;
     virtual bool operator!=(const char *text) const;
-    /// True if the number of characters is 0. That never happens, since even "" has a terminator.
+    /// Kept: true if the number of characters is 0, so never, since even "" has a terminator.
     virtual bool operator!() const;
     virtual char operator[](long index) const;  ///< characterAt()
     virtual operator CPascalString() const;     ///< in a block of 256 bytes
@@ -69,8 +70,8 @@ public:
     /// Fills the buffer with zeros, then copies the text, cut to size - 1 bytes if it is longer.
     /// @param buffer  of size bytes; null is ignored, and so is a size below 1.
     virtual void getString(char *buffer, long size) const;
-    /// The text from start to end, end included. "" unless 0 <= start < end <= number of
-    /// characters, so getSubString(2, 2) is "".
+    /// The text from start to end, both included. "" unless 0 <= start < end <= number of
+    /// characters. Kept: getSubString(2, 2) is therefore "".
     virtual CString getSubString(long start, long end) const;
     virtual std::int32_t getNumberOfCharacters() const;  ///< including the terminator
     virtual char characterAt(long index) const;          ///< a blank outside the string
@@ -78,15 +79,15 @@ public:
     virtual void toLowerCase();
     virtual void removeTrailingAndLeadingWhiteSpace();
     virtual void removeLeadingWhiteSpace();
-    /// A text of white space alone stays unchanged. A text with nothing but white space after its
-    /// first character becomes "", so a single letter is lost.
+    /// Kept: a text of white space alone stays unchanged. A text with nothing but white space after
+    /// its first character becomes "", so a single letter is lost.
     virtual void removeTrailingWhiteSpace();
     virtual void removeLastCharacter();
     /// Replaces at every position before the final terminator.
     virtual void replaceCharWithChar(char find, char replacement);
     virtual void replaceCharWithString(char find, const CString &replacement);
     /// Replaces what findSubString() finds, then searches the new text again, until nothing is
-    /// found. If exactly one character comes before an occurrence, that character is lost.
+    /// found. Kept: if exactly one character comes before an occurrence, that character is lost.
     /// Does nothing if find is "" or equals the replacement, since the search would never end.
     virtual void replaceStringWithChar(char replacement, const CString &find);
     virtual bool equals(const CString &other) const;
@@ -96,11 +97,11 @@ public:
     virtual std::int32_t findForward(char character) const;    ///< first index, terminator included
     virtual std::int32_t findBackwards(char character) const;  ///< last index, terminator included
 
-    /// Index of needle, or -1. Only the first place where needle's first character occurs is tried,
-    /// so "ab" is not found in "aab".
+    /// Index of needle, or -1. Kept: only the first place where needle's first character occurs is
+    /// tried, so "ab" is not found in "aab".
     std::int32_t findSubString(const CString &needle) const;
     static bool isWhiteSpace(char character);  ///< a blank, or a code from 9 to 13
-    /// True if every position is white space. Always false, since the terminator is not.
+    /// Kept: true if every position is white space, so never, since the terminator is not.
     bool isWhiteSpace() const;
 
     static CString toString(double value);  ///< "%.3f"
@@ -108,8 +109,8 @@ public:
     static CString toString(int value);     ///< "%03i"
     static CString toString(long value);    ///< "%03li"
 
-    /// The number at the start of the text, or 0 if there is none. A whole number outside the range
-    /// of its type becomes the nearest one inside, a floating-point number becomes infinite.
+    /// The number at the start of the text, or 0 if there is none. An integer outside the range of
+    /// its type becomes the nearest one in range; a floating-point number becomes infinite.
     static double toDouble(const char *text);
     static double toDouble(const CString &text);
     static float toFloat(const char *text);
@@ -122,8 +123,8 @@ public:
 protected:
     /// Writes a terminator at an index of the string. The number of characters does not change.
     void terminateAt(std::int32_t index);
-    /// The text of `number` characters from an index on, cut at the first terminator among them.
-    /// Unlike getSubString(), it can return one character. The range is not checked.
+    /// The `number` characters from an index on, cut at the first terminator among them. Unlike
+    /// getSubString(), it can return one character. The range is not checked.
     CString charactersFrom(long index, long number) const;
 
 private:

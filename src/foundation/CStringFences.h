@@ -2,7 +2,7 @@
 
 #include "foundation/ExceptionFence.h"
 
-/// What each operation of CString adds to a failure that passes through it.
+/// The texts that each operation of CString adds to an exception that passes through it.
 namespace Tessitor::Basics::StringFences {
 
 using Exceptions::SFence;

@@ -64,7 +64,7 @@ char *CStringTokeniser::getNextToken() {
     auto token = std::make_unique<char[]>(static_cast<std::size_t>(end - m_readPosition) + 1);
     std::copy(m_text + m_readPosition, m_text + end, token.get());
 
-    // At the end of the text the position does not move; reading ends by the count.
+    // At the end of the text the position does not move: the count ends the reading.
     if (m_text[end] != '\0')
         m_readPosition = end + 1;
     ++m_numberOfTokensRead;

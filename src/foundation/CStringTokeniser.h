@@ -8,7 +8,7 @@ namespace Tessitor::Basics {
 /// Counting, however, skips empty tokens, and reading ends after as many tokens as were counted,
 /// even if text is left.
 ///
-/// The object holds a copy of the text, cut to 2,047 bytes. The tokens of a longer path end there.
+/// The object keeps a copy of the text, cut to 2047 bytes; the rest is ignored.
 class CStringTokeniser : public CCountedObject {
 public:
     /// These two split at "," and do not count: there are no tokens until countTokens() is called.

@@ -90,7 +90,7 @@ CTextStream &CTextStream::operator<<(const CSystemString &text) {
 
 CTextStream &CTextStream::operator<<(const Basics::ICountedObject &object) {
     constexpr long size = 256;
-    char description[size + 1] = {};  // a description may fill its part without a terminator
+    char description[size + 1] = {};  // one byte more, since a description may lack a terminator
     object.getObjectDescription(description, size);
     return write(description);
 }

@@ -7,8 +7,8 @@
 
 namespace Tessitor::IO {
 
-/// Reads or writes a file of text. Nothing throws. Writing to a stream that is not open for writing
-/// is ignored, and so is reading from one that is not open for reading. Numbers have the default
+/// Reads or writes a text file. Nothing throws. Writing to a stream that is not open for writing is
+/// ignored, and so is reading from one that is not open for reading. Numbers have the default
 /// format of the standard stream in the classic locale, and line ends are not translated, so a file
 /// has the same bytes on every system. [one thread at a time]
 class CTextStream : public Basics::CCountedObject {
@@ -27,8 +27,8 @@ public:
     bool isOpenForWriting() const { return m_isOpen && m_mode == EStreamMode::Write; }
     bool isOpenForReading() const { return m_isOpen && m_mode == EStreamMode::Read; }
     bool isEndOfFile() const;  ///< true if not open; false while writing
-    /// True after a line that was too long, a text that is no number, or an error of the system. A
-    /// full disk shows once the stream is flushed. The end of the file is no failure.
+    /// True after a line that was too long, a text that was not a number, or a system error. A full
+    /// disk is only noticed when the stream is flushed. The end of the file is not a failure.
     bool hasFailed() const;
     void flush();
 
@@ -43,13 +43,13 @@ public:
     CTextStream &operator<<(float value);
     CTextStream &operator<<(double value);
 
-    /// Reads a line, without its line feed and a carriage return before that. A line of more than
-    /// 2047 bytes gives its first 2047 and fails the stream. A stream that has failed or ended
-    /// gives the last line again, or "Empty string" if it has read none.
+    /// Reads a line, without its line feed and a carriage return before that. Of a line of more
+    /// than 2047 bytes it reads the first 2047, and the stream fails. A stream that has failed or
+    /// ended returns the last line again, or "Empty string" if it has read none.
     CTextStream &operator>>(Basics::CString &line);
     CTextStream &operator>>(Basics::CSystemString &line);
-    /// Skips white space and reads a number. If there is none, gives 0 and fails the stream. A
-    /// stream that has failed already leaves the value alone.
+    /// Skips white space and reads a number. If there is none, the value becomes 0 and the stream
+    /// fails. A stream that has already failed leaves the value alone.
     CTextStream &operator>>(int &value);
     CTextStream &operator>>(long &value);
     CTextStream &operator>>(float &value);

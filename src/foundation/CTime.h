@@ -13,7 +13,7 @@ public:
     CTime(const CTime &other);
     ~CTime() override { s_class.decrementInstanceCount(); }
     Basics::CClass &getClass() const override { return s_class; }
-    /// "Sunday 1 March 2026". A day of the week or month that does not exist gives "".
+    /// "Sunday 1 March 2026". An invalid day of the week or month has the name "".
     void getObjectDescription(char *array, long size) const override;
 
     CTime &operator=(const CTime &other) = default;
@@ -37,8 +37,8 @@ public:
     void setMillisecond(std::uint16_t millisecond) { m_time.millisecond = millisecond; }
 
     /// Converts to a Windows FILETIME: units of 100 ns since 1 January 1601, in the same time zone.
-    /// @return 0 if the time does not exist or its year is not from 1601 to 30827. The day of the
-    ///         week is ignored.
+    /// @return 0 if the date or time is invalid, or the year is not from 1601 to 30827. The day of
+    ///         the week is ignored.
     std::uint64_t toFileTime() const;
     void fromFileTime(std::uint64_t fileTime);  ///< values above 2^63 - 1 are ignored
 

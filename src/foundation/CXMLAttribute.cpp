@@ -24,8 +24,8 @@ CString textOf(double value) {
 
 double numberIn(std::string_view text);
 
-/// @param number  outside the range of double, with no text before or after it.
-/// @return infinity if it is too large, 0 if it is too small, with its sign.
+/// @param number  a number outside the range of double, with no text before or after it.
+/// @return infinity if the number is too large, 0 if it is too small, with the sign of the number.
 double beyondTheRange(std::string_view number) {
     const std::size_t mark = std::min(number.find_first_of("eE"), number.size());
     const std::size_t point = std::min(number.find('.'), mark);

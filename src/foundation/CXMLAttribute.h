@@ -4,14 +4,14 @@
 
 namespace Tessitor::IO {
 
-/// A name and a value of an XML node. Numbers are written with "%f", "%li" and "%d" and read by the
-/// rules of CString, but in decimal only. The decimal separator is a point, whatever the host's
-/// locale. A bool is "True" or "False".
+/// An attribute of an XML node: a name and a value. Numbers are written with "%f", "%li" and "%d"
+/// and read by the rules of CString, but in decimal only. The decimal separator is a point,
+/// whatever the host's locale. A bool is "True" or "False".
 class CXMLAttribute : public Basics::CCountedObject {
 public:
-    /// @param name   is trimmed, and each blank in it becomes "_". A single letter becomes "", see
-    ///               CString::removeTrailingWhiteSpace().
-    /// @param value  any type that setValue() takes.
+    /// @param name   trimmed, with each blank replaced by "_". Kept: a single letter becomes "";
+    ///               see CString::removeTrailingWhiteSpace().
+    /// @param value  any type that setValue() accepts.
     template <typename Value>
     CXMLAttribute(const Basics::CString &name, const Value &value) : CXMLAttribute(name) {
         setValue(value);

@@ -35,8 +35,8 @@ CXMLNode::~CXMLNode() {
 }
 
 /// Releases the children.
-/// @param abandoned  list of the children that nobody else references, each with one reference
-///                   left. They are linked by m_parent, which they no longer need.
+/// @param abandoned  receives the children that nobody else references, each with one reference
+///                   left. It is a list linked by m_parent, which these nodes no longer need.
 void CXMLNode::handOverChildren(CXMLNode *&abandoned) {
     for (int i = 0; i < m_children.getInsertIndex(); ++i) {
         CXMLNode *child = m_children.elementAtIndex(i);

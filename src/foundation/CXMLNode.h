@@ -5,12 +5,12 @@
 
 namespace Tessitor::IO {
 
-/// A tag with its attributes and the tags inside it. It holds references on both.
+/// A tag with its attributes and the tags inside it. It holds references to both.
 class CXMLNode : public Basics::CCountedObject {
 public:
-    /// @param parent  null for none. It is not referenced and does not get the node as a child:
-    ///                call its addChild(). When a parent dies before its child, the child has no
-    ///                parent.
+    /// @param parent  null for none. The node holds no reference to it and is not added to its
+    ///                children: call parent->addChild() as well. If the parent is destroyed first,
+    ///                the node no longer has a parent.
     CXMLNode(const Basics::CString &name, CXMLNode *parent);
     CXMLNode(const CXMLNode &) = delete;
     CXMLNode &operator=(const CXMLNode &) = delete;

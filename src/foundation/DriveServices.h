@@ -8,12 +8,12 @@
 namespace Tessitor::Host {
 
 /// @return the drive that holds the path: its root on Windows, its mount point on Linux; "" if
-///         there is none.
+///         there is no such drive.
 Basics::CSystemString getDriveOf(const Basics::CSystemString &path);
 
-/// @return the label of the drive; "" if it has none or there is no such drive.
+/// Both are "" if there is no such drive. A drive without a label has the name "".
 Basics::CString getVolumeName(const Basics::CSystemString &drive);
-Basics::CString getFileSystem(const Basics::CSystemString &drive);  ///< "NTFS", "ext4"; "" likewise
+Basics::CString getFileSystem(const Basics::CSystemString &drive);  ///< "NTFS", "ext4"
 
 ENativeDriveType getDriveType(const Basics::CSystemString &drive);
 bool isFixedDrive(const Basics::CSystemString &drive);

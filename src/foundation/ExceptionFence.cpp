@@ -14,8 +14,8 @@ Basics::CString reasonBelow(const char *lead, const CException &caught) {
     return reason;
 }
 
-// The strings of a report can run out of memory too. Their fences then let the failure through:
-// another report would only fail in the same way, without end.
+// Building a report can run out of memory too. The fences of its strings then let the failure
+// through: reporting it would fail in the same way, over and over.
 thread_local bool isReporting = false;
 
 struct SReporting {
@@ -32,7 +32,7 @@ void rethrowThrough(const SFence &fence) {
     try {
         throw;
     } catch (const CException &thrown) {
-        // Caught by value, as everywhere: the copy shows in the class record.
+        // Kept: a copy, as if caught by value. It lowers the instance count of CException.
         // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
         const CException caught(thrown);
         throw CException(reasonBelow(fence.lead, caught), fence.function, true);

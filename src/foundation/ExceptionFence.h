@@ -4,16 +4,16 @@
 
 namespace Tessitor::Exceptions {
 
-/// The texts that a fence adds to a failure that passes through it.
+/// The texts that a fence adds to an exception that passes through it.
 struct SFence {
     const char *lead;      ///< before the reason of a CException; ends in "more below\n\n"
     const char *unknown;   ///< reason for any other exception: "Caught unknown exception ..."
     const char *function;  ///< the signature of the fenced function
 };
 
-/// Call this while handling an exception: it throws a CException with the texts of the fence. The
-/// reason and function name of a caught CException follow the lead text, so a chain of fences reads
-/// from the outermost operation down to the first failure.
+/// Call this while handling an exception: it throws a CException with the fence's texts. The reason
+/// and function name of a caught CException follow the lead text, so a chain of fences reads from
+/// the outermost operation down to the first failure.
 [[noreturn]] void rethrowThrough(const SFence &fence);
 
 /// Runs an operation inside a fence: whatever it throws leaves as a CException.

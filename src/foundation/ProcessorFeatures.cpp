@@ -19,7 +19,7 @@ SProcessorFeatures decodeProcessorFeatures(std::uint32_t ecx, std::uint32_t edx)
     decoded.hasMmx = (edx & bit(23)) != 0;
     decoded.hasSse = (edx & bit(25)) != 0;
     decoded.hasSse2 = (edx & bit(26)) != 0;
-    // Kept: bit 28 is AVX, and counts as SSE3 without bit 0.
+    // Kept: bit 28, which is AVX, also counts as SSE3.
     decoded.hasSse3 = (ecx & (bit(0) | bit(28))) != 0;
     decoded.hasHt = (edx & bit(28)) != 0;
     return decoded;

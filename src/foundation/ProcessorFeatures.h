@@ -4,7 +4,7 @@
 
 namespace Tessitor::Basics {
 
-/// What the processor can do.
+/// Some features of the processor.
 struct SProcessorFeatures {
     bool hasMmx = false;
     bool hasSse = false;
@@ -13,13 +13,13 @@ struct SProcessorFeatures {
     bool hasHt = false;
 };
 
-/// @param ecx, edx  the registers that CPUID leaves for function 1.
+/// @param ecx, edx  the registers after CPUID function 1.
 SProcessorFeatures decodeProcessorFeatures(std::uint32_t ecx, std::uint32_t edx);
 
-/// Asks the processor and keeps the answer, once at start-up.
+/// Reads the features from the processor and stores them. Call once, at start-up.
 void readProcessorFeatures();
 
-/// @return what was read; nothing is set before. [any thread], after start-up
+/// @return the stored features; none before they are read. [any thread], after start-up
 const SProcessorFeatures &getProcessorFeatures();
 
 }  // namespace Tessitor::Basics

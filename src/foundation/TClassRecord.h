@@ -26,11 +26,11 @@ namespace Tessitor::Basics {
 ///     Basics::TClassRecord<TList<TypeName>> TList<TypeName>::s_class(
 ///         "TList<TypeName>", typeid(TypeName), "CCountedObject");
 ///
-/// Static objects of different files are built and destroyed in no fixed order, so an instance may
-/// be built before its record and outlive it. The counts are therefore kept outside the record:
-/// they exist before the first constructor of the program runs and are never destroyed. Counting is
-/// two plain increments, so the instances of a class must be made and destroyed on one thread at a
-/// time. The audio thread makes none.
+/// Static objects of different files are constructed and destroyed in no fixed order, so an
+/// instance may be constructed before its record and outlive it. The counts are therefore kept
+/// outside the record: they exist before the first constructor of the program runs and are never
+/// destroyed. They are plain integers, so the instances of a class must be created and destroyed by
+/// one thread at a time. The audio thread creates none.
 template <typename Owner>
 class TClassRecord : public CClass {
 public:

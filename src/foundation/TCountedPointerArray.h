@@ -4,7 +4,7 @@
 
 namespace Tessitor::Collections {
 
-/// A collection that holds one reference on each of its elements.
+/// A collection that holds one reference to each of its elements.
 template <typename TypeName>
 class TCountedPointerArray : public TPointerCollection<TypeName> {
 public:

@@ -8,9 +8,9 @@
 
 namespace Tessitor::Collections {
 
-/// Growable array of pointers; the deleter decides who owns what they point to.
-/// Removing leaves a null slot and moves nothing, so a listener may take itself out while the list
-/// is being called. Loop to getArraySize() and skip nulls.
+/// Growable array of pointers; the deleter decides who owns what they point to. Removing leaves a
+/// null slot and moves nothing, so a listener may remove itself while the listeners are being
+/// called. Loop to getArraySize() and skip nulls.
 template <typename TypeName>
 class TPointerCollection : public Basics::CCountedObject {
 public:

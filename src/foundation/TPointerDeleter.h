@@ -16,7 +16,7 @@ public:
     ~TPointerDeleter() override { s_class.decrementInstanceCount(); }
     Basics::CClass &getClass() const override { return s_class; }
 
-    virtual void pointerAdded(TypeName *pointer) = 0;   ///< a container has taken it
+    virtual void pointerAdded(TypeName *pointer) = 0;   ///< a container has added it
     virtual void deletePointer(TypeName *pointer) = 0;  ///< a container releases it
 
 private:
@@ -41,7 +41,7 @@ private:
     static Basics::TClassRecord<TObjectDeleter> s_class;
 };
 
-/// The container owns nothing and only lists the elements of others.
+/// The container does not own its elements: releasing one does nothing.
 template <typename TypeName>
 class TObjectNuller : public TPointerDeleter<TypeName> {
 public:
@@ -56,7 +56,7 @@ private:
     static Basics::TClassRecord<TObjectNuller> s_class;
 };
 
-/// The container shares its elements and holds one reference on each.
+/// The container shares its elements and holds one reference to each.
 template <typename TypeName>
 class TCountedObjectDeleter : public TPointerDeleter<TypeName> {
 public:
@@ -95,8 +95,8 @@ Basics::TClassRecord<TCountedObjectDeleter<TypeName>>
     TCountedObjectDeleter<TypeName>::s_class("TCountedObjectDeleter<TypeName>", typeid(TypeName),
                                              "TPointerDeleter<TypeName>", typeid(TypeName));
 
-/// @return the shared deleter of this type, made at the first call. It is never destroyed: static
-///         objects may use or make containers until the very end of the program.
+/// @return the shared deleter of this type, constructed by the first call. It is never destroyed:
+///         static objects may use or create containers until the program ends.
 template <typename Deleter>
 Deleter *sharedDeleter() {
     // Not on the heap: a plug-in that is unloaded would leak it.

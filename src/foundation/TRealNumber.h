@@ -7,9 +7,9 @@
 
 namespace Tessitor::Basics {
 
-/// What CFloat and CDouble share: a number as an object, with the arithmetic of its type, which
-/// never traps. [one thread at a time]
-/// @tparam Owner  the class that derives from this one, and builds from a Value.
+/// What CFloat and CDouble have in common: a number as an object, with the arithmetic of its type,
+/// which never traps. [one thread at a time]
+/// @tparam Owner  the derived class, which must be constructible from a Value.
 template <typename Owner, typename Value>
 class TRealNumber : public CCountedObject {
 public:
@@ -34,7 +34,7 @@ public:
         return left.m_value <=> right.m_value;
     }
 
-    /// @param places  behind the point, rounded to; below 0 counts as 0.
+    /// @param places  digits after the decimal point, rounded; below 0 counts as 0.
     static CString toString(Value value, int places);
 
 protected:

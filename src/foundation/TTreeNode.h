@@ -5,10 +5,10 @@
 
 namespace Tessitor::Collections {
 
-/// A node of a tree: a value, a parent and children. A node holds references on its parent and on
+/// A node of a tree: a value, a parent and children. A node holds references to its parent and to
 /// its children, so parent and child keep each other alive until one releases the other. To free a
-/// tree, set the parent of its children to null, or clear the children of a parent that somebody
-/// else still references.
+/// tree, set the parent of its children to null, or clear the children of a parent that is still
+/// referenced elsewhere.
 template <typename TypeName>
 class TTreeNode : public Basics::CCountedObject {
 public:

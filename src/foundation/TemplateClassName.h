@@ -6,10 +6,10 @@
 
 namespace Tessitor::Basics {
 
-/// @return the record name of an instantiated template: "TPointerDeleter<TypeName>" and
-///         "Tessitor::Basics::CClass" give "TPointerDeleter<CClass>".
+/// @return the record name of an instantiated template: "TPointerDeleter<TypeName>" with
+///         "Tessitor::Basics::CClass" becomes "TPointerDeleter<CClass>".
 /// @param templateName  returned unchanged if it has no "<".
-/// @param argumentName  only the part after its last ":" is used, or if there is none, after its
+/// @param argumentName  only the part after its last ":" is used; without a ":", the part after its
 ///                      last blank.
 std::string templateClassName(std::string_view templateName, std::string_view argumentName);
 

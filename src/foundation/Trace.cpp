@@ -15,7 +15,7 @@ CTextStream &traceStream() {
     return stream;
 }
 
-// Built during static initialisation, or earlier if another static object traces.
+// Constructs the stream during static initialisation, unless another static object traced before.
 [[maybe_unused]] const CTextStream &builtEarly = traceStream();
 
 void writeLine(const std::string &text) {
@@ -45,7 +45,7 @@ void trace(const char *format, ...) {
 
 void trace(const Basics::ICountedObject &object, const char *text) {
     constexpr long size = 1024;
-    char description[size + 1] = {};  // a description may fill its part without a terminator
+    char description[size + 1] = {};  // one byte more, since a description may lack a terminator
     object.getObjectDescription(description, size);
     writeLine(std::string(text) + description);
 }

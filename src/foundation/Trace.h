@@ -4,8 +4,8 @@
 
 namespace Tessitor::IO {
 
-/// The log of the process: one text stream for all threads, without a lock. Nothing is written
-/// until it is opened. The end of the program closes it. [one thread at a time]
+/// The log of the process: one text stream, shared by all threads without a lock. Nothing is
+/// written until it is opened. It is closed when the program ends. [one thread at a time]
 
 /// Closes the trace and starts a new one in this file, replacing what the file held.
 /// @return false if the file cannot be opened. The trace is then closed.

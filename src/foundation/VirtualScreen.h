@@ -4,8 +4,8 @@
 
 namespace Tessitor::Host {
 
-/// @return the rectangle that holds all screens; all zero if there is none. See
-///         nativeVirtualScreen(). [one thread at a time]
+/// @return the rectangle around all screens; all zero if there is none. See nativeVirtualScreen().
+///         [one thread at a time]
 MathTools::CRect getVirtualScreen();
 
 }  // namespace Tessitor::Host

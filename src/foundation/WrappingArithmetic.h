@@ -4,7 +4,7 @@
 
 namespace Tessitor::MathTools {
 
-/// Coordinates never trap: they wrap at the ends of the range.
+/// Sums and differences of coordinates wrap at the ends of the range and never trap.
 constexpr std::int32_t wrappedSum(std::int32_t left, std::int32_t right) {
     return static_cast<std::int32_t>(std::int64_t{left} + right);
 }

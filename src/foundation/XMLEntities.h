@@ -4,13 +4,13 @@
 
 namespace Tessitor::IO {
 
-/// Entities: the encoded forms of characters that have a meaning in XML.
+/// Entities: the encoded forms of characters that have a special meaning in XML.
 
 /// Replaces & " > < line feed and carriage return with their entities.
 Basics::CString encodeEntities(const Basics::CString &text);
 
 /// Replaces the entities with their characters, one kind after the other and "&amp;" first, so
-/// "&amp;lt;" becomes "<". Finds all of them; CString::replaceStringWithChar() would look only at
+/// "&amp;lt;" becomes "<". Does not use CString::replaceStringWithChar(), which would look only at
 /// the first "&".
 Basics::CString decodeEntities(const Basics::CString &text);
 

@@ -74,7 +74,7 @@ std::intptr_t AudioEffect::dispatcher(int opcode, int index, std::intptr_t value
         close();
         return 1;
     case effSetProgram:
-        // Kept: a number below 0 gets through. Hosts are trusted with indices.
+        // Kept: a negative number gets through, since hosts are trusted with indices.
         if (value < cEffect.numPrograms)
             setProgram(static_cast<int>(value));
         return 0;

@@ -7,7 +7,7 @@ VstKeyCode keyCodeOf(int index, std::intptr_t value, float opt) {
             static_cast<unsigned char>(static_cast<int>(opt))};
 }
 
-/// This interface passes some pointers as numbers.
+/// The interface passes some pointers as integers.
 template <typename Record>
 Record *recordAt(std::intptr_t value) {
     return reinterpret_cast<Record *>(value);  // NOLINT(performance-no-int-to-ptr)
@@ -150,7 +150,7 @@ int AudioEffectX::getHostVendorVersion() {
 }
 
 bool AudioEffectX::isInputConnected(int input) {
-    // 0 means connected, so a host without this opcode has everything connected.
+    // 0 means connected, so a host without this opcode reports every input as connected.
     return askHost(audioMasterPinConnected, input) == 0;
 }
 

@@ -5,8 +5,8 @@
 #include <cstdint>
 
 /// The published second base class: the operations for the later opcodes, and the questions that an
-/// effect may ask its host. Deprecated opcodes, and those whose records are not declared here, give
-/// their published default.
+/// effect may ask its host. Deprecated opcodes, and those whose records are not declared here,
+/// return their published default.
 class AudioEffectX : public AudioEffect {
 public:
     using AudioEffect::AudioEffect;
@@ -35,8 +35,8 @@ public:
     virtual int beginLoadBank(VstPatchChunkInfo *) { return 0; }
     virtual int beginLoadProgram(VstPatchChunkInfo *) { return 0; }
 
-    /// Fill the record with fillPinProperties: Giada's ends before its last field.
-    /// @return true if it was filled.
+    /// Fill the record with fillPinProperties(): in Giada it lacks the last field.
+    /// @return true if the record was filled.
     virtual bool getInputProperties(int /*index*/, VstPinProperties *) { return false; }
     virtual bool getOutputProperties(int /*index*/, VstPinProperties *) { return false; }
     virtual bool setSpeakerArrangement(VstSpeakerArrangement * /*in*/,
@@ -45,12 +45,14 @@ public:
     }
     virtual bool getSpeakerArrangement(VstSpeakerArrangement **in, VstSpeakerArrangement **out);
 
-    virtual bool getEffectName(char * /*name*/) { return false; }     ///< kVstMaxEffectNameLen
-    virtual bool getVendorString(char * /*text*/) { return false; }   ///< kVstMaxVendorStrLen
-    virtual bool getProductString(char * /*text*/) { return false; }  ///< kVstMaxProductStrLen
+    /// These write at most kVstMaxEffectNameLen, kVstMaxVendorStrLen and kVstMaxProductStrLen
+    /// bytes.
+    virtual bool getEffectName(char * /*name*/) { return false; }
+    virtual bool getVendorString(char * /*text*/) { return false; }
+    virtual bool getProductString(char * /*text*/) { return false; }
     virtual int getVendorVersion() { return 0; }
     virtual int getVstVersion() { return kVstVersion; }
-    /// kPlugCategSynth after isSynth(), otherwise kPlugCategUnknown.
+    /// @return kPlugCategSynth after isSynth(), otherwise kPlugCategUnknown.
     virtual VstPlugCategory getPlugCategory();
     virtual int canDo(char * /*text*/) { return 0; }  ///< 1 yes, 0 unknown, -1 no
     virtual int getTailSize() { return 0; }           ///< frames; 0 default, 1 none
@@ -75,25 +77,25 @@ public:
 
     void isSynth(bool state = true) { setFlag(effFlagsIsSynth, state); }
 
-    // Questions to the host. Without a host they return 0, false or null.
+    // Questions to the host. If there is no host, its answer counts as 0.
 
     /// [audio thread] @param filter  the VstTimeInfoFlags wanted; the host may set others.
     /// @return valid during the process call; null if the host has no time information.
     VstTimeInfo *getTimeInfo(int filter);
     /// @return the host's answer unchanged: 1 yes, 0 unknown, -1 no.
     int canHostDo(const char *text);
-    /// @param text  receives at most kVstMaxProductStrLen bytes. Pass it zeroed: the plug-in
-    ///              scanners of Ardour 7.3 and Qtractor 0.9.31 write nothing.
+    /// @param text  receives at most kVstMaxProductStrLen bytes. Fill it with zeros first: the
+    ///              plug-in scanners of Ardour 7.3 and Qtractor 0.9.31 write nothing.
     bool getHostProductString(char *text);
     bool getHostVendorString(char *text);
     int getHostVendorVersion();
-    /// @return true also if the host does not know.
+    /// @return true if the input is connected, or if the host does not know.
     bool isInputConnected(int input);
     void wantEvents();
     bool sendVstEventsToHost(VstEvents *events);
 
-    float updateSampleRate();  ///< adopts the host's rate if it gives one
-    int updateBlockSize();     ///< adopts the host's block size if it gives one
+    float updateSampleRate();  ///< adopts the host's rate if it reports one
+    int updateBlockSize();     ///< adopts the host's block size if it reports one
     int getInputLatency();     ///< frames
     int getOutputLatency();    ///< frames
     VstProcessLevel getCurrentProcessLevel();
@@ -101,9 +103,9 @@ public:
     int getHostLanguage();       ///< 1 is English
     const char *getDirectory();  ///< owned by the host
 
-    bool ioChanged();  ///< after a change of pins or latency
+    bool ioChanged();  ///< call after a change of pins or latency
     bool updateDisplay();
     bool sizeWindow(int width, int height);  ///< pixels
-    bool beginEdit(int index);               ///< before the setParameterAutomated of one gesture
-    bool endEdit(int index);                 ///< after them
+    bool beginEdit(int index);  ///< call before the setParameterAutomated() calls of one gesture
+    bool endEdit(int index);    ///< call after them
 };

@@ -35,7 +35,7 @@ void CHostCanDo::setFromAudioEffectX(AudioEffectX *effect) {
     if (effect == nullptr)
         throw Exceptions::CException("Effect is NULL",
                                      "CHostCanDo::setFromAudioEffectX(AudioEffectX *)", true);
-    // Kept: every answer but 0 counts as yes, also a host's -1 for no.
+    // Kept: every answer but 0 counts as yes, even -1, which means no.
     for (std::size_t i = 0; i < words.size(); ++i)
         m_capabilities[i] = effect->canHostDo(words[i]) != 0;
 

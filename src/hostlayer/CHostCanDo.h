@@ -37,7 +37,7 @@ public:
     ~CHostCanDo() override { s_class.decrementInstanceCount(); }
     Basics::CClass &getClass() const override { return s_class; }
 
-    /// Asks the effect's host for all of it. @throws CException if the effect is null.
+    /// Asks the effect's host. @throws CException if the effect is null.
     void setFromAudioEffectX(AudioEffectX *effect);
     void clear();
 

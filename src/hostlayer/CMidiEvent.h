@@ -6,7 +6,7 @@
 
 namespace Tessitor::Midi {
 
-/// The status of a message without its channel, see CMidiEvent::getStatus().
+/// The status of a message without its channel; see CMidiEvent::getStatus().
 enum EMidiStatus : std::int32_t {
     midiAllNotesOff = 123,
     midiNoteOff = 128,
@@ -50,8 +50,8 @@ public:
     }
 
     /// For sorting by position in the block, with null pointers last.
-    /// @return -1, 0 or 1; 0 for the same pointer, 1 if only `first` is null, -1 if only `second`
-    ///         is.
+    /// @return -1, 0 or 1. The same pointer compares as 0, otherwise a null `first` as 1 and a null
+    ///         `second` as -1.
     static int compare(const CMidiEvent *first, const CMidiEvent *second);
 
 private:

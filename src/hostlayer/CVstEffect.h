@@ -18,8 +18,8 @@ namespace Tessitor::Vst {
 /// list.
 class CVstEffect : public AudioEffectX, public Basics::CCountedObject {
 public:
-    /// Asks the host for its capabilities and names. Later changes are not noticed.
-    /// @param host  must already answer; null for none.
+    /// Asks the host for its capabilities and names, and never asks again.
+    /// @param host  must be ready to answer; null for no host.
     CVstEffect(audioMasterCallback host, int parameters, int programs);
     ~CVstEffect() override;
     Basics::CClass &getClass() const override { return s_class; }
@@ -40,7 +40,8 @@ public:
     bool getVendorString(char *text) override;
     bool getProductString(char *text) override;
 
-    /// The texts of an effect without programs and parameters: "Default" and "No param".
+    /// These return the texts of an effect without programs and parameters: "Default" and "No
+    /// param".
     void setProgramName(char *name) override;
     void getProgramName(char *name) override;
     bool getProgramNameIndexed(int category, int index, char *text) override;
@@ -50,8 +51,8 @@ public:
 
     int getNumMidiInputChannels() override { return 1; }
 
-    /// Kept: its frame count is a long, so it does not override AudioEffect::process(). The
-    /// record's process entry does not reach it, and no host calls it.
+    /// Kept: its frame count is a long, so it does not override AudioEffect::process(), and hosts
+    /// cannot reach it through the record.
     virtual void process(float **inputs, float **outputs, long sampleFrames);
     virtual void setMidiChannel(int channel) { m_midiEvents.setChannel(channel); }
 
@@ -67,8 +68,8 @@ protected:
     bool m_blockSizeChanged = false;
     bool m_sampleRateChanged = false;
     Midi::CVstMidiEventList m_midiEvents;
-    Collections::TPointerCollection<NoteValues> m_notes;  // one per MIDI note number, left empty
-    Threading::CCriticalSection *m_criticalSection;       // one reference held
+    Collections::TPointerCollection<NoteValues> m_notes;  // one per MIDI note number, all empty
+    Threading::CCriticalSection *m_criticalSection;       // owns one reference
 
 private:
     static Basics::TClassRecord<CVstEffect> s_class;

@@ -18,7 +18,7 @@ double beatsToNextBar(const STempoInformation &information) {
     const double beats = beatsInBar + information.barStartPosition - information.ppqPosition;
     if (beatsInBar <= 0.0 || (beats >= 0.0 && beats <= beatsInBar))
         return beats;
-    // Gives the same bits as adding or subtracting one bar at a time, however far away the bar is.
+    // Adding or subtracting one bar at a time would return the same bits, if it ended at all.
     const double rest = std::fmod(beats, beatsInBar);
     if (beats < 0.0)
         return rest < 0.0 ? rest + beatsInBar : 0.0;

@@ -20,14 +20,13 @@ public:
 
     void setEffect(AudioEffectX *effect) { m_theEffect = effect; }  ///< must outlive this object
 
-    /// Asks the host and updates the record. If the host gives no time, the record keeps its
-    /// values.
+    /// Asks the host and updates the information, which keeps its values if the host has no time.
     /// @param mask  the VstTimeInfoFlags to ask for; others that the host sets are read too.
     /// @return isValid()
-    /// @throws CException without an effect; otherwise it allocates nothing.
+    /// @throws CException if there is no effect. Otherwise allocates nothing.
     bool getTempoInformation(int mask);
 
-    bool isValid() const { return m_valid; }  ///< the host gave a time when it was last asked
+    bool isValid() const { return m_valid; }  ///< the host had a time when it was last asked
     const STempoInformation &getInformation() const { return *m_information; }
 
 private:

@@ -55,7 +55,7 @@ enum VstAEffectFlags : std::int32_t {
     effFlagsCanDoubleReplacing = 1 << 12
 };
 
-/// What the entry function returns. It is part of the effect, and effClose destroys it.
+/// The record that the entry function returns. It is part of the effect; effClose destroys both.
 struct AEffect {
     std::int32_t magic;  ///< kEffectMagic
     AEffectDispatcherProc dispatcher;
@@ -135,7 +135,7 @@ enum VstMidiEventFlags : std::int32_t { kVstMidiEventIsRealtime = 1 << 0 };
 /// The header common to all events; `type` gives the kind.
 struct VstEvent {
     std::int32_t type;         ///< VstEventType
-    std::int32_t byteSize;     ///< not reliable: may be less than the size of the structure
+    std::int32_t byteSize;     ///< unreliable: may be less than the size of the structure
     std::int32_t deltaFrames;  ///< from the start of the coming block
     std::int32_t flags;
     char data[16];
@@ -166,8 +166,8 @@ struct VstMidiSysexEvent {
     std::intptr_t resvd2;
 };
 
-/// The events of the coming block. The array has numEvents pointers and may be longer than
-/// declared.
+/// The events of the coming block. The array contains numEvents pointers, which may be more than
+/// declared here.
 struct VstEvents {
     std::int32_t numEvents;
     std::intptr_t reserved;
@@ -181,7 +181,7 @@ enum VstPinPropertiesFlags : std::int32_t {
     kVstPinUseSpeaker = 1 << 2
 };
 
-/// One input or output. Giada's record ends before `future`, so an effect must not write to that.
+/// One input or output. Giada's record ends before `future`, so an effect must not write there.
 struct VstPinProperties {
     char label[kVstMaxLabelLen];
     std::int32_t flags;            ///< VstPinPropertiesFlags
@@ -254,7 +254,7 @@ struct VstSpeakerArrangement {
 
 struct VstVariableIo;  ///< only passed through
 
-/// A key, made of the arguments of effEditKeyDown and effEditKeyUp.
+/// A key, from the arguments of effEditKeyDown and effEditKeyUp.
 struct VstKeyCode {
     std::int32_t character;
     unsigned char virt;

@@ -59,7 +59,7 @@ enum AEffectOpcode : std::int32_t {
     effGetVendorVersion = 49,
     effVendorSpecific = 50,
     effCanDo = 51,                   ///< ptr = text -> 1 yes, 0 unknown, -1 no
-    effGetTailSize = 52,             ///< -> 0 default, 1 none, else frames
+    effGetTailSize = 52,             ///< -> 0 default, 1 none, otherwise frames
     effIdle = 53,                    ///< deprecated
     effGetIcon = 54,                 ///< deprecated
     effSetViewPosition = 55,         ///< deprecated

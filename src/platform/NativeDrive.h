@@ -11,9 +11,9 @@
 ///         there is no such drive. On Linux also "" if the path does not exist.
 std::string nativeDriveOf(const std::string &path);
 
-/// Both are empty if there is no drive at that path.
+/// The label and file system of a drive; both are empty if there is no drive at that path.
 struct SNativeVolume {
-    std::string name;        // its label; "" if it has none
+    std::string name;        // the label; "" if it has none
     std::string fileSystem;  // "NTFS", "ext4"
 };
 SNativeVolume nativeVolume(const std::string &drive);

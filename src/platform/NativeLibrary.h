@@ -4,8 +4,8 @@
 
 /// Shared libraries. [any thread]
 
-/// @param path    in the system's narrow encoding. A bare file name means the current folder, but
-///                Windows prefers a file of that name beside the program.
+/// @param path    in the system's narrow encoding. A bare file name refers to the current folder,
+///                but on Windows a file of that name in the program's own folder comes first.
 /// @param reason  receives the system's error message if the result is null.
 /// @return a handle for the two functions below; null if the system refuses the file.
 void *openNativeLibrary(const std::string &path, std::string &reason);

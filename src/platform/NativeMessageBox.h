@@ -1,7 +1,7 @@
 #pragma once
 
-/// Shows the user a message. Windows shows a box without an owner and waits until it is closed.
-/// Linux offers a library no message box, so "caption: text" and a line feed go to standard error.
-/// [any thread]
+/// Shows the user a message. On Windows this is a box without an owner window, and the call waits
+/// until the user closes it. Linux has no system message box, so "caption: text" and a line feed go
+/// to standard error. [any thread]
 /// @param isError  gives the box the error icon.
 void showNativeMessage(const char *text, const char *caption, bool isError);

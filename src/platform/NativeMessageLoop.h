@@ -1,11 +1,11 @@
 #pragma once
 
-/// The message loop of a stand-alone program. A quit stays pending until a loop takes it, so it may
-/// be posted before the loop starts. It ends one loop only.
+/// The message loop of a stand-alone program. A quit stays pending until it ends a loop, so it may
+/// be posted before the loop starts. Each quit ends one loop.
 
-/// Runs until a quit is posted. Windows dispatches the messages of the calling thread. Linux only
-/// waits, since windows are served by the host's idle call. [gui thread]
-/// @return the result that was given to quitNativeMessageLoop().
+/// Runs until a quit is posted. On Windows it dispatches the messages of the calling thread. On
+/// Linux it only waits, since the host's idle call serves the windows. [gui thread]
+/// @return the result that was passed to quitNativeMessageLoop().
 int runNativeMessageLoop();
 
 /// Posts a quit. [gui thread]; on Linux [any thread]

@@ -4,7 +4,7 @@
 
 /// The files that the running code was loaded from. [any thread]
 
-/// @return the program or library that this code is linked into: the address it was loaded at.
+/// @return the load address of the program or library that this code is linked into.
 void *nativeModuleHandle();
 
 /// @param module  a loaded program or library; null for the program of the process.

@@ -1,4 +1,4 @@
 #pragma once
 
-/// The separator in paths, a string of one byte: "/" or "\\".
+/// The path separator as a string of one character: "/" on Linux, "\\" on Windows.
 extern const char nativePathSeparator[2];

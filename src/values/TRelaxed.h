@@ -2,10 +2,10 @@
 
 #include <atomic>
 
-/// A value that one thread writes while another reads it, and that reads like a plain one.
+/// A value that one thread may write while another reads it. It is used like a plain variable.
 /// Loads and stores are relaxed: on x86-64 the same machine instructions as plain accesses, without
-/// the undefined behaviour. It orders nothing: a reader may see one field new and its neighbour
-/// old.
+/// the undefined behaviour. Nothing is ordered: a reader may see the new value of one field and the
+/// old value of the next.
 template <typename Value>
 class TRelaxed {
     static_assert(std::atomic<Value>::is_always_lock_free);
@@ -21,8 +21,8 @@ public:
     }
     TRelaxed &operator=(const TRelaxed &other) { return *this = other.load(); }
 
-    /// Stores `value` unless it is there already. Only one thread may store. @return whether it
-    /// did.
+    /// Stores `value` if it differs from the present one. Only one thread may store.
+    /// @return true if it was stored.
     bool storeIfNew(Value value) {
         if (value == load())
             return false;

@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <limits>
 
-/// Drops the fraction. A value that does not fit into 32 bits, or is not a number, gives the
-/// smallest integer: C++ leaves that case undefined, and this is what the processor returns.
+/// Drops the fraction. A value that does not fit into 32 bits, or is not a number, becomes the
+/// smallest integer. In C++ that conversion is undefined; the processor returns the same.
 constexpr std::int32_t truncated(double value) {
     constexpr std::int32_t smallest = std::numeric_limits<std::int32_t>::min();
     constexpr double tooLarge = 0x1p31;

@@ -30,9 +30,9 @@ TYPED_TEST_SUITE(CCorvelAllocation, Precisions);
 
 }  // namespace
 
-// A de-esser sees blocks only while it is in the chain, so each program plays the longest block
-// once.
-TYPED_TEST(CCorvelAllocation, DoesNotHappenOnceTheLongestBlockWasSeen) {
+// A de-esser grows its buffers only while it is in the chain, so each program first plays the
+// longest block once.
+TYPED_TEST(CCorvelAllocation, DoesNotHappenOnceTheLongestBlockHasBeenSeen) {
     for (int program = 0; program < 20; ++program) {
         this->effect.setProgram(program);
         this->runBlock(longest);

@@ -59,7 +59,7 @@ TEST_F(CCorvelTest, CountsItselfInItsClassRecord) {
     EXPECT_EQ(effect.getClass().getInstanceCount(), before);
 }
 
-TEST_F(CCorvelTest, StartsOnLeadVocalWithAllItsValues) {
+TEST_F(CCorvelTest, StartsWithAllValuesOfLeadVocal) {
     const Tessitor::Corvel::SProgram &lead = Tessitor::Corvel::factoryPrograms[0];
     EXPECT_EQ(effect.getProgram(), 0);
     for (int id = 0; id < 64; ++id)
@@ -214,7 +214,7 @@ TEST_F(CCorvelTest, SoundsTheSameAtEveryHostRateAndBlockSize) {
     EXPECT_EQ(render(effect, voice, 1000), render(other, voice, 1000));
 }
 
-TEST_F(CCorvelTest, ReplacesTheOutputInItsProcessOperation) {
+TEST_F(CCorvelTest, OverwritesTheOutputInItsProcessOperation) {
     effect.setProgram(emptyProgram);
     TStereo<float> voice = makeSignal<float>(ESignal::Noise, 7, 32);
     TStereo<float> result(32, 9.0f);
@@ -238,7 +238,7 @@ TEST_F(CCorvelTest, WorksInPlace) {
     EXPECT_EQ(inPlace, render(other, voice, 2048));
 }
 
-TEST_F(CCorvelTest, NeverWritesTheInput) {
+TEST_F(CCorvelTest, NeverWritesToTheInput) {
     for (int program = 0; program < 20; ++program) {
         effect.setProgram(program);
         TStereo<float> voice = makeSignal<float>(ESignal::Mixed, 10, 777);

@@ -14,7 +14,7 @@ using Tessitor::Corvel::SProgram;
 
 namespace {
 
-/// Does one thing that the thread of a host or an editor may do while the audio runs.
+/// Does one thing that a host's or an editor's thread may do while the audio runs.
 void changeSomething(CCorvel &effect, CRandom &random, const SProgram &full) {
     CDSPMultiFX &strip = effect.getStrip();
     char text[64];
@@ -79,7 +79,7 @@ void processBesideChanges(CCorvel &effect) {
 
 }  // namespace
 
-// Under ThreadSanitizer this proves that the two instances share no plain field.
+// Under ThreadSanitizer, these tests show that no plain field is shared by two threads.
 TEST(CCorvelThreads, MayChangeEverythingWhileTheAudioRuns) {
     FakeHost host;
     host.logging = false;

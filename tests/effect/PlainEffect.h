@@ -10,8 +10,8 @@
 #include <vector>
 
 /// The plain version of the effect: the programs and what each host call does to them, on top of
-/// the plain strip. Parameter values start at 0, so a 0 in the first program never reaches its
-/// module.
+/// the plain strip. Kept: parameter values start at 0, so a 0 in the first program never reaches
+/// its module.
 class CPlainEffect {
 public:
     using SProgram = Tessitor::Corvel::SProgram;
@@ -45,13 +45,13 @@ public:
         apply(*target(isPreset));
     }
 
-    /// What effMainsChanged does when it switches on.
+    /// What effMainsChanged with the value 1 does.
     void resume(bool isRightConnected) {
         strip.resetAllModules();
         strip.setMonoInput(!isRightConnected);
     }
 
-    /// @param bpm  the host's tempo at the next block; none for a host that provides no time.
+    /// @param bpm  the host's tempo at the next block; unset if the host has no time information.
     void setTempo(std::optional<double> bpm) {
         if (bpm)
             strip.setTempo(static_cast<float>(*bpm));

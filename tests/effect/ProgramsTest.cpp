@@ -162,7 +162,7 @@ TEST_F(Programs, SurviveSavingAndLoadingABank) {
     EXPECT_EQ(nameOf(fresh), "Ballad of mine");
 }
 
-TEST_F(Programs, AreLoadedSinglyIntoTheCurrentRecord) {
+TEST_F(Programs, AreLoadedOneAtATimeIntoTheCurrentRecord) {
     effect.setProgram(5);
     const std::vector<char> chunk = chunkOf(effect, true);
     ASSERT_EQ(chunk.size(), 424u);
@@ -177,7 +177,7 @@ TEST_F(Programs, AreLoadedSinglyIntoTheCurrentRecord) {
     EXPECT_EQ(asProgram(chunkOf(effect, false), 2), factoryPrograms[5]);
 }
 
-TEST_F(Programs, SoundLikeTheFirstAfterABankWasLoaded) {
+TEST_F(Programs, PlayTheFirstAfterABankIsLoaded) {
     const std::vector<char> bank = chunkOf(effect, false);
     effect.setProgram(9);
     load(effect, bank, false);

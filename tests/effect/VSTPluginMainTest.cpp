@@ -8,7 +8,7 @@ extern "C" AEffect *VSTPluginMain(audioMasterCallback host);
 
 namespace {
 
-/// Loads the effect while one allocation fails, and closes it if it was built nevertheless.
+/// Loads the effect while one allocation fails. If it is created all the same, closes it.
 bool loads(int failing) {
     AEffect *effect = nullptr;
     {
@@ -27,7 +27,7 @@ TEST(VSTPluginMain, ReportsThatTheEffectCannotBeBuiltAndReturnsNull) {
     FakeHost host;
     host.logging = false;
     ASSERT_TRUE(loads(1'000'000));
-    // Only allocations of the effect and its host services: the modules' delay lines would assert.
+    // Only allocations before those of the modules, since a module without its delay line asserts.
     constexpr int beforeTheModules = 100;
     for (int failing = 0; failing < beforeTheModules; ++failing) {
         testing::internal::CaptureStderr();

@@ -36,7 +36,7 @@ TEST_F(CApplicationInformationStore, IsEmptyAtFirst) {
     EXPECT_STREQ(CApplicationInformation::getApplicationPath().getString(), "");
 }
 
-TEST_F(CApplicationInformationStore, KeepsEachText) {
+TEST_F(CApplicationInformationStore, StoresEachText) {
     set();
     EXPECT_STREQ(CApplicationInformation::getCompanyName().getString(), "company");
     EXPECT_STREQ(CApplicationInformation::getApplicationName().getString(), "application");
@@ -46,7 +46,7 @@ TEST_F(CApplicationInformationStore, KeepsEachText) {
     EXPECT_STREQ(CApplicationInformation::getCopyrightString().getString(), "copyright");
 }
 
-TEST_F(CApplicationInformationStore, TakesNullAsAnEmptyText) {
+TEST_F(CApplicationInformationStore, StoresNullAsAnEmptyText) {
     set();
     CApplicationInformation::setApplicationInformation(nullptr, nullptr, nullptr, nullptr, nullptr,
                                                        nullptr, nullptr);
@@ -58,7 +58,7 @@ TEST_F(CApplicationInformationStore, TakesNullAsAnEmptyText) {
     EXPECT_STREQ(CApplicationInformation::getCopyrightString().getString(), "");
 }
 
-TEST_F(CApplicationInformationStore, KeepsTheHandle) {
+TEST_F(CApplicationInformationStore, StoresTheHandle) {
     set();
     EXPECT_EQ(CApplicationInformation::getInstanceHandle(), nativeModuleHandle());
     EXPECT_EQ(CApplicationInformation::getModuleHandle(), nativeModuleHandle());
@@ -76,7 +76,7 @@ TEST_F(CApplicationInformationStore, ReadsTheProcessorFeatures) {
     EXPECT_TRUE(Tessitor::Basics::getProcessorFeatures().hasSse2);
 }
 
-TEST_F(CApplicationInformationStore, GivesTheFilesOfProgramAndModule) {
+TEST_F(CApplicationInformationStore, ReturnsThePathsOfProgramAndModule) {
     const CDLLLoader library(SAMPLE_MODULE);
     const auto handle = reinterpret_cast<void *(*)()>(library.getFunction("sampleModuleHandle"))();
     CApplicationInformation::setApplicationInformation("", "", "", "", "", "", handle);

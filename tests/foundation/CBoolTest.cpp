@@ -7,7 +7,7 @@ using Tessitor::Basics::CString;
 
 namespace {
 
-TEST(CBool, KeepsWhatItIsGiven) {
+TEST(CBool, StoresItsValue) {
     EXPECT_FALSE(CBool().getValue());
     CBool value(true);
     EXPECT_TRUE(value.getValue());
@@ -40,7 +40,7 @@ TEST(CBool, ReadsOnlyTrueAsTrue) {
     EXPECT_TRUE(value.getValue());
 }
 
-TEST(CBool, TextComesBack) {
+TEST(CBool, ConvertsToTextAndBack) {
     EXPECT_STREQ(CBool(true).toString().getString(), "True");
     EXPECT_STREQ(CBool(false).toString().getString(), "False");
     EXPECT_TRUE(CBool(CBool(true).toString()).getValue());

@@ -18,7 +18,7 @@ namespace {
 
 constexpr std::size_t headLength = 450;  // five lines
 
-/// Records for a manager of the test's own. They also register with the program's manager.
+/// The test's own manager and its records, which also register with the program's manager.
 class CClassManagerList : public testing::Test {
 protected:
     std::string report() const {

@@ -12,7 +12,7 @@ namespace {
 struct SArgument {};
 struct SOther {};
 
-/// Whether a class of this name is registered. Only then is it found as an ancestor.
+/// @return true if a class of this name is registered: only then is it found as an ancestor.
 bool isRegistered(const char *name) {
     const CClass child("CChildOfIt", name);
     CClass named;
@@ -53,14 +53,14 @@ TEST(CClass, BelowZeroTheCountWraps) {
     EXPECT_EQ(record.getTotalCount(), 0u);
 }
 
-TEST(CClass, OfTwoRecordsWithOneNameTheFirstIsRegisteredButBothCount) {
+TEST(CClass, OfTwoRecordsWithTheSameNameOnlyTheFirstIsRegisteredButBothCount) {
     const CClass ancestor("CFirstAncestor");
     CClass first("CTwice", "CFirstAncestor");
     CClass second("CTwice", "CSecondAncestor");
     second.incrementInstanceCount();
     EXPECT_EQ(first.getInstanceCount(), 0u);
     EXPECT_EQ(second.getInstanceCount(), 1u);
-    // The search for ancestors goes on with the parent of the registered record.
+    // The search for ancestors continues from the registered record.
     EXPECT_TRUE(CClass("CBelow", "CTwice").isTypeOf(ancestor));
 }
 
@@ -163,7 +163,7 @@ TEST(CClass, AParentWithoutARecordEndsTheSearch) {
     EXPECT_FALSE(record.isTypeOf(grandparent));
 }
 
-TEST(CClass, ParentNamesInACircleEndTheSearch) {
+TEST(CClass, ACycleOfParentNamesEndsTheSearch) {
     const CClass selfish("CSelfish", "CSelfish");
     const CClass left("CCircleLeft", "CCircleRight"), right("CCircleRight", "CCircleLeft");
     const CClass target("CElsewhere");

@@ -66,7 +66,7 @@ TEST(CCountedObject, ACopyHasTheSameCountAndLowersTheNumberOfInstances) {
     }
     EXPECT_EQ(record.getInstanceCount(), instances - 1);
     EXPECT_EQ(record.getTotalCount(), total);
-    original.getClass().incrementInstanceCount();  // undoes the asymmetry for the next test
+    original.getClass().incrementInstanceCount();  // restores the count for the next test
 }
 
 TEST(CCountedObject, AssignmentDoesNotCopyTheCount) {
@@ -76,7 +76,7 @@ TEST(CCountedObject, AssignmentDoesNotCopyTheCount) {
     EXPECT_EQ(left.getReferenceCount(), 0);
 }
 
-TEST(CCountedObject, DescriptionGivesTheCountWithoutAClosingBracket) {
+TEST(CCountedObject, DescriptionShowsTheCountWithoutAClosingBracket) {
     CCountedObject object;
     object.reference();
     char text[64];

@@ -26,7 +26,7 @@ TEST(CCriticalSection, KeepsOtherThreadsOut) {
     EXPECT_TRUE(canBeTakenElsewhere(section));
 }
 
-TEST(CCriticalSection, CanBeTakenAgainByItsHolder) {
+TEST(CCriticalSection, CanBeLockedAgainByItsHolder) {
     CCriticalSection section;
     section.lock();
     section.lock();

@@ -15,7 +15,7 @@ using Tessitor::Host::CDLLLoader;
 
 namespace {
 
-/// @return true if the loader has the function of the sample library and it works.
+/// @return true if the loader finds the function of the sample library and it works.
 bool hasSample(const CDLLLoader &loader) {
     const auto ask = reinterpret_cast<std::size_t (*)(char *, std::size_t)>(
         loader.getFunction("sampleModulePath"));

@@ -6,7 +6,7 @@ using Tessitor::MathTools::CDimension;
 
 namespace {
 
-TEST(CDimension, KeepsWhatItIsGiven) {
+TEST(CDimension, StoresItsSize) {
     CDimension size(3, 4);
     EXPECT_EQ(size.getWidth(), 3);
     EXPECT_EQ(size.getHeight(), 4);

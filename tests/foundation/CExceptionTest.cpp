@@ -34,7 +34,7 @@ TEST(CException, ACopyLowersTheNumberOfInstances) {
     copyOf(original);
     EXPECT_EQ(record.getInstanceCount(), instances - 1);
     EXPECT_EQ(record.getTotalCount(), total);
-    original.getClass().incrementInstanceCount();  // undoes the asymmetry for the next test
+    original.getClass().incrementInstanceCount();  // restores the count for the next test
 }
 
 TEST(CException, HasItsOwnRecord) {

@@ -110,9 +110,9 @@ TEST_F(CFileStreamFile, TheByteOrderMayBeIgnored) {
     EXPECT_EQ(value, 0x1234);
 }
 
-TEST_F(CFileStreamFile, KeepsTheBytesOfAFloatThatIsASignallingNaNOnceSwapped) {
+TEST_F(CFileStreamFile, KeepsTheBytesOfAFloatThatIsASignallingNaNWhenSwapped) {
     const auto value =
-        std::bit_cast<float>(std::uint32_t{0x0001A07F});  // a signalling NaN once swapped
+        std::bit_cast<float>(std::uint32_t{0x0001A07F});  // a signalling NaN with its bytes swapped
     EXPECT_EQ(written(value, false), std::string("\0\x01\xA0\x7F", 4));
     EXPECT_EQ(written(value, true), std::string("\x7F\xA0\x01\0", 4));
     CFileStream stream(path, EStreamMode::Read, false);
@@ -178,7 +178,7 @@ TEST_F(CFileStreamFile, DoesNotOpenAFolder) {
     EXPECT_FALSE(stream.open(folder.path().string().c_str(), EStreamMode::Write));
 }
 
-TEST_F(CFileStreamFile, OpenForReadingItRejectsWritingWithoutAFailure) {
+TEST_F(CFileStreamFile, RejectsWritingWhileOpenForReadingWithoutAFailure) {
     write("kept");
     CFileStream stream(path, EStreamMode::Read);
     EXPECT_FALSE(stream.write("lost", 4));
@@ -190,7 +190,7 @@ TEST_F(CFileStreamFile, OpenForReadingItRejectsWritingWithoutAFailure) {
     EXPECT_EQ(read(), "kept");
 }
 
-TEST_F(CFileStreamFile, OpenForWritingItRejectsReadingWithoutAFailure) {
+TEST_F(CFileStreamFile, RejectsReadingWhileOpenForWritingWithoutAFailure) {
     CFileStream stream(path, EStreamMode::Write);
     EXPECT_TRUE(stream.write("text", 4));
     EXPECT_TRUE(stream.rewind());
@@ -251,7 +251,7 @@ TEST_F(CFileStreamFile, WritesAtThePositionThatWasSought) {
     EXPECT_EQ(read(), "aBcdef");
 }
 
-TEST_F(CFileStreamFile, GivesTheLengthAndKeepsItsPosition) {
+TEST_F(CFileStreamFile, ReturnsTheLengthAndKeepsItsPosition) {
     write("abcdef");
     CFileStream stream(path, EStreamMode::Read);
     stream.seekFromStart(4);
@@ -261,7 +261,7 @@ TEST_F(CFileStreamFile, GivesTheLengthAndKeepsItsPosition) {
     EXPECT_EQ(byte, 'e');
 }
 
-TEST_F(CFileStreamFile, HasNoLengthWhileWritingAndThatIsNoFailure) {
+TEST_F(CFileStreamFile, HasNoLengthWhileWritingButDoesNotFail) {
     CFileStream stream(path, EStreamMode::Write);
     stream << 'x';
     EXPECT_EQ(stream.getStreamLength(), -1);

@@ -17,7 +17,7 @@ bool isShellWilling = true;
 
 }  // namespace
 
-// The linker takes this instead of the library's function, so no test opens a browser.
+// The linker uses this instead of the library's function, so no test opens a browser.
 bool openNativeDocument(const std::string &document) {
     openedDocuments.push_back(document);
     return isShellWilling;

@@ -14,7 +14,7 @@ TEST(CLong, IsZeroAtFirst) {
     EXPECT_EQ(CLong().getValue(), 0);
 }
 
-TEST(CLong, KeepsWhatItIsGiven) {
+TEST(CLong, StoresItsValue) {
     CLong number(5);
     EXPECT_EQ(number.getValue(), 5);
     number.setValue(-6);
@@ -54,11 +54,11 @@ TEST(CLong, WrapsAtTheEndsOfTheRange) {
     EXPECT_EQ(CLong(5) / -1, -5);
 }
 
-TEST(CLong, DividedByZeroIsZero) {
+TEST(CLong, DividingByZeroReturnsZero) {
     EXPECT_EQ(CLong(5) / 0, 0);
 }
 
-TEST(CLong, TextIsFilledWithZerosToTheWidth) {
+TEST(CLong, PadsTextWithZerosToTheWidth) {
     EXPECT_STREQ(CLong::toString(7, 3).getString(), "007");
     EXPECT_STREQ(CLong::toString(-7, 3).getString(), "-07");
     EXPECT_STREQ(CLong::toString(12345, 3).getString(), "12345");

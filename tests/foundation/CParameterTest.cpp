@@ -8,7 +8,7 @@ using Tessitor::MathTools::CParameter;
 
 namespace {
 
-TEST(CParameter, IsHalfOfOneAtFirst) {
+TEST(CParameter, StartsAtAHalfBetweenZeroAndOne) {
     CParameter parameter;
     EXPECT_EQ(parameter.getValue(), 0.5);
     EXPECT_EQ(parameter.getMinimum(), 0.0);
@@ -16,7 +16,7 @@ TEST(CParameter, IsHalfOfOneAtFirst) {
     EXPECT_EQ(parameter.updateValue(0.25), 0.25);
 }
 
-TEST(CParameter, SpreadsANormalisedValueOverItsRange) {
+TEST(CParameter, MapsANormalisedValueToItsRange) {
     CParameter parameter;
     parameter.setRange(-10.0, 30.0);
     EXPECT_EQ(parameter.getValue(), 0.5);
@@ -26,7 +26,7 @@ TEST(CParameter, SpreadsANormalisedValueOverItsRange) {
     EXPECT_EQ(parameter.updateValue(1.5), 50.0);
 }
 
-TEST(CParameter, ARangeFromAboveToBelowChangesNothing) {
+TEST(CParameter, IgnoresARangeWithItsMaximumBelowItsMinimum) {
     CParameter parameter;
     parameter.setRange(2.0, 4.0);
     parameter.setRange(5.0, 1.0);
@@ -42,7 +42,7 @@ TEST(CParameter, ARangeMayBeEmpty) {
     EXPECT_EQ(parameter.updateValue(0.7), 3.0);
 }
 
-TEST(CParameter, ASetValueMayLieOutside) {
+TEST(CParameter, ASetValueMayLieOutsideTheRange) {
     CParameter parameter;
     parameter.setValue(-7.25);
     EXPECT_EQ(parameter.getValue(), -7.25);

@@ -12,7 +12,7 @@ namespace {
 constexpr std::int32_t greatest = std::numeric_limits<std::int32_t>::max();
 constexpr std::int32_t least = std::numeric_limits<std::int32_t>::min();
 
-TEST(CPoint, KeepsWhatItIsGiven) {
+TEST(CPoint, StoresItsPosition) {
     CPoint point(3, -4);
     EXPECT_EQ(descriptionOf(point), "[3,-4]");
     point.setPoint(5, 6);
@@ -61,7 +61,7 @@ TEST(CPoint, EqualsOnlyAPointAtTheSamePosition) {
     EXPECT_FALSE(CPoint(1, 2) == CPoint(3, 2));
 }
 
-TEST(CPoint, SharesACoordinateOnARowOrInAColumn) {
+TEST(CPoint, SharesACoordinateInTheSameRowOrColumn) {
     EXPECT_TRUE(CPoint(1, 2).hasCommonCoordinate(CPoint(9, 2)));
     EXPECT_TRUE(CPoint(1, 2).hasCommonCoordinate(CPoint(1, 9)));
     EXPECT_FALSE(CPoint(1, 2).hasCommonCoordinate(CPoint(2, 1)));

@@ -1,5 +1,5 @@
 // Some operations of CString cannot fail, so no failure shows which fence they use. This program
-// has a CString of its own, compiled with fences that note which one is entered.
+// compiles its own CString, with fences that record which one is entered.
 #include "foundation/CPascalString.h"
 #include "foundation/CString.h"
 #include "foundation/CStringFences.h"
@@ -31,14 +31,14 @@ using Tessitor::Basics::CString;
 
 namespace {
 
-/// The fence of an operation that cannot fail, with the words that it does not share with the
-/// others.
+/// An operation that cannot fail, with the texts of its fence. The words that all fences share are
+/// left out.
 struct SUse {
     void (*run)(CString &string);
     std::string function, lead, unknown;
 };
 
-TEST(CStringFences, AreRightAroundTheOperationsThatCannotFail) {
+TEST(CStringFences, NameTheirOperationEvenIfItCannotFail) {
     const SUse uses[] = {
         {[](CString &) {
              const CString passing;

@@ -14,7 +14,7 @@ using Tessitor::Exceptions::CException;
 
 namespace {
 
-/// The texts that the fence of an operation adds, without the words that all fences share.
+/// The texts that the fence of an operation adds. The words that all fences share are left out.
 struct SExpected {
     const char *function, *lead, *unknown;
 
@@ -77,8 +77,8 @@ SReport reportOf(Operation operation, String &string) {
 
 enum class EFailure { Known, Unknown };
 
-/// The string "e". The operations that others of CString call fail here. The tests call those
-/// others by their qualified names, which bypasses the overrides.
+/// The string "e", with overrides that fail. The tests call an operation of CString by its
+/// qualified name, and the overrides that it calls fail inside its fence.
 class CFailingString : public CString {
 public:
     explicit CFailingString(EFailure failure) : CString("e"), m_failure(failure) {}
@@ -246,7 +246,7 @@ const SAllocatingOperation allocatingOperations[] = {
      " lx than what a string keeps within itself "},
 };
 
-/// Runs the operation on the block text while one allocation, counted from 0, fails.
+/// Runs the operation on blockText while the allocation with this number, from 0, fails.
 template <typename Operation>
 SReport reportWithoutMemory(int allocation, Operation operation, CString &string) {
     string.setString(blockText);
@@ -256,7 +256,8 @@ SReport reportWithoutMemory(int allocation, Operation operation, CString &string
 
 class CStringFencesWithoutMemory : public testing::TestWithParam<SAllocatingOperation> {};
 
-// The first allocation fails, then the second in a new try, and so on until the operation succeeds.
+// Runs each operation again and again: its first allocation fails, then its second, and so on until
+// it succeeds.
 TEST_P(CStringFencesWithoutMemory, ReportEachFailedAllocationAndLeaveTheStringValid) {
     const auto &[name, expected, run, result] = GetParam();
     CString string(blockText);

@@ -18,8 +18,8 @@ using Tessitor::Basics::CSystemString;
 
 namespace {
 
-/// A string with a terminator in the middle: "a.txt" becomes "a", a terminator, "txt" and another
-/// terminator, so it has 6 characters.
+/// A string with a terminator in the middle: "a.txt" becomes "a\0txt". It still has 6 characters,
+/// with the terminator at the end.
 class CCutString : public CSystemString {
 public:
     explicit CCutString(const char *text) : CSystemString(text) { removeExtension(); }
@@ -37,7 +37,7 @@ TEST(CString, AnEmptyStringHasOneCharacterItsTerminator) {
     EXPECT_EQ(empty.findBackwards('\0'), 0);
 }
 
-TEST(CString, TakesNullAsAnEmptyText) {
+TEST(CString, TreatsNullAsAnEmptyText) {
     const CString string(nullptr);
     EXPECT_STREQ(string.getString(), "");
     EXPECT_EQ(string.getNumberOfCharacters(), 1);
@@ -129,7 +129,7 @@ TEST(CString, AssignmentOfAConstStringDoesNothingIfTheTextsAreEqual) {
     EXPECT_EQ(string.getNumberOfCharacters(), 2);
 }
 
-TEST(CString, AssignmentOfANonConstStringDoesNothingOnlyForItself) {
+TEST(CString, AssignmentOfANonConstStringCopiesUnlessItIsTheSameObject) {
     CCutString cut("a.txt");
     CString &string = cut;
     string = cut;
@@ -140,7 +140,7 @@ TEST(CString, AssignmentOfANonConstStringDoesNothingOnlyForItself) {
     EXPECT_EQ(string.getNumberOfCharacters(), 2);
 }
 
-TEST(CString, TakesTextsThatPointIntoItself) {
+TEST(CString, AcceptsTextsThatPointIntoItself) {
     CString string("one two");
     string = string.getString() + 4;
     EXPECT_STREQ(string.getString(), "two");
@@ -182,7 +182,7 @@ TEST(CString, ComparesIgnoringCase) {
     EXPECT_FALSE(CString("[").equalsIgnoringCase("{"));
 }
 
-TEST(CString, GivesABlankForABadIndex) {
+TEST(CString, ReturnsABlankForABadIndex) {
     const CString string("abc");
     EXPECT_EQ(string.characterAt(0), 'a');
     EXPECT_EQ(string[2], 'c');
@@ -356,7 +356,7 @@ TEST(CString, RemovesLeadingWhiteSpaceBeforeTrailing) {
     CString string("  abc  ");
     string.removeTrailingAndLeadingWhiteSpace();
     EXPECT_STREQ(string.getString(), "abc");
-    // In the other order the letter would be kept.
+    // In the reverse order, the letter would be kept.
     string = " a ";
     string.removeTrailingAndLeadingWhiteSpace();
     EXPECT_STREQ(string.getString(), "");
@@ -468,7 +468,7 @@ TEST(CString, FindsASubStringOnlyWhereItsFirstCharacterFirstOccurs) {
     EXPECT_EQ(CString("").findSubString("a"), -1);
 }
 
-TEST(CString, KnowsWhiteSpace) {
+TEST(CString, RecognisesWhiteSpace) {
     for (int byte = 0; byte < 256; ++byte) {
         const bool expected = byte == ' ' || (byte >= 9 && byte <= 13);
         EXPECT_EQ(CString::isWhiteSpace(static_cast<char>(byte)), expected) << byte;
@@ -504,7 +504,7 @@ TEST(CString, ConvertsTextToNumbers) {
     EXPECT_EQ(CString::toInt(CString("-2147483648")), INT_MIN);
 }
 
-TEST(CString, NumbersOutsideTheRangeOfTheirTypeBecomeTheNearest) {
+TEST(CString, NumbersOutsideTheRangeOfTheirTypeBecomeTheNearestInRange) {
     EXPECT_EQ(CString::toInt("2147483648"), INT_MAX);
     EXPECT_EQ(CString::toInt("-99999999999999999999"), INT_MIN);
     EXPECT_EQ(CString::toLong("99999999999999999999"), LONG_MAX);

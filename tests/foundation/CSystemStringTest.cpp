@@ -78,7 +78,7 @@ TEST(CSystemString, TextsPathsStringsAndNumbersAreAssigned) {
     EXPECT_STREQ(string.getString(), "007");
 }
 
-TEST(CSystemString, AssignmentDoesNothingOnlyForItself) {
+TEST(CSystemString, OnlySelfAssignmentDoesNothing) {
     CSystemString string("a.txt"), same("a");
     const CSystemString &itself = string;
     string.removeExtension();
@@ -222,7 +222,7 @@ TEST(CSystemString, RemovesItsFileName) {
     EXPECT_EQ(after("file", &CSystemString::removeFileName), "file");
 }
 
-TEST(CSystemString, GivesThePathOfAFileWithAnExtension) {
+TEST(CSystemString, ReturnsThePathOfAFileWithAnExtension) {
     EXPECT_EQ(path("c:/dir/file.txt").getPath(), native("c:/dir/").c_str());
     EXPECT_EQ(path("c:/dir/file").getPath(), native("c:/dir/file").c_str());
     EXPECT_EQ(path("/file.txt").getPath(), nativePathSeparator);
@@ -230,7 +230,7 @@ TEST(CSystemString, GivesThePathOfAFileWithAnExtension) {
     EXPECT_EQ(path("").getPath(), "");
 }
 
-TEST(CSystemString, GivesTheDrive) {
+TEST(CSystemString, ReturnsTheDrive) {
     EXPECT_EQ(path("c:/dir/file").getDrive(false), "c");
     EXPECT_EQ(path("").getDrive(false), "");
     EXPECT_EQ(path("c:/dir/file").getDrive(true), native("c:/").c_str());
@@ -240,7 +240,7 @@ TEST(CSystemString, GivesTheDrive) {
     EXPECT_EQ(path("").getDrive(true), "");
 }
 
-TEST(CSystemString, GivesTheExtensionWithItsDot) {
+TEST(CSystemString, ReturnsTheExtensionWithItsDot) {
     EXPECT_EQ(path("c:/dir/file.txt").getExtension(), ".txt");
     EXPECT_EQ(path("a.b.c").getExtension(), ".c");
     EXPECT_EQ(path(".txt").getExtension(), ".txt");
@@ -248,7 +248,7 @@ TEST(CSystemString, GivesTheExtensionWithItsDot) {
     EXPECT_EQ(path("a").getExtension(), "");
 }
 
-TEST(CSystemString, GivesTheFileName) {
+TEST(CSystemString, ReturnsTheFileName) {
     EXPECT_EQ(path("c:/dir/file.txt").getFileName(), "file.txt");
     EXPECT_EQ(path("/f").getFileName(), "f");
     EXPECT_EQ(path("dir/").getFileName(), "");
@@ -264,7 +264,7 @@ TEST(CSystemString, CountsPathSections) {
     EXPECT_EQ(path("").getNumberOfPathSections(), 0);
 }
 
-TEST(CSystemString, GivesPathSectionsWithASeparatorAfterTheFirst) {
+TEST(CSystemString, ReturnsPathSectionsWithASeparatorAfterTheFirst) {
     const auto section = [](const std::string &slashed, long index) {
         const std::unique_ptr<CString> found(path(slashed).getPathSection(index));
         return found == nullptr ? std::string("null") : found->getString();
@@ -282,7 +282,7 @@ TEST(CSystemString, GivesPathSectionsWithASeparatorAfterTheFirst) {
     EXPECT_EQ(section("/dir/file", 2), "null") << "two are counted, and the first is empty";
 }
 
-TEST(CSystemString, GivesItsLastPathSection) {
+TEST(CSystemString, ReturnsItsLastPathSection) {
     EXPECT_EQ(path("c:/dir/file").getLastPathSection(), "file");
     EXPECT_EQ(path("file").getLastPathSection(), native("file/").c_str());
     EXPECT_EQ(path("/dir/file").getLastPathSection(), "dir");
@@ -296,8 +296,8 @@ TEST(CSystemString, SplitsALongPathAsIfItEndedAfter2047Bytes) {
 }
 
 /// Runs the operation again and again on a path: its first allocation fails, then its second, and
-/// so on until it succeeds. A failure other than a CException leaves here.
-/// @return what the first failure reports.
+/// so on until it succeeds. Any exception but a CException is passed on.
+/// @return the report of the first failure.
 template <typename Operation>
 std::string firstReportOf(Operation operation) {
     std::string firstReport;
@@ -314,7 +314,7 @@ std::string firstReportOf(Operation operation) {
     }
 }
 
-TEST(CSystemString, ReportsAShortageOfMemoryAsAnException) {
+TEST(CSystemString, ReportsFailedAllocationsAsExceptions) {
     const char *const construction = "Caught unknown exception during string construction";
     EXPECT_EQ(firstReportOf([](CSystemString &p) { p.removeFileName(); }), construction);
     EXPECT_EQ(firstReportOf([](CSystemString &p) { p.getPath(); }), construction);
@@ -322,7 +322,7 @@ TEST(CSystemString, ReportsAShortageOfMemoryAsAnException) {
     EXPECT_EQ(firstReportOf([](CSystemString &p) { p.removeLastPathSection(); }), construction);
 }
 
-TEST(CSystemString, ReportsAShortageOfMemoryForAPathSectionAsAnException) {
+TEST(CSystemString, ReportsAFailedAllocationOfAPathSectionAsAnException) {
     const auto get = [](long index) {
         return [index](const CSystemString &p) {
             const std::unique_ptr<CString> section(p.getPathSection(index));

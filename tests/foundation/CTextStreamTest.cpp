@@ -256,7 +256,7 @@ TEST_F(CTextStreamFile, ReadsNumbers) {
     EXPECT_TRUE(stream.hasFailed());
 }
 
-TEST_F(CTextStreamFile, GivesEmptyStringIfItFailsBeforeTheFirstLine) {
+TEST_F(CTextStreamFile, ReadsEmptyStringIfItFailsBeforeTheFirstLine) {
     write("none\nline\n");
     CTextStream stream(path, EStreamMode::Read);
     int number = 7;

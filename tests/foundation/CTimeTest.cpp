@@ -36,7 +36,7 @@ TEST(CTime, IsZeroAtFirst) {
     EXPECT_EQ(textOf(CTime()), "0-0-0(0) 0:0:0.0");
 }
 
-TEST(CTime, KeepsWhatItIsGiven) {
+TEST(CTime, StoresEachField) {
     EXPECT_EQ(textOf(sample()), "2026-3-1(0) 7:8:9.5");
     EXPECT_EQ(textOf(CTime(sample())), "2026-3-1(0) 7:8:9.5");
     CTime time;
@@ -64,7 +64,7 @@ TEST(CTime, NamesEveryDayAndEveryMonth) {
     }
 }
 
-TEST(CTime, ADayOrMonthThatDoesNotExistHasNoName) {
+TEST(CTime, AnInvalidDayOrMonthHasNoName) {
     CTime time = sample();
     time.setDayOfWeek(7);
     time.setMonth(13);
@@ -91,7 +91,7 @@ TEST(CTime, ConvertsToFileTimeAndBack) {
     time.fromFileTime(0);
     EXPECT_EQ(textOf(time), "1601-1-1(1) 0:0:0.0");
     EXPECT_EQ(time.toFileTime(), 0u);
-    // 29 February 2024, a Thursday, 23:59:59.999 and 9,999 ticks of the next millisecond
+    // Thursday 29 February 2024, 23:59:59.999 and 9,999 ticks into the next millisecond
     constexpr std::uint64_t leapDay = 133'537'247'999'999'999;
     time.fromFileTime(leapDay);
     EXPECT_EQ(textOf(time), "2024-2-29(4) 23:59:59.999");
@@ -108,7 +108,7 @@ TEST(CTime, ConvertsTheLargestFileTime) {
     EXPECT_EQ(textOf(time), "2026-3-1(0) 7:8:9.5");
 }
 
-TEST(CTime, ATimeThatDoesNotExistHasNoFileTime) {
+TEST(CTime, AnInvalidTimeHasNoFileTime) {
     using Change = void (*)(CTime &);
     const Change changes[] = {
         [](CTime &t) { t.setYear(1600); },  [](CTime &t) { t.setYear(30828); },

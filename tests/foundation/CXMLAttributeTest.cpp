@@ -112,7 +112,7 @@ TEST(CXMLAttribute, ReadsNumbersTooSmallForADoubleAsZeroOfTheirSign) {
     }
 }
 
-TEST(CXMLAttribute, TextAfterANumberBeyondTheRangeDoesNotChangeIt) {
+TEST(CXMLAttribute, IgnoresTextAfterANumberOutsideTheRange) {
     for (const char *rest : {" e-500", "x", " ", "e", "e-", " dBE-900", ",5e-500", " 0.1"})
         EXPECT_EQ(numberIn("1" + zeros + rest), infinity) << rest;
     for (const char *rest : {" e500", "x", " ", "e", "e+", " dBE900", ",5e500", " 1.5"})

@@ -98,7 +98,7 @@ TEST_F(CXMLDocumentFile, WritesOneTagPerLineAndTabsForLevels) {
                          "\t</strip>\n"
                          "\t<last/>\n"
                          "</root>");
-    EXPECT_EQ(written(), readFile(path.getString())) << "writing again gives the same";
+    EXPECT_EQ(written(), readFile(path.getString())) << "writing again writes the same";
 }
 
 TEST_F(CXMLDocumentFile, WritesARootWithoutChildrenAsOneTagWithALineEnd) {
@@ -204,7 +204,7 @@ TEST_F(CXMLDocumentFile, AClosingTagWithoutACurrentNodeChangesNothing) {
     EXPECT_EQ(readTree("</none>\n<root>\n<child/>\n</root>\n</root>\n</root>\n"), "root[child]");
 }
 
-TEST_F(CXMLDocumentFile, ClosesByAnyName) {
+TEST_F(CXMLDocumentFile, AnyClosingTagClosesTheCurrentNode) {
     EXPECT_EQ(readTree("<root>\n<first>\n</other>\n<second>\n"), "root[first second]");
     EXPECT_EQ(readTree("<root>\n<first>\n</>\n<second>\n"), "root[first second]");
 }
@@ -255,7 +255,7 @@ TEST_F(CXMLDocumentFile, TracesAnAttributeThatIsNotClosed) {
     EXPECT_EQ(traced(), "Failed to close XML attribute tag\nFailed to close XML attribute tag\n");
 }
 
-TEST_F(CXMLDocumentFile, ReadsLineEndsOfWindows) {
+TEST_F(CXMLDocumentFile, ReadsWindowsLineEnds) {
     EXPECT_EQ(readTree("<root>\r\n\t<child gain=\"1\"/>\r\n</root>\r\n"), "root[child(gain=1)]");
 }
 
@@ -299,7 +299,7 @@ TEST_F(CXMLDocumentFile, ALongerLineEndsTheReadingAndItsStartIsParsed) {
         const std::string value = filler.substr(start.size() + 3 + filler.size() - length);
         write(std::string("<?xml?>\n<root>\n").append(start).append(value) + "\"/>\n<last/>\n");
         EXPECT_FALSE(document.readFile(path));
-        // The shorter lines lose only the end of the tag, so it stays open.
+        // The shorter lines lose only the "/>", so the tag stays open.
         EXPECT_EQ(sketch(document.getRootNode()),
                   length <= 2049 ? "root[tag(gain=1, pan=" + value + ")]" : "root[tag(gain=1)]");
     }
@@ -344,7 +344,7 @@ TEST_F(CXMLDocumentFile, WritesNodesNestedDeeperThanTheStack) {
 
 // Round trips
 
-/// Texts that survive writing and reading: no "=", no single letters, no entities.
+/// A text that survives writing and reading: no "=", no single letter, no entities.
 std::string randomText(std::mt19937 &random, std::string_view characters, std::size_t atLeast) {
     std::string text(atLeast + random() % 12, ' ');
     for (char &character : text)

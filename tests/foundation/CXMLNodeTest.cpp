@@ -7,7 +7,7 @@ using Tessitor::IO::CXMLNode;
 
 namespace {
 
-/// Creates a node and holds a reference on it.
+/// Creates a node and holds a reference to it.
 class CHeldNode {
 public:
     explicit CHeldNode(CXMLNode *parent = nullptr) : m_node(new CXMLNode("held", parent)) {
@@ -116,7 +116,7 @@ TEST(CXMLNode, MayHaveSeveralParents) {
         root->addChild(right);
         for (CXMLNode *parent : {left, left, right})
             parent->addChild(shared);
-        // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the nodes hold it.
+        // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the nodes own it.
         EXPECT_EQ(shared->getReferenceCount(), 3);
     }
     EXPECT_EQ(nodes(), before);

@@ -1,4 +1,4 @@
-// A program of its own: it destroys the class manager, which every other test needs.
+// A separate program, because it destroys the class manager, which every other test needs.
 #include "CTemporaryFolder.h"
 #include "foundation/CClass.h"
 #include "foundation/ReadFile.h"
@@ -11,13 +11,13 @@ using Tessitor::Basics::CClass;
 
 namespace {
 
-/// The number of managers: each owns one collection of records.
+/// @return the number of managers, counted by the collection of records that each one owns.
 std::uint32_t countManagers() {
     const Tessitor::Collections::TPointerCollection<CClass> probe(nullptr);
     return probe.getClass().getInstanceCount() - 1;
 }
 
-TEST(ClassShutdown, TheRecordsOfTheProgramHaveMadeTheManager) {
+TEST(ClassShutdown, TheProgramsRecordsHaveCreatedTheManager) {
     EXPECT_EQ(countManagers(), 1u);
 }
 
@@ -42,7 +42,7 @@ TEST(ClassShutdown, WithoutAManagerDoesNothing) {
     EXPECT_TRUE(std::filesystem::is_empty(folder.path()));
 }
 
-TEST(ClassShutdown, ALaterRecordMakesANewManager) {
+TEST(ClassShutdown, ALaterRecordCreatesANewManager) {
     CClass::destroyClassManager(nullptr);
     const CClass record("CLater");
     EXPECT_EQ(countManagers(), 1u);
@@ -58,7 +58,7 @@ TEST(ClassShutdown, TheLastRecordDestroysTheManager) {
     EXPECT_EQ(countManagers(), 0u);
 }
 
-TEST(ClassShutdown, ALaterRecordWithoutANameMakesANewManagerToo) {
+TEST(ClassShutdown, ALaterRecordWithoutANameAlsoCreatesANewManager) {
     CClass::destroyClassManager(nullptr);
     const CClass record;
     EXPECT_EQ(countManagers(), 1u);

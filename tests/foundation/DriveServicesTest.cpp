@@ -14,7 +14,7 @@ TEST_F(DriveServices, FindTheDriveOfAPath) {
     EXPECT_STREQ(getDriveOf("/choirs/lead.wav").getString(), "");
 }
 
-TEST_F(DriveServices, GiveVolumeNameAndFileSystem) {
+TEST_F(DriveServices, ReturnVolumeNameAndFileSystem) {
     machine.drives["/voices"].volume = {"Voices", "ext4"};
     EXPECT_STREQ(getVolumeName("/voices").getString(), "Voices");
     EXPECT_STREQ(getFileSystem("/voices").getString(), "ext4");
@@ -31,7 +31,7 @@ TEST_F(DriveServices, DistinguishAllTypesOfDrive) {
     }
 }
 
-TEST_F(DriveServices, GiveTheFolderOfTheSystem) {
+TEST_F(DriveServices, ReturnTheSystemFolder) {
     machine.systemFolder = "/system";
     EXPECT_STREQ(getWindowsFolder().getString(), "/system");
 }

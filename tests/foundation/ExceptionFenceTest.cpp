@@ -83,12 +83,12 @@ TEST(ExceptionFence, ReportsAnyOtherExceptionAsUnknown) {
     EXPECT_EQ(number.reason, "Caught unknown exception during turning");
 }
 
-TEST(ExceptionFence, TheCopyOfACatchByValueShowsInTheRecord) {
+TEST(ExceptionFence, CatchingLowersTheInstanceCount) {
     const CException witness("", "", true);
     const auto instances = witness.getClass().getInstanceCount();
     caughtFrom([] { fenced(outer, [] { throw CException("", "", true); }); });
     EXPECT_EQ(witness.getClass().getInstanceCount(), instances - 1);
-    witness.getClass().incrementInstanceCount();  // undoes the asymmetry for the next test
+    witness.getClass().incrementInstanceCount();  // restores the count for the next test
 }
 
 }  // namespace

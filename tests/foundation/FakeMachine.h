@@ -14,9 +14,9 @@ struct SFakeDrive {
     ENativeDriveType type = ENativeDriveType::Fixed;
 };
 
-/// The machine that a program sees if it links FakeMachine.cpp. That file replaces the platform's
-/// functions for drives, files, clock and screen, because no real machine has drives of every type
-/// and a second screen to the left.
+/// The fake machine of a program that links FakeMachine.cpp. That file replaces the platform's
+/// functions for drives, files, clock and screen: no real machine has drives of every type and a
+/// second screen to the left.
 struct SFakeMachine {
     std::map<std::string, SFakeDrive> drives;  // by their roots
     std::map<std::string, SNativeFile> files;  // by their paths

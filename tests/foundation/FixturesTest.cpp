@@ -1,6 +1,6 @@
-// Files that a program of each system once wrote. Both systems still write the same bytes, and read
-// what the other one wrote. A run that differs leaves its own file in its folder, with ".actual"
-// behind the name, and renaming that is how these were made.
+// The fixtures are files that were written on each system. Both systems must still write the same
+// bytes and read the other's files. A test that differs leaves its file, named ".actual" at the
+// end, in the working folder. To record a fixture, rename that file.
 #include "foundation/CFileStream.h"
 #include "foundation/CXMLDocument.h"
 #include "foundation/ReadFile.h"
@@ -28,7 +28,7 @@ protected:
         return std::string(FIXTURES) + "/" + GetParam() + "/" + name;
     }
 
-    /// @param write  writes a file to the path that it is given.
+    /// @param write  writes a file to a given path.
     template <typename Write>
     void expectSameBytes(const char *name, Write write) const {
         const std::string actual = std::string(GetParam()) + "-" + name + ".actual";
@@ -47,7 +47,7 @@ void writeText(const CSystemString &path) {
     stream << 0.1 << " " << 2.0 / 3 << " " << 1e100 << " " << -1e-100 << " " << 123456789.0;
 }
 
-TEST_P(Fixtures, TextIsWrittenAsEver) {
+TEST_P(Fixtures, TextIsWrittenAsRecorded) {
     expectSameBytes("text.txt", writeText);
 }
 
@@ -119,7 +119,7 @@ void expectBinary(const std::string &path, bool fileIsLittleEndian) {
     EXPECT_FALSE(stream.hasFailed());
 }
 
-TEST_P(Fixtures, BinaryDataIsWrittenAsEver) {
+TEST_P(Fixtures, BinaryDataIsWrittenAsRecorded) {
     expectSameBytes("big.bin", [](const CSystemString &path) { writeBinary(path, false); });
     expectSameBytes("little.bin", [](const CSystemString &path) { writeBinary(path, true); });
 }
@@ -147,7 +147,7 @@ void writeDocument(const CSystemString &path) {
     EXPECT_TRUE(document.writeFile(path));
 }
 
-TEST_P(Fixtures, DocumentsAreWrittenAsEver) {
+TEST_P(Fixtures, DocumentsAreWrittenAsRecorded) {
     expectSameBytes("document.xml", writeDocument);
 }
 

@@ -15,7 +15,7 @@ namespace {
 class HostReports : public CFakeMachineTest {};
 
 TEST_F(HostReports, DescribeTheDriveThatHoldsTheReport) {
-    // reportText() writes into a folder in here.
+    // reportText() writes to a temporary folder inside this one.
     const std::string drive = std::filesystem::temp_directory_path().string();
     const std::string rule = "----------------------------------\n";
     using enum ENativeDriveType;

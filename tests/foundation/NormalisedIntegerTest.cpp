@@ -35,12 +35,12 @@ TEST(NormalisedInteger, MapsTheWholeRange) {
     EXPECT_DOUBLE_EQ(integerToNormalised(least, greatest, greatest), 0.99999);
 }
 
-TEST(NormalisedInteger, AnOverflowGivesTheSmallestInteger) {
+TEST(NormalisedInteger, AnOverflowReturnsTheSmallestInteger) {
     EXPECT_EQ(normalisedToInteger(0, greatest, 2.0), least);
     EXPECT_EQ(normalisedToInteger(0, 10, std::nan("")), least);
 }
 
-TEST(NormalisedInteger, AnEmptyRangeGivesNoFiniteNumber) {
+TEST(NormalisedInteger, AnEmptyRangeReturnsInfinityOrNaN) {
     EXPECT_TRUE(std::isnan(integerToNormalised(3, 3, 3)));
     EXPECT_TRUE(std::isinf(integerToNormalised(3, 3, 4)));
     EXPECT_EQ(normalisedToInteger(3, 3, 0.7), 3);

@@ -11,7 +11,7 @@ struct SPoll {
     bool succeeded = false;
 };
 
-/// Polls; only the attempt with this number, counted from 1, succeeds.
+/// Polls until the attempt with this number, counted from 1, succeeds.
 SPoll poll(long milliseconds, int successful) {
     SPoll result;
     result.succeeded = pollUntil(

@@ -6,7 +6,7 @@ using namespace Tessitor::Basics;
 
 namespace {
 
-/// The features as a text, one letter each.
+/// The features as a text, one character each.
 std::string features(std::uint32_t ecx, std::uint32_t edx) {
     const SProcessorFeatures decoded = decodeProcessorFeatures(ecx, edx);
     std::string text;
@@ -18,7 +18,7 @@ std::string features(std::uint32_t ecx, std::uint32_t edx) {
     return text;
 }
 
-TEST(ProcessorFeatures, EachIsABitOfItsOwn) {
+TEST(ProcessorFeatures, EachHasItsOwnBit) {
     EXPECT_EQ(features(0, 0), "-----");
     EXPECT_EQ(features(0, 0x00800000), "M----");
     EXPECT_EQ(features(0, 0x02000000), "-1---");
@@ -35,7 +35,7 @@ TEST(ProcessorFeatures, NoOtherBitCounts) {
     EXPECT_EQ(features(~0x10000001u, ~0x16800000u), "-----");
 }
 
-TEST(ProcessorFeatures, WhatWasReadIsKept) {
+TEST(ProcessorFeatures, AreStoredOnceRead) {
     readProcessorFeatures();
     EXPECT_TRUE(getProcessorFeatures().hasMmx);
     EXPECT_TRUE(getProcessorFeatures().hasSse);

@@ -4,8 +4,8 @@
 #include "foundation/CSystemString.h"
 #include "foundation/ReadFile.h"
 
-/// @return what a report writes if it is given a folder, or the path that it writes to if that is
-///         not the file of that name in the folder.
+/// Passes a folder to a report, which must then write to the file of that name in it.
+/// @return the text of the file; the path if the report chose another file.
 inline std::string reportText(void (*writeReport)(Tessitor::Basics::CSystemString &path),
                               const char *fileName) {
     const CTemporaryFolder folder;

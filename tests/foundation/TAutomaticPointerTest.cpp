@@ -43,7 +43,7 @@ TEST(TAutomaticPointer, HoldsAReferenceThroughACountingDeleter) {
     EXPECT_EQ(pointer.getPointer(), nullptr);
 }
 
-TEST(TAutomaticPointer, KeepsAnObjectThatItIsGivenTwice) {
+TEST(TAutomaticPointer, KeepsAnObjectThatIsSetTwice) {
     bool destroyed = false;
     auto *object = new CWatchedObject(destroyed);
     TAutomaticPointer<CWatchedObject> pointer(

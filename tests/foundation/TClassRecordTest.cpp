@@ -20,7 +20,8 @@ private:
     static TClassRecord<CEarly> s_class;
 };
 
-// Within one file the order is fixed: these are built before the record and destroyed after it.
+// Within one file the order is fixed: these are constructed before the record and destroyed after
+// it.
 const CEarly first, second;
 TClassRecord<CEarly> CEarly::s_class("CEarly", "CCountedObject");
 

@@ -15,7 +15,7 @@ template class Tessitor::Collections::TCountedPointerArray<CCountedObject>;
 
 namespace {
 
-/// Objects that a collection lists without owning them.
+/// A collection that does not own its elements, and objects to put into it.
 class TPointerCollectionList : public testing::Test {
 protected:
     void add(int count) {
@@ -27,7 +27,7 @@ protected:
     TPointerCollection<CCountedObject> list{nullptr};
 };
 
-/// Notes each call.
+/// Records each call.
 class CDiary : public TPointerDeleter<CCountedObject> {
 public:
     explicit CDiary(const std::vector<CCountedObject> &objects) : m_objects(objects) {}
@@ -73,7 +73,7 @@ TEST_F(TPointerCollectionList, KeepsItsElementsWhenItGrows) {
         EXPECT_EQ(list.elementAtIndex(i), &objects[static_cast<std::size_t>(i)]) << i;
 }
 
-TEST_F(TPointerCollectionList, GivesNullOutsideTheSlots) {
+TEST_F(TPointerCollectionList, ReturnsNullOutsideTheSlots) {
     add(2);
     EXPECT_EQ(list.elementAtIndex(-1), nullptr);
     EXPECT_EQ(list.elementAtIndex(2), nullptr);
@@ -268,7 +268,7 @@ TEST(TPointerCollection, HasItsOwnRecord) {
     EXPECT_TRUE(list.getClass() == "TPointerCollection<CCountedObject>");
 }
 
-TEST(TCountedPointerArray, HoldsOneReferenceOnEachElement) {
+TEST(TCountedPointerArray, HoldsOneReferenceToEachElement) {
     bool destroyed = false;
     auto *object = new CWatchedObject(destroyed);
     TCountedPointerArray<CCountedObject> array;

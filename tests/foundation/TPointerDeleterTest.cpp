@@ -61,7 +61,7 @@ TYPED_TEST(TPointerDeleterFamily, CountsItselfAndItsBases) {
     EXPECT_TRUE(witness.getClass().isTypeOf(Tessitor::Basics::CCountedObject().getClass()));
 }
 
-/// Counts what a deleter does to an object. Needs no object for it, so null counts too.
+/// Counts what a deleter does to an object. Nothing here uses `this`, so calls on null count too.
 struct STouched {
     ~STouched() { ++touches; }
     static void reference() { ++touches; }
@@ -97,7 +97,7 @@ TEST(TPointerDeleter, EachTypeHasOneSharedDeleter) {
               TCountedObjectDeleter<CWatchedObject>::getStaticDeleter());
 }
 
-/// An element type whose shared deleter is first made in the test below.
+/// An element type whose shared deleter is first created by the test below.
 class CLateElement : public Tessitor::Basics::CCountedObject {
 public:
     explicit CLateElement(bool &destroyed) : m_destroyed(destroyed) {}
@@ -107,8 +107,8 @@ private:
     bool &m_destroyed;
 };
 
-/// Static objects are destroyed in reverse order of their construction. Whatever is built for the
-/// list comes after its owner, so a static deleter would be destroyed before the list.
+/// Static objects are destroyed in reverse order of construction. The list creates its deleter
+/// later than its owner, so a deleter with a destructor would be gone before the list.
 struct SOwnerOfALateList {
     ~SOwnerOfALateList() {
         const auto deleters = TObjectDeleter<CLateElement>().getClass().getInstanceCount();
@@ -121,7 +121,7 @@ struct SOwnerOfALateList {
     std::unique_ptr<TPointerCollection<CLateElement>> list;
 };
 
-TEST(TPointerDeleterDeathTest, ASharedDeleterOutlivesAStaticOwnerThatMakesItsListLate) {
+TEST(TPointerDeleterDeathTest, ASharedDeleterOutlivesAStaticOwnerThatCreatesItsListLate) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     EXPECT_EXIT(
         {

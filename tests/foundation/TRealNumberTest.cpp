@@ -20,7 +20,7 @@ TYPED_TEST(TRealNumber, IsZeroAtFirst) {
     EXPECT_EQ(TypeParam().getValue(), 0);
 }
 
-TYPED_TEST(TRealNumber, KeepsWhatItIsGiven) {
+TYPED_TEST(TRealNumber, StoresItsValue) {
     TypeParam number(1.5);
     EXPECT_EQ(number.getValue(), 1.5);
     number.setValue(-0.25);
@@ -54,7 +54,7 @@ TYPED_TEST(TRealNumber, Calculates) {
     EXPECT_TRUE(std::isinf((TypeParam(1) / TypeParam(0)).getValue()));
 }
 
-TYPED_TEST(TRealNumber, TextHasAsManyPlacesAsAskedFor) {
+TYPED_TEST(TRealNumber, TextHasTheRequestedDecimals) {
     EXPECT_STREQ(TypeParam::toString(1.25f, 3).getString(), "1.250");
     EXPECT_STREQ(TypeParam::toString(-1.25f, 1).getString(), "-1.2") << "halves go to the even";
     EXPECT_STREQ(TypeParam::toString(0.75f, 0).getString(), "1");

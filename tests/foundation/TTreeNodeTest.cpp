@@ -17,7 +17,7 @@ CNode *makeNode() {
     return new CNode(TObjectDeleter<CWatchedObject>::getStaticDeleter());
 }
 
-/// Two nodes that reference each other, and how many nodes there were before.
+/// Two nodes that reference each other, and the number of nodes before they were created.
 class TTreeNodeFamily : public testing::Test {
 protected:
     TTreeNodeFamily() : before(countNodes()), parent(makeNode()), child(makeNode()) {

@@ -55,7 +55,7 @@ TEST_F(TraceFile, CutsADescriptionTo1023Bytes) {
     EXPECT_EQ(readFile(path.getString()), "text = " + text.substr(0, 1023) + "\n");
 }
 
-TEST_F(TraceFile, HoldsADescriptionThatFillsItsBufferWithoutATerminator) {
+TEST_F(TraceFile, WritesADescriptionThatFillsItsBufferWithoutATerminator) {
     class CFilling : public CCountedObject {
         void getObjectDescription(char *array, long size) const override {
             std::memset(array, 'f', static_cast<std::size_t>(size));
@@ -66,7 +66,7 @@ TEST_F(TraceFile, HoldsADescriptionThatFillsItsBufferWithoutATerminator) {
     EXPECT_EQ(readFile(path.getString()), std::string(1024, 'f') + "\n");
 }
 
-TEST_F(TraceFile, StartsAnewWhenItIsOpened) {
+TEST_F(TraceFile, ReplacesTheFileWhenItIsOpened) {
     const CSystemString other((folder / "other.txt").string().c_str());
     openTrace(path);
     trace("first");
@@ -78,7 +78,7 @@ TEST_F(TraceFile, StartsAnewWhenItIsOpened) {
     EXPECT_EQ(readFile(path.getString()), "");
 }
 
-TEST_F(TraceFile, IsClosedByAnOpeningThatFails) {
+TEST_F(TraceFile, IsClosedWhenOpeningFails) {
     openTrace(path);
     EXPECT_FALSE(openTrace((folder / "none" / "trace.txt").string().c_str()));
     trace("lost");

@@ -1,4 +1,4 @@
-// How a binary stream reports a file without positions.
+// How a binary stream reports a file that cannot seek.
 #include "CTemporaryFolder.h"
 #include "foundation/CFileStream.h"
 

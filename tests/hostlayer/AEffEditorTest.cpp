@@ -21,7 +21,7 @@ TEST(AEffEditor, IsOpenBetweenOpenAndClose) {
     EXPECT_FALSE(editor.isOpen());
 }
 
-TEST(AEffEditor, GivesItsRectangleOpenOrClosed) {
+TEST(AEffEditor, ReturnsItsRectangleOpenOrClosed) {
     ProbeEffect effect;
     auto *editor = new ProbeEditor(&effect);
     effect.setEditor(editor);

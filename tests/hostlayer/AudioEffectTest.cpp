@@ -213,7 +213,7 @@ TEST(AudioEffect, ClosesThenDeletesItselfAndItsEditor) {
     EXPECT_TRUE(log.editorDeleted);
 }
 
-TEST(AudioEffect, SaysWhetherItHasAnEditor) {
+TEST(AudioEffect, FlagsWhetherItHasAnEditor) {
     ProbeEffect effect;
     ProbeEditor editor;
     EXPECT_EQ(effect.getEditor(), nullptr);

@@ -10,8 +10,8 @@
 #include <ostream>
 #include <vector>
 
-// The answers of the published classes if an effect overrides nothing. The table has the opcodes as
-// numbers too, so it also checks their names.
+// What the published classes answer if an effect overrides nothing. The table lists each opcode by
+// number and by name, so it also checks the names.
 
 namespace {
 
@@ -125,7 +125,7 @@ std::array<char, sizeof(AEffect)> bytesOf(const AEffect &record) {
 
 class AudioEffectXDefaults : public testing::TestWithParam<SDefault> {};
 
-TEST_P(AudioEffectXDefaults, AreGivenBeforeOpenAndWriteAtMostAnEmptyText) {
+TEST_P(AudioEffectXDefaults, AreReturnedBeforeOpenAndWriteAtMostAnEmptyText) {
     const SDefault &entry = GetParam();
     FakeHost host;
     ProbeEffect effect(FakeHost::callback);
@@ -140,7 +140,7 @@ TEST_P(AudioEffectXDefaults, AreGivenBeforeOpenAndWriteAtMostAnEmptyText) {
 }
 INSTANTIATE_TEST_SUITE_P(Opcodes, AudioEffectXDefaults, testing::ValuesIn(defaults));
 
-TEST(AudioEffectX, GivesNoSpeakerArrangement) {
+TEST(AudioEffectX, ReturnsNoSpeakerArrangement) {
     ProbeEffect effect;
     VstSpeakerArrangement arrangement{};
     VstSpeakerArrangement *in = &arrangement, *out = &arrangement;
@@ -404,7 +404,7 @@ TEST(AudioEffectX, ReturnsTheHostsNames) {
     EXPECT_FALSE(ProbeEffect().getHostVendorString(text));
 }
 
-TEST(AudioEffectX, TakesAnInputForConnectedUnlessTheHostSaysOtherwise) {
+TEST(AudioEffectX, TreatsAnInputAsConnectedUnlessTheHostSaysOtherwise) {
     FakeHost host;
     ProbeEffect effect(FakeHost::callback);
     EXPECT_TRUE(effect.isInputConnected(1));
@@ -416,7 +416,7 @@ TEST(AudioEffectX, TakesAnInputForConnectedUnlessTheHostSaysOtherwise) {
     EXPECT_TRUE(ProbeEffect().isInputConnected(1));
 }
 
-TEST(AudioEffectX, KeepsRateAndBlockSizeIfTheHostGivesNone) {
+TEST(AudioEffectX, KeepsRateAndBlockSizeIfTheHostReportsNone) {
     FakeHost host;
     ProbeEffect effect(FakeHost::callback);
     EXPECT_EQ(effect.updateSampleRate(), 44100.0f);

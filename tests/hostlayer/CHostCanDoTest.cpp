@@ -42,7 +42,7 @@ void expectNothing(const CHostCanDo &host) {
 
 }  // namespace
 
-TEST(CHostCanDo, KnowsNothingAtFirst) {
+TEST(CHostCanDo, IsEmptyAtFirst) {
     expectNothing(CHostCanDo());
 }
 

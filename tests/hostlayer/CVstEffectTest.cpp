@@ -82,7 +82,7 @@ TEST(CVstEffect, AsksOnlyForCapabilitiesAndNamesDuringConstruction) {
     EXPECT_EQ(effect.m_hostCanDo.getVersion(), 900);
 }
 
-TEST(CVstEffect, DoesNotNoticeLaterAnswersOfTheHost) {
+TEST(CVstEffect, NeverAsksForCapabilitiesAgain) {
     FakeHost host;
     SampleEffect effect(FakeHost::callback);
     host.canDo = {{"offline", 1}};
@@ -112,7 +112,7 @@ TEST(CVstEffect, BuildsAnEmptyCollectionForEachNote) {
     }
 }
 
-TEST(CVstEffect, HoldsOneReferenceOnItsLock) {
+TEST(CVstEffect, HoldsOneReferenceToItsLock) {
     const SampleEffect effect;
     EXPECT_EQ(effect.m_criticalSection->getReferenceCount(), 1);
 }
@@ -263,7 +263,7 @@ TEST(CVstEffect, AllocatesNothingInABlock) {
     EXPECT_EQ(allocationsOfThisThread(), allocations);
 }
 
-TEST(CVstEffect, GivesDefaultAnswersForSubclassesToReplace) {
+TEST(CVstEffect, ReturnsDefaultsThatSubclassesReplace) {
     SampleEffect effect;
     AEffect *record = effect.getAeffect();
     record->setParameter(record, 3, 0.5f);

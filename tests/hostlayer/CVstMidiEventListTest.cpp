@@ -9,7 +9,7 @@ using namespace Tessitor::Midi;
 
 namespace {
 
-/// @return the event that a list on channel 0 stores for a message; status 0 if it stores none.
+/// @return the event that a list on channel 0 stores for a message; one with status 0 if none.
 CMidiEvent eventOf(int byte0, int byte1, int byte2, std::int32_t delta = 0) {
     CVstMidiEventList list;
     list.readEvents(*EventBlock().midi(byte0, byte1, byte2, delta).get());

@@ -102,7 +102,7 @@ TEST_F(CVstTempoTest, ResetsValuesWhoseFlagIsMissing) {
     EXPECT_EQ(information.samplePosition, 1000.5);
 }
 
-TEST_F(CVstTempoTest, KeepsItsValuesIfTheHostGivesNoTime) {
+TEST_F(CVstTempoTest, KeepsItsValuesIfTheHostHasNoTime) {
     VstTimeInfo time = timeWith(everything | kVstTransportPlaying | kVstTransportChanged);
     time.tempo = 93.0;
     read(time);
@@ -199,7 +199,7 @@ const SBar bars[] = {
 
 class CVstTempoBars : public CVstTempoTest, public testing::WithParamInterface<SBar> {};
 
-TEST_P(CVstTempoBars, GiveTheSamplesToTheNextBar) {
+TEST_P(CVstTempoBars, HaveTheExpectedSamplesToTheNextBar) {
     const SBar &bar = GetParam();
     VstTimeInfo time = timeWith(everything);
     time.timeSigNumerator = bar.numerator;
@@ -212,7 +212,7 @@ TEST_P(CVstTempoBars, GiveTheSamplesToTheNextBar) {
 INSTANTIATE_TEST_SUITE_P(Positions, CVstTempoBars, testing::ValuesIn(bars),
                          [](const auto &entry) { return std::string(entry.param.name); });
 
-TEST_F(CVstTempoTest, GivesTheSmallestIntegerForABeatWithoutALength) {
+TEST_F(CVstTempoTest, SetsTheSmallestIntegerIfTheSamplesPerBeatDoNotFit) {
     VstTimeInfo time = timeWith(kVstTempoValid);
     for (const double tempo : {0.0, -0.0, 1e-9, std::numeric_limits<double>::quiet_NaN()}) {
         time.tempo = tempo;

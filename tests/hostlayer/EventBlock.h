@@ -8,7 +8,7 @@
 #include <new>
 #include <vector>
 
-/// A block of MIDI events in the layout of a host. It must outlive the use of get().
+/// A block of events in the host's memory layout. It must outlive the pointer from get().
 class EventBlock {
 public:
     EventBlock &midi(int byte0, int byte1, int byte2, std::int32_t delta = 0) {
@@ -23,7 +23,7 @@ public:
         return *this;
     }
 
-    /// Its bytes would be a note on if it were read as a MIDI event.
+    /// Read as a MIDI event by mistake, its bytes would be a note on.
     EventBlock &sysex() {
         VstMidiSysexEvent event{};
         event.type = kVstSysExType;

@@ -19,12 +19,13 @@ struct SHostCall {
     std::int32_t index;
     std::intptr_t value;
     float opt;
-    std::string text;  // the word of audioMasterCanDo, or a text buffer before it is written
+    std::string text;  // the word of audioMasterCanDo, or a text buffer's contents before the host
+                       // writes to it
 };
 
-/// A host with answers that a test sets, and a log of all calls. Only one can exist at a time,
-/// since an effect sees its host as a plain function. Set the answers while no effect is calling;
-/// the log may be written from several threads.
+/// A host whose answers a test sets, with a log of all calls. Only one can exist at a time, since
+/// an effect sees its host as a plain function. Set the answers while no effect is calling; effects
+/// may call from several threads.
 class FakeHost {
 public:
     FakeHost() {
@@ -35,19 +36,19 @@ public:
     FakeHost(const FakeHost &) = delete;
     FakeHost &operator=(const FakeHost &) = delete;
 
-    /// For the entry point or the constructor of an effect.
+    /// Pass this to the entry point or to the constructor of an effect.
     static std::intptr_t callback(AEffect *effect, std::int32_t opcode, std::int32_t index,
                                   std::intptr_t value, void *ptr, float opt) {
         return s_current->answer({effect, opcode, index, value, opt, {}}, ptr);
     }
 
     std::map<std::int32_t, std::intptr_t> answers{{audioMasterVersion, 2400}};  // others are 0
-    std::map<std::string, std::intptr_t> canDo;  // other words give 0
+    std::map<std::string, std::intptr_t> canDo;                                 // other words are 0
     std::set<std::int32_t> unconnectedInputs;
-    std::optional<VstTimeInfo> time;  // none: the host has no time information
-    // Written without a terminator, as a bad host might. None: the buffer is not written.
+    std::optional<VstTimeInfo> time;  // unset if the host has no time information
+    // Written without a terminator, as a bad host might do. If unset, the buffer is left alone.
     std::optional<std::string> product, vendor;
-    bool logging = true;  // off if a test counts allocations
+    bool logging = true;  // switched off by tests that count allocations
 
     std::vector<SHostCall> calls() const {
         const std::lock_guard lock(m_mutex);

@@ -2,7 +2,7 @@
 
 #include "hostlayer/AudioEffectX.h"
 
-/// Overrides only what it must, so it answers like the published classes.
+/// Overrides only the pure virtual operations, so it answers like the published classes.
 class ProbeEffect : public AudioEffectX {
 public:
     explicit ProbeEffect(audioMasterCallback host = nullptr) : AudioEffectX(host, 3, 2) {}

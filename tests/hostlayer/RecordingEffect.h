@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <string>
 
-/// A call of a virtual operation: its name with the plain arguments, and the pointers.
+/// A call of a virtual operation: its name and numbers as text, and its pointers.
 struct SReached {
     std::string text;
     const void *first = nullptr;

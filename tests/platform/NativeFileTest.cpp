@@ -60,7 +60,7 @@ TEST_F(NativeFile, MarksAReadOnlyFile) {
     EXPECT_EQ(nativeFile(path)->attributes & 1, 0u);
 }
 
-TEST_F(NativeFile, AMissingFileGivesNothing) {
+TEST_F(NativeFile, ReturnsNothingForAMissingFile) {
     EXPECT_FALSE(nativeFile((folder / "none").string()));
     EXPECT_FALSE(nativeFile((folder / "none" / "none").string()));
 }

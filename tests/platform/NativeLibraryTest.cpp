@@ -26,7 +26,7 @@ TEST(NativeLibrary, OpensAFileInTheCurrentFolder) {
     closeNativeLibrary(library);
 }
 
-TEST(NativeLibrary, GivesTheReasonWhenAFileIsRefused) {
+TEST(NativeLibrary, ReportsTheReasonWhenAFileIsRefused) {
     std::string reason;
     EXPECT_EQ(openNativeLibrary("no such folder/no such library", reason), nullptr);
     EXPECT_NE(reason, "");
@@ -38,7 +38,7 @@ TEST(NativeLibrary, ClosingUnloadsTheLibrary) {
         void *library = openNativeLibrary(SAMPLE_MODULE, reason);
         ASSERT_NE(library, nullptr) << reason;
         const auto calls = reinterpret_cast<int (*)()>(nativeSymbol(library, "sampleCalls"));
-        EXPECT_EQ(calls(), 1) << "the library of the load before is still there";
+        EXPECT_EQ(calls(), 1) << "the library was not unloaded";
         closeNativeLibrary(library);
     }
 }

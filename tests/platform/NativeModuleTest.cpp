@@ -10,7 +10,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// @return the path that the sample library reports for itself if it is opened by this one.
+/// Opens the sample library by this path. @return the path that the library reports for itself.
 std::string askSample(const std::string &path) {
     std::string reason;
     void *library = openNativeLibrary(path, reason);
@@ -24,7 +24,7 @@ std::string askSample(const std::string &path) {
     return answer;
 }
 
-TEST(NativeModule, GivesThePathOfTheProgram) {
+TEST(NativeModule, ReturnsThePathOfTheProgram) {
     const fs::path path = nativeModulePath(nullptr);
     EXPECT_EQ(path.stem(), "platform_tests");
     EXPECT_TRUE(path.is_absolute());
@@ -43,7 +43,7 @@ TEST(NativeModule, CodeInALibraryBelongsToTheLibrary) {
     EXPECT_TRUE(fs::equivalent(path, SAMPLE_MODULE));
 }
 
-TEST(NativeModule, GivesTheFullPathOfALibraryOpenedByARelativeOne) {
+TEST(NativeModule, ReturnsTheFullPathOfALibraryOpenedByARelativePath) {
     const fs::path before = fs::current_path();
     fs::current_path(fs::path(SAMPLE_MODULE).parent_path());
     const fs::path path = askSample((fs::path(".") / fs::path(SAMPLE_MODULE).filename()).string());
@@ -57,7 +57,7 @@ TEST(NativeModule, AnAddressOutsideEveryModuleHasNoPath) {
     EXPECT_EQ(nativeModulePath(&local), "");
 }
 
-TEST(NativePath, SeparatorIsThatOfTheSystem) {
+TEST(NativePath, HasTheSystemsSeparator) {
     ASSERT_EQ(std::string(nativePathSeparator).size(), 1u);
     EXPECT_EQ(nativePathSeparator[0], static_cast<char>(fs::path::preferred_separator));
 }

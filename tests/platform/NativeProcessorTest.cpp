@@ -10,7 +10,7 @@ TEST(NativeProcessor, EveryProcessorOfThisArchitectureHasSse2) {
     EXPECT_NE(features.eax, 0u);
 }
 
-TEST(NativeProcessor, AnUnknownFunctionGivesZeros) {
+TEST(NativeProcessor, AnUnknownFunctionReturnsZeros) {
     const SProcessorRegisters nothing = nativeProcessorRegisters(0x7fffffff);
     EXPECT_EQ(nothing.eax | nothing.ebx | nothing.ecx | nothing.edx, 0u);
 }

@@ -1,6 +1,6 @@
 #include "platform/NativeModule.h"
 
-// A library for tests to load.
+// A library that tests load.
 
 /// @param path  receives the path of this library, without a terminator. @return its length.
 extern "C" [[gnu::visibility("default")]] std::size_t sampleModulePath(char *path,

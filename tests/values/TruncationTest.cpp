@@ -24,7 +24,7 @@ TEST(Truncation, CoversTheWholeRangeOfTheInteger) {
     EXPECT_EQ(truncated(-2147483648.9), smallest);
 }
 
-TEST(Truncation, GivesTheSmallestIntegerForValuesOutsideTheRange) {
+TEST(Truncation, ReturnsTheSmallestIntegerForValuesOutsideTheRange) {
     EXPECT_EQ(truncated(2147483648.0), smallest);
     EXPECT_EQ(truncated(-2147483649.0), smallest);
     EXPECT_EQ(truncated(2147483648.0f), smallest);

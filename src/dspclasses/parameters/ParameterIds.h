@@ -1,7 +1,7 @@
 #pragma once
 
-/// The parameters that the host sees, each k and the name that the host shows. Hosts and stored
-/// programs hold these numbers, so none may change.
+/// The parameters that the host sees: each is named k plus the name that the host shows. Hosts and
+/// stored programs contain these numbers, so none may change.
 enum EParameterId : int {
     kInGain,
     kInMono,

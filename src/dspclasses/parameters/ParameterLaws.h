@@ -7,7 +7,7 @@ namespace ParameterLaws {
 
 float raw(float v);  ///< v itself
 
-/// dB: rises from -60 at 0 to -15 at 0.25, drops there to -20, rises to 0 at 0.5 and +6 at 1.
+/// dB: rises from -60 at 0 to -15 at 0.25, drops to -20 there, rises to 0 at 0.5 and to +6 at 1.
 float gain(float v);
 float plusMinus12(float v);  ///< dB
 float threshold(float v);    ///< -60 to 0 dB
@@ -31,7 +31,7 @@ float deEsserRatio(float v);       ///< 1 to 7
 float modulationWidth(float v);    ///< 5 to 40 ms
 float modulationDepth(float v);    ///< 0 to 0.5
 float delayTime(float v);          ///< 50 to 1500 ms
-float roomSize(float v);           ///< 1 to 100 m2 in the lower half, to 400 in the upper
+float roomSize(float v);           ///< 1 to 100 m2 in the lower half, 100 to 400 m2 in the upper
 float reverbTime(float v);         ///< 0.2 to 8 s
 
 }  // namespace ParameterLaws

@@ -7,7 +7,7 @@
 
 namespace ParameterTexts {
 
-/// Unlike printf this ignores the locale that the host has set.
+/// Unlike printf, this ignores the locale that the host has set.
 static std::string fixed(double value, int decimals) {
     char digits[400];  // enough for the largest double
     const auto [end, error] = std::to_chars(std::begin(digits), std::end(digits), value,

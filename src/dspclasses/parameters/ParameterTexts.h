@@ -2,8 +2,8 @@
 
 #include <string>
 
-/// The display texts of the parameters, from the value g that a module's getParameter returns. They
-/// are the same on every system and in every locale. [any thread]
+/// The display texts of the parameters, made from the value g that a module's getParameter returns.
+/// They are the same on every system and in every locale. [any thread]
 namespace ParameterTexts {
 
 std::string none(float g);  ///< always empty

@@ -2,13 +2,13 @@
 
 #include <array>
 
-/// The module slots of the strip. Stored programs hold these numbers, so none may change, and every
-/// slot is taken: one more would make every stored program longer.
+/// The module slots of the strip. Stored programs contain these numbers, so none may change.
+/// Another slot would make every stored program longer.
 enum ESlot : int {
-    kNoSlot = -1,  // ends a chain; the slot of a parameter that drives nothing
+    kNoSlot = -1,  // the end of a chain; also the slot of a parameter that drives nothing
     kInGainSlot,   // the fixed head of every chain
     kInMonoSlot,
-    kBalanceSlot,  // the modules that a user puts into the chain, in any order
+    kBalanceSlot,  // from here on, modules that the user puts into the chain in any order
     kPanSlot,
     kGainSlot,
     k3BandSlot,
@@ -29,11 +29,11 @@ enum ESlot : int {
 
 inline constexpr int kSlotCount = kReverbSlot + 1;
 
-// What users choose from
+// The modules that users choose from
 inline constexpr int kFirstModuleSlot = kBalanceSlot;
 inline constexpr int kLastModuleSlot = kReverbSlot;
 
-/// What users call the modules, by slot.
+/// The names of the modules that users see, by slot.
 inline constexpr std::array<const char *, kSlotCount> slotLabels{
     "InGain",        "MonoType",    "Balance",     "Pan",        "Gain",  "3Band",
     "Rumble Filter", "HiPass",      "Presence",    "Parametric", "Gate",  "Compressor",

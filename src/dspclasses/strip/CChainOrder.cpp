@@ -1,8 +1,8 @@
 #include "dspclasses/strip/CChainOrder.h"
 
-// The order of the writes matters in two cases. The stale links that replace leaves can make a slot
-// its own neighbour. And a run at the same time should find its way through a new slot, so its
-// `next` is written before the link that leads to it, and once more with the pair.
+// The order of the writes matters for two reasons. Stale links that replace() leaves can make a
+// slot its own neighbour. And a run in progress must find its way through a new slot, so the slot's
+// `next` is written before the link that leads to it, and again with the whole entry.
 
 void CChainOrder::initialise() {
     order.fill({});
@@ -48,8 +48,8 @@ void CChainOrder::link(int prev, int slot, int next) {
     fxCount = fxCount + 1;
 }
 
-// Kept: the successor's prev still names the target, the target keeps its next, and the count
-// stays. The audio runs correctly at once, but removing the successor later unlinks the wrong slot.
+// Kept: the successor's prev still names the target, and the target keeps its next. The chain runs
+// correctly, but removing the successor later unlinks the wrong slot.
 void CChainOrder::replace(int target, int slot) {
     entry(slot).next = entry(target).next;
     entry(entry(target).prev).next = slot;

@@ -8,7 +8,7 @@
 #include <cstdint>
 
 /// The neighbours of a slot in the running order; kNoSlot means none. A slot without a predecessor
-/// is free, except for kInGainSlot.
+/// counts as free, except kInGainSlot.
 struct SOrderEntry {
     TRelaxed<std::int32_t> prev = -1;
     TRelaxed<std::int32_t> next = -1;
@@ -17,8 +17,8 @@ struct SOrderEntry {
 /// The running order of the strip: a doubly linked list over the module slots that starts with the
 /// fixed head. Slot numbers are trusted. No operation allocates or locks.
 ///
-/// The editor's thread edits the list while the audio thread follows its `next` links; this is by
-/// design. A run that coincides with an edit may end early or visit slots twice.
+/// The editor's thread edits the list while the audio thread follows its `next` links. This is by
+/// design. A run during an edit may end early or visit slots twice.
 class CChainOrder {
 public:
     CChainOrder() { initialise(); }
@@ -44,7 +44,7 @@ private:
     void link(int prev, int slot, int next);
 
     TRelaxed<std::int32_t> fxCount;
-    // kNoSlot has a pair as well, which is only written to: after a replacement, a slot in use may
-    // have no predecessor, and an edit there writes to the predecessor's pair.
+    // kNoSlot has an entry too, which is written but never read: after a replacement, a slot in use
+    // may have no predecessor, and an edit there writes to the predecessor's entry.
     std::array<SOrderEntry, kSlotCount + 1> order;
 };

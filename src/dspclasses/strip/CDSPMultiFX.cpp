@@ -72,8 +72,8 @@ static void process(CDSPBase &module, double **in, double **out, int frames) {
 void CDSPMultiFX::processReplacing(float **in, float **out, int frames) {
     floatBuffers.grow(frames);
     const float *dry = floatBuffers.DryBuf[0];
-    // Kept: the report's text and line numbers are fixed. 0xcdcdcdcd is how a debug heap marks
-    // memory that nobody has written yet.
+    // Kept: the texts and line numbers of these reports are fixed. 0xcdcdcdcd is how a debug heap
+    // marks memory that nobody has written yet.
     assertAlways(reinterpret_cast<std::uintptr_t>(dry) != 0xcdcdcdcd,
                  "DryBuf[0]!=(float *)0xcdcdcdcd", "DSPMultiFX", 502);
     assertAlways(dry != nullptr, "DryBuf[0]!=(float *)0", "DSPMultiFX", 503);

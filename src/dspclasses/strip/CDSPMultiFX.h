@@ -14,13 +14,13 @@
 /// The channel strip:
 ///
 ///     in --> input gain --> input routing --> modules in running order --> output routing --> out
-///                                                                          (unless it is stereo)
+///                                                                          (skipped if stereo)
 ///
 /// All eighteen modules live as long as the strip; the running order links those in use.
 ///
 /// The audio thread runs it while other threads set parameters and edit the order without a lock.
-/// One exception is the caller's to guard: kRvSpread replaces buffers that a run reads, so it must
-/// not be set during one.
+/// The one exception is kRvSpread: setting it replaces buffers that a run reads, so the caller must
+/// not set it during a run.
 class CDSPMultiFX : public CDSPBase {
 public:
     using Modules = std::array<std::unique_ptr<CDSPBase>, kSlotCount>;
@@ -29,8 +29,9 @@ public:
     explicit CDSPMultiFX(Modules slots);  ///< for tests, with their own modules; none may be null
     ~CDSPMultiFX() override;
 
-    /// Allocates only for a block that is longer than all before. A null `in` or `out` does nothing
-    /// else. With a mono input, out[1] may be null; out[0] is then half the sum. [audio thread]
+    /// Allocates only for a block that is longer than all before. Does nothing more if `in` or
+    /// `out` is null. With a mono input, out[1] may be null; out[0] is then half the sum. [audio
+    /// thread]
     void processReplacing(float **in, float **out, int frames) override;
     void processDoubleReplacing(double **in, double **out, int frames) override;
 
@@ -48,7 +49,7 @@ public:
     void initOrder();                   ///< the empty chain
     SOrderEntry &orderEntry(int slot);  ///< valid for the life of the strip
     void setOrderEntry(int slot, int prev, int next);
-    void recountFX();        ///< call after writing links; a cycle counts 0
+    void recountFX();        ///< call after writing links; a cycle counts as 0
     int getFXCount() const;  ///< modules after the fixed head
     void appendFX(int slot);
     void insertFX(int target, int slot, bool before, bool resetModule);
@@ -76,8 +77,8 @@ private:
 
     CChainOrder order;
     Modules modules;
-    // Normalised. Kept: until an id is first set, its place holds the module's initial value in the
-    // module's own unit, and a first value that happens to equal that number is dropped.
+    // Normalised. Kept: until an id is first set, its entry is the module's initial value in the
+    // module's own unit, and a first value that happens to equal that number is ignored.
     std::array<TRelaxed<float>, kParameterCount> paramCache;
     TStripBuffers<float> floatBuffers;
     TStripBuffers<double> doubleBuffers;

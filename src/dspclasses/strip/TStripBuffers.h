@@ -4,16 +4,16 @@
 #include <memory>
 #include <new>
 
-/// Two pairs of channels. Each stage of the strip reads one pair and writes the other. They only
-/// grow, and hold nothing from one block to the next.
+/// Two pairs of channels. Each stage of the strip reads one pair and writes the other. The buffers
+/// never shrink, and no signal is carried from one block to the next.
 template <typename Sample>
 class TStripBuffers {
 public:
     Sample *DryBuf[2] = {nullptr, nullptr};
     Sample *WetBuf[2] = {nullptr, nullptr};
 
-    /// Makes room for `frames`. New buffers hold zeros, since a routing with an invalid mode writes
-    /// no output, and the next stage then reads the buffer as it is.
+    /// Makes room for `frames`. New buffers are zeroed: a routing with an invalid mode writes no
+    /// output, and the next stage then reads what the buffer already holds.
     /// @throw std::bad_alloc; the buffers are then unchanged.
     void grow(int frames) {
         if (capacity >= frames)

@@ -34,7 +34,7 @@ struct SMount {
     std::string fileSystem;
 };
 
-/// The deepest mount that holds the path; nothing if there is no such path.
+/// @return the deepest mount that contains the path; nothing if there is no such path.
 std::optional<SMount> mountOf(const std::string &path) {
     std::error_code failed;
     const fs::path target = fs::canonical(path, failed);
@@ -53,7 +53,7 @@ std::optional<SMount> mountOf(const std::string &path) {
     return deepest;
 }
 
-/// The label that the file system itself reports. Not every kind can.
+/// @return the label that the file system reports; "" if it cannot report one.
 std::string labelOf(const std::string &path) {
     char label[FSLABEL_MAX] = {};
     const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
@@ -71,7 +71,7 @@ bool isOnRemovableDisk(const std::string &path) {
         return false;
     const std::string device = "/sys/dev/block/" + std::to_string(major(status.st_dev)) + ":" +
                                std::to_string(minor(status.st_dev));
-    // A partition has no such flag, but its disk has.
+    // Only a whole disk has this flag. For a partition, look one level up.
     for (const char *flag : {"/removable", "/../removable"})
         if (std::ifstream(device + flag).get() == '1')
             return true;

@@ -11,7 +11,7 @@ void *nativeModuleHandle() {
 }
 
 std::string nativeModulePath(void *module) {
-    // The loader keeps an empty name for the program, and the name of a library may be relative.
+    // The loader records no name for the program, and the name of a library may be relative.
     std::string name = "/proc/self/exe";
     if (module != nullptr) {
         Dl_info info;

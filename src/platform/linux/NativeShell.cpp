@@ -10,7 +10,7 @@ namespace {
 int waitFor(pid_t process) {
     int status = 0;
     while (waitpid(process, &status, 0) < 0) {
-        if (errno == ECHILD)  // the host reaps all children and has taken the status
+        if (errno == ECHILD)  // the host reaps all children and got the status first
             return 0;
         if (errno != EINTR)
             return -1;
@@ -21,8 +21,8 @@ int waitFor(pid_t process) {
 }  // namespace
 
 bool openNativeDocument(const std::string &document) {
-    // The shell exits at once and we wait for it, so xdg-open is not a child of the host and leaves
-    // it no zombie. It inherits no open file of the host either.
+    // The shell exits at once and we wait for it. So xdg-open is not a child of the host and cannot
+    // become its zombie. Nor does it inherit the host's open files.
     const char *const arguments[] = {
         "sh", "-c", R"(xdg-open "$1" >/dev/null 2>&1 &)", "sh", document.c_str(), nullptr};
     posix_spawn_file_actions_t actions;

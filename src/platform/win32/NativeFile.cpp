@@ -30,7 +30,7 @@ std::optional<SNativeFile> nativeFile(const std::string &path) {
 }
 
 bool isNativeFolder(const std::string &path) {
-    // GetFileAttributesA() would describe a link and not the folder that it leads to.
+    // GetFileAttributesA() would describe a link itself and not the folder that it points to.
     const HANDLE handle =
         CreateFileA(path.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
                     nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);

@@ -12,7 +12,7 @@ TEST(ParameterLaws, PassRawValuesUnchanged) {
     EXPECT_TRUE(std::signbit(Law::raw(-0.0f)));
 }
 
-TEST(ParameterLaws, GiveTheGainAtItsCorners) {
+TEST(ParameterLaws, MapTheCornersOfTheGain) {
     EXPECT_EQ(Law::gain(0.0f), -60.0f);
     EXPECT_EQ(Law::gain(0.2f), -24.0f);
     EXPECT_EQ(Law::gain(0.25f), -20.0f);
@@ -26,7 +26,7 @@ TEST(ParameterLaws, DropTheGainAtAQuarter) {
     EXPECT_NEAR(Law::gain(std::nextafter(0.25f, 0.0f)), -15.0, 1e-4);
 }
 
-TEST(ParameterLaws, GiveMinusZeroDecibelsInTheMiddleOfTheGain) {
+TEST(ParameterLaws, MapTheMiddleOfTheGainToMinusZeroDecibels) {
     EXPECT_TRUE(std::signbit(Law::gain(0.5f)));
 }
 
@@ -52,7 +52,7 @@ TEST(ParameterLaws, CoverTheRangesOfTheExponentialLaws) {
     }
 }
 
-TEST(ParameterLaws, StepOnlyAtTheTopOfTheTwoKnobsThatHaveAStep) {
+TEST(ParameterLaws, StepAtTheTopOfTheParametricAndDeEsserFrequencies) {
     const float above = std::nextafter(0.999f, 1.0f);
     EXPECT_NEAR(Law::parametricFrequency(0.999f), 5975.48, 0.02);
     EXPECT_EQ(Law::parametricFrequency(above), 6000.0f);

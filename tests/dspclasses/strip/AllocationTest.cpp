@@ -7,7 +7,7 @@
 #include <gtest/gtest.h>
 #include <new>
 
-/// A module with host buffers.
+/// A module, and buffers such as a host passes to it.
 template <typename Module, typename Sample>
 class TAllocation : public testing::Test {
 protected:

@@ -14,7 +14,7 @@ static Links linksOf(CChainOrder &order, int slot) {
 
 static const Links freeSlot{kNoSlot, kNoSlot};
 
-/// The slots after the fixed head, as a run meets them.
+/// The slots after the fixed head, in the order in which a run visits them.
 static std::vector<int> chainOf(CChainOrder &order) {
     std::vector<int> chain;
     for (int slot = order.nextOf(kInMonoSlot); slot != kNoSlot && chain.size() < 30;
@@ -164,7 +164,7 @@ TEST_F(CChainOrderTest, CountsACycleAsZero) {
     EXPECT_EQ(order.getCount(), 0);
 }
 
-/// Compares every edit with a std::vector. Without replacements the list stays consistent.
+/// Compares every edit with a std::vector. No replacements, since they leave stale links.
 TEST_F(CChainOrderTest, MatchesAVectorThroughRandomEdits) {
     for (std::uint64_t seed = 1; seed <= 50; ++seed) {
         SCOPED_TRACE(testing::Message() << "seed " << seed);
@@ -209,7 +209,7 @@ TEST_F(CChainOrderTest, MatchesAVectorThroughRandomEdits) {
 TEST_F(CChainOrderTest, AppendsASlotToItselfIfItRunsButIsMarkedFree) {
     append({kRumbleFilterSlot, kCompressorSlot, k3BandSlot});
     order.replace(kCompressorSlot, kPresenceSlot);
-    order.remove(k3BandSlot);  // is marked free but still runs
+    order.remove(k3BandSlot);  // marked free, but still runs
     order.append(k3BandSlot);
     EXPECT_EQ(chainOf(order), (std::vector<int>{kRumbleFilterSlot, kPresenceSlot, k3BandSlot}));
     EXPECT_EQ(linksOf(order, k3BandSlot), Links(k3BandSlot, kNoSlot));

@@ -94,7 +94,7 @@ TEST(CDSPMultiFX, ResetsAllModulesInSlotOrder) {
     EXPECT_EQ(log.take(), expected);
 }
 
-TEST(CDSPMultiFX, ResetsAModuleOnlyWhenInsertFXIsToldTo) {
+TEST(CDSPMultiFX, ResetsAnInsertedModuleOnlyOnRequest) {
     SWitnessLog log;
     CDSPMultiFX strip(makeWitnesses(log));
     log.take();
@@ -304,7 +304,7 @@ TYPED_TEST(CDSPMultiFXRun, DoesNothingIfAnArrayOfChannelsIsNull) {
     EXPECT_EQ(output, TStereo<TypeParam>(64, 7));
     process(this->strip, this->input.pointers().data(), none, 64);
     process(this->strip, none, none, 64);
-    // The buffers have grown all the same, so a block of no frames is now accepted.
+    // The buffers have grown nevertheless, so a block of no frames is now accepted.
     process(this->strip, this->input.pointers().data(), output.pointers().data(), 0);
     EXPECT_EQ(output, TStereo<TypeParam>(64, 7));
 }
@@ -317,7 +317,7 @@ TYPED_TEST(CDSPMultiFXRun, KeepsTheSignalWholeWhenBlocksGrow) {
     EXPECT_EQ(render(this->strip, longer, 1), longer);
 }
 
-TYPED_TEST(CDSPMultiFXRun, WorksInTheHostsOwnBuffers) {
+TYPED_TEST(CDSPMultiFXRun, WorksInPlace) {
     this->strip.appendFX(kGainSlot);
     this->strip.setStripParameter(kGain, 1.0f);
     this->strip.setStripParameter(kOutMono, 0.0f);
@@ -404,7 +404,7 @@ TEST(CDSPMultiFX, SendsNothingForAnUnchangedValue) {
     EXPECT_EQ(log.calls.size(), 1u);
 }
 
-TEST(CDSPMultiFX, DropsAFirstValueThatEqualsTheModulesInitialOne) {
+TEST(CDSPMultiFX, IgnoresAFirstValueThatEqualsTheModulesInitialOne) {
     CDSPMultiFX strip;
     char text[32];
     strip.setStripParameter(kGain, 0.0f);  // the initial value of the gain is 0 dB
@@ -462,7 +462,7 @@ TEST(CDSPMultiFX, WritesCompleteNamesAndUnits) {
     EXPECT_STREQ(name, "GateThrsh");
 }
 
-TEST(CDSPMultiFX, ShowsWhatTheModuleHolds) {
+TEST(CDSPMultiFX, ShowsTheModulesValue) {
     SWitnessLog log;
     CDSPMultiFX strip(makeWitnesses(log));
     for (int id = 0; id < kOutMono; ++id) {
@@ -478,7 +478,7 @@ TEST(CDSPMultiFX, ShowsWhatTheModuleHolds) {
 
 static std::string displayAt(int id, float value) {
     CDSPMultiFX strip;
-    // Another value first: one that equals the module's initial value would be dropped.
+    // Another value first: one that equals the module's initial value would be ignored.
     strip.setStripParameter(id, value < 0.5f ? 0.9f : 0.1f);
     strip.setStripParameter(id, value);
     char text[32];
@@ -516,7 +516,7 @@ TEST(CDSPMultiFX, ShowsMinusZeroDecibelsWhenReturningToTheMiddle) {
 
 // Comparison with the plain version
 
-/// Gives a strip the interface that the oracle expects.
+/// Adapts a strip to the interface that the oracle expects.
 class CStripCase {
 public:
     void setParameter(int id, float value) { strip.setStripParameter(id, value); }
@@ -550,7 +550,7 @@ static std::vector<int> drawChain(CRandom &random) {
     return chain;
 }
 
-/// Sets up the next random case, the same for both sides: chain, mono input or not, tempo.
+/// Sets up a random case: chain, mono input or not, tempo. The same seed sets up both sides alike.
 template <typename Strip>
 static std::unique_ptr<Strip> setUp(std::unique_ptr<Strip> strip, std::uint64_t seed) {
     CRandom random(seed);

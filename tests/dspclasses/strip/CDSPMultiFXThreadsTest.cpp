@@ -5,8 +5,8 @@
 #include <gtest/gtest.h>
 #include <thread>
 
-// For ThreadSanitizer: the audio runs while another thread does everything that editor and host do
-// without a lock. kRvSpread is left out, since the effect sets it under its lock.
+// For ThreadSanitizer: the audio runs while another thread does everything that an editor and a
+// host do without a lock. kRvSpread is left out, since the effect sets it under its lock.
 
 /// Makes a random edit that keeps the list consistent, or loads another chain.
 static void editOrder(CDSPMultiFX &strip, CRandom &random, std::vector<int> &chain) {

@@ -11,8 +11,8 @@
 #include <memory>
 #include <vector>
 
-/// The plain version of the strip, over any eighteen modules. For the oracle, the index of a
-/// parameter is its id.
+/// The plain version of the strip, for any eighteen modules. The parameter index that the oracle
+/// passes is the parameter id.
 class CPlainStrip : public CDSPBase {
 public:
     using Modules = std::array<std::unique_ptr<CDSPBase>, kSlotCount>;
@@ -33,7 +33,7 @@ public:
     }
     float getParameter(int id) override { return paramCache[index(id)]; }
 
-    /// The value that the module holds.
+    /// The value as its module reports it.
     float getModuleParameter(int id) { return moduleOf(id).getParameter(rowOf(id).index); }
 
     void processReplacing(float **in, float **out, int frames) override {

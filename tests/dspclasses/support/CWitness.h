@@ -18,8 +18,8 @@ struct SWitnessLog {
     std::vector<std::string> take() { return std::exchange(calls, {}); }
 };
 
-/// A module that logs every call and passes the signal. A parameter that was never set reads
-/// 100 * (slot + 1) + index.
+/// A module that logs every call and passes the signal. The value of a parameter that was never set
+/// is 100 * (slot + 1) + index.
 class CWitness : public CDSPBase {
 public:
     CWitness(int place, SWitnessLog &log) : slot(place), seen(log) {}

@@ -5,7 +5,7 @@
 #include <iomanip>
 #include <ostream>
 
-/// The gains of a stateless module, measured with a 1 at one input at a time.
+/// The gains of a stateless module, measured with a sample of 1 in one input at a time.
 struct SMatrix {
     double leftToLeft, leftToRight, rightToLeft, rightToRight;
     bool operator==(const SMatrix &) const = default;

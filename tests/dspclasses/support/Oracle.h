@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-/// A parameter and the range of its random values. Both ends and the current value come up often.
+/// A parameter and the range of its random values, which often are an end or the current value.
 struct SParameterRange {
     int index;
     float low;
@@ -135,7 +135,7 @@ private:
                            [](double sample) { return static_cast<Sample>(sample); });
         }
         TStereo<Sample> plainIn = moduleIn;
-        // Filled differently, so that a sample that is not written differs as well.
+        // Filled differently, so that a sample that is never written differs as well.
         TStereo<Sample> moduleOut(offset + length, 77), plainOut(offset + length, 99);
         renderPart(module, moduleIn, moduleOut, offset, length);
         renderPart(plain, plainIn, plainOut, offset, length);

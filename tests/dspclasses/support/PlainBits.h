@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <cstring>
 
-/// The denormal test of the plain versions: all exponent bits are zero.
+/// The test for zeros and denormals in the plain versions: all exponent bits are zero.
 
 inline bool exponentIsZero(float value) {
     std::uint32_t bits;

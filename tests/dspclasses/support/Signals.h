@@ -202,7 +202,7 @@ void process(Module &module, double **in, double **out, int frames) {
     module.processDoubleReplacing(in, out, frames);
 }
 
-/// Processes frames of one signal into another, from `start` on.
+/// Processes `frames` frames from `start` on, from one signal to another.
 template <typename Module, typename Sample>
 void renderPart(Module &module, TStereo<Sample> &input, TStereo<Sample> &output, int start,
                 int frames) {
@@ -210,8 +210,7 @@ void renderPart(Module &module, TStereo<Sample> &input, TStereo<Sample> &output,
     process(module, in.data(), out.data(), frames);
 }
 
-/// @return the output for the whole input, processed in blocks of blockLength and a shorter last
-/// one.
+/// @return the output for the whole input, in blocks of blockLength; the last may be shorter.
 template <typename Module, typename Sample>
 TStereo<Sample> render(Module &module, TStereo<Sample> input, int blockLength) {
     TStereo<Sample> output(input.frames());

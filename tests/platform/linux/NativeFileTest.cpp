@@ -30,7 +30,7 @@ TEST(NativeFileOnLinux, ReadsAccessAndWriteTimeExactly) {
     const auto file = nativeFile(path);
     EXPECT_EQ(file->lastAccessTime, at1970 + 10'000'000'001'234'567);
     EXPECT_EQ(file->lastWriteTime, at1970 + 15'000'000'009'876'543);
-    // The time of creation cannot be set, and some file systems do not record it.
+    // The creation time cannot be set, and some file systems do not record it.
     if (file->creationTime != 0) {
         EXPECT_GT(file->creationTime, at1970 + 17'000'000'000'000'000);
     }

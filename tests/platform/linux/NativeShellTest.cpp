@@ -15,8 +15,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Puts a fake xdg-open on the path. It writes to a pipe: the number of its arguments, the first of
-/// them, and "open" if it has inherited file 100.
+/// Puts a fake xdg-open on the path. It writes to a pipe: the number of its arguments, the first
+/// argument, and whether it has inherited file 100, "open" or "closed".
 class NativeShell : public testing::Test {
 protected:
     void SetUp() override {

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Sets the time zone of the process for as long as it lives.
+/// Sets the time zone of the process until this object is destroyed.
 class CTimeZone {
 public:
     explicit CTimeZone(const char *zone) {

@@ -8,7 +8,7 @@
 
 namespace {
 
-TEST(NativeFileOnWindows, GivesTheSystemsAttributes) {
+TEST(NativeFileOnWindows, ReturnsTheSystemsAttributes) {
     const CTemporaryFolder folder;
     const std::string path = (folder / "hidden").string();
     std::ofstream{path};

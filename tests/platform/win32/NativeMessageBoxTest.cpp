@@ -13,7 +13,7 @@ struct SBox {
     bool hasIcon = false;
 } seen;
 
-// The id of the icon is not documented, so look at all static items.
+// The id of the icon is not documented, so search all static items.
 bool hasIcon(HWND box) {
     HWND item = nullptr;
     while ((item = FindWindowExA(box, item, "Static", nullptr)) != nullptr)

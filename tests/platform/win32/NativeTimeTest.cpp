@@ -20,7 +20,7 @@ std::uint64_t localTicks() {
     return ticks(local);
 }
 
-// Under Wine the time zone comes from TZ, which CTest sets to one far from UTC.
+// Under Wine the time zone comes from TZ, which CTest sets to a zone far from UTC.
 TEST(NativeTime, IsLocalTimeToTheMillisecond) {
     const std::uint64_t before = localTicks();
     const SNativeTime now = nativeLocalTime();
