@@ -6,18 +6,20 @@
 
 #include <memory>
 
+using enum CDSPBalance::EParameter;
+
 static SMatrix matrixAt(float position) {
     CDSPBalance balance;
-    balance.setParameter(0, position);
+    balance.setParameter(kPosition, position);
     return matrixOf(balance);
 }
 
 TEST(CDSPBalance, IsTheIdentityInTheMiddle) {
     CDSPBalance balance;
-    EXPECT_EQ(balance.getParameter(0), 0.5f);
+    EXPECT_EQ(balance.getParameter(kPosition), 0.5f);
     EXPECT_EQ(matrixOf(balance), (SMatrix{1.0, 0.0, 0.0, 1.0}));
-    balance.setParameter(0, 0.2f);
-    balance.setParameter(0, 0.5f);
+    balance.setParameter(kPosition, 0.2f);
+    balance.setParameter(kPosition, 0.5f);
     EXPECT_EQ(matrixOf(balance), (SMatrix{1.0, 0.0, 0.0, 1.0}));
 }
 
@@ -41,9 +43,9 @@ TEST(CDSPBalance, DoesNotClampThePosition) {
 
 TEST(CDSPBalance, IgnoresMinusZeroAfterZero) {
     CDSPBalance balance;
-    balance.setParameter(0, 0.0f);
-    balance.setParameter(0, -0.0f);
-    EXPECT_FALSE(std::signbit(balance.getParameter(0)));
+    balance.setParameter(kPosition, 0.0f);
+    balance.setParameter(kPosition, -0.0f);
+    EXPECT_FALSE(std::signbit(balance.getParameter(kPosition)));
 }
 
 TEST(CDSPBalance, IgnoresTheIndex) {
@@ -55,5 +57,5 @@ TEST(CDSPBalance, IgnoresTheIndex) {
 
 TEST(CDSPBalance, EqualsThePlainVersionBitForBit) {
     expectSameBits([] { return std::make_unique<CDSPBalance>(); },
-                   [] { return std::make_unique<CPlainBalance>(); }, {{0, 0.0f, 1.0f}});
+                   [] { return std::make_unique<CPlainBalance>(); }, {{kPosition, 0.0f, 1.0f}});
 }

@@ -6,36 +6,38 @@
 
 #include <memory>
 
+using enum CDSPGain::EParameter;
+
 static double factorOf(CDSPGain &gain) {
     return matrixOf(gain).leftToLeft;
 }
 
 TEST(CDSPGain, StartsAtUnity) {
     CDSPGain gain;
-    EXPECT_EQ(gain.getParameter(0), 0.0f);
+    EXPECT_EQ(gain.getParameter(kLevel), 0.0f);
     EXPECT_EQ(matrixOf(gain), (SMatrix{1.0, 0.0, 0.0, 1.0}));
 }
 
 TEST(CDSPGain, IsSilentAtMinusSixtyAndBelow) {
     CDSPGain gain;
     for (const float decibels : {-60.0f, -60.1f, -1000.0f}) {
-        gain.setParameter(0, decibels);
+        gain.setParameter(kLevel, decibels);
         EXPECT_EQ(factorOf(gain), 0.0) << decibels;
-        EXPECT_EQ(gain.getParameter(0), decibels);
-        gain.setParameter(0, 0.0f);
+        EXPECT_EQ(gain.getParameter(kLevel), decibels);
+        gain.setParameter(kLevel, 0.0f);
     }
 }
 
 TEST(CDSPGain, IsNotSilentJustAboveMinusSixty) {
     CDSPGain gain;
-    gain.setParameter(0, -59.9f);
+    gain.setParameter(kLevel, -59.9f);
     EXPECT_NEAR(factorOf(gain), 0.0010116, 1e-6);
 }
 
 TEST(CDSPGain, TurnsDecibelsIntoAFactor) {
     CDSPGain gain;
     for (const float decibels : {-40.0f, -20.0f, -6.0f, 6.0f, 20.0f}) {
-        gain.setParameter(0, decibels);
+        gain.setParameter(kLevel, decibels);
         EXPECT_NEAR(factorOf(gain) / std::pow(10.0, decibels / 20.0), 1.0, 1e-6) << decibels;
     }
 }
@@ -48,17 +50,17 @@ TEST(CDSPGain, IgnoresTheIndex) {
 
 TEST(CDSPGain, IgnoresMinusZeroAfterZero) {
     CDSPGain gain;
-    gain.setParameter(0, -0.0f);
-    EXPECT_FALSE(std::signbit(gain.getParameter(0)));
-    gain.setParameter(0, -6.0f);
-    gain.setParameter(0, -0.0f);
-    EXPECT_TRUE(std::signbit(gain.getParameter(0)));
+    gain.setParameter(kLevel, -0.0f);
+    EXPECT_FALSE(std::signbit(gain.getParameter(kLevel)));
+    gain.setParameter(kLevel, -6.0f);
+    gain.setParameter(kLevel, -0.0f);
+    EXPECT_TRUE(std::signbit(gain.getParameter(kLevel)));
     EXPECT_EQ(factorOf(gain), 1.0);
 }
 
 TEST(CDSPGain, HasNothingToReset) {
     CDSPGain gain;
-    gain.setParameter(0, -6.0f);
+    gain.setParameter(kLevel, -6.0f);
     const double before = factorOf(gain);
     gain.reset();
     EXPECT_EQ(factorOf(gain), before);
@@ -66,5 +68,5 @@ TEST(CDSPGain, HasNothingToReset) {
 
 TEST(CDSPGain, EqualsThePlainVersionBitForBit) {
     expectSameBits([] { return std::make_unique<CDSPGain>(); },
-                   [] { return std::make_unique<CPlainGain>(); }, {{0, -60.0f, 6.0f}});
+                   [] { return std::make_unique<CPlainGain>(); }, {{kLevel, -60.0f, 6.0f}});
 }

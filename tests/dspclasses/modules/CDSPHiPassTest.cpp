@@ -8,6 +8,8 @@
 #include <cmath>
 #include <memory>
 
+using enum CDSPHiPass::EParameter;
+
 namespace {
 
 /// Fills the history before a test.
@@ -26,7 +28,7 @@ double poleOf(CDSPHiPass &filter) {
 
 std::unique_ptr<CDSPHiPass> makeAt500Hz() {
     auto filter = std::make_unique<CDSPHiPass>();
-    filter->setParameter(0, 500.0f);
+    filter->setParameter(kCutoff, 500.0f);
     return filter;
 }
 
@@ -34,14 +36,14 @@ std::unique_ptr<CDSPHiPass> makeAt500Hz() {
 
 TEST(CDSPHiPass, StartsAtSixtyHertz) {
     CDSPHiPass filter;
-    EXPECT_EQ(filter.getParameter(0), 60.0f);
+    EXPECT_EQ(filter.getParameter(kCutoff), 60.0f);
     EXPECT_EQ(poleOf(filter), double{0.991487861f});
 }
 
 TEST(CDSPHiPass, ComputesThePoleFromTheCutoff) {
     CDSPHiPass filter;
     for (const float cutoff : {1.0f, 60.0f, 125.0f, 100.0f, 2000.0f}) {
-        filter.setParameter(0, cutoff);
+        filter.setParameter(kCutoff, cutoff);
         EXPECT_NEAR(poleOf(filter), std::exp(-2.0 * 3.14159265 * cutoff / 44100.0), 1e-7) << cutoff;
     }
 }
@@ -64,15 +66,15 @@ TEST(CDSPHiPass, KeepsItsHistoryAtTheSameCutoff) {
     CDSPHiPass filter, untouched;
     render(filter, burst, 50);
     render(untouched, burst, 50);
-    filter.setParameter(0, 60.0f);
+    filter.setParameter(kCutoff, 60.0f);
     EXPECT_TRUE(render(filter, noise, 50) == render(untouched, noise, 50));
 }
 
 TEST(CDSPHiPass, RestartsFromSilenceAtANewCutoff) {
     CDSPHiPass filter, fresh;
     render(filter, burst, 50);
-    filter.setParameter(0, 500.0f);
-    fresh.setParameter(0, 500.0f);
+    filter.setParameter(kCutoff, 500.0f);
+    fresh.setParameter(kCutoff, 500.0f);
     EXPECT_TRUE(render(filter, noise, 50) == render(fresh, noise, 50));
 }
 
@@ -80,17 +82,17 @@ TEST(CDSPHiPass, KeepsItsPoleAtTheSameCutoff) {
     CDSPHiPass filter;
     const double before = poleOf(filter);
     filter.setSampleRate(88200.0f);
-    filter.setParameter(0, 60.0f);
+    filter.setParameter(kCutoff, 60.0f);
     EXPECT_EQ(poleOf(filter), before);
 }
 
 TEST(CDSPHiPass, ResetClearsTheHistoryAndKeepsTheCutoff) {
     CDSPHiPass filter, fresh;
-    filter.setParameter(0, 500.0f);
-    fresh.setParameter(0, 500.0f);
+    filter.setParameter(kCutoff, 500.0f);
+    fresh.setParameter(kCutoff, 500.0f);
     render(filter, burst, 50);
     filter.reset();
-    EXPECT_EQ(filter.getParameter(0), 500.0f);
+    EXPECT_EQ(filter.getParameter(kCutoff), 500.0f);
     EXPECT_TRUE(render(filter, noise, 50) == render(fresh, noise, 50));
 }
 
@@ -129,5 +131,5 @@ TEST(CDSPHiPass, FallsSilentAfterABurst) {
 
 TEST(CDSPHiPass, EqualsThePlainVersionBitForBit) {
     expectSameBits([] { return std::make_unique<CDSPHiPass>(); },
-                   [] { return std::make_unique<CPlainHiPass>(); }, {{0, 1.0f, 2000.0f}});
+                   [] { return std::make_unique<CPlainHiPass>(); }, {{kCutoff, 1.0f, 2000.0f}});
 }

@@ -7,16 +7,18 @@
 #include <limits>
 #include <memory>
 
+using enum CDSPMono::EParameter;
+
 static std::int32_t modeOf(float value) {
     CDSPMono mono;
-    mono.setParameter(0, value);
+    mono.setParameter(kRouting, value);
     return mono.getMode();
 }
 
 TEST(CDSPMono, StartsWithCombine) {
     CDSPMono mono;
     EXPECT_EQ(mono.getMode(), CDSPMono::kCombine);
-    EXPECT_EQ(mono.getParameter(0), 0.0f);
+    EXPECT_EQ(mono.getParameter(kRouting), 0.0f);
 }
 
 TEST(CDSPMono, TruncatesThreeTimesTheValueToAMode) {
@@ -44,7 +46,7 @@ TEST(CDSPMono, ReadsAsAThirdOfTheModeAndSetsTheSameModeAgain) {
         mono.setParameter(3, value);
         const std::int32_t mode = mono.getMode();
         EXPECT_EQ(mono.getParameter(2), static_cast<float>(mode) / 3.0f);
-        mono.setParameter(0, mono.getParameter(0));
+        mono.setParameter(kRouting, mono.getParameter(kRouting));
         EXPECT_EQ(mono.getMode(), mode) << value;
     }
 }
@@ -57,7 +59,7 @@ TEST(CDSPMono, RoutesByMode) {
                                 {1.0, 0.0, 0.0, 1.0}};
     for (int mode = 0; mode < 4; ++mode) {
         CDSPMono mono;
-        mono.setParameter(0, static_cast<float>(mode) / 3.0f);
+        mono.setParameter(kRouting, static_cast<float>(mode) / 3.0f);
         EXPECT_EQ(matrixOf(mono), expected[mode]) << mode;
     }
 }
@@ -65,7 +67,7 @@ TEST(CDSPMono, RoutesByMode) {
 template <typename Sample>
 static void expectNothingWritten(float value) {
     CDSPMono mono;
-    mono.setParameter(0, value);
+    mono.setParameter(kRouting, value);
     TStereo<Sample> input(8, 1), output(8, 77);
     process(mono, input.pointers().data(), output.pointers().data(), 8);
     EXPECT_EQ(output, TStereo<Sample>(8, 77)) << value;
@@ -80,5 +82,5 @@ TEST(CDSPMono, WritesNothingInAnUnknownMode) {
 
 TEST(CDSPMono, EqualsThePlainVersionBitForBit) {
     expectSameBits([] { return std::make_unique<CDSPMono>(); },
-                   [] { return std::make_unique<CPlainMono>(); }, {{0, 0.0f, 1.0f}});
+                   [] { return std::make_unique<CPlainMono>(); }, {{kRouting, 0.0f, 1.0f}});
 }

@@ -7,10 +7,12 @@
 #include <initializer_list>
 #include <memory>
 
+using enum CDSPPan::EParameter;
+
 static SMatrix matrixAfter(std::initializer_list<float> positions) {
     CDSPPan pan;
     for (const float position : positions)
-        pan.setParameter(0, position);
+        pan.setParameter(kPosition, position);
     return matrixOf(pan);
 }
 
@@ -18,7 +20,7 @@ static const SMatrix identity{1.0, 0.0, 0.0, 1.0};
 
 TEST(CDSPPan, IsTheIdentityUntilItIsMoved) {
     CDSPPan pan;
-    EXPECT_EQ(pan.getParameter(0), 0.5f);
+    EXPECT_EQ(pan.getParameter(kPosition), 0.5f);
     EXPECT_EQ(matrixOf(pan), identity);
     EXPECT_EQ(matrixAfter({0.5f}), identity);
 }
@@ -80,5 +82,5 @@ TEST(CDSPPan, EqualsThePlainVersionBitForBit) {
     expectSameBits([] { return std::make_unique<CDSPPan>(); },
                    [] { return std::make_unique<CPlainPan>(); },
                    // Several draws, so that a case leaves a half and returns to it.
-                   {{0, 0.25f, 0.75f}, {0, 0.25f, 0.75f}, {0, 0.0f, 1.0f}});
+                   {{kPosition, 0.25f, 0.75f}, {kPosition, 0.25f, 0.75f}, {kPosition, 0.0f, 1.0f}});
 }

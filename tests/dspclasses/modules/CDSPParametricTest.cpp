@@ -6,13 +6,15 @@
 
 #include <memory>
 
+using enum CDSPParametric::EParameter;
+
 namespace {
 
 std::unique_ptr<CDSPParametric> makeWarm() {
     auto parametric = std::make_unique<CDSPParametric>();
-    parametric->setParameter(0, 300.0f);
-    parametric->setParameter(1, 0.25f);
-    parametric->setParameter(2, -9.0f);
+    parametric->setParameter(kFrequency, 300.0f);
+    parametric->setParameter(kBandwidth, 0.25f);
+    parametric->setParameter(kGain, -9.0f);
     return parametric;
 }
 
@@ -27,9 +29,9 @@ const TStereo<double> noise = makeSignal<double>(ESignal::Noise, 2, 60);
 
 TEST(CDSPParametric, StartsFlatAt440Hertz) {
     CDSPParametric parametric;
-    EXPECT_EQ(parametric.getParameter(0), 440.0f);
-    EXPECT_EQ(parametric.getParameter(1), 0.5f);
-    EXPECT_EQ(parametric.getParameter(2), 0.0f);
+    EXPECT_EQ(parametric.getParameter(kFrequency), 440.0f);
+    EXPECT_EQ(parametric.getParameter(kBandwidth), 0.5f);
+    EXPECT_EQ(parametric.getParameter(kGain), 0.0f);
     CDSPRBJFilter peak = makePeak(440.0f, 0.5f, 0.0f);
     EXPECT_TRUE(render(parametric, noise, 60) == render(peak, noise, 60));
 }
@@ -37,9 +39,9 @@ TEST(CDSPParametric, StartsFlatAt440Hertz) {
 TEST(CDSPParametric, IsAPeakWithFrequencyBandwidthAndGain) {
     CDSPRBJFilter peak = makePeak(300.0f, 0.25f, -9.0f);
     EXPECT_TRUE(render(*makeWarm(), noise, 60) == render(peak, noise, 60));
-    EXPECT_EQ(makeWarm()->getParameter(0), 300.0f);
-    EXPECT_EQ(makeWarm()->getParameter(1), 0.25f);
-    EXPECT_EQ(makeWarm()->getParameter(2), -9.0f);
+    EXPECT_EQ(makeWarm()->getParameter(kFrequency), 300.0f);
+    EXPECT_EQ(makeWarm()->getParameter(kBandwidth), 0.25f);
+    EXPECT_EQ(makeWarm()->getParameter(kGain), -9.0f);
 }
 
 TEST(CDSPParametric, IgnoresAnUnknownIndex) {
@@ -54,7 +56,7 @@ TEST(CDSPParametric, ResetClearsTheFilterAndKeepsTheParameters) {
     const auto fresh = render(*parametric, noise, 60);
     parametric->reset();
     EXPECT_TRUE(render(*parametric, noise, 60) == fresh);
-    EXPECT_EQ(parametric->getParameter(2), -9.0f);
+    EXPECT_EQ(parametric->getParameter(kGain), -9.0f);
 }
 
 TEST(CDSPParametric, AcceptsBlocksOfAnyLength) {
@@ -67,7 +69,8 @@ TEST(CDSPParametric, KeepsItsStateToItself) {
 }
 
 TEST(CDSPParametric, EqualsThePlainVersionBitForBit) {
-    expectSameBits([] { return std::make_unique<CDSPParametric>(); },
-                   [] { return std::make_unique<CPlainParametric>(); },
-                   {{0, 100.0f, 6000.0f}, {1, 0.125f, 1.0f}, {2, -12.0f, 12.0f}});
+    expectSameBits(
+        [] { return std::make_unique<CDSPParametric>(); },
+        [] { return std::make_unique<CPlainParametric>(); },
+        {{kFrequency, 100.0f, 6000.0f}, {kBandwidth, 0.125f, 1.0f}, {kGain, -12.0f, 12.0f}});
 }

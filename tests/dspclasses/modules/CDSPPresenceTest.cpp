@@ -6,12 +6,14 @@
 
 #include <memory>
 
+using enum CDSPPresence::EParameter;
+
 namespace {
 
 std::unique_ptr<CDSPPresence> makeBright() {
     auto presence = std::make_unique<CDSPPresence>();
-    presence->setParameter(0, 4000.0f);
-    presence->setParameter(1, 9.0f);
+    presence->setParameter(kFrequency, 4000.0f);
+    presence->setParameter(kGain, 9.0f);
     return presence;
 }
 
@@ -26,8 +28,8 @@ const TStereo<double> noise = makeSignal<double>(ESignal::Noise, 2, 60);
 
 TEST(CDSPPresence, StartsFlatAt2000Hertz) {
     CDSPPresence presence;
-    EXPECT_EQ(presence.getParameter(0), 2000.0f);
-    EXPECT_EQ(presence.getParameter(1), 0.0f);
+    EXPECT_EQ(presence.getParameter(kFrequency), 2000.0f);
+    EXPECT_EQ(presence.getParameter(kGain), 0.0f);
     CDSPRBJFilter peak = makePeak(2000.0f, 0.0f);
     EXPECT_TRUE(render(presence, noise, 60) == render(peak, noise, 60));
 }
@@ -35,8 +37,8 @@ TEST(CDSPPresence, StartsFlatAt2000Hertz) {
 TEST(CDSPPresence, IsAPeakOfHalfAnOctave) {
     CDSPRBJFilter peak = makePeak(4000.0f, 9.0f);
     EXPECT_TRUE(render(*makeBright(), noise, 60) == render(peak, noise, 60));
-    EXPECT_EQ(makeBright()->getParameter(0), 4000.0f);
-    EXPECT_EQ(makeBright()->getParameter(1), 9.0f);
+    EXPECT_EQ(makeBright()->getParameter(kFrequency), 4000.0f);
+    EXPECT_EQ(makeBright()->getParameter(kGain), 9.0f);
 }
 
 TEST(CDSPPresence, IgnoresAnUnknownIndex) {
@@ -51,7 +53,7 @@ TEST(CDSPPresence, ResetClearsTheFilterAndKeepsTheParameters) {
     const auto fresh = render(*presence, noise, 60);
     presence->reset();
     EXPECT_TRUE(render(*presence, noise, 60) == fresh);
-    EXPECT_EQ(presence->getParameter(1), 9.0f);
+    EXPECT_EQ(presence->getParameter(kGain), 9.0f);
 }
 
 TEST(CDSPPresence, AcceptsBlocksOfAnyLength) {
@@ -66,5 +68,5 @@ TEST(CDSPPresence, KeepsItsStateToItself) {
 TEST(CDSPPresence, EqualsThePlainVersionBitForBit) {
     expectSameBits([] { return std::make_unique<CDSPPresence>(); },
                    [] { return std::make_unique<CPlainPresence>(); },
-                   {{0, 1000.0f, 6000.0f}, {1, -12.0f, 12.0f}});
+                   {{kFrequency, 1000.0f, 6000.0f}, {kGain, -12.0f, 12.0f}});
 }

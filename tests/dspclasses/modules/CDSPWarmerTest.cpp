@@ -7,11 +7,13 @@
 #include <cmath>
 #include <memory>
 
+using enum CDSPWarmer::EParameter;
+
 namespace {
 
 std::unique_ptr<CDSPWarmer> makeWarm() {
     auto warmer = std::make_unique<CDSPWarmer>();
-    warmer->setParameter(0, 0.7f);
+    warmer->setParameter(kWarmth, 0.7f);
     return warmer;
 }
 
@@ -27,7 +29,7 @@ Sample bend(CDSPWarmer &warmer, Sample sample) {
 
 TEST(CDSPWarmer, IsTheIdentityAtFirst) {
     CDSPWarmer warmer;
-    EXPECT_EQ(warmer.getParameter(0), 0.0f);
+    EXPECT_EQ(warmer.getParameter(kWarmth), 0.0f);
     const auto input = makeSignal<float>(ESignal::Noise, 1, 500);
     const auto output = render(warmer, input, 500);
     for (std::size_t channel = 0; channel < 2; ++channel)
@@ -37,7 +39,7 @@ TEST(CDSPWarmer, IsTheIdentityAtFirst) {
 
 TEST(CDSPWarmer, BendsTheHalfWavesDifferentlyAtFullWarmth) {
     CDSPWarmer warmer;
-    warmer.setParameter(0, 1.0f);
+    warmer.setParameter(kWarmth, 1.0f);
     EXPECT_EQ(bend(warmer, 0.0f), 0.0f);
     EXPECT_EQ(bend(warmer, 1.0f), 1.0f);
     EXPECT_NEAR(bend(warmer, 0.5f), 0.7f, 1e-6f);
@@ -48,10 +50,10 @@ TEST(CDSPWarmer, BendsTheHalfWavesDifferentlyAtFullWarmth) {
 
 TEST(CDSPWarmer, NothingGuardsThePole) {
     CDSPWarmer warmer;
-    warmer.setParameter(0, 1.0f);
+    warmer.setParameter(kWarmth, 1.0f);
     EXPECT_GT(std::abs(bend(warmer, -0.75)), 1e5);
     // A bias of 2/3 gives a curve of -0.5, whose pole is exactly at -1.
-    warmer.setParameter(0, 5.0f / 6.0f);
+    warmer.setParameter(kWarmth, 5.0f / 6.0f);
     EXPECT_TRUE(std::isinf(bend(warmer, -1.0f)));
 }
 
@@ -70,15 +72,15 @@ TEST(CDSPWarmer, IgnoresTheIndex) {
 
 TEST(CDSPWarmer, IgnoresMinusZeroAfterZero) {
     CDSPWarmer warmer;
-    warmer.setParameter(0, -0.0f);
-    EXPECT_FALSE(std::signbit(warmer.getParameter(0)));
+    warmer.setParameter(kWarmth, -0.0f);
+    EXPECT_FALSE(std::signbit(warmer.getParameter(kWarmth)));
 }
 
 TEST(CDSPWarmer, HasNothingToReset) {
     auto warmer = makeWarm();
     const float before = bend(*warmer, 0.5f);
     warmer->reset();
-    EXPECT_EQ(warmer->getParameter(0), 0.7f);
+    EXPECT_EQ(warmer->getParameter(kWarmth), 0.7f);
     EXPECT_EQ(bend(*warmer, 0.5f), before);
 }
 
@@ -89,5 +91,5 @@ TEST(CDSPWarmer, AcceptsBlocksOfAnyLength) {
 
 TEST(CDSPWarmer, EqualsThePlainVersionBitForBit) {
     expectSameBits([] { return std::make_unique<CDSPWarmer>(); },
-                   [] { return std::make_unique<CPlainWarmer>(); }, {{0, 0.0f, 1.0f}});
+                   [] { return std::make_unique<CPlainWarmer>(); }, {{kWarmth, 0.0f, 1.0f}});
 }
