@@ -30,7 +30,7 @@ public:
     void process(float **inputs, float **outputs, long sampleFrames) override;
 
     /// Every parameter value reaches the strip through here. [any thread]
-    /// @param index  0 to 63, not checked. @param value normalised, not clamped.
+    /// @param index  0 to 63, not checked.  @param value  normalised, not clamped.
     void setParameter(int index, float value) override;
     float getParameter(int index) override;
     void getParameterLabel(int index, char *label) override;
@@ -48,8 +48,8 @@ public:
     /// @return the size in bytes: one record if isPreset, otherwise all twenty. [gui thread]
     int getChunk(void **data, bool isPreset) override;
     /// Loads one record into the current program, or all twenty. The bytes are trusted; byteSize is
-    /// ignored. Kept: a bank puts the first program's values into effect, but the program number
-    /// stays. @return the number of bytes read. [gui thread]
+    /// ignored. Kept: a bank sets the values of its first program but keeps the program number.
+    /// @return the number of bytes read. [gui thread]
     int setChunk(void *data, int byteSize, bool isPreset) override;
 
     bool getInputProperties(int index, VstPinProperties *properties) override;

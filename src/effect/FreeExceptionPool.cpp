@@ -14,8 +14,7 @@ struct SExceptionPool {
 };
 
 // Constructed before every other static object, so destroyed after all of them: until then an
-// exception could still need the pool. 101 is the first priority that is not reserved for the
-// compiler.
+// exception could still need the pool. The compiler reserves the priorities below 101 for itself.
 [[gnu::init_priority(101)]] SExceptionPool exceptionPool;
 
 }  // namespace

@@ -55,7 +55,7 @@ private:
     static std::unique_ptr<CString> s_description;
     static std::unique_ptr<CString> s_registryPath;
     static std::unique_ptr<CSystemString> s_applicationPath;
-    // Both are the effect's module: the first is for creating windows, the second for its path.
+    // Both are the effect's module. Windows are created with the first; the second finds its path.
     static void *s_instanceHandle;
     static void *s_moduleHandle;
     static GUI::Windowing::IWindow *s_mainWindow;  // not owned

@@ -55,8 +55,8 @@ public:
     bool seekFromHere(long offset);
     bool rewind();
 
-    /// @return the length in bytes. If the stream is not open for reading, -1. If the file cannot
-    ///         seek, like a pipe, -1 too, and the failure is set.
+    /// @return the length in bytes; -1 if the stream is not open for reading, or if it cannot seek,
+    ///         like a pipe. Only the second sets the failure.
     long getStreamLength();
 
     /// Transfer bytes without swapping them.

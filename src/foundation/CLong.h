@@ -36,8 +36,7 @@ public:
         return left.m_value <=> right.m_value;
     }
 
-    /// @param width  minimum number of characters, the sign included; padded with zeros on the
-    ///               left.
+    /// @param width  minimum number of characters with the sign; zeros pad the number on the left.
     static CString toString(long value, int width);
 
 private:

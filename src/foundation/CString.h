@@ -52,7 +52,7 @@ public:
     virtual bool operator==(const char *text) const;
     virtual bool operator!=(const CString &other) const;
     virtual bool operator!=(const char *text) const;
-    /// Kept: true if the number of characters is 0, so never, since even "" has a terminator.
+    /// True if the number of characters is 0. Kept: that is never so, since "" has a terminator.
     virtual bool operator!() const;
     virtual char operator[](long index) const;  ///< characterAt()
     virtual operator CPascalString() const;     ///< in a block of 256 bytes
@@ -101,7 +101,7 @@ public:
     /// tried, so "ab" is not found in "aab".
     std::int32_t findSubString(const CString &needle) const;
     static bool isWhiteSpace(char character);  ///< a blank, or a code from 9 to 13
-    /// Kept: true if every position is white space, so never, since the terminator is not.
+    /// True if every position is white space. Kept: that is never so, since the terminator is not.
     bool isWhiteSpace() const;
 
     static CString toString(double value);  ///< "%.3f"

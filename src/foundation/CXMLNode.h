@@ -9,8 +9,8 @@ namespace Tessitor::IO {
 class CXMLNode : public Basics::CCountedObject {
 public:
     /// @param parent  null for none. The node holds no reference to it and is not added to its
-    ///                children: call parent->addChild() as well. If the parent is destroyed first,
-    ///                the node no longer has a parent.
+    ///                children: call parent->addChild() as well. A parent that is destroyed leaves
+    ///                its children without a parent.
     CXMLNode(const Basics::CString &name, CXMLNode *parent);
     CXMLNode(const CXMLNode &) = delete;
     CXMLNode &operator=(const CXMLNode &) = delete;

@@ -16,7 +16,7 @@ struct SFence {
 /// the outermost operation down to the first failure.
 [[noreturn]] void rethrowThrough(const SFence &fence);
 
-/// Runs an operation inside a fence: whatever it throws leaves as a CException.
+/// Runs an operation inside a fence: anything that it throws becomes a CException.
 ///
 ///     constexpr SFence storing{"Caught exception during string storing, more below\n\n",
 ///                              "Caught unknown exception during string storing",

@@ -15,7 +15,7 @@ CTextStream &traceStream() {
     return stream;
 }
 
-// Constructs the stream during static initialisation, unless another static object traced before.
+// Constructs the stream during static initialisation, unless a static object has already traced.
 [[maybe_unused]] const CTextStream &builtEarly = traceStream();
 
 void writeLine(const std::string &text) {

@@ -7,7 +7,7 @@ namespace Tessitor::IO {
 /// The log of the process: one text stream, shared by all threads without a lock. Nothing is
 /// written until it is opened. It is closed when the program ends. [one thread at a time]
 
-/// Closes the trace and starts a new one in this file, replacing what the file held.
+/// Closes the trace and starts a new one in this file, replacing its contents.
 /// @return false if the file cannot be opened. The trace is then closed.
 bool openTrace(const Basics::CSystemString &path);
 

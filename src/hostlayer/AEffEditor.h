@@ -5,8 +5,9 @@
 class AudioEffect;
 
 /// An effect's editor as the dispatcher sees it. The rectangle is valid whether the editor is open
-/// or not: Audacity 3.2.4 asks for it before it opens the editor, Ardour 7.3 afterwards. [gui
-/// thread], which in Ardour 7.3 is not the thread that created the effect.
+/// or not: Audacity 3.2.4 asks for it before it opens the editor, Ardour 7.3 afterwards.
+///
+/// [gui thread], which in Ardour 7.3 is not the thread that created the effect.
 class AEffEditor {
 public:
     /// @param owner  outlives the editor; may be null.

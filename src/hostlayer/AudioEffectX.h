@@ -45,8 +45,7 @@ public:
     }
     virtual bool getSpeakerArrangement(VstSpeakerArrangement **in, VstSpeakerArrangement **out);
 
-    /// These write at most kVstMaxEffectNameLen, kVstMaxVendorStrLen and kVstMaxProductStrLen
-    /// bytes.
+    /// The buffers have kVstMaxEffectNameLen, kVstMaxVendorStrLen and kVstMaxProductStrLen bytes.
     virtual bool getEffectName(char * /*name*/) { return false; }
     virtual bool getVendorString(char * /*text*/) { return false; }
     virtual bool getProductString(char * /*text*/) { return false; }

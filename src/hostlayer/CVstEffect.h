@@ -40,8 +40,7 @@ public:
     bool getVendorString(char *text) override;
     bool getProductString(char *text) override;
 
-    /// These return the texts of an effect without programs and parameters: "Default" and "No
-    /// param".
+    /// These return "Default" and "No param", for effects without programs and parameters.
     void setProgramName(char *name) override;
     void getProgramName(char *name) override;
     bool getProgramNameIndexed(int category, int index, char *text) override;

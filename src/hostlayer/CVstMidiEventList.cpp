@@ -25,7 +25,7 @@ void CVstMidiEventList::readEvents(const VstEvents &block) {
 }
 
 void CVstMidiEventList::readEvent(const VstMidiEvent &event) {
-    // Kept: one of the channel's four bits, so channel 0 receives the first eight channels.
+    // Kept: only the top bit of the channel, so channel 0 receives the first eight channels.
     const int channel = byteOf(event, 0) & 8;
     if (channel != m_channel)
         return;

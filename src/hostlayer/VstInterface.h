@@ -132,7 +132,7 @@ enum VstEventType : std::int32_t { kVstMidiType = 1, kVstSysExType = 6 };
 /// VstMidiEvent::flags
 enum VstMidiEventFlags : std::int32_t { kVstMidiEventIsRealtime = 1 << 0 };
 
-/// The header common to all events; `type` gives the kind.
+/// The header common to all events.
 struct VstEvent {
     std::int32_t type;         ///< VstEventType
     std::int32_t byteSize;     ///< unreliable: may be less than the size of the structure

@@ -98,7 +98,7 @@ enum AudioMasterOpcode : std::int32_t {
     audioMasterAutomate = 0,  ///< index, opt = value
     /// -> the host's version; the only call allowed before there is an effect
     audioMasterVersion = 1,
-    audioMasterCurrentId = 2,  ///< -> the unique id to make, in a shell
+    audioMasterCurrentId = 2,  ///< -> in a shell, the unique id to create
     audioMasterIdle = 3,
     audioMasterPinConnected = 4,   ///< deprecated; index -> 0 if connected
     audioMasterWantMidi = 6,       ///< deprecated; value 1

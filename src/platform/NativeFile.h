@@ -21,8 +21,8 @@ struct SNativeFile {
 
 inline constexpr std::uint32_t nativeFolderAttribute = 16;
 
-/// @param path  without a trailing separator: with one, Windows finds nothing. If the name holds
-///              "*" or "?", Windows takes the first match. Linux follows symbolic links.
+/// @param path  without a trailing separator: with one, Windows finds nothing. If the name
+///              contains "*" or "?", Windows takes the first match. Linux follows symbolic links.
 /// @return nothing if there is no such file.
 std::optional<SNativeFile> nativeFile(const std::string &path);
 

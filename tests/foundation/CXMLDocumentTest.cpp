@@ -299,7 +299,7 @@ TEST_F(CXMLDocumentFile, ALongerLineEndsTheReadingAndItsStartIsParsed) {
         const std::string value = filler.substr(start.size() + 3 + filler.size() - length);
         write(std::string("<?xml?>\n<root>\n").append(start).append(value) + "\"/>\n<last/>\n");
         EXPECT_FALSE(document.readFile(path));
-        // The shorter lines lose only the "/>", so the tag stays open.
+        // The two shorter lines lose only the end of the tag, so it stays open.
         EXPECT_EQ(sketch(document.getRootNode()),
                   length <= 2049 ? "root[tag(gain=1, pan=" + value + ")]" : "root[tag(gain=1)]");
     }

@@ -1,6 +1,6 @@
 // The fixtures are files that were written on each system. Both systems must still write the same
-// bytes and read the other's files. A test that differs leaves its file, named ".actual" at the
-// end, in the working folder. To record a fixture, rename that file.
+// bytes and read each other's files. A test that fails leaves the file that it wrote in the working
+// folder, with ".actual" after the name. To record a new fixture, rename that file.
 #include "foundation/CFileStream.h"
 #include "foundation/CXMLDocument.h"
 #include "foundation/ReadFile.h"

@@ -20,8 +20,7 @@ private:
     static TClassRecord<CEarly> s_class;
 };
 
-// Within one file the order is fixed: these are constructed before the record and destroyed after
-// it.
+// Within one file the order is fixed: the record comes after these, so it is destroyed before them.
 const CEarly first, second;
 TClassRecord<CEarly> CEarly::s_class("CEarly", "CCountedObject");
 

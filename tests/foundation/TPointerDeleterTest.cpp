@@ -61,7 +61,7 @@ TYPED_TEST(TPointerDeleterFamily, CountsItselfAndItsBases) {
     EXPECT_TRUE(witness.getClass().isTypeOf(Tessitor::Basics::CCountedObject().getClass()));
 }
 
-/// Counts what a deleter does to an object. Nothing here uses `this`, so calls on null count too.
+/// Counts what a deleter does to an object. The operations are static, so calls on null count too.
 struct STouched {
     ~STouched() { ++touches; }
     static void reference() { ++touches; }
@@ -107,8 +107,8 @@ private:
     bool &m_destroyed;
 };
 
-/// Static objects are destroyed in reverse order of construction. The list creates its deleter
-/// later than its owner, so a deleter with a destructor would be gone before the list.
+/// Static objects are destroyed in reverse order of construction. The deleter of the list is
+/// created later than the owner, so an ordinary static deleter would be destroyed before the list.
 struct SOwnerOfALateList {
     ~SOwnerOfALateList() {
         const auto deleters = TObjectDeleter<CLateElement>().getClass().getInstanceCount();

@@ -19,8 +19,7 @@ struct SHostCall {
     std::int32_t index;
     std::intptr_t value;
     float opt;
-    std::string text;  // the word of audioMasterCanDo, or a text buffer's contents before the host
-                       // writes to it
+    std::string text;  // the word of audioMasterCanDo, or a text buffer as the effect passed it
 };
 
 /// A host whose answers a test sets, with a log of all calls. Only one can exist at a time, since
@@ -43,7 +42,7 @@ public:
     }
 
     std::map<std::int32_t, std::intptr_t> answers{{audioMasterVersion, 2400}};  // others are 0
-    std::map<std::string, std::intptr_t> canDo;                                 // other words are 0
+    std::map<std::string, std::intptr_t> canDo;  // 0 for words that are not listed
     std::set<std::int32_t> unconnectedInputs;
     std::optional<VstTimeInfo> time;  // unset if the host has no time information
     // Written without a terminator, as a bad host might do. If unset, the buffer is left alone.

@@ -15,8 +15,7 @@ float raw(float v) {
 float gain(float v) {
     if (v > 0.5f)
         return (v - 0.5f) * 12.0f;
-    // Kept: this line meets the next one at 0.2 but is used up to 0.25, where the gain drops by 5
-    // dB.
+    // Kept: the two lines meet at 0.2, but this one is used up to 0.25. The gain drops 5 dB there.
     if (v < 0.25f)
         return (0.2f - v) * -180.0f - 24.0f;
     return (0.5f - v) * -80.0f;

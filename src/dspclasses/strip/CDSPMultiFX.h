@@ -29,9 +29,8 @@ public:
     explicit CDSPMultiFX(Modules slots);  ///< for tests, with their own modules; none may be null
     ~CDSPMultiFX() override;
 
-    /// Allocates only for a block that is longer than all before. Does nothing more if `in` or
-    /// `out` is null. With a mono input, out[1] may be null; out[0] is then half the sum. [audio
-    /// thread]
+    /// [audio thread] Allocates only for a block that is longer than all before. Does nothing more
+    /// if `in` or `out` is null. With a mono input, out[1] may be null, and out[0] is half the sum.
     void processReplacing(float **in, float **out, int frames) override;
     void processDoubleReplacing(double **in, double **out, int frames) override;
 

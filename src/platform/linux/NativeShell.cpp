@@ -21,8 +21,8 @@ int waitFor(pid_t process) {
 }  // namespace
 
 bool openNativeDocument(const std::string &document) {
-    // The shell exits at once and we wait for it. So xdg-open is not a child of the host and cannot
-    // become its zombie. Nor does it inherit the host's open files.
+    // The shell exits at once and we wait for it, so xdg-open is not a child of the host and leaves
+    // it no zombie. Nor does xdg-open inherit the host's open files.
     const char *const arguments[] = {
         "sh", "-c", R"(xdg-open "$1" >/dev/null 2>&1 &)", "sh", document.c_str(), nullptr};
     posix_spawn_file_actions_t actions;
