@@ -75,16 +75,16 @@ constinit const std::array<SParameter, kParameterCount> parameterTable{{
     {"DlySync",   kDelaySlot,        CDSPDelay::kSync,           Law::raw,                 Text::delaySync,      ""},
     {"DlyFdBk",   kDelaySlot,        CDSPDelay::kFeedback,       Law::raw,                 Text::percent,        "%"},
     {"DlyPngPng", kDelaySlot,        CDSPDelay::kPingPong,       Law::raw,                 Text::onOff,          ""},    // 50
-    {"DlyDry",    kDelaySlot,        CDSPDelay::kDryLevel,            Law::raw,                 Text::level,          "dB"},
-    {"DlyWet",    kDelaySlot,        CDSPDelay::kWetLevel,            Law::raw,                 Text::level,          "dB"},
+    {"DlyDry",    kDelaySlot,        CDSPDelay::kDryLevel,       Law::raw,                 Text::level,          "dB"},
+    {"DlyWet",    kDelaySlot,        CDSPDelay::kWetLevel,       Law::raw,                 Text::level,          "dB"},
     {"RvRmSize",  kReverbSlot,       CDSPReverb::kRoomSize,      Law::roomSize,            Text::roomSize,       "m2"},
     {"RvTime",    kReverbSlot,       CDSPReverb::kTime,          Law::reverbTime,          Text::twoDecimals,    "s"},
     {"RvInDamp",  kReverbSlot,       CDSPReverb::kInputDamping,  Law::raw,                 Text::percent,        "%"},
     {"RvWllDmp",  kReverbSlot,       CDSPReverb::kWallDamping,   Law::raw,                 Text::percent,        "%"},
     {"RvSpread",  kReverbSlot,       CDSPReverb::kSpread,        Law::raw,                 Text::percent,        "%"},
-    {"RvDryLvl",  kReverbSlot,       CDSPReverb::kDryLevel,           Law::raw,                 Text::level,          "dB"},
-    {"RvERLvl",   kReverbSlot,       CDSPReverb::kEarlyLevel,         Law::raw,                 Text::level,          "dB"},
-    {"RvTlLvl",   kReverbSlot,       CDSPReverb::kTailLevel,          Law::raw,                 Text::level,          "dB"},  // 60
+    {"RvDryLvl",  kReverbSlot,       CDSPReverb::kDryLevel,      Law::raw,                 Text::level,          "dB"},
+    {"RvERLvl",   kReverbSlot,       CDSPReverb::kEarlyLevel,    Law::raw,                 Text::level,          "dB"},
+    {"RvTlLvl",   kReverbSlot,       CDSPReverb::kTailLevel,     Law::raw,                 Text::level,          "dB"},  // 60
     {"OutMono",   kOutMonoSlot,      CDSPMono::kRouting,         Law::raw,                 Text::monoMode,       ""},
     {"",          kNoSlot,           0,                          Law::raw,                 Text::none,           ""},
     {"",          kNoSlot,           0,                          Law::raw,                 Text::none,           ""},
