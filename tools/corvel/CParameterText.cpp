@@ -94,10 +94,11 @@ float CParameterText::valueOf(std::string_view text) const {
                std::isfinite(*asked.number)) {
         if (*asked.number >= 0.0 && *asked.number <= 1.0)
             return static_cast<float>(*asked.number);
-        if (!m_unit.empty())
+        if (!m_unit.empty()) {
             throw CCallError(quoted(text) + " needs a unit, as in " +
                              quoted(std::string(text) + m_unit) +
                              "; without one, a value is from 0 to 1");
+        }
     }
 
     std::vector<SPoint> showing = pointsShowing(asked);
