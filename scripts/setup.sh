@@ -8,6 +8,7 @@ set -euo pipefail
 run_packages=(
     g++ cmake ninja-build pkgconf  # the build
     libxcb1-dev                    # talks to the X server
+    libcairo2-dev libfontconfig-dev libfreetype-dev libjpeg62-turbo-dev libpng-dev  # the drawing
     libsndfile1-dev libsamplerate0-dev libcli11-dev nlohmann-json3-dev  # the command-line host
     googletest locales             # the tests, part of every whole build
     libbenchmark-dev python3       # the benchmarks and the table of their results
@@ -17,6 +18,7 @@ test_packages=(
     git                                                 # for scripts/golden.sh and scripts/check-fresh.sh
     g++-mingw-w64-x86-64-posix gcc-mingw-w64-x86-64-posix  # the Windows build
     wine wine64 xvfb xauth                              # run the Windows tests
+    fonts-liberation                                    # the face of the text in the tests
 )
 # Each version formats and warns in its own way, so these are pinned.
 lint_packages=(clang-format-14 clang-tidy-14 shellcheck pyflakes3)
