@@ -30,5 +30,9 @@ std::optional<SNativeFile> nativeFile(const std::string &path);
 ///         does not expand "*" or "?".
 bool isNativeFolder(const std::string &path);
 
+/// @return true if the path leads to a regular file: not a folder, a pipe, a device or a socket.
+///         Follows links and does not expand "*" or "?".
+bool isNativeRegularFile(const std::string &path);
+
 /// @return the number of entries that are not folders; 0 if the folder cannot be read.
 int nativeFileCount(const std::string &folder);

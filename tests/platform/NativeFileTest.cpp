@@ -65,6 +65,14 @@ TEST_F(NativeFile, ReturnsNothingForAMissingFile) {
     EXPECT_FALSE(nativeFile((folder / "none" / "none").string()));
 }
 
+TEST_F(NativeFile, TellsRegularFilesFromFolders) {
+    EXPECT_TRUE(isNativeRegularFile(make("Voice.wav")));
+    EXPECT_FALSE(isNativeRegularFile(folder.path().string()));
+    EXPECT_FALSE(isNativeRegularFile((folder / "none").string()));
+    EXPECT_FALSE(isNativeRegularFile((folder / "*.wav").string()));
+    EXPECT_FALSE(isNativeRegularFile(""));
+}
+
 TEST_F(NativeFile, CountsFilesButNotFolders) {
     EXPECT_EQ(nativeFileCount(folder.path().string()), 0);
     make("one");

@@ -46,6 +46,11 @@ bool isNativeFolder(const std::string &path) {
     return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
+bool isNativeRegularFile(const std::string &path) {
+    struct stat status {};
+    return stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
+}
+
 int nativeFileCount(const std::string &folder) {
     std::error_code failed;
     int count = 0;

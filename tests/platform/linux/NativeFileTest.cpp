@@ -45,6 +45,18 @@ TEST(NativeFileOnLinux, FollowsLinks) {
     EXPECT_NE(nativeFile((folder / "link").string())->attributes & nativeFolderAttribute, 0u);
     EXPECT_TRUE(isNativeFolder((folder / "link").string()));
     EXPECT_FALSE(isNativeFolder((folder / "broken").string()));
+    std::ofstream(folder / "file");
+    std::filesystem::create_symlink(folder / "file", folder / "link to file");
+    EXPECT_TRUE(isNativeRegularFile((folder / "link to file").string()));
+    EXPECT_FALSE(isNativeRegularFile((folder / "broken").string()));
+}
+
+TEST(NativeFileOnLinux, PipesAndDevicesAreNotRegularFiles) {
+    const CTemporaryFolder folder;
+    const std::string pipe = (folder / "pipe").string();
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    EXPECT_FALSE(isNativeRegularFile(pipe)) << "and it is not opened, which would wait";
+    EXPECT_FALSE(isNativeRegularFile("/dev/zero"));
 }
 
 }  // namespace

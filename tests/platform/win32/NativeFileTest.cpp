@@ -42,4 +42,18 @@ TEST(NativeFileOnWindows, TakesTheFirstMatchOfAPattern) {
     EXPECT_EQ(nativeFile((folder / "*.wav").string())->name, "Voice.wav");
 }
 
+TEST(NativeFileOnWindows, PipesAndDevicesAreNotRegularFiles) {
+    EXPECT_FALSE(isNativeRegularFile("NUL"));
+    EXPECT_FALSE(isNativeRegularFile("CON"));
+    const char *name = R"(\\.\pipe\corvel-test)";
+    const HANDLE pipe = CreateNamedPipeA(name, PIPE_ACCESS_DUPLEX, PIPE_TYPE_BYTE | PIPE_NOWAIT, 1,
+                                         16, 16, 0, nullptr);
+    ASSERT_NE(pipe, INVALID_HANDLE_VALUE);
+    EXPECT_FALSE(isNativeRegularFile(name));
+    const HANDLE client = CreateFileA(name, GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    EXPECT_NE(client, INVALID_HANDLE_VALUE) << "the pipe's only instance is still free";
+    CloseHandle(client);
+    CloseHandle(pipe);
+}
+
 }  // namespace
