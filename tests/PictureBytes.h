@@ -81,8 +81,9 @@ inline std::string pngBytes(std::uint32_t width, std::uint32_t height, const std
 
 /// @param contents  of the segment, after its length.
 inline std::string jpegSegment(std::uint8_t marker, const std::string &contents) {
-    return "\xff" + std::string(1, static_cast<char>(marker)) +
-           bigEndian(static_cast<std::uint32_t>(contents.size()) + 2, 2) + contents;
+    std::string segment = "\xff";
+    segment += static_cast<char>(marker);
+    return segment + bigEndian(static_cast<std::uint32_t>(contents.size()) + 2, 2) + contents;
 }
 
 /// A JPEG with one component, grey 128 all over. Its blocks have two bits each, both 0.
