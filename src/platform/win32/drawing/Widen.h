@@ -1,0 +1,6 @@
+#pragma once
+
+#include <string>
+
+/// @param text  in the system's narrow encoding.
+std::wstring widen(const char *text);
