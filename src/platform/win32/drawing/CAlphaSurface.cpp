@@ -24,7 +24,7 @@ HDC CAlphaSurface::getBitmapContext() const {
     return TWin32Surface::getDeviceContext();
 }
 
-SNativeRect CAlphaSurface::prepareForGraphics() {
+RECT CAlphaSurface::prepareForGraphics() {
     setFourthByte(EFourthByte::Alpha);
     GdiFlush();
     return TWin32Surface::prepareForGraphics();

@@ -19,7 +19,7 @@ private:
     enum class EFourthByte { Alpha, Opposite };
 
     SSmoothGraphics createGraphics() override;
-    SNativeRect prepareForGraphics() override;
+    RECT prepareForGraphics() override;
     HDC getBitmapContext() const override;
 
     void setFourthByte(EFourthByte meaning) const;

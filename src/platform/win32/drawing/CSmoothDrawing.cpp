@@ -68,7 +68,7 @@ private:
 }  // namespace
 
 GpGraphics *CSmoothDrawing::prepare(const std::optional<SNativeRect> &area) {
-    RECT clip = toRect(m_surface.prepareForGraphics());
+    RECT clip = m_surface.prepareForGraphics();
     for (const std::optional<SNativeRect> &limit : {m_clip, area}) {
         if (limit) {
             const RECT inside = toRect(*limit);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/SNativeRect.h"
 #include "platform/win32/drawing/GdiplusObjects.h"
 
 /// What GDI+ draws with, and the picture that it draws on unless that is a device context.
@@ -16,7 +15,7 @@ public:
     virtual SSmoothGraphics createGraphics() = 0;
     /// Makes the pixels ready for GDI+. Called before each operation.
     /// @return the clip of the surface.
-    virtual SNativeRect prepareForGraphics() = 0;
+    virtual RECT prepareForGraphics() = 0;
 
 protected:
     ~ISmoothSurface() = default;

@@ -9,6 +9,15 @@
 #include <algorithm>
 #include <vector>
 
+namespace {
+
+RECT inOrder(const SNativeRect &rect) {
+    return {std::min(rect.left, rect.right), std::min(rect.top, rect.bottom),
+            std::max(rect.left, rect.right), std::max(rect.top, rect.bottom)};
+}
+
+}  // namespace
+
 template <typename Interface>
 TWin32Surface<Interface>::TWin32Surface(HDC compatibleWith, TGdiObject<HBITMAP> bitmap,
                                         std::int32_t width, std::int32_t height)
@@ -51,8 +60,8 @@ void TWin32Surface<Interface>::setNullBrush() {
 
 template <typename Interface>
 void TWin32Surface<Interface>::setClip(const SNativeRect &area) {
-    m_clip = area;
-    const TGdiObject<HRGN> region(CreateRectRgn(area.left, area.top, area.right, area.bottom));
+    m_clip = inOrder(area);
+    const TGdiObject<HRGN> region(CreateRectRgnIndirect(&m_clip));
     SelectClipRgn(m_context.getHandle(), region.get());
 }
 
@@ -63,8 +72,10 @@ void TWin32Surface<Interface>::setPixel(SNativePoint point, SNativeColour colour
 
 template <typename Interface>
 SNativeColour TWin32Surface<Interface>::getPixel(SNativePoint point) const {
-    // CLR_INVALID happens to be white.
-    const COLORREF colour = GetPixel(getDeviceContext(), point.x, point.y);
+    const HDC context = getDeviceContext();
+    // Wine also reads outside the clip. What both refuse to read is CLR_INVALID, which is white.
+    const bool isVisible = PtVisible(context, point.x, point.y) != 0;
+    const COLORREF colour = isVisible ? GetPixel(context, point.x, point.y) : CLR_INVALID;
     return {GetRValue(colour), GetGValue(colour), GetBValue(colour)};
 }
 
@@ -89,7 +100,7 @@ void TWin32Surface<Interface>::drawArc(const SNativeRect &rect, SNativePoint sta
 template <typename Interface>
 void TWin32Surface<Interface>::fillRectangle(const SNativeRect &rect) {
     const HDC context = getDeviceContext();
-    const RECT area = toRect(rect);
+    const RECT area = inOrder(rect);
     FillRect(context, &area, static_cast<HBRUSH>(GetCurrentObject(context, OBJ_BRUSH)));
 }
 

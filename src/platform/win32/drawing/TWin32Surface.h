@@ -51,7 +51,7 @@ public:
 protected:
     // ISmoothSurface
     SSmoothGraphics createGraphics() override;
-    SNativeRect prepareForGraphics() override { return m_clip; }
+    RECT prepareForGraphics() override { return m_clip; }
 
     /// @return the context, ready for pictures whose pixels have alpha.
     virtual HDC getBitmapContext() const { return getDeviceContext(); }
@@ -60,7 +60,7 @@ private:
     void selectPen(TGdiObject<HPEN> pen);
 
     const std::int32_t m_width, m_height;
-    SNativeRect m_clip;
+    RECT m_clip;
     // What is selected into the context must outlive it.
     TGdiObject<HPEN> m_pen;
     TGdiObject<HBRUSH> m_brush;
