@@ -26,7 +26,7 @@ bool CPngReader::readHeader() {
     png_read_info(m_png, m_info);
     png_set_expand(
         m_png);  // a palette to colours, one bit to a byte, a transparent colour to alpha
-    png_set_scale_16(m_png);  // 16 bits to eight, rounded
+    png_set_strip_16(m_png);  // 16 bits to the upper eight, as GDI+ does
     png_set_gray_to_rgb(m_png);
     png_set_bgr(m_png);
     png_set_add_alpha(m_png, 255, PNG_FILLER_AFTER);  // if there is none yet

@@ -70,102 +70,16 @@ Pixels square(std::uint32_t pixel) {
     return Pixels(16 * 16, pixel);
 }
 
-TEST_F(NativeBitmapOnLinux, IsPremultipliedAndRounded) {
-    png.width = 5;
-    png.rows = zeros(1) + std::string("\xff\x80\x01\xff"
-                                      "\xff\x80\x01\x80"
-                                      "\xff\x80\x01\x01"
-                                      "\xff\x80\x7f\x00"
-                                      "\xff\x7f\x02\x01",
-                                      20);
-    // 128 * 128 / 255 is 64.25; 127 / 255 is 0.498; 128 / 255 is 0.502.
-    EXPECT_THAT(decode(png),
-                testing::ElementsAre(0xffff8001, 0x80804001, 0x01010100, 0, 0x01010000));
-}
-
-TEST_F(NativeBitmapOnLinux, ReadsRowsFromTheTop) {
-    png.height = 2;
-    png.rows = std::string("\0\1\2\3\xff\0\4\5\6\xff", 10);
-    EXPECT_THAT(decode(png), testing::ElementsAre(0xff010203, 0xff040506));
-}
-
-TEST_F(NativeBitmapOnLinux, ReadsColoursWithoutAlpha) {
+TEST_F(NativeBitmapOnLinux, KeepsAlpha) {
+    png.width = 3;
+    png.rows = std::string("\0\1\2\3\xff"
+                           "\xff\xff\xff\x80"
+                           "\1\1\1\0",
+                           13);
+    EXPECT_THAT(decode(png), testing::ElementsAre(0xff010203, 0x80808080, 0));
     png.kind = "\x8\2";
-    png.rows = std::string("\0\1\2\3", 4);
-    EXPECT_THAT(decode(png), testing::ElementsAre(0xff010203));
-}
-
-TEST_F(NativeBitmapOnLinux, ReadsGreyOfEveryDepth) {
-    png.kind = "\x8" + zeros(1);
-    png.rows = std::string("\0\x12", 2);
-    EXPECT_THAT(decode(png), testing::ElementsAre(0xff121212));
-    png.kind[0] = '\1';
-    png.width = 3;
-    png.rows = std::string("\0\xa0", 2);
-    EXPECT_THAT(decode(png), testing::ElementsAre(0xffffffff, 0xff000000, 0xffffffff));
-    png.kind[0] = '\2';
-    png.rows = std::string("\0\x1b", 2);
-    EXPECT_THAT(decode(png), testing::ElementsAre(0xff000000, 0xff555555, 0xffaaaaaa));
-    png.kind[0] = '\4';
-    png.rows = std::string("\0\x1f\x20", 3);
-    EXPECT_THAT(decode(png), testing::ElementsAre(0xff111111, 0xffffffff, 0xff222222));
-}
-
-TEST_F(NativeBitmapOnLinux, ReadsGreyWithAlpha) {
-    png.kind = "\x8\4";
-    png.rows = std::string("\0\xff\x33", 3);
-    EXPECT_THAT(decode(png), testing::ElementsAre(0x33333333));
-}
-
-TEST_F(NativeBitmapOnLinux, RoundsSixteenBitsToEight) {
-    png.kind = "\x10\2";
-    png.rows = std::string("\0\x12\x34\x12\xff\xff\xff", 7);
-    EXPECT_THAT(decode(png), testing::ElementsAre(0xff1213ff));
-    png.kind = "\x10\6";
-    png.rows = std::string("\0\xff\xff\0\0\0\0\x80\x80", 9);
-    EXPECT_THAT(decode(png), testing::ElementsAre(0x80800000));
-}
-
-TEST_F(NativeBitmapOnLinux, ReadsAPaletteWithAlpha) {
-    png.kind = "\2\3";
-    png.width = 3;
-    png.rows = std::string("\0\x18", 2);
-    const std::string palette = pngChunk("PLTE", "abcdef\xff\xff\xff");
-    png.extra = palette + pngChunk("tRNS", zeros(1) + "\xff\x33");
-    EXPECT_THAT(decode(png), testing::ElementsAre(0, 0xff646566, 0x33333333));
-    png.extra = palette;
-    EXPECT_THAT(decode(png), testing::ElementsAre(0xff616263, 0xff646566, 0xffffffff));
-    png.extra.clear();
-    EXPECT_TRUE(decode(png).empty()) << "no palette";
-}
-
-TEST_F(NativeBitmapOnLinux, ReadsATransparentColour) {
-    png.kind = "\x8\2";
-    png.width = 2;
-    png.rows = std::string("\0\1\2\3\1\2\4", 7);
-    png.extra = pngChunk("tRNS", std::string("\0\1\0\2\0\3", 6));
-    EXPECT_THAT(decode(png), testing::ElementsAre(0, 0xff010204));
-}
-
-TEST_F(NativeBitmapOnLinux, ReadsInterlacedRows) {
-    png.isInterlaced = true;
-    png.width = 3;
-    png.height = 2;
-    png.kind = "\x8" + zeros(1);
-    // The passes that have pixels: the first, every fourth column from the second on, every other
-    // row from the second on.
-    png.rows = std::string("\0\1"
-                           "\0\3"
-                           "\0\2"
-                           "\0\4\5\6",
-                           10);
-    EXPECT_THAT(decode(png), testing::ElementsAre(0xff010101, 0xff020202, 0xff030303, 0xff040404,
-                                                  0xff050505, 0xff060606));
-}
-
-TEST_F(NativeBitmapOnLinux, IgnoresGamma) {
-    png.extra = pngChunk("gAMA", bigEndian(100'000)) + pngChunk("sRGB", zeros(1));
-    EXPECT_THAT(decode(png), testing::ElementsAre(0xff010203));
+    png.rows = zeros(10);
+    EXPECT_THAT(decode(png), testing::Each(0xff000000));
 }
 
 TEST_F(NativeBitmapOnLinux, ADamagedPngIsRefused) {
@@ -178,6 +92,8 @@ TEST_F(NativeBitmapOnLinux, ADamagedPngIsRefused) {
     bytes[30] = static_cast<char>(bytes[30] ^ 1);
     EXPECT_TRUE(decode(bytes).empty()) << "a wrong check sum";
     EXPECT_FALSE(decode(png).empty());
+    png.kind = "\2\3";
+    EXPECT_TRUE(decode(png).empty()) << "no palette";
 }
 
 TEST_F(NativeBitmapOnLinux, ReadsEveryKindOfJpeg) {
