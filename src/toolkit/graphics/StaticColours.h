@@ -2,8 +2,8 @@
 
 #include "toolkit/graphics/CAlphaColour.h"
 
-/// The colours of the library, so that drawing constructs none. They are static objects of their own
-/// source: other static objects must not use them in their constructors.
+/// The colours of the library, so that drawing constructs none. They are static objects of their
+/// own source: other static objects must not use them in their constructors.
 namespace Tessitor::GUI::Basics::StaticColours {
 
 extern const CColour black;
