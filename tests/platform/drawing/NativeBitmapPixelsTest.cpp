@@ -139,6 +139,16 @@ TEST_F(NativeBitmapPixels, MayComeFromAJpeg) {
     EXPECT_EQ(decode(SJpeg().bytes()), std::vector<std::uint32_t>(64, 0x808080));
 }
 
+TEST_F(NativeBitmapPixels, OfAJpegHaveItsColours) {
+    const auto bitmap = decodeNativeBitmap(FIXTURES "/red-and-blue.jpg");
+    ASSERT_NE(bitmap, nullptr);
+    ASSERT_EQ(bitmap->getWidth(), 16);
+    ASSERT_EQ(bitmap->getHeight(), 8);
+    const std::vector<std::uint32_t> found = colours(*bitmap);
+    EXPECT_EQ(found[4 * 16 + 2] & 0xf8f8f8, 0xc81808u);
+    EXPECT_EQ(found[4 * 16 + 13] & 0xf8f8f8, 0x1038d8u);
+}
+
 TEST_F(NativeBitmapPixels, AreGivenFromTheBottom) {
     const std::vector<std::uint8_t> pixels = {1, 2, 3, 255, 5, 6, 7, 255, 9, 10, 11, 255};
     const auto bitmap = createNativeBitmap(1, 3, pixels);

@@ -12,6 +12,10 @@ using namespace Gdiplus::DllExports;
 
 namespace {
 
+bool isEmpty(const SNativeRect &rect) {
+    return rect.right <= rect.left || rect.bottom <= rect.top;
+}
+
 TGdiplusObject<GpPen> createPen(const SNativeSmoothPen &pen) {
     GpPen *created = nullptr;
     GdipCreatePen1(toArgb(pen.colour), static_cast<REAL>(pen.width), UnitPixel, &created);
@@ -26,8 +30,8 @@ TGdiplusObject<GpPath> createRoundedRectangle(const SNativeRect &rect, std::int3
                                               std::int32_t height) {
     const auto left = static_cast<REAL>(rect.left), top = static_cast<REAL>(rect.top);
     const auto right = static_cast<REAL>(rect.right), bottom = static_cast<REAL>(rect.bottom);
-    const auto across = static_cast<REAL>(std::min(width, rect.right - rect.left));
-    const auto down = static_cast<REAL>(std::min(height, rect.bottom - rect.top));
+    const auto across = static_cast<REAL>(std::clamp(width, 0, rect.right - rect.left));
+    const auto down = static_cast<REAL>(std::clamp(height, 0, rect.bottom - rect.top));
     GpPath *path = nullptr;
     GdipCreatePath(FillModeAlternate, &path);
     GdipAddPathLine(path, left + across / 2, top, right - across / 2, top);
@@ -100,6 +104,8 @@ void CSmoothDrawing::fillRectangle(SNativeColour colour, const SNativeRect &rect
 
 void CSmoothDrawing::fillRoundedRectangle(SNativeColour colour, const SNativeRect &rect,
                                           std::int32_t width, std::int32_t height) {
+    if (isEmpty(rect))
+        return;
     GdipFillPath(prepare(), createSolidFill(colour).get(),
                  createRoundedRectangle(rect, width, height).get());
 }
@@ -119,7 +125,7 @@ void CSmoothDrawing::fillPolygon(SNativeColour colour, std::span<const SNativePo
 
 void CSmoothDrawing::drawText(const char *text, const SNativeRect &rect, const INativeFont &font,
                               SNativeColour colour, int horizontal, int vertical) {
-    if (rect.right <= rect.left || rect.bottom <= rect.top)
+    if (isEmpty(rect))
         return;  // GDI+ would take such a rectangle for one without limits
     GpGraphics *graphics = prepare(rect);  // Wine does not cut the text at its rectangle
     const CTextSettings settings(graphics);

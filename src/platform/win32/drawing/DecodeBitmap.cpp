@@ -1,4 +1,5 @@
 #include "platform/INativeSmoothDrawing.h"
+#include "platform/PictureFile.h"
 #include "platform/win32/drawing/CWin32Bitmap.h"
 #include "platform/win32/drawing/GdiplusObjects.h"
 #include "platform/win32/drawing/Widen.h"
@@ -6,6 +7,9 @@
 using namespace Gdiplus::DllExports;
 
 std::unique_ptr<INativeBitmap> decodeNativeBitmap(const std::string &path) {
+    // GDI+ itself takes many formats, opens pipes, and fills what a cut file lacks.
+    if (!pictureFormat(path))
+        return nullptr;
     const CNativeSmoothSession session;
     if (!session.isAvailable())
         return nullptr;

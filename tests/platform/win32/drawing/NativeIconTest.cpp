@@ -1,0 +1,45 @@
+#include "platform/NativeIcon.h"
+
+#include <gtest/gtest.h>
+#include <string>
+#include <windows.h>
+
+namespace {
+
+void expectSquare(void *icon) {
+    ASSERT_NE(icon, nullptr);
+    ICONINFO info = {};
+    ASSERT_NE(GetIconInfo(static_cast<HICON>(icon), &info), 0);
+    EXPECT_NE(info.fIcon, 0);
+    BITMAP bitmap = {};
+    GetObjectA(info.hbmColor, sizeof bitmap, &bitmap);
+    EXPECT_GE(bitmap.bmWidth, 16);
+    EXPECT_EQ(bitmap.bmWidth, bitmap.bmHeight);
+    DeleteObject(info.hbmColor);
+    DeleteObject(info.hbmMask);
+}
+
+TEST(NativeIcon, IsLoadedFromTheResourcesOfThisModule) {
+    void *icon = loadNativeIcon(101);
+    expectSquare(icon);
+    destroyNativeIcon(icon);
+}
+
+TEST(NativeIcon, IsLoadedFromAFile) {
+    void *icon = loadNativeIcon(std::string(FIXTURES "/square.ico"), 0);
+    expectSquare(icon);
+    destroyNativeIcon(icon);
+    ICONINFO info = {};
+    EXPECT_EQ(GetIconInfo(static_cast<HICON>(icon), &info), 0);
+}
+
+TEST(NativeIcon, IsLoadedFromAProgram) {
+    char program[MAX_PATH];
+    GetModuleFileNameA(nullptr, program, sizeof program);
+    void *icon = loadNativeIcon(std::string(program), 0);
+    expectSquare(icon);
+    destroyNativeIcon(icon);
+    EXPECT_EQ(loadNativeIcon(std::string(program), 1), nullptr);
+}
+
+}  // namespace
