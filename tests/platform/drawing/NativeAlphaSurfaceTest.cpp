@@ -88,9 +88,11 @@ TEST_F(NativeAlphaSurface, BlendsABitmapWithItsAlpha) {
     for (int i = 0; i < 4 * 4; ++i)
         pixels.insert(pixels.end(), {0, 0, 128, 128});
     const auto bitmap = createNativeBitmap(4, 4, pixels);
+    surface->setPixel({2, 3}, black);
     surface->blendBitmap(*bitmap, {1, 1, 5, 5}, {0, 0, 4, 4}, 255);
     const auto shown = over(white, *surface);
     EXPECT_TRUE(isAbout(shown->getPixel({2, 2}), {255, 127, 127})) << shown->getPixel({2, 2});
+    EXPECT_TRUE(isAbout(shown->getPixel({2, 3}), {128, 0, 0})) << shown->getPixel({2, 3});
     EXPECT_EQ(inkOf(*shown, white), (SNativeRect{1, 1, 5, 5}));
 }
 

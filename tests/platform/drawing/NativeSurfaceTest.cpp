@@ -42,6 +42,12 @@ TEST(NativeSurface, StartsWithABlackPenAndAWhiteBrush) {
     EXPECT_EQ(surface->getPixel({0, 0}), black);
 }
 
+TEST(NativeSurface, FillsARectangleWithExchangedEdges) {
+    const auto surface = createNativeSurface(nullptr, 10, 10, red);
+    surface->fillRectangle({7, 9, 2, 3});
+    EXPECT_EQ(inkOf(*surface, red), (SNativeRect{2, 3, 7, 9}));
+}
+
 TEST(NativeSurface, CopiesAnAreaToTheSamePosition) {
     const auto source = createNativeSurface(nullptr, 10, 10, red);
     const auto target = createNativeSurface(nullptr, 10, 10, white);

@@ -12,10 +12,6 @@ using namespace Gdiplus::DllExports;
 
 namespace {
 
-bool isEmpty(const SNativeRect &rect) {
-    return rect.right <= rect.left || rect.bottom <= rect.top;
-}
-
 TGdiplusObject<GpPen> createPen(const SNativeSmoothPen &pen) {
     GpPen *created = nullptr;
     GdipCreatePen1(toArgb(pen.colour), static_cast<REAL>(pen.width), UnitPixel, &created);
@@ -104,7 +100,7 @@ void CSmoothDrawing::fillRectangle(SNativeColour colour, const SNativeRect &rect
 
 void CSmoothDrawing::fillRoundedRectangle(SNativeColour colour, const SNativeRect &rect,
                                           std::int32_t width, std::int32_t height) {
-    if (isEmpty(rect))
+    if (rect.right <= rect.left || rect.bottom <= rect.top)
         return;
     GdipFillPath(prepare(), createSolidFill(colour).get(),
                  createRoundedRectangle(rect, width, height).get());
@@ -125,9 +121,8 @@ void CSmoothDrawing::fillPolygon(SNativeColour colour, std::span<const SNativePo
 
 void CSmoothDrawing::drawText(const char *text, const SNativeRect &rect, const INativeFont &font,
                               SNativeColour colour, int horizontal, int vertical) {
-    if (isEmpty(rect))
-        return;  // GDI+ would take such a rectangle for one without limits
-    GpGraphics *graphics = prepare(rect);  // Wine does not cut the text at its rectangle
+    // Wine does not cut the text at its rectangle, and to GDI+ one without an area has no limits.
+    GpGraphics *graphics = prepare(rect);
     const CTextSettings settings(graphics);
     const std::wstring wide = widen(text);
     const RectF layout(static_cast<REAL>(rect.left), static_cast<REAL>(rect.top),

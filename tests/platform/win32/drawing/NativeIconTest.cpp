@@ -23,6 +23,8 @@ TEST(NativeIcon, IsLoadedFromTheResourcesOfThisModule) {
     void *icon = loadNativeIcon(101);
     expectSquare(icon);
     destroyNativeIcon(icon);
+    // The system takes the lower half of the number.
+    EXPECT_EQ(loadNativeIcon(65536 + 101), nullptr);
 }
 
 TEST(NativeIcon, IsLoadedFromAFile) {
@@ -39,7 +41,8 @@ TEST(NativeIcon, IsLoadedFromAProgram) {
     void *icon = loadNativeIcon(std::string(program), 0);
     expectSquare(icon);
     destroyNativeIcon(icon);
-    EXPECT_EQ(loadNativeIcon(std::string(program), 1), nullptr);
+    for (const int index : {-1, 2})
+        EXPECT_EQ(loadNativeIcon(std::string(program), index), nullptr) << index;
 }
 
 }  // namespace
