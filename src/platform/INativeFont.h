@@ -25,6 +25,10 @@ struct SNativeFontRecord {
     char faceName[32] = "";  // with its terminator, in the system's narrow encoding
 };
 
+/// Copies a face name into a record, cut to 31 bytes but never inside a multibyte character, and
+/// fills the rest with zeros.
+void copyNativeFaceName(char (&target)[32], const char *face);
+
 /// A font that surfaces can draw with. [gui thread]
 class INativeFont {
 public:

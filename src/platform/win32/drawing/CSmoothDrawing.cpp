@@ -65,6 +65,17 @@ private:
     TextRenderingHint m_hint = TextRenderingHintSystemDefault;
 };
 
+/// GDI+ leaves out characters and lines that do not fit wholly, which the clip is to cut instead.
+/// So the rectangle is enlarged on the sides that the text may leave it on.
+RectF widened(const SNativeRect &rect, int horizontal, int vertical) {
+    constexpr REAL more = 10000;
+    const auto before = [](int alignment) { return static_cast<REAL>(alignment) * more / 2; };
+    return {static_cast<REAL>(rect.left) - before(horizontal),
+            static_cast<REAL>(rect.top) - before(vertical),
+            static_cast<REAL>(rect.right - rect.left) + more,
+            static_cast<REAL>(rect.bottom - rect.top) + more};
+}
+
 }  // namespace
 
 GpGraphics *CSmoothDrawing::prepare(const std::optional<SNativeRect> &area) {
@@ -125,9 +136,7 @@ void CSmoothDrawing::drawText(const char *text, const SNativeRect &rect, const I
     GpGraphics *graphics = prepare(rect);
     const CTextSettings settings(graphics);
     const std::wstring wide = widen(text);
-    const RectF layout(static_cast<REAL>(rect.left), static_cast<REAL>(rect.top),
-                       static_cast<REAL>(rect.right - rect.left),
-                       static_cast<REAL>(rect.bottom - rect.top));
+    const RectF layout = widened(rect, horizontal, vertical);
     GdipDrawString(graphics, wide.c_str(), static_cast<INT>(wide.size()),
                    createSmoothFont(font).get(), &layout,
                    createStringFormat(StringFormatFlagsNoWrap, horizontal, vertical).get(),
