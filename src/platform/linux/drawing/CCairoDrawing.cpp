@@ -1,5 +1,7 @@
 #include "platform/linux/drawing/CCairoDrawing.h"
 
+#include "platform/linux/drawing/Blend.h"
+#include "platform/linux/drawing/CCoverage.h"
 #include "platform/linux/drawing/DrawText.h"
 #include "platform/linux/drawing/FillPolygon.h"
 #include "platform/linux/drawing/PlainLines.h"
@@ -67,11 +69,6 @@ CNativeSmoothSession::~CNativeSmoothSession() = default;
 
 CCairoDrawing::CCairoDrawing(CMemorySurface &surface) : m_surface(surface), m_clip(everything) {}
 
-CCairoDrawing::~CCairoDrawing() {
-    if (m_cairo != nullptr)
-        cairo_destroy(m_cairo);
-}
-
 void CCairoDrawing::resetClip() {
     m_clip = everything;
 }
@@ -92,7 +89,7 @@ void CCairoDrawing::drawLine(const SNativeSmoothPen &pen, SNativePoint from, SNa
 }
 
 void CCairoDrawing::drawRectangle(const SNativeSmoothPen &pen, const SNativeRect &rect) {
-    if (rect.right < rect.left || rect.bottom < rect.top)
+    if (rect.right <= rect.left || rect.bottom <= rect.top)
         return;
     if (pen.width <= 1) {
         const SArea area(rect.left, rect.top, rect.right + std::int64_t{1},
@@ -164,45 +161,42 @@ void CCairoDrawing::drawText(const char *text, const SNativeRect &rect, const IN
     drawSmoothText(clipped(), text, rect, font, colour, horizontal, vertical);
 }
 
-void CCairoDrawing::stroke(const SNativeSmoothPen &pen,
-                           const std::function<void(cairo_t *)> &path) {
-    cairo_t *cairo = prepare(pen.colour);
-    if (cairo == nullptr)
-        return;
-    path(cairo);
-    cairo_set_line_width(cairo, std::clamp(pen.width, 1, 100'000));
-    cairo_set_line_cap(cairo, cairoCap(pen.cap));
-    cairo_stroke(cairo);
+void CCairoDrawing::stroke(const SNativeSmoothPen &pen, const Path &path) {
+    const std::int32_t width = std::clamp(pen.width, 1, 100'000);
+    draw(pen.colour, path, width, [&](cairo_t *cairo) {
+        cairo_set_line_width(cairo, width);
+        cairo_set_line_cap(cairo, cairoCap(pen.cap));
+        cairo_stroke(cairo);
+    });
 }
 
-void CCairoDrawing::fill(SNativeColour colour, const std::function<void(cairo_t *)> &path) {
-    cairo_t *cairo = prepare(colour);
-    if (cairo == nullptr)
-        return;
-    path(cairo);
-    cairo_fill(cairo);
+void CCairoDrawing::fill(SNativeColour colour, const Path &path) {
+    draw(colour, path, 0, [](cairo_t *cairo) {
+        cairo_set_fill_rule(cairo, CAIRO_FILL_RULE_EVEN_ODD);
+        cairo_fill(cairo);
+    });
 }
 
-/// @return null if nothing could be seen.
-cairo_t *CCairoDrawing::prepare(SNativeColour colour) {
+void CCairoDrawing::draw(SNativeColour colour, const Path &path, std::int32_t margin,
+                         const Path &paint) {
     const SPixels pixels = clipped();
-    if (SArea(pixels.clip).isEmpty())
-        return nullptr;
-    if (m_cairo == nullptr) {
-        cairo_surface_t *surface = cairo_image_surface_create_for_data(
-            reinterpret_cast<unsigned char *>(pixels.data), CAIRO_FORMAT_ARGB32, pixels.width,
-            pixels.height, pixels.width * 4);
-        m_cairo = cairo_create(surface);
-        cairo_surface_destroy(surface);  // the context keeps it
-        cairo_set_fill_rule(m_cairo, CAIRO_FILL_RULE_EVEN_ODD);
+    const SArea touched = CCoverage::extents(path);
+    const SNativeRect area = intersection({0, 0, pixels.width, pixels.height},
+                                          {touched.left - margin, touched.top - margin,
+                                           touched.right + margin, touched.bottom + margin});
+    const SNativeRect visible = intersection(pixels.clip, area);
+    if (SArea(visible).isEmpty())
+        return;
+
+    const CCoverage coverage(area, [&](cairo_t *cairo) {
+        cairo_set_antialias(cairo, isSmooth() ? CAIRO_ANTIALIAS_DEFAULT : CAIRO_ANTIALIAS_NONE);
+        path(cairo);
+        paint(cairo);
+    });
+    const std::uint32_t pixel = translucentPixel(colour);
+    for (std::int32_t y = visible.top; y < visible.bottom; ++y) {
+        std::uint32_t *row = pixels.row(y);
+        for (std::int32_t x = visible.left; x < visible.right; ++x)
+            row[x] = blendedPixel(scaledPixel(pixel, coverage.at(x, y)), row[x]);
     }
-    cairo_new_path(m_cairo);
-    cairo_reset_clip(m_cairo);
-    cairo_rectangle(m_cairo, pixels.clip.left, pixels.clip.top,
-                    pixels.clip.right - pixels.clip.left, pixels.clip.bottom - pixels.clip.top);
-    cairo_clip(m_cairo);
-    cairo_set_antialias(m_cairo, isSmooth() ? CAIRO_ANTIALIAS_DEFAULT : CAIRO_ANTIALIAS_NONE);
-    cairo_set_source_rgba(m_cairo, colour.red / 255.0, colour.green / 255.0, colour.blue / 255.0,
-                          colour.alpha / 255.0);
-    return m_cairo;
 }

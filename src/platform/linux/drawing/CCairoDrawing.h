@@ -13,9 +13,6 @@ class CCairoDrawing : public INativeSmoothDrawing {
 public:
     /// @param surface  outlives this object.
     explicit CCairoDrawing(CMemorySurface &surface);
-    ~CCairoDrawing() override;
-    CCairoDrawing(const CCairoDrawing &) = delete;
-    CCairoDrawing &operator=(const CCairoDrawing &) = delete;
 
     void setSmoothing(ENativeSmoothing smoothing) override { m_smoothing = smoothing; }
     void setClip(const SNativeRect &area) override { m_clip = inOrder(area); }
@@ -32,14 +29,17 @@ public:
                   SNativeColour colour, int horizontal, int vertical) override;
 
 private:
+    using Path = std::function<void(cairo_t *)>;
+
     bool isSmooth() const { return m_smoothing != ENativeSmoothing::None; }
     SPixels clipped() const { return m_surface.pixelsInside(m_clip); }
-    void stroke(const SNativeSmoothPen &pen, const std::function<void(cairo_t *)> &path);
-    void fill(SNativeColour colour, const std::function<void(cairo_t *)> &path);
-    cairo_t *prepare(SNativeColour colour);
+    void stroke(const SNativeSmoothPen &pen, const Path &path);
+    void fill(SNativeColour colour, const Path &path);
+    /// @param margin  how far from its path the shape may reach, in pixels.
+    /// @param paint   draws the shape along the path.
+    void draw(SNativeColour colour, const Path &path, std::int32_t margin, const Path &paint);
 
     CMemorySurface &m_surface;
     ENativeSmoothing m_smoothing = ENativeSmoothing::None;
     SArea m_clip;
-    cairo_t *m_cairo = nullptr;  // made when first needed
 };

@@ -20,8 +20,10 @@ SArea inOrder(const SArea &area) {
 }
 
 std::uint32_t translucentPixel(SNativeColour colour) {
-    const std::uint32_t scaled = scaledPixel(opaquePixel(colour), colour.alpha);
-    return (scaled & 0x00ffffffu) | static_cast<std::uint32_t>(colour.alpha) << 24;
+    // Truncated, as GDI+ does.
+    const auto times = [&](std::uint32_t channel) { return channel * colour.alpha / 255; };
+    return static_cast<std::uint32_t>(colour.alpha) << 24 | times(colour.red) << 16 |
+           times(colour.green) << 8 | times(colour.blue);
 }
 
 void fillSpan(const SPixels &pixels, std::int64_t y, std::int64_t left, std::int64_t right,
