@@ -22,38 +22,43 @@ struct SScaledAxis {
     std::vector<SRange> ranges;
 };
 
-/// One axis of a scaled picture. Sizes and positions are those of normalised rectangles.
+/// One axis of a scaled picture. A size below 0 goes left or up, from the first pixel, which
+/// counts, to the last, which does not.
 struct SScaling {
-    std::int64_t to, toSize;      // where it goes to, and how large it gets there
-    std::int64_t from, fromSize;  // where it comes from
-    bool isMirrored;
-
-    SScaling(std::int64_t toStart, std::int64_t toEnd, std::int64_t fromStart, std::int64_t fromEnd)
-        : to(std::min(toStart, toEnd)), toSize(std::max(toStart, toEnd) - to),
-          from(std::min(fromStart, fromEnd)), fromSize(std::max(fromStart, fromEnd) - from),
-          isMirrored((toEnd < toStart) != (fromEnd < fromStart)) {}
+    std::int64_t toStart, toEnd, fromStart, fromEnd;
 
     /// @param clipFirst  the visible pixels end before clipLast.
     /// @param size       of the source; ranges are cut at it.
     SScaledAxis visible(std::int32_t clipFirst, std::int32_t clipLast, std::int32_t size) const {
-        const std::int64_t first = std::max<std::int64_t>(to, clipFirst);
-        const std::int64_t last = std::min<std::int64_t>(to + toSize, clipLast);
-        SScaledAxis axis{static_cast<std::int32_t>(first), {}};
-        for (std::int64_t position = first; position < last; ++position) {
-            const std::int64_t i = isMirrored ? to + toSize - 1 - position : position - to;
-            const std::int64_t begin = from + start(i);
-            const std::int64_t end = std::max(from + start(i + 1), begin + 1);
-            axis.ranges.push_back({bounded(begin, size), bounded(end, size)});
-        }
+        const bool goesBack = toEnd < toStart;
+        const std::int64_t first =
+            std::max<std::int64_t>(goesBack ? toEnd + 1 : toStart, clipFirst);
+        const std::int64_t last = std::min<std::int64_t>(goesBack ? toStart + 1 : toEnd, clipLast);
+        SScaledAxis axis{static_cast<std::int32_t>(std::min<std::int64_t>(first, clipLast)), {}};
+        for (std::int64_t position = first; position < last; ++position)
+            axis.ranges.push_back(rangeOf(std::abs(position - toStart), size));
         return axis;
     }
 
 private:
-    /// The first pixel of the source that belongs to the i-th one.
+    SScaledAxis::SRange rangeOf(std::int64_t i, std::int32_t size) const {
+        const bool isReduced = std::abs(toEnd - toStart) < std::abs(fromEnd - fromStart);
+        const std::int64_t first = start(i), last = isReduced ? start(i + 1) : first + 1;
+        if (fromEnd < fromStart)
+            return {bounded(fromStart - last + 1, size), bounded(fromStart - first + 1, size)};
+        return {bounded(fromStart + first, size), bounded(fromStart + last, size)};
+    }
+    /// Where the i-th pixel begins in the source: enlarged, a pixel shows what lies at its centre;
+    /// when reduced, each pixel of the source falls on what lies at its centre. Ties go to the
+    /// first.
     std::int64_t start(std::int64_t i) const {
-        const Wide product = Wide{i} * fromSize;
-        return static_cast<std::int64_t>((toSize < fromSize ? product + toSize - 1 : product) /
-                                         toSize);
+        const std::int64_t toSize = std::abs(toEnd - toStart);
+        const std::int64_t fromSize = std::abs(fromEnd - fromStart);
+        if (toSize >= fromSize)
+            return static_cast<std::int64_t>((Wide{2 * i + 1} * fromSize - 1) / (2 * toSize));
+        const Wide product = Wide{2 * i} * fromSize + 1 - toSize;
+        return product <= 0 ? 0
+                            : static_cast<std::int64_t>((product + 2 * toSize - 1) / (2 * toSize));
     }
     static std::int32_t bounded(std::int64_t value, std::int32_t size) {
         return static_cast<std::int32_t>(std::clamp<std::int64_t>(value, 0, size));
@@ -107,11 +112,13 @@ void copyPixels(const SPixels &pixels, const SSource &source, const SArea &to, S
 
 void stretchPixels(const SPixels &pixels, const SSource &source, const SArea &to,
                    const SArea &from) {
+    if (from.width() == 0 || from.height() == 0)
+        return;
     const SNativeRect &clip = pixels.clip;
-    const SScaledAxis columns = SScaling(to.left, to.right, from.left, from.right)
-                                    .visible(clip.left, clip.right, source.width);
-    const SScaledAxis rows = SScaling(to.top, to.bottom, from.top, from.bottom)
-                                 .visible(clip.top, clip.bottom, source.height);
+    const SScaledAxis columns = SScaling{to.left, to.right, from.left, from.right}.visible(
+        clip.left, clip.right, source.width);
+    const SScaledAxis rows = SScaling{to.top, to.bottom, from.top, from.bottom}.visible(
+        clip.top, clip.bottom, source.height);
     for (std::size_t y = 0; y < rows.ranges.size(); ++y) {
         std::uint32_t *row = pixels.row(rows.first + static_cast<std::int32_t>(y)) + columns.first;
         for (std::size_t x = 0; x < columns.ranges.size(); ++x) {
@@ -127,19 +134,21 @@ void blendPixels(const SPixels &pixels, const SSource &source, const SArea &to, 
     const SNativeRect visible = intersection(pixels.clip, to);
     if (!liesInside(source, from) || SArea(visible).isEmpty())
         return;
-    const std::int32_t count = visible.right - visible.left;
+    const SScaledAxis columns = SScaling{to.left, to.right, from.left, from.right}.visible(
+        visible.left, visible.right, source.width);
+    const SScaledAxis rows = SScaling{to.top, to.bottom, from.top, from.bottom}.visible(
+        visible.top, visible.bottom, source.height);
     const bool isScaled = to.width() != from.width();
-    std::vector<std::uint32_t> scaled(isScaled ? static_cast<std::size_t>(count) : 0);
-    for (std::int32_t y = visible.top; y < visible.bottom; ++y) {
-        const std::uint32_t *row =
-            source.row(from.top + (y - to.top) * from.height() / to.height());
-        const std::uint32_t *over = row + from.left + (visible.left - to.left);
-        if (isScaled) {
-            for (std::int32_t i = 0; i < count; ++i)
-                scaled[static_cast<std::size_t>(i)] =
-                    row[from.left + (visible.left + i - to.left) * from.width() / to.width()];
-            over = scaled.data();
-        }
-        blendRow(pixels.row(y) + visible.left, over, count, alpha, isTranslucent);
+    // Of the pixels that fall on one, GDI keeps the first row and the last column.
+    std::vector<std::uint32_t> scaled(isScaled ? columns.ranges.size() : 0);
+    for (std::size_t y = 0; y < rows.ranges.size(); ++y) {
+        const std::uint32_t *row = source.row(rows.ranges[y].first);
+        std::transform(columns.ranges.begin(),
+                       columns.ranges.begin() + static_cast<std::ptrdiff_t>(scaled.size()),
+                       scaled.begin(),
+                       [row](const SScaledAxis::SRange &range) { return row[range.last - 1]; });
+        blendRow(pixels.row(visible.top + static_cast<std::int32_t>(y)) + visible.left,
+                 isScaled ? scaled.data() : row + columns.ranges.front().first,
+                 visible.right - visible.left, alpha, isTranslucent);
     }
 }

@@ -3,6 +3,7 @@
 #include "platform/linux/drawing/Blend.h"
 #include "platform/linux/drawing/CCoverage.h"
 #include "platform/linux/drawing/DrawText.h"
+#include "platform/linux/drawing/FillInside.h"
 #include "platform/linux/drawing/FillPolygon.h"
 #include "platform/linux/drawing/PlainLines.h"
 #include "platform/linux/drawing/RoundedShapes.h"
@@ -74,14 +75,11 @@ void CCairoDrawing::resetClip() {
 }
 
 void CCairoDrawing::drawLine(const SNativeSmoothPen &pen, SNativePoint from, SNativePoint to) {
-    const bool isThin = pen.width <= 1, isStraight = from.x == to.x || from.y == to.y;
-    if (isThin && (isStraight || !isSmooth())) {
-        const SPixels pixels = clipped();
-        const std::uint32_t pixel = translucentPixel(pen.colour);
-        drawPlainLine(pixels, from, to, pixel);
-        fillSpan(pixels, to.y, to.x, to.x + std::int64_t{1}, pixel);
+    if (from == to)
         return;
-    }
+    const bool isStraight = from.x == to.x || from.y == to.y;
+    if (pen.width <= 1 && (isStraight || !isSmooth()))
+        return drawWholeLine(clipped(), from, to, translucentPixel(pen.colour));
     stroke(pen, [&](cairo_t *cairo) {
         addPoint(cairo, from);
         addPoint(cairo, to);
@@ -89,7 +87,7 @@ void CCairoDrawing::drawLine(const SNativeSmoothPen &pen, SNativePoint from, SNa
 }
 
 void CCairoDrawing::drawRectangle(const SNativeSmoothPen &pen, const SNativeRect &rect) {
-    if (rect.right <= rect.left || rect.bottom <= rect.top)
+    if (SArea(rect).isEmpty())
         return;
     if (pen.width <= 1) {
         const SArea area(rect.left, rect.top, rect.right + std::int64_t{1},
@@ -118,7 +116,7 @@ void CCairoDrawing::fillRoundedRectangle(SNativeColour colour, const SNativeRect
     const std::int64_t roundWidth = std::clamp<std::int64_t>(width, 0, area.width());
     const std::int64_t roundHeight = std::clamp<std::int64_t>(height, 0, area.height());
     if (!isSmooth())
-        fillRounded(clipped(), area, roundWidth, roundHeight, translucentPixel(colour));
+        fillInside(clipped(), area, roundWidth, roundHeight, translucentPixel(colour));
     else
         fill(colour, [&](cairo_t *cairo) {
             addRoundedRectangle(cairo, area, static_cast<double>(roundWidth),
@@ -127,16 +125,8 @@ void CCairoDrawing::fillRoundedRectangle(SNativeColour colour, const SNativeRect
 }
 
 void CCairoDrawing::fillEllipse(SNativeColour colour, const SNativeRect &rect) {
-    const SArea area(rect);
-    if (area.isEmpty())
-        return;
-    if (!isSmooth())
-        fillRounded(clipped(), area, area.width(), area.height(), translucentPixel(colour));
-    else
-        fill(colour, [&](cairo_t *cairo) {
-            addRoundedRectangle(cairo, area, static_cast<double>(area.width()),
-                                static_cast<double>(area.height()));
-        });
+    constexpr std::int32_t wholeSize = std::numeric_limits<std::int32_t>::max();
+    fillRoundedRectangle(colour, rect, wholeSize, wholeSize);
 }
 
 void CCairoDrawing::fillPolygon(SNativeColour colour, std::span<const SNativePoint> points) {
