@@ -25,6 +25,7 @@ inline void require(bool holds, const char *what) {
 /// Writes the input to a file in a folder of its own, for code that reads files.
 class CInputFile {
 public:
+    explicit CInputFile(const char *name = "input") : m_path((m_folder / name).string()) {}
     /// Uses a new file each time: truncating an old one waits for the disk on some file systems.
     const std::string &write(const std::string &bytes) {
         remove();
@@ -35,7 +36,7 @@ public:
 
 private:
     CTemporaryFolder m_folder;
-    std::string m_path = (m_folder / "input").string();
+    std::string m_path;
 };
 
 /// The bytes up to the first zero: what a function sees of them as a C string.
