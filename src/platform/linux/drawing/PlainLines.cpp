@@ -45,7 +45,8 @@ private:
 /// How the shorter axis follows the longer one: by the nearest pixel.
 class CSlope {
 public:
-    /// @param halfGoesOn  whether a point just between two pixels belongs to the farther one.
+    /// @param halfGoesOn  whether a point just between two pixels belongs to the farther one: GDI
+    ///                    takes the upper or the left one.
     CSlope(std::uint64_t steps, std::uint64_t rise, bool halfGoesOn)
         : m_steps(steps), m_rise(rise), m_halfGoesOn(halfGoesOn) {}
 
@@ -90,9 +91,9 @@ private:
     bool m_halfGoesOn;
 };
 
-/// @param tie  -1 if a point just between two pixels belongs to the upper or left one; else 1.
-void drawLine(const SPixels &pixels, SNativePoint from, SNativePoint to, int tie,
-              std::uint32_t pixel) {
+}  // namespace
+
+void drawPlainLine(const SPixels &pixels, SNativePoint from, SNativePoint to, std::uint32_t pixel) {
     const SNativeRect &clip = pixels.clip;
     const SAxis x(from.x, to.x), y(from.y, to.y);
     if (y.length == 0) {
@@ -102,7 +103,7 @@ void drawLine(const SPixels &pixels, SNativePoint from, SNativePoint to, int tie
     }
     const bool isSteep = y.length > x.length;
     const SAxis &along = isSteep ? y : x, &across = isSteep ? x : y;
-    const CSlope slope(along.length, across.length, across.direction == tie);
+    const CSlope slope(along.length, across.length, across.direction < 0);
 
     const auto alongRange =
         isSteep ? along.range(clip.top, clip.bottom) : along.range(clip.left, clip.right);
@@ -118,13 +119,7 @@ void drawLine(const SPixels &pixels, SNativePoint from, SNativePoint to, int tie
     });
 }
 
-}  // namespace
-
-void drawPlainLine(const SPixels &pixels, SNativePoint from, SNativePoint to, std::uint32_t pixel) {
-    drawLine(pixels, from, to, -1, pixel);
-}
-
 void drawWholeLine(const SPixels &pixels, SNativePoint from, SNativePoint to, std::uint32_t pixel) {
-    drawLine(pixels, from, to, 1, pixel);
+    drawPlainLine(pixels, from, to, pixel);
     fillSpan(pixels, to.y, to.x, to.x + std::int64_t{1}, pixel);
 }

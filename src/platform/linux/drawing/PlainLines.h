@@ -7,6 +7,5 @@
 /// line costs no more than the part of it inside the clip.
 void drawPlainLine(const SPixels &pixels, SNativePoint from, SNativePoint to, std::uint32_t pixel);
 
-/// The same with the last pixel, as GDI+ draws it: a point just between two pixels belongs to the
-/// lower or the right one.
+/// The same with the last pixel, as GDI+ draws it.
 void drawWholeLine(const SPixels &pixels, SNativePoint from, SNativePoint to, std::uint32_t pixel);
