@@ -213,7 +213,7 @@ void drawClippedAndShifted(CGraphics &graphics) {
     fan(graphics);
     graphics.getBrush().setColour(leaf);
     graphics.fillRectangle(CRect(-20, 30, 40, 40));
-    graphics.fillEllipse(CRect(40, 25, 40, 30));
+    graphics.fillPolygon(polygon({{40, 25}, {80, 30}, {50, 60}}));
     CTestImage frames(24, 72, true);
     graphics.drawImage(&frames, CRect(0, 0, 24, 24), CRect(0, 0, 24, 24));
     graphics.drawRoundedRectangle(CRect(8, 10, 60, 20), CDimension(6, 6));
@@ -312,9 +312,9 @@ constexpr SScene sceneList[] = {
     {"fill-rectangles-plain", EMatch::Exact, false, fillRectangles},
     {"fill-translucent", EMatch::Exact, true, fillTranslucentRectangles},
     {"fill-translucent-plain", EMatch::Exact, false, fillTranslucentRectangles},
-    {"fill-rounded", EMatch::Exact, true, fillRoundedRectangles},
+    {"fill-rounded", EMatch::Smooth, true, fillRoundedRectangles},
     {"fill-rounded-plain", EMatch::Exact, false, fillRoundedRectangles},
-    {"fill-ellipses", EMatch::Exact, true, fillEllipses},
+    {"fill-ellipses", EMatch::Smooth, true, fillEllipses},
     {"fill-ellipses-plain", EMatch::Exact, false, fillEllipses},
     {"fill-polygons", EMatch::Exact, true, fillPolygons},
     {"fill-polygons-plain", EMatch::Exact, false, fillPolygons},
