@@ -35,6 +35,7 @@ struct SScaling {
             std::max<std::int64_t>(goesBack ? toEnd + 1 : toStart, clipFirst);
         const std::int64_t last = std::min<std::int64_t>(goesBack ? toStart + 1 : toEnd, clipLast);
         SScaledAxis axis{static_cast<std::int32_t>(std::min<std::int64_t>(first, clipLast)), {}};
+        axis.ranges.reserve(static_cast<std::size_t>(std::max<std::int64_t>(last - first, 0)));
         for (std::int64_t position = first; position < last; ++position)
             axis.ranges.push_back(rangeOf(std::abs(position - toStart), size));
         return axis;
@@ -54,7 +55,9 @@ private:
     std::int64_t start(std::int64_t i) const {
         const std::int64_t toSize = std::abs(toEnd - toStart);
         const std::int64_t fromSize = std::abs(fromEnd - fromStart);
-        if (toSize >= fromSize)
+        if (toSize == fromSize)
+            return i;  // spares the divisions, which would cost more than blending
+        if (toSize > fromSize)
             return static_cast<std::int64_t>((Wide{2 * i + 1} * fromSize - 1) / (2 * toSize));
         const Wide product = Wide{2 * i} * fromSize + 1 - toSize;
         return product <= 0 ? 0
@@ -76,17 +79,63 @@ std::uint32_t combined(const SSource &source, const SScaledAxis::SRange &columns
     return pixel;
 }
 
+/// Some pixels, and their channels one by one: compilers vectorise loops over bytes best.
+struct SChunk {
+    static constexpr std::int32_t size = 32;
+    std::uint32_t pixels[size];
+
+    std::uint8_t *channels() { return reinterpret_cast<std::uint8_t *>(pixels); }
+};
+
+void scale(std::uint8_t *channels, std::uint8_t factor, std::int32_t count) {
+    for (std::int32_t i = 0; i < count; ++i)
+        channels[i] = dividedChannel(channels[i] * factor);
+}
+
+/// Draws premultiplied pixels over others.
+void blendWholeChunk(std::uint32_t *under, const std::uint32_t *over, std::int32_t count) {
+    SChunk rest;
+    for (std::int32_t i = 0; i < count; ++i)
+        rest.pixels[i] = (255 - (over[i] >> 24)) * 0x01010101u;
+    auto *below = reinterpret_cast<std::uint8_t *>(under);
+    const auto *above = reinterpret_cast<const std::uint8_t *>(over);
+    const std::uint8_t *factors = rest.channels();
+    for (std::int32_t i = 0; i < 4 * count; ++i)
+        below[i] = cutSum(dividedChannel(below[i] * factors[i]), above[i]);
+}
+
+/// Draws premultiplied pixels times a constant alpha over others.
+void blendChunk(std::uint32_t *under, const std::uint32_t *over, std::int32_t count,
+                std::uint8_t alpha) {
+    if (alpha == 255)
+        return blendWholeChunk(under, over, count);
+    SChunk scaled;
+    std::copy_n(over, count, scaled.pixels);
+    scale(scaled.channels(), alpha, 4 * count);
+    blendWholeChunk(under, scaled.pixels, count);
+}
+
+/// Mixes pixels, taken as opaque, with others.
+void mixChunk(std::uint32_t *under, const std::uint32_t *over, std::int32_t count,
+              std::uint8_t alpha) {
+    SChunk opaqueOver;
+    for (std::int32_t i = 0; i < count; ++i)
+        opaqueOver.pixels[i] = over[i] | opaque;
+    auto *below = reinterpret_cast<std::uint8_t *>(under);
+    const std::uint8_t *above = opaqueOver.channels();
+    const auto rest = static_cast<std::uint8_t>(255 - alpha);
+    for (std::int32_t i = 0; i < 4 * count; ++i)
+        below[i] = dividedChannel(above[i] * alpha + below[i] * rest);
+}
+
 void blendRow(std::uint32_t *under, const std::uint32_t *over, std::int32_t count,
               std::uint8_t alpha, bool isTranslucent) {
-    if (!isTranslucent) {
-        for (std::int32_t i = 0; i < count; ++i)
-            under[i] = mixedPixel(over[i] | opaque, under[i], alpha);
-    } else if (alpha == 255) {
-        for (std::int32_t i = 0; i < count; ++i)
-            under[i] = blendedPixel(over[i], under[i]);
-    } else {
-        for (std::int32_t i = 0; i < count; ++i)
-            under[i] = blendedPixel(scaledPixel(over[i], alpha), under[i]);
+    for (std::int32_t i = 0; i < count; i += SChunk::size) {
+        const std::int32_t some = std::min(SChunk::size, count - i);
+        if (isTranslucent)
+            blendChunk(under + i, over + i, some, alpha);
+        else
+            mixChunk(under + i, over + i, some, alpha);
     }
 }
 
