@@ -55,6 +55,30 @@ TEST_F(DrawText, PutsSmoothTextWhereGdiPlusPutsIt) {
                    text + std::to_string(horizontal) + std::to_string(vertical));
 }
 
+TEST_F(DrawText, RoundsTheMarginOfSmoothText) {
+    const struct {
+        std::int32_t size, margin;
+    } cases[] = {{8, 1}, {9, 2}, {11, 2}, {14, 2}, {15, 3}, {20, 3}};
+    for (const auto &[size, margin] : cases) {
+        const CLinuxFont sized(arial(-size));
+        CCanvas smooth(60, 40), plain(60, 40);
+        drawSmoothText(smooth.getPixels(), "H", {10, 10, 60, 40}, sized, white, 0, 0);
+        drawPlainText(plain.getPixels(), "H", {10, 10, 60, 40}, sized, white, 0);
+        EXPECT_EQ(smooth.getInkArea().left, plain.getInkArea().left + margin) << size;
+    }
+}
+
+TEST_F(DrawText, RoundsTheCentreUpForSmoothTextAndDownForPlainText) {
+    // H is 8 pixels wide, and a line is 12 high. Both rectangles leave odd numbers of pixels.
+    for (const SNativeRect &rect : {SNativeRect{10, 10, 31, 31}, SNativeRect{10, 10, 31, 21}}) {
+        CCanvas smooth(60, 40), plain(60, 40);
+        drawSmoothText(smooth.getPixels(), "H", rect, font, white, 1, 1);
+        drawPlainText(plain.getPixels(), "H", rect, font, white, 1 | 4 | 32);
+        EXPECT_EQ(smooth.getInkArea().top, plain.getInkArea().top + 1) << rect.bottom;
+        EXPECT_EQ(smooth.getInkArea().left, plain.getInkArea().left + 1) << rect.bottom;
+    }
+}
+
 TEST_F(DrawText, PutsPlainTextWhereGdiPutsIt) {
     const struct {
         const char *text;

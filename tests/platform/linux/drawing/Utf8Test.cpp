@@ -28,6 +28,7 @@ TEST(Utf8, ReplacesEachByteThatBelongsToNoCharacter) {
     EXPECT_EQ(charactersOf("\xed\xa0\x80"), one + one + one) << "half of a surrogate pair";
     EXPECT_EQ(charactersOf("\xf4\x90\x80\x80"), one + one + one + one) << "above U+10FFFF";
     EXPECT_EQ(charactersOf("\xf8\x88\x80\x80\x80"), one + one + one + one + one) << "five bytes";
+    EXPECT_EQ(charactersOf("\xfc\x80\x80\x80"), one + one + one + one) << "six bytes, cut off";
 }
 
 TEST(Utf8, StopsAtTheTerminatorInsideACharacter) {
