@@ -42,3 +42,11 @@ constexpr std::uint32_t blendedPixel(std::uint32_t over, std::uint32_t under) {
     return cut((over & 0x00ff00ffu) + (rest & 0x00ff00ffu)) |
            cut(((over >> 8) & 0x00ff00ffu) + ((rest >> 8) & 0x00ff00ffu)) << 8;
 }
+
+/// The mean of two pixels, one weighted by a factor from 0 to 255 and the other by the rest.
+constexpr std::uint32_t mixedPixel(std::uint32_t over, std::uint32_t under, std::uint32_t factor) {
+    const std::uint32_t rest = 255 - factor;
+    return dividedBy255((over & 0x00ff00ffu) * factor + (under & 0x00ff00ffu) * rest) |
+           dividedBy255(((over >> 8) & 0x00ff00ffu) * factor + ((under >> 8) & 0x00ff00ffu) * rest)
+               << 8;
+}
