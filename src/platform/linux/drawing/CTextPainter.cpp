@@ -1,33 +1,8 @@
 #include "platform/linux/drawing/CTextPainter.h"
 
+#include "platform/linux/drawing/Blend.h"
+
 #include <algorithm>
-
-namespace {
-
-// A pixel with 16 bits for each channel, so that one multiplication does all four.
-using WidePixel = std::uint64_t;
-constexpr WidePixel lowBytes = 0x00ff00ff00ff00ff;
-
-WidePixel widen(std::uint32_t pixel) {
-    return (pixel & 0x00ff00ff) | WidePixel{pixel & 0xff00ff00} << 24;
-}
-
-std::uint32_t narrow(WidePixel pixel) {
-    return static_cast<std::uint32_t>(pixel | pixel >> 24);
-}
-
-// Divides each channel by 255 and rounds.
-WidePixel dividedBy255(WidePixel products) {
-    products += 0x0080008000800080;
-    return (products + (products >> 8 & lowBytes)) >> 8 & lowBytes;
-}
-
-// Both pixels are premultiplied.
-std::uint32_t blend(std::uint32_t over, std::uint32_t under, std::uint32_t alpha) {
-    return narrow(dividedBy255(widen(over) * alpha + widen(under) * (255 - alpha)));
-}
-
-}  // namespace
 
 CTextPainter::SArea CTextPainter::SArea::cutAt(const SArea &other) const {
     return {std::max(left, other.left), std::max(top, other.top), std::min(right, other.right),
@@ -57,7 +32,7 @@ void CTextPainter::drawGlyph(const SGlyph &glyph, std::int64_t x, std::int64_t y
         for (std::int64_t column = part.left; column < part.right; ++column) {
             const std::uint32_t alpha = (coverage[column - left] * opacity + 127) / 255;
             if (alpha != 0)
-                pixels[column] = blend(colour, pixels[column], alpha);
+                pixels[column] = mixedPixel(colour, pixels[column], alpha);
         }
     }
 }
@@ -68,6 +43,6 @@ void CTextPainter::drawBar(std::int64_t left, std::int64_t top, std::int64_t rig
     for (std::int64_t row = part.top; row < part.bottom; ++row) {
         std::uint32_t *pixels = m_pixels.row(static_cast<std::int32_t>(row));
         for (std::int64_t column = part.left; column < part.right; ++column)
-            pixels[column] = blend(m_colour, pixels[column], m_alpha);
+            pixels[column] = mixedPixel(m_colour, pixels[column], m_alpha);
     }
 }

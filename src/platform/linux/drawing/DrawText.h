@@ -9,6 +9,7 @@
 void drawSmoothText(const SPixels &pixels, const char *text, const SNativeRect &rect,
                     const INativeFont &font, SNativeColour colour, int horizontal, int vertical);
 
-/// What INativeSurface::drawText() does, inside the clip of the pixels.
+/// What INativeSurface::drawText() does, inside the clip of the pixels. "&" is drawn as it is; on
+/// Windows it underlines the next character.
 void drawPlainText(const SPixels &pixels, const char *text, const SNativeRect &rect,
                    const INativeFont &font, SNativeColour colour, unsigned format);
