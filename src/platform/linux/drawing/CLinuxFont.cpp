@@ -22,13 +22,14 @@ CFaceFinder &CLinuxFont::faces() const {
 
 std::int32_t CLinuxFont::getAscent() const {
     const CFontFace *face = faces().getMainFace();
-    return face != nullptr ? face->getAscent() : static_cast<std::int32_t>(getEm() * 0.93 + 0.5);
+    return face != nullptr ? face->getAscent()
+                           : static_cast<std::int32_t>(std::lround(getEm() * 0.93));
 }
 
 std::int32_t CLinuxFont::getLineHeight() const {
     const CFontFace *face = faces().getMainFace();
     return face != nullptr ? face->getAscent() + face->getDescent()
-                           : static_cast<std::int32_t>(getEm() * 1.15 + 0.5);
+                           : static_cast<std::int32_t>(std::lround(getEm() * 1.15));
 }
 
 const SGlyph &CLinuxFont::getGlyph(char32_t character) const {
