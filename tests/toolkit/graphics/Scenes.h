@@ -6,9 +6,11 @@
 
 /// How closely a drawn scene must match its expected picture.
 enum class EMatch {
-    Exact,   // every pixel
-    Smooth,  // a sixteenth of full scale, except beside an edge
-    Text     // the same ink within 2 pixels
+    Exact,    // every pixel
+    Outline,  // all but a few: Wine's GDI leaves one pixel of a whole ellipse out
+    Smooth,   // a sixteenth of full scale, except beside an edge
+    Text,     // the same ink within 2 pixels
+    TextGrid  // the same in each of nine parts
 };
 
 /// A small picture that both systems draw.
