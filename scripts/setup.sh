@@ -8,10 +8,11 @@ set -euo pipefail
 run_packages=(
     g++ cmake ninja-build pkgconf  # the build
     libxcb1-dev                    # talks to the X server
-    libcairo2-dev libfontconfig-dev libfreetype-dev libjpeg62-turbo-dev libpng-dev  # the drawing
+    libfontconfig-dev libfreetype-dev libjpeg62-turbo-dev libpng-dev  # fonts and pictures
     libsndfile1-dev libsamplerate0-dev libcli11-dev nlohmann-json3-dev  # the command-line host
     googletest locales             # the tests, part of every whole build
     libbenchmark-dev python3       # the benchmarks and the table of their results
+    libcairo2-dev                  # what the drawing is measured against
     alsa-utils                     # contains recorded speech, for its speaker test
 )
 test_packages=(

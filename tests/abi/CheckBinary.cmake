@@ -1,6 +1,6 @@
 # cmake -D FILE=<plug-in> -D OBJDUMP=<objdump> -D NM=<nm> -D WINDOWS=<bool> -P CheckBinary.cmake
 # The plug-in exports one function under its two names and nothing else, and needs only what every
-# system has.
+# system has and, on Linux, the libraries that it draws with.
 cmake_minimum_required(VERSION 3.25)
 
 execute_process(COMMAND ${OBJDUMP} -p ${FILE} OUTPUT_VARIABLE headers COMMAND_ERROR_IS_FATAL ANY)
@@ -8,7 +8,7 @@ if(WINDOWS)
     string(REGEX MATCHALL "\n\t\\[ *[0-9]+\\] [A-Za-z_]+" exports "${headers}")
     list(TRANSFORM exports REPLACE ".* " "")
     string(REGEX MATCHALL "DLL Name: [^\n]+" needed "${headers}")
-    set(system "^DLL Name: (KERNEL32|msvcrt|USER32|SHELL32|ADVAPI32)\\.dll$")
+    set(system "^DLL Name: (KERNEL32|msvcrt|USER32|SHELL32|ADVAPI32|GDI32|gdiplus|MSIMG32)\\.dll$")
     string(REGEX MATCHALL "\\+base\\[ *[0-9]+\\] +[0-9a-f]+ Export RVA" addresses "${headers}")
     list(TRANSFORM addresses REPLACE ".*\\] +([0-9a-f]+) Export.*" "\\1")
 else()
@@ -20,7 +20,8 @@ else()
     set(addresses ${lines})
     list(TRANSFORM addresses REPLACE "^[^ ]+ [^ ]+ ([0-9a-f]+).*" "\\1")
     string(REGEX MATCHALL "NEEDED +[^\n]+" needed "${headers}")
-    set(system "^NEEDED +(libc\\.so\\.6|libm\\.so\\.6|ld-linux-x86-64\\.so\\.2)$")
+    set(drawing "libfontconfig\\.so\\.1|libfreetype\\.so\\.6|libjpeg\\.so\\.62|libpng16\\.so\\.16")
+    set(system "^NEEDED +(libc\\.so\\.6|libm\\.so\\.6|ld-linux-x86-64\\.so\\.2|${drawing})$")
 endif()
 
 list(SORT exports)

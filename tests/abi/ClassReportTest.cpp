@@ -86,19 +86,28 @@ TEST_F(ClassReport, ListsItsOwnStreamWhenThereIsNoEffect) {
     EXPECT_EQ(withoutAnEffect.count("CCorvel"), 0u);
 }
 
-TEST_F(ClassReport, ListsOnlyStaticDeletersAfterEffectsWereUsedAndClosed) {
+TEST_F(ClassReport, ListsOnlyTheSharedObjectsAfterEffectsWereUsedAndClosed) {
     const CReportingFile file;
     {
         const CLoadedEffect first(file, FakeHost::callback), second(file, FakeHost::callback);
         use(first);
         use(second);
     }
-    // The deleters of the MIDI collections are static and shared by all effects.
     auto expected = withoutAnEffect;
+    // The deleters of the MIDI collections are static and shared by all effects.
     for (const char *deleter : {"TObjectDeleter<CLong>", "TPointerDeleter<CLong>",
                                 "TObjectDeleter<CLong>>", "TPointerDeleter<CLong>>"})
         expected[deleter] = 1;
-    expected["CCountedObject"] += 2;
+    // The default font with its face name, and the image manager with its root path and its two
+    // lists, are released after the report has been written.
+    for (const char *list : {"CAnimationReference", "CImageReference"})
+        for (const char *part : {"TCountedPointerArray", "TPointerCollection",
+                                 "TCountedObjectDeleter", "TPointerDeleter"})
+            expected[std::string(part) + "<" + list + ">"] = 1;
+    expected["CFont"] = 1;
+    expected["CSystemString"] += 1;
+    expected["CString"] += 2;
+    expected["CCountedObject"] += 2 + 4 + 3;
     EXPECT_EQ(file.report(), expected);
 }
 

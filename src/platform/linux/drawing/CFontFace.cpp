@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include FT_SYNTHESIS_H
+#include <freetype/ftsynth.h>
 
 namespace {
 

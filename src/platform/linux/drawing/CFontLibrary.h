@@ -1,9 +1,8 @@
 #pragma once
 
 #include <fontconfig/fontconfig.h>
-#include <ft2build.h>
+#include <freetype/freetype.h>
 #include <memory>
-#include FT_FREETYPE_H
 
 /// Deletes what a C library gave us.
 template <auto release>

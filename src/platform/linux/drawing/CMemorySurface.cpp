@@ -1,8 +1,8 @@
 #include "platform/linux/drawing/CMemorySurface.h"
 
 #include "platform/linux/drawing/Arcs.h"
-#include "platform/linux/drawing/CCairoDrawing.h"
 #include "platform/linux/drawing/CMemoryBitmap.h"
+#include "platform/linux/drawing/CSmoothDrawing.h"
 #include "platform/linux/drawing/DrawText.h"
 #include "platform/linux/drawing/FillPolygon.h"
 #include "platform/linux/drawing/PlainLines.h"
@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr std::int32_t greatestSize = 32767;  // what cairo allows
+constexpr std::int32_t greatestSize = 32767;  // pixels; more than any screen
 
 /// All surfaces of this back-end are of this class.
 const CMemorySurface &memorySurface(const INativeSurface &surface) {
@@ -152,7 +152,7 @@ void CMemorySurface::drawText(const char *text, const SNativeRect &rect, const I
 }
 
 std::unique_ptr<INativeSmoothDrawing> CMemorySurface::startSmoothDrawing() {
-    return std::make_unique<CCairoDrawing>(*this);
+    return std::make_unique<CSmoothDrawing>(*this);
 }
 
 std::unique_ptr<INativeBitmap> CMemorySurface::makeBitmap() {

@@ -6,7 +6,7 @@
 #include <cstdint>
 
 /// The pixels of a surface or bitmap and the part of them that may be drawn on. A pixel is
-/// 0xAARRGGBB, premultiplied, as cairo's CAIRO_FORMAT_ARGB32; those of an opaque surface have alpha
+/// 0xAARRGGBB, premultiplied; those of an opaque surface have alpha
 /// 255. The first row is the top.
 struct SPixels {
     std::uint32_t *data = nullptr;  // not owned

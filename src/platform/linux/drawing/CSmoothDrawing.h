@@ -2,17 +2,14 @@
 
 #include "platform/INativeSmoothDrawing.h"
 #include "platform/linux/drawing/CMemorySurface.h"
+#include "platform/linux/drawing/SOutline.h"
 
-#include <cairo.h>
-#include <functional>
-
-/// Smooth drawing by cairo on the memory of a surface. Cairo is asked only for what plain spans
-/// cannot draw: smooth edges and wide lines. Lines run through the centres of pixels; rectangles,
+/// Smooth drawing on the memory of a surface. Lines run through the centres of pixels; rectangles,
 /// rounded rectangles and ellipses fill the space between their edges.
-class CCairoDrawing : public INativeSmoothDrawing {
+class CSmoothDrawing : public INativeSmoothDrawing {
 public:
     /// @param surface  outlives this object.
-    explicit CCairoDrawing(CMemorySurface &surface);
+    explicit CSmoothDrawing(CMemorySurface &surface);
 
     void setSmoothing(ENativeSmoothing smoothing) override { m_smoothing = smoothing; }
     void setClip(const SNativeRect &area) override { m_clip = inOrder(area); }
@@ -29,15 +26,9 @@ public:
                   SNativeColour colour, int horizontal, int vertical) override;
 
 private:
-    using Path = std::function<void(cairo_t *)>;
-
     bool isSmooth() const { return m_smoothing != ENativeSmoothing::None; }
     SPixels clipped() const { return m_surface.pixelsInside(m_clip); }
-    void stroke(const SNativeSmoothPen &pen, const Path &path);
-    void fill(SNativeColour colour, const Path &path);
-    /// @param margin  how far from its path the shape may reach, in pixels.
-    /// @param paint   draws the shape along the path.
-    void draw(SNativeColour colour, const Path &path, std::int32_t margin, const Path &paint);
+    void draw(SNativeColour colour, const SOutline &outline);
 
     CMemorySurface &m_surface;
     ENativeSmoothing m_smoothing = ENativeSmoothing::None;
