@@ -91,7 +91,8 @@ public:
     /// Draws a text, cut at the rectangle.
     /// @param text    in the system's narrow encoding.
     /// @param format  the sum of 1 centre or 2 right, 4 vertical centre or 8 bottom, and 32 for a
-    ///                single line, as for DrawText() on Windows. 4 and 8 need 32.
+    ///                single line, as for DrawText() on Windows. 4 and 8 need 32. On Windows "&" is
+    ///                not drawn but underlines the next character.
     virtual void drawText(const char *text, const SNativeRect &rect, const INativeFont &font,
                           SNativeColour colour, unsigned format) = 0;
 

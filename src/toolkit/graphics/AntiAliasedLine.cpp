@@ -50,7 +50,7 @@ void drawBetween(INativeSurface &surface, SNativePoint point, SNativePoint along
     for (std::int64_t i = 1; i < longer; ++i) {
         const std::uint16_t before = error;
         error = static_cast<std::uint16_t>(error + increment);
-        if (error <= before) {  // the sum overflowed
+        if (error < before) {  // the sum overflowed
             point.x += across.x;
             point.y += across.y;
         }

@@ -18,7 +18,7 @@ public:
     void uninitialise();  ///< selects the surface's first brush, then forgets the surface
 
     void setColour(const Basics::CAlphaColour &colour);  ///< also ends useNullBrush()
-    void useNullBrush();                                 ///< fills nothing; the colour is kept
+    void useNullBrush();  ///< plain drawing fills nothing; the colour is kept
     const Basics::CAlphaColour &getColour() const { return m_colour; }
 
 private:

@@ -37,7 +37,6 @@ void CClip::resetClip() {
     if (!m_isActive)
         return;  // nothing has been saved that could be restored
     m_isActive = false;
-    m_clipRegion = m_drawingArea;
     if (m_graphics != nullptr)
         m_graphics->resetClip();
 }

@@ -23,12 +23,13 @@ public:
 
     /// Makes the clip active. Does nothing before initialise().
     void setClipRegion(const MathTools::CRect &rect);
-    /// Makes the clip inactive. Kept: only smooth drawing is freed. Plain drawing stays limited to
-    /// the last region until the next one is set.
+    /// Makes the clip inactive. Kept: only smooth drawing forgets the last region. The image itself
+    /// keeps it until the next one is set, so nothing can be drawn outside.
     void resetClip();
 
     bool isActive() const { return m_isActive; }
     const MathTools::CRect &getDrawingArea() const { return m_drawingArea; }
+    /// The last region; the whole area before the first.
     const MathTools::CRect &getClipRegion() const { return m_clipRegion; }
 
 private:

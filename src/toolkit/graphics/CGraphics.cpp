@@ -267,6 +267,8 @@ void CGraphics::drawInnerEdges(const CRect &rect, bool isRaised) {
 
     CRect inner = rect;
     inner.inset(1);
+    if (inner.getWidth() < 1 || inner.getHeight() < 1)
+        return;
     const std::int32_t left = inner.getLeft(), right = inner.getRight() - 1;
     const std::int32_t top = inner.getTop(), bottom = inner.getBottom() - 1;
     // Lines lack their last pixel.
@@ -303,16 +305,16 @@ void CGraphics::drawGradient(const CRect &rect) {
 // Images
 
 void CGraphics::drawImage(IImage *image, const CRect &destination, const CRect &source) {
-    if (image == nullptr || !image->hasImageLoaded() || surface() == nullptr)
+    if (image == nullptr || surface() == nullptr)
+        return;
+    const INativeBitmap *bitmap = image->getImageHandle();
+    if (bitmap == nullptr)  // not loaded
         return;
     if (image->hasAlpha()) {
         drawImage(image, destination, source, 1.0);
         return;
     }
     const CDimension size = image->getImageSize();
-    const INativeBitmap *bitmap = image->getImageHandle();
-    if (bitmap == nullptr)
-        return;
     if (size.getWidth() == destination.getWidth() && size.getHeight() == destination.getHeight())
         surface()->copyBitmap(*bitmap, shifted(destination), {source.getLeft(), source.getTop()});
     else
@@ -378,7 +380,10 @@ void CGraphics::beginAlphaDrawing(double alpha) {
 void CGraphics::endAlphaDrawing(const CRect &destination, const CRect &source) {
     if (m_section == nullptr)
         return;
-    m_section->image.blendTo(m_layer.image, source, destination, toByte(m_sectionAlpha));
+    CRect from = source, to = destination;
+    from.offset(m_offset);
+    to.offset(m_offset);
+    m_section->image.blendTo(m_layer.image, from, to, toByte(m_sectionAlpha));
     m_section->close();
     m_section.reset();
     if (smooth() != nullptr)

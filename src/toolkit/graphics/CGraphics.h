@@ -73,8 +73,8 @@ public:
 
     // Shapes of several colours
     void drawFilledBorderedRectangle(const MathTools::CRect &rect);  ///< fills, then outlines
-    /// A bordered rectangle with a second edge inside: light at the left and top, dark at the right
-    /// and bottom.
+    /// A bordered rectangle with a second edge inside, if there is room: light at the left and top,
+    /// dark at the right and bottom.
     void drawRaisedRectangle(const MathTools::CRect &rect);
     void drawSunkenRectangle(const MathTools::CRect &rect);  ///< raised, with the light reversed
     /// Rows that run from the colour of the pen towards white and back. Kept: drawn at 0, 0, since
@@ -93,8 +93,7 @@ public:
     /// Draws a text in the text colour, cut at the rectangle.
     /// @param font       null for the library's default font.
     /// @param alignment  left, centre, right: 0 to 2 at the top, 3 to 5 in the middle, 6 to 8 at
-    /// the
-    ///                   bottom; 9 is as 3, 10 as 4, any other number as 0.
+    ///                   the bottom; 9 is as 3, 10 as 4, any other number as 0.
     void drawText(const Tessitor::Basics::CString &text, const MathTools::CRect &rect,
                   Fonts::CFont *font, std::int32_t alignment);
     /// Measures a text as drawText() draws it.
@@ -108,6 +107,7 @@ public:
     /// @param alpha  0 to 1, the weight of the copy when it is blended back.
     void beginAlphaDrawing(double alpha);
     /// Blends a part of the copy into the image. Does nothing if no section is open.
+    /// @param source  in the coordinates that the section was drawn in.
     void endAlphaDrawing(const MathTools::CRect &destination, const MathTools::CRect &source);
 
     /// How smooth shapes are drawn: 0 high quality, 1 without smoothing, 2 anti-aliased. Any other

@@ -92,7 +92,8 @@ bool readDefinitions(CTextStream &stream) {
         const CString line = nextLine(stream);
         if (stream.hasFailed())
             return false;
-        if (line == "<end_skin>")
+        const bool isAfterLastLine = line == "" && stream.isEndOfFile();
+        if (line == "<end_skin>" || isAfterLastLine)
             return true;
         if (line[0] == '#')
             continue;
@@ -152,13 +153,16 @@ SEntry entryOf(const CXMLNode &node) {
             numberOf(node, Names::numberOfFrames)};
 }
 
-// @param list     the name of the node whose children are the entries.
+// @param list     the name of the node whose children are the entries. Others are ignored.
 // @param failure  traced with the file name of each entry that cannot be added.
 void loadList(const CXMLNode &root, const char *list, bool (SEntry::*add)() const,
               const char *failure) {
     const CXMLNode *node = root.getChild(list);
     for (int i = 0; node != nullptr && i < node->getNumberOfChildren(); ++i) {
-        const SEntry entry = entryOf(*node->getChild(i));
+        const CXMLNode &child = *node->getChild(i);
+        if (child.getName() != Names::image)
+            continue;
+        const SEntry entry = entryOf(child);
         if (!(entry.*add)())
             trace(entry.filename, failure);
     }

@@ -24,7 +24,7 @@ public:
     void setWidth(std::int32_t width);                   ///< in pixels; also ends useNullPen()
     void setColour(const Basics::CAlphaColour &colour);  ///< also ends useNullPen()
     void setWidthAndColour(std::int32_t width, const Basics::CAlphaColour &colour);
-    void useNullPen();  ///< draws no lines; width and colour are kept
+    void useNullPen();  ///< plain drawing draws no lines; width and colour are kept
     void setLineCap(std::int32_t cap) { m_lineCap = cap; }
 
     std::int32_t getWidth() const { return m_width; }

@@ -31,6 +31,13 @@ TEST(CBaseImage, HasNoPictureAtFirst) {
     EXPECT_EQ(descriptionOf(image), "No Image loaded");
 }
 
+TEST(CBaseImage, FormatsHaveFixedNumbers) {
+    EXPECT_EQ(static_cast<int>(EImageFormat::RGBA), 0);
+    EXPECT_EQ(static_cast<int>(EImageFormat::TGA), 1);
+    EXPECT_EQ(static_cast<int>(EImageFormat::PNG), 2);
+    EXPECT_EQ(static_cast<int>(EImageFormat::JPEG), 3);
+}
+
 TEST(CBaseImage, LoadsNoFile) {
     CPlainImage image;
     EXPECT_FALSE(image.loadFromFile("picture.png"));

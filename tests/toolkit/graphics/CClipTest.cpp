@@ -56,16 +56,29 @@ TEST(CClip, LimitsBothWaysOfDrawing) {
     }
 }
 
-TEST(CClip, ResetLeavesPlainDrawingLimited) {
+TEST(CClip, ResetLeavesTheImageLimited) {
     SCanvas canvas;
     CClip &clip = canvas.graphics.getClip();
     clip.setClipRegion(CRect(10, 5, 4, 3));
     clip.resetClip();
     EXPECT_FALSE(clip.isActive());
-    EXPECT_EQ(clip.getClipRegion().getWidth(), 40);
+    EXPECT_EQ(clip.getClipRegion().getWidth(), 4);
     canvas.graphics.drawPixel(Tessitor::MathTools::CPoint(20, 20));
+    canvas.graphics.fillRectangle(CRect(0, 0, 40, 30));
     clip.setClipRegion(CRect(0, 0, 40, 30));
     EXPECT_EQ(canvas.at(20, 20), SCanvas::background);
+}
+
+TEST(CClip, ARegionOfNegativeSizeIsReadBackwards) {
+    for (const bool usesSmoothDrawing : {true, false}) {
+        SCanvas canvas(usesSmoothDrawing);
+        canvas.graphics.getClip().setClipRegion(CRect(14, 8, -4, -3));
+        canvas.graphics.fillRectangle(CRect(0, 0, 40, 30));
+        canvas.graphics.getClip().setClipRegion(CRect(0, 0, 40, 30));
+        EXPECT_EQ(canvas.at(10, 5), white);
+        EXPECT_EQ(canvas.at(13, 7), white);
+        EXPECT_EQ(canvas.at(14, 8), SCanvas::background);
+    }
 }
 
 TEST(CClip, EndsWithThePainting) {

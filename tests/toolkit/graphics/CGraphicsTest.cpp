@@ -203,6 +203,17 @@ TEST(CGraphics, ASunkenRectangleIsDarkAtTheTopLeft) {
     EXPECT_EQ(canvas.graphics.getPen().getColour(), CAlphaColour(0, 100, 255));
 }
 
+TEST(CGraphics, ARaisedRectangleWithoutRoomHasNoInnerEdge) {
+    for (const int size : {1, 2}) {
+        SCanvas canvas, bordered;
+        canvas.graphics.drawRaisedRectangle(CRect(5, 5, size, 9));
+        canvas.graphics.drawSunkenRectangle(CRect(15, 5, 9, size));
+        bordered.graphics.drawFilledBorderedRectangle(CRect(5, 5, size, 9));
+        bordered.graphics.drawFilledBorderedRectangle(CRect(15, 5, 9, size));
+        EXPECT_TRUE(pictureOf(canvas.picture()).pixels == pictureOf(bordered.picture()).pixels);
+    }
+}
+
 TEST(CGraphics, AGradientRunsTowardsWhiteAndBackFromTheOrigin) {
     SCanvas canvas;
     canvas.graphics.getPen().setColour(CAlphaColour(55, 155, 0));
@@ -226,11 +237,13 @@ TEST(CGraphics, AGradientOfOneRowDrawsNothing) {
 
 TEST(CGraphics, AnImageThatIsNotLoadedDrawsNothing) {
     SCanvas canvas;
-    CTestImage image(8, 8, true);
-    image.unloadImage();
     const CRect area(0, 0, 8, 8);
-    canvas.graphics.drawImage(&image, area, area);
-    canvas.graphics.drawImage(&image, area, area, 1.0);
+    for (const bool hasAlpha : {true, false}) {
+        CTestImage image(8, 8, hasAlpha);
+        image.unloadImage();
+        canvas.graphics.drawImage(&image, area, area);
+        canvas.graphics.drawImage(&image, area, area, 1.0);
+    }
     canvas.graphics.drawImage(nullptr, area, area);
     canvas.graphics.drawImage(nullptr, area, area, 1.0);
     EXPECT_TRUE(canvas.isBlank());
@@ -331,6 +344,20 @@ TEST(CGraphics, AnAlphaSectionBlendsAPartSomewhereElse) {
     EXPECT_EQ(canvas.at(9, 12), SCanvas::background);
     EXPECT_EQ(canvas.at(14, 15), SCanvas::background);
     EXPECT_EQ(canvas.at(2, 2), SCanvas::background);
+}
+
+TEST(CGraphics, AnAlphaSectionIsShiftedByTheDrawingOffset) {
+    SCanvas canvas;
+    CGraphics &graphics = canvas.graphics;
+    graphics.setDrawingOffset(CPoint(20, 10));
+    graphics.beginAlphaDrawing(1.0);
+    graphics.getBrush().setColour(redColour);
+    graphics.fillRectangle(CRect(0, 0, 4, 4));
+    graphics.endAlphaDrawing(CRect(2, 1, 4, 4), CRect(0, 0, 4, 4));
+    EXPECT_EQ(canvas.at(22, 11), red);
+    EXPECT_EQ(canvas.at(25, 14), red);
+    EXPECT_EQ(canvas.at(21, 11), SCanvas::background);
+    EXPECT_EQ(canvas.at(2, 1), SCanvas::background);
 }
 
 TEST(CGraphics, APaintingEndsAnOpenAlphaSection) {

@@ -84,6 +84,7 @@ TEST_F(CImageDefinitions, MayLackTheirLastLine) {
     EXPECT_TRUE(readDefinitions("<start_skin>\n<images>\n{},one.tga,knob"));
     EXPECT_EQ(names(), "knob ");
     EXPECT_TRUE(readDefinitions("<start_skin>"));
+    EXPECT_TRUE(readDefinitions("<start_skin>\n<images>\n"));
     EXPECT_EQ(traced(), "");
 }
 
@@ -188,6 +189,16 @@ TEST_F(CImageXML, WithoutImagesIsReadToo) {
     EXPECT_TRUE(CImageManager::loadFromXML(path("saved.xml").c_str()));
     EXPECT_TRUE(readXML("<?xml?>\n<image_manager_root/>\n"));
     EXPECT_EQ(names(), "");
+}
+
+TEST_F(CImageXML, IgnoresNodesOfOtherNames) {
+    EXPECT_TRUE(
+        readXML("<?xml?>\n<image_manager_root>\n<images>\n"
+                "<picture relative_path=\"{}\" filename=\"one.tga\" reference_name=\"a\"/>\n"
+                "<image relative_path=\"{}\" filename=\"one.tga\" reference_name=\"b\"/>\n"
+                "</images>\n</image_manager_root>\n"));
+    EXPECT_EQ(names(), "b ");
+    EXPECT_EQ(traced(), "");
 }
 
 TEST_F(CImageXML, CannotBeWrittenEverywhere) {

@@ -74,6 +74,7 @@ TEST_F(CTGAImageFile, AnotherHeaderIsRefusedAndClearsTheFileName) {
     }
     targa.depths[0] = 24;
     expectRefused(targa.bytes(), headerError);
+    EXPECT_STREQ(image.getFilename().getString(), "");
 }
 
 TEST_F(CTGAImageFile, AnUnfinishedHeaderIsRefused) {

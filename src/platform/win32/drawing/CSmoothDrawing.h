@@ -2,6 +2,7 @@
 
 #include "platform/INativeSmoothDrawing.h"
 #include "platform/win32/drawing/ISmoothSurface.h"
+#include "platform/win32/drawing/InOrder.h"
 
 #include <optional>
 
@@ -13,7 +14,7 @@ public:
         : m_graphics(std::move(graphics)), m_surface(surface) {}
 
     void setSmoothing(ENativeSmoothing smoothing) override;
-    void setClip(const SNativeRect &area) override { m_clip = area; }
+    void setClip(const SNativeRect &area) override { m_clip = inOrder(area); }
     void resetClip() override { m_clip.reset(); }
     void drawLine(const SNativeSmoothPen &pen, SNativePoint from, SNativePoint to) override;
     void drawRectangle(const SNativeSmoothPen &pen, const SNativeRect &rect) override;

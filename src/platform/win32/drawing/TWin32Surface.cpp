@@ -4,6 +4,7 @@
 #include "platform/win32/drawing/CSmoothDrawing.h"
 #include "platform/win32/drawing/CWin32Bitmap.h"
 #include "platform/win32/drawing/CWin32Font.h"
+#include "platform/win32/drawing/InOrder.h"
 #include "platform/win32/drawing/SmoothSession.h"
 
 #include <algorithm>
@@ -11,9 +12,9 @@
 
 namespace {
 
-RECT inOrder(const SNativeRect &rect) {
-    return {std::min(rect.left, rect.right), std::min(rect.top, rect.bottom),
-            std::max(rect.left, rect.right), std::max(rect.top, rect.bottom)};
+RECT rectInOrder(const SNativeRect &rect) {
+    const SNativeRect ordered = inOrder(rect);
+    return {ordered.left, ordered.top, ordered.right, ordered.bottom};
 }
 
 }  // namespace
@@ -60,7 +61,7 @@ void TWin32Surface<Interface>::setNullBrush() {
 
 template <typename Interface>
 void TWin32Surface<Interface>::setClip(const SNativeRect &area) {
-    m_clip = inOrder(area);
+    m_clip = rectInOrder(area);
     const TGdiObject<HRGN> region(CreateRectRgnIndirect(&m_clip));
     SelectClipRgn(m_context.getHandle(), region.get());
 }
@@ -100,7 +101,7 @@ void TWin32Surface<Interface>::drawArc(const SNativeRect &rect, SNativePoint sta
 template <typename Interface>
 void TWin32Surface<Interface>::fillRectangle(const SNativeRect &rect) {
     const HDC context = getDeviceContext();
-    const RECT area = inOrder(rect);
+    const RECT area = rectInOrder(rect);
     FillRect(context, &area, static_cast<HBRUSH>(GetCurrentObject(context, OBJ_BRUSH)));
 }
 

@@ -1,7 +1,7 @@
 #include "platform/INativeSurface.h"
 #include "platform/NativeIcon.h"
+#include "platform/win32/drawing/CountObjects.h"
 
-#include <cstdint>
 #include <functional>
 #include <gtest/gtest.h>
 #include <string>
@@ -11,18 +11,6 @@
 // All that is created is also deleted.
 
 namespace {
-
-/// @return how many GDI objects this process has.
-int countObjects() {
-    const DWORD count = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
-    if (count > 0)
-        return static_cast<int>(count);
-    // Wine 8 does not count, but accepts handles without their upper half.
-    int found = 0;
-    for (std::uintptr_t handle = 1; handle < 0x10000; ++handle)
-        found += GetObjectType(reinterpret_cast<HGDIOBJ>(handle)) != 0 ? 1 : 0;
-    return found;
-}
 
 void expectNoLeak(const char *what, const std::function<void()> &operation) {
     operation();  // the first call also creates what the system keeps
