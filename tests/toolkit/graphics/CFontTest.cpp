@@ -75,6 +75,14 @@ TEST(CFont, MakesItsNativeFontAnewWhenItChanges) {
     EXPECT_EQ(font.getTextWidth("width"), small);
 }
 
+TEST(CFont, MakesItsNativeFontAnewWithItsFace) {
+    CFont font("Arial", 10, false, false);
+    const INativeFont *old = &font.getNativeFont();
+    font.setFaceName("Times");
+    EXPECT_NE(&font.getNativeFont(), old);
+    expectFont(font, "Times", 10, false, false);
+}
+
 TEST(CFont, SetsEverythingAtOnce) {
     CFont font;
     font.setFont("Times", 14, true, true, true, true);
@@ -129,8 +137,11 @@ TEST(CFont, KeepsWhatANodeDoesNotTell) {
     EXPECT_EQ(font.getRecord().underline, 1);
     EXPECT_EQ(font.getRecord().strikeOut, 1);
     size.addAttribute(new CXMLAttribute("font_size", 7));
+    font.setFont("Times", 20, true, true, false, true);
     font.deserializeFromNode(&size);
     expectFont(font, "Times", 7, true, true);
+    EXPECT_EQ(font.getRecord().underline, 1);
+    EXPECT_EQ(font.getRecord().strikeOut, 0);
 }
 
 TEST(CFont, TheDefaultFontLivesBetweenStartAndEnd) {
