@@ -81,6 +81,34 @@ TEST(CClip, ARegionOfNegativeSizeIsReadBackwards) {
     }
 }
 
+TEST(CClip, ResetFreesSmoothDrawing) {
+    struct SResets : INativeSmoothDrawing {
+        int count = 0;
+
+        void resetClip() override { ++count; }
+        void setSmoothing(ENativeSmoothing) override {}
+        void setClip(const SNativeRect &) override {}
+        void drawLine(const SNativeSmoothPen &, SNativePoint, SNativePoint) override {}
+        void drawRectangle(const SNativeSmoothPen &, const SNativeRect &) override {}
+        void fillRectangle(SNativeColour, const SNativeRect &) override {}
+        void fillRoundedRectangle(SNativeColour, const SNativeRect &, std::int32_t,
+                                  std::int32_t) override {}
+        void fillEllipse(SNativeColour, const SNativeRect &) override {}
+        void fillPolygon(SNativeColour, std::span<const SNativePoint>) override {}
+        void drawText(const char *, const SNativeRect &, const INativeFont &, SNativeColour, int,
+                      int) override {}
+    };
+    Tessitor::GUI::Graphics::CNativeImage image;
+    SResets resets;
+    CClip clip;
+    clip.initialise(&image, CRect(0, 0, 40, 30), &resets);
+    clip.resetClip();
+    EXPECT_EQ(resets.count, 0) << "no clip has been set";
+    clip.setClipRegion(CRect(10, 5, 4, 3));
+    clip.resetClip();
+    EXPECT_EQ(resets.count, 1);
+}
+
 TEST(CClip, EndsWithThePainting) {
     SCanvas canvas;
     canvas.graphics.getClip().setClipRegion(CRect(10, 5, 4, 3));
