@@ -332,6 +332,39 @@ TEST(CGraphics, AlphaSectionsDoNotNest) {
     EXPECT_EQ(graphics.getBrush().getColour(), CAlphaColour(255, 255, 255));
 }
 
+TEST(CGraphics, AnAlphaSectionStartsWithTheColoursOfThePainting) {
+    SCanvas canvas;
+    CGraphics &graphics = canvas.graphics;
+    graphics.getPen().setColour(redColour);
+    graphics.getBrush().setColour(greenColour);
+    graphics.beginAlphaDrawing(1.0);
+    graphics.drawPixel(CPoint(1, 1));
+    graphics.fillRectangle(CRect(2, 2, 4, 4));
+    graphics.endAlphaDrawing(CRect(0, 0, 40, 30), CRect(0, 0, 40, 30));
+    EXPECT_EQ(canvas.at(1, 1), red);
+    EXPECT_EQ(canvas.at(2, 2), green);
+}
+
+TEST(CGraphics, AnAlphaSectionIsAsSmoothAsThePainting) {
+    const CRect all(0, 0, 40, 30);
+    SCanvas plain, within, across;
+    plain.graphics.setAntiAliasMode(2);
+    plain.graphics.fillEllipse(CRect(3, 3, 21, 17));
+
+    within.graphics.setAntiAliasMode(2);
+    within.graphics.beginAlphaDrawing(1.0);
+    within.graphics.fillEllipse(CRect(3, 3, 21, 17));
+    within.graphics.endAlphaDrawing(all, all);
+    EXPECT_TRUE(pictureOf(within.picture()).pixels == pictureOf(plain.picture()).pixels);
+
+    across.graphics.beginAlphaDrawing(1.0);
+    across.graphics.setAntiAliasMode(2);
+    across.graphics.endAlphaDrawing(all, all);
+    across.graphics.fillEllipse(CRect(3, 3, 21, 17));
+    EXPECT_TRUE(pictureOf(across.picture()).pixels == pictureOf(plain.picture()).pixels)
+        << "a mode that is set in a section outlasts it";
+}
+
 TEST(CGraphics, AnAlphaSectionBlendsAPartSomewhereElse) {
     SCanvas canvas;
     CGraphics &graphics = canvas.graphics;
