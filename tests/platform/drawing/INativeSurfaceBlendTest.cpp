@@ -83,6 +83,8 @@ TEST(NativeSurfaceBlend, NeedsASourceInsideThePicture) {
     const auto surface = createNativeSurface(nullptr, 3, 3, white);
     surface->blendFrom(*source, {1, 0, 3, 2}, {0, 0, 2, 2}, 255);
     surface->blendFrom(*source, {-1, 0, 1, 2}, {0, 0, 2, 2}, 255);
+    surface->blendFrom(*source, {0, 1, 2, 3}, {0, 0, 2, 2}, 255);
+    surface->blendFrom(*source, {0, -1, 2, 1}, {0, 0, 2, 2}, 255);
     surface->blendFrom(*source, {2, 0, 0, 2}, {0, 0, 2, 2}, 255);
     surface->blendFrom(*source, {0, 0, 2, 2}, {2, 0, 0, 2}, 255);
     EXPECT_EQ(pictureOf(*surface), "...\n...\n...\n");

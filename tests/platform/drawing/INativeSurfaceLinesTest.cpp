@@ -77,6 +77,17 @@ TEST(NativeSurfaceLines, ANullPenDrawsNone) {
               "...\n");
 }
 
+TEST(NativeSurfaceLines, AreAtLeastOnePixelWide) {
+    for (const std::int32_t width : {0, 1})
+        EXPECT_EQ(drawn(4, 1,
+                        [width](auto &surface) {
+                            surface.setPen(black, width);
+                            surface.lineTo({3, 0});
+                        }),
+                  "###.\n")
+            << width;
+}
+
 TEST(NativeSurfaceLines, WideLinesHaveRoundEnds) {
     const auto wide = [](std::int32_t width) {
         return drawn(11, 7, [width](auto &surface) {
