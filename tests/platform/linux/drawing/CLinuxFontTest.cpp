@@ -111,6 +111,14 @@ TEST(CLinuxFont, KernsPairsIfTheFaceSaysSo) {
     EXPECT_LT(nativeTextSize("AV", &font).width, apart);
 }
 
+TEST(CLinuxFont, DoesNotKernPairsOfTwoFaces) {
+    constexpr char32_t notInLiberationSerif = 0xfb00;
+    const CLinuxFont font(fontRecord("Liberation Serif", -40));
+    const SGlyph &first = font.getGlyph('A'), &second = font.getGlyph(notInLiberationSerif);
+    ASSERT_NE(first.face, second.face);
+    EXPECT_EQ(nativeTextSize("A\xef\xac\x80", &font).width, first.advance + second.advance);
+}
+
 TEST(CLinuxFont, TakesHalfTheSizePerCharacterWithoutAnyFont) {
     const CFontConfiguration noFonts("");
     const CLinuxFont font(arial(-20));

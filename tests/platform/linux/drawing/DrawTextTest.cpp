@@ -234,6 +234,15 @@ TEST_F(DrawText, UnderlinesAndStrikesTheWholeLine) {
         EXPECT_EQ(isLine(y), y == baseLine + 1 || y == baseLine - 3) << y;
 }
 
+TEST_F(DrawText, BlendsTheUnderline) {
+    SNativeFontRecord record = arial(-11);
+    record.underline = 1;
+    const CLinuxFont lined(record);
+    CCanvas canvas(60, 20);
+    drawSmoothText(canvas.getPixels(), "a   i", {0, 0, 60, 20}, lined, {255, 255, 255, 100}, 0, 0);
+    EXPECT_EQ(canvas.at(12, lined.getAscent() + 1), 0x64646464u);
+}
+
 TEST_F(DrawText, DrawsNothingWithoutAnyFont) {
     const CFontConfiguration noFonts("");
     SNativeFontRecord record = arial(-11);
