@@ -147,6 +147,10 @@ TEST_F(PictureFile, AJpegHoldsAtLeastABitForEachBlock) {
                       "\3\x11" + std::string(1, '\0');
     EXPECT_TRUE(isPicture(withBytes(1536)));
     EXPECT_FALSE(isPicture(withBytes(1400)));
+    // The same in one direction only
+    jpeg.components[2] = '\x21';
+    EXPECT_TRUE(isPicture(withBytes(2048)));
+    EXPECT_FALSE(isPicture(withBytes(1900)));
 }
 
 TEST_F(PictureFile, AJpegMayHaveOneOfThreeKindsOfFrames) {

@@ -91,6 +91,9 @@ TEST_F(NativeBitmapOnLinux, ADamagedPngIsRefused) {
     std::string bytes = png.bytes();
     bytes[30] = static_cast<char>(bytes[30] ^ 1);
     EXPECT_TRUE(decode(bytes).empty()) << "a wrong check sum";
+    bytes = png.bytes();
+    bytes.back() = static_cast<char>(bytes.back() ^ 1);
+    EXPECT_TRUE(decode(bytes).empty()) << "a wrong check sum at the end";
     EXPECT_FALSE(decode(png).empty());
     png.kind = "\2\3";
     EXPECT_TRUE(decode(png).empty()) << "no palette";
@@ -117,6 +120,25 @@ TEST_F(NativeBitmapOnLinux, AJpegWithMissingDataIsRefused) {
         EXPECT_FALSE(decode(bytes).empty());
         EXPECT_TRUE(decode(bytes.substr(0, bytes.size() - 4) + "\xff\xd9").empty());
     }
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
+TEST_F(NativeBitmapOnLinux, AJpegWithWrongCodesIsRefused) {
+    testing::internal::CaptureStderr();
+    EXPECT_TRUE(decode(SJpeg().head() + std::string(8, '\xfe') + "\xff\xd9").empty());
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
+TEST_F(NativeBitmapOnLinux, AJpegRestartsInOrder) {
+    testing::internal::CaptureStderr();
+    SJpeg jpeg;
+    jpeg.width = 16;
+    jpeg.extra = jpegSegment(0xdd, std::string("\0\1", 2));  // a restart after each block
+    const auto withRestart = [&](const char *marker) {
+        return decode(jpeg.head() + "\x3f" + marker + "\x3f" + "\xff\xd9");
+    };
+    EXPECT_EQ(withRestart("\xff\xd0"), Pixels(16 * 8, 0xff808080));
+    EXPECT_TRUE(withRestart("\xff\xd3").empty());
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
