@@ -167,6 +167,20 @@ TEST(CGraphics, PlainShapesKeepTheColoursOfPenAndBrush) {
     EXPECT_EQ(canvas.at(1, 0), green);
 }
 
+TEST(CGraphics, CornersHaveAWidthAndAHeight) {
+    for (const bool usesSmoothDrawing : {true, false}) {
+        SCanvas filled(usesSmoothDrawing), outlined(usesSmoothDrawing);
+        filled.graphics.getBrush().setColour(redColour);
+        filled.graphics.fillRoundedRectangle(CRect(0, 0, 40, 30), CDimension(36, 4));
+        EXPECT_EQ(filled.at(3, 0), SCanvas::background);
+        EXPECT_EQ(filled.at(0, 3), red);
+        outlined.graphics.getPen().setColour(redColour);
+        outlined.graphics.drawRoundedRectangle(CRect(0, 0, 40, 30), CDimension(36, 4));
+        EXPECT_EQ(outlined.at(3, 0), SCanvas::background);
+        EXPECT_EQ(outlined.at(0, 3), red);
+    }
+}
+
 TEST(CGraphics, SoftPixelKeepsThePenColour) {
     SCanvas canvas;
     canvas.graphics.getPen().setColour(redColour);
@@ -296,6 +310,20 @@ TEST(CGraphics, WithoutADefaultFontNoTextIsDrawn) {
     SCanvas canvas;
     canvas.graphics.drawText("ab", CRect(0, 0, 40, 30), nullptr, 0);
     EXPECT_TRUE(canvas.isBlank());
+    CDimension extent;
+    EXPECT_FALSE(CGraphics::getTextExtent("ab", extent, nullptr));
+    EXPECT_GT(extent.getWidth(), 0) << "it is measured with a font of the system";
+    EXPECT_GT(extent.getHeight(), 0);
+}
+
+TEST(CGraphics, OnlySmoothTextHasAlpha) {
+    CFont font("Arial", 11, false, false);
+    for (const bool usesSmoothDrawing : {true, false}) {
+        SCanvas canvas(usesSmoothDrawing);
+        canvas.graphics.setTextColour(CAlphaColour(255, 0, 0, 0));
+        canvas.graphics.drawText("ab", CRect(0, 0, 40, 30), &font, 0);
+        EXPECT_EQ(canvas.isBlank(), usesSmoothDrawing);
+    }
 }
 
 TEST(CGraphics, ATextFitsIntoItsOwnExtent) {
