@@ -44,10 +44,11 @@ TEST(CMemorySurface, AWholeArcIsTheOutlineOfItsEllipse) {
 }
 
 TEST(CMemorySurface, AWideArcHasRoundEnds) {
+    constexpr SNativeRect rect{3, 3, 17, 17};
     EXPECT_EQ(drawn(20, 14,
-                    [](auto &surface) {
+                    [&](auto &surface) {
                         surface.setPen(black, 5);
-                        surface.drawArc({3, 3, 17, 17}, {40, 10}, {-20, 10}, false);
+                        surface.drawArc(rect, {40, 10}, {-20, 10}, false);
                     }),
               "....................\n"
               ".......######.......\n"
@@ -63,6 +64,88 @@ TEST(CMemorySurface, AWideArcHasRoundEnds) {
               ".#####........#####.\n"
               "..###..........###..\n"
               "....................\n");
+    EXPECT_EQ(drawn(14, 20,
+                    [&](auto &surface) {
+                        surface.setPen(black, 5);
+                        surface.drawArc(rect, {10, -20}, {10, 40}, false);
+                    }),
+              "..............\n"
+              ".......#####..\n"
+              ".....########.\n"
+              "....#########.\n"
+              "...##########.\n"
+              "..##########..\n"
+              "..######......\n"
+              ".######.......\n"
+              ".#####........\n"
+              ".#####........\n"
+              ".#####........\n"
+              ".#####........\n"
+              ".######.......\n"
+              "..######......\n"
+              "..##########..\n"
+              "...##########.\n"
+              "....#########.\n"
+              ".....########.\n"
+              ".......#####..\n"
+              "..............\n");
+}
+
+TEST(CMemorySurface, AFlatEllipseHasAClosedOutline) {
+    EXPECT_EQ(drawn(24, 3,
+                    [](auto &surface) {
+                        surface.drawEllipse({0, 0, 24, 3});
+                    }),
+              "....################....\n"
+              "####oooooooooooooooo####\n"
+              "....################....\n");
+}
+
+TEST(CMemorySurface, AnEvenPenIsAsWideAllAroundAnEllipse) {
+    EXPECT_EQ(drawn(14, 14,
+                    [](auto &surface) {
+                        surface.setPen(black, 2);
+                        surface.setNullBrush();
+                        surface.drawEllipse({2, 2, 13, 13});
+                    }),
+              "..............\n"
+              ".....####.....\n"
+              "...########...\n"
+              "..###....###..\n"
+              "..##......##..\n"
+              ".##........##.\n"
+              ".##........##.\n"
+              ".##........##.\n"
+              ".##........##.\n"
+              "..##......##..\n"
+              "..###....###..\n"
+              "...########...\n"
+              ".....####.....\n"
+              "..............\n");
+}
+
+TEST(CMemorySurface, FlatCornersMakeNoRoundedRectangle) {
+    const auto withoutOutline = [](std::int32_t width, std::int32_t height) {
+        return drawn(10, 6, [=](auto &surface) {
+            surface.setNullPen();
+            surface.drawRoundedRectangle({0, 0, 10, 6}, width, height);
+        });
+    };
+    EXPECT_EQ(withoutOutline(2, 4), withoutOutline(0, 0));
+    EXPECT_EQ(withoutOutline(4, 2), withoutOutline(0, 0));
+    EXPECT_NE(withoutOutline(4, 4), withoutOutline(0, 0));
+}
+
+TEST(CMemorySurface, AClipMayHaveExchangedEdges) {
+    EXPECT_EQ(drawn(5, 3,
+                    [](auto &surface) {
+                        surface.setClip({4, 3, 1, 1});
+                        surface.fillRectangle({0, 0, 5, 3});
+                        surface.setClip({0, 0, 5, 3});
+                    }),
+              ".....\n"
+              ".ooo.\n"
+              ".ooo.\n");
 }
 
 }  // namespace
