@@ -234,6 +234,15 @@ TEST_F(DrawText, UnderlinesAndStrikesTheWholeLine) {
         EXPECT_EQ(isLine(y), y == baseLine + 1 || y == baseLine - 3) << y;
 }
 
+TEST_F(DrawText, UnderlinesTheSmallestText) {
+    SNativeFontRecord record = arial(-5);
+    record.underline = 1;
+    const CLinuxFont lined(record);
+    CCanvas canvas(60, 20);
+    drawPlainText(canvas.getPixels(), "a", {0, 0, 60, 20}, lined, white, 0);
+    EXPECT_EQ(canvas.at(0, lined.getAscent() + 1), opaqueWhite);
+}
+
 TEST_F(DrawText, BlendsTheUnderline) {
     SNativeFontRecord record = arial(-11);
     record.underline = 1;
