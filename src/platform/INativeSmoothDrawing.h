@@ -13,7 +13,7 @@
 class CNativeSmoothSession {
 public:
     CNativeSmoothSession();
-    ~CNativeSmoothSession();
+    ~CNativeSmoothSession();  // NOLINT(performance-trivially-destructible): not on Windows
     CNativeSmoothSession(const CNativeSmoothSession &) = delete;
     CNativeSmoothSession &operator=(const CNativeSmoothSession &) = delete;
 
@@ -58,8 +58,8 @@ public:
     /// Closes the polygon. Fills by the even-odd rule.
     virtual void fillPolygon(SNativeColour colour, std::span<const SNativePoint> points) = 0;
 
-    /// Draws a text with smooth edges whatever the smoothing of shapes, cut at the rectangle. A line
-    /// feed starts a new line; other lines are not broken.
+    /// Draws a text with smooth edges whatever the smoothing of shapes, cut at the rectangle. A
+    /// line feed starts a new line; other lines are not broken.
     /// @param text        in the system's narrow encoding.
     /// @param horizontal  0 left, 1 centre, 2 right.
     /// @param vertical    0 top, 1 centre, 2 bottom.

@@ -80,8 +80,8 @@ public:
     ///              not drawn.
     virtual void copyBitmap(const INativeBitmap &bitmap, const SNativeRect &to,
                             SNativePoint from) = 0;
-    /// Copies a part of a bitmap, colours as stored, and scales it: repeats pixels or, where several
-    /// fall on one, combines their bits by AND. Negative sizes mirror.
+    /// Copies a part of a bitmap, colours as stored, and scales it: repeats pixels or, where
+    /// several fall on one, combines their bits by AND. Negative sizes mirror.
     virtual void stretchBitmap(const INativeBitmap &bitmap, const SNativeRect &to,
                                const SNativeRect &from) = 0;
     /// Like blendFrom(), with each pixel's own alpha times the given one.

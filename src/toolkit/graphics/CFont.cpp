@@ -44,11 +44,8 @@ CFont::CFont(const CString &face, std::int32_t size, bool isItalic, bool isBold)
     s_class.incrementInstanceCount();
 }
 
-CFont::CFont(const CFont &other)
-    : CCountedObject(), m_record(other.m_record), m_faceName(other.m_faceName),
-      m_height(other.m_height), m_isBold(other.m_isBold), m_isItalic(other.m_isItalic) {
-    makeFont();
-    s_class.incrementInstanceCount();
+CFont::CFont(const CFont &other) : CFont() {
+    *this = other;
 }
 
 CFont &CFont::operator=(const CFont &other) {

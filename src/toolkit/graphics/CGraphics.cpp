@@ -340,12 +340,13 @@ void CGraphics::drawText(const Tessitor::Basics::CString &text, const CRect &rec
     if (font == nullptr || surface() == nullptr)
         return;
     const SAlignment where = alignmentOf(alignment);
-    if (smooth() != nullptr)
+    if (smooth() != nullptr) {
         smooth()->drawText(text.getString(), shifted(rect), font->getNativeFont(),
                            m_textColour.toNativeWithAlpha(), where.horizontal, where.vertical);
-    else
+    } else {
         surface()->drawText(text.getString(), shifted(rect), font->getNativeFont(),
                             m_textColour.toNative(), where.plainFormat());
+    }
 }
 
 bool CGraphics::getTextExtent(const Tessitor::Basics::CString &text, CDimension &extent,
@@ -425,6 +426,7 @@ SNativeRect CGraphics::shifted(const CRect &rect) const {
 
 std::vector<SNativePoint> CGraphics::shifted(const CPolygon &polygon) const {
     std::vector<SNativePoint> points;
+    points.reserve(static_cast<std::size_t>(polygon.getNumberOfPoints()));
     for (int i = 0; i < polygon.getNumberOfPoints(); ++i)
         points.push_back(shifted(*polygon.getPoint(i)));
     return points;

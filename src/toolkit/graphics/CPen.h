@@ -11,7 +11,7 @@ public:
     CPen() = default;
     CPen(const CPen &) = delete;
     CPen &operator=(const CPen &) = delete;
-    virtual ~CPen() { deletePen(); }
+    virtual ~CPen() { CPen::deletePen(); }
 
     virtual void makePen();    ///< selects a pen of this width and colour into the surface
     virtual void deletePen();  ///< selects the surface's first pen, then forgets the surface

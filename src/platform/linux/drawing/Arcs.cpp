@@ -46,17 +46,18 @@ struct SPlace {
 template <typename Visit>
 void visitOutline(const SArea &area, const SNativeRect &part, Visit visit) {
     const CEllipseQuarter quarter(area.width(), area.height());
+    const std::int64_t middleRow = (area.height() - 1) / 2, middleColumn = (area.width() - 1) / 2;
     for (std::int32_t y = part.top; y < part.bottom; ++y) {
         const std::int64_t above = y - area.top, below = area.bottom - 1 - y;
         const auto run = quarter.run(std::min(above, below));
-        const double height = static_cast<double>((area.height() - 1) / 2 - std::min(above, below));
+        const double height = static_cast<double>(middleRow - std::min(above, below));
         const auto visitRun = [&](bool isLeft, bool isUpper) {
             const std::int64_t first =
                 std::max(run.first, isLeft ? part.left - area.left : area.right - part.right);
             const std::int64_t last = std::min(run.last, isLeft ? part.right - 1 - area.left
                                                                 : area.right - 1 - part.left);
             for (std::int64_t i = first; i <= last; ++i) {
-                const double side = static_cast<double>((area.width() - 1) / 2 - i);
+                const double side = static_cast<double>(middleColumn - i);
                 visit(SPlace{isUpper ? (isLeft ? 1 : 0) : (isLeft ? 2 : 3),
                              {isLeft ? -side : side, isUpper ? height : -height},
                              isLeft ? area.left + i : area.right - 1 - i,
@@ -165,13 +166,14 @@ void drawWideArc(const SPixels &pixels, const SArc &arc, const CSector &sector,
 
 void drawWholeEllipse(const SPixels &pixels, const SArea &area, std::int64_t penWidth,
                       std::uint32_t pixel) {
-    if (penWidth > 1)
-        visitRing(pixels.clip, area, area.width(), area.height(), penWidth,
-                  [&](std::int32_t y, std::int64_t left, std::int64_t right) {
-                      fillSpan(pixels, y, left, right, pixel);
-                  });
-    else
+    if (penWidth <= 1) {
         outlineRounded(pixels, area, area.width(), area.height(), pixel);
+        return;
+    }
+    visitRing(pixels.clip, area, area.width(), area.height(), penWidth,
+              [&](std::int32_t y, std::int64_t left, std::int64_t right) {
+                  fillSpan(pixels, y, left, right, pixel);
+              });
 }
 
 }  // namespace

@@ -58,10 +58,12 @@ private:
         if (toSize == fromSize)
             return i;  // spares the divisions, which would cost more than blending
         if (toSize > fromSize)
-            return static_cast<std::int64_t>((Wide{2 * i + 1} * fromSize - 1) / (2 * toSize));
-        const Wide product = Wide{2 * i} * fromSize + 1 - toSize;
+            return static_cast<std::int64_t>(((Wide{2} * i + 1) * fromSize - 1) /
+                                             (Wide{2} * toSize));
+        const Wide product = Wide{2} * i * fromSize + 1 - toSize;
         return product <= 0 ? 0
-                            : static_cast<std::int64_t>((product + 2 * toSize - 1) / (2 * toSize));
+                            : static_cast<std::int64_t>((product + Wide{2} * toSize - 1) /
+                                                        (Wide{2} * toSize));
     }
     static std::int32_t bounded(std::int64_t value, std::int32_t size) {
         return static_cast<std::int32_t>(std::clamp<std::int64_t>(value, 0, size));

@@ -35,11 +35,13 @@ void CCoverage::addInRow(float *row, double from, double to, double height) {
     const double width = static_cast<double>(m_width);
     const double left = std::clamp(std::min(from, to), 0.0, width);
     const double right = std::clamp(std::max(from, to), 0.0, width);
-    for (double column = std::floor(left); column <= right; ++column) {
-        const double begin = std::max(left, column), end = std::min(right, column + 1);
+    const auto lastColumn = static_cast<int>(right);
+    for (auto column = static_cast<int>(left); column <= lastColumn; ++column) {
+        const double begin = std::max<double>(left, column);
+        const double end = std::min<double>(right, column + 1);
         const double share = right > left ? height * (end - begin) / (right - left) : height;
         const double part = (begin + end) / 2 - column;  // of the pixel left of the edge
-        float *cell = row + static_cast<std::ptrdiff_t>(column);
+        float *cell = row + column;
         cell[0] += static_cast<float>(share * (1 - part));
         cell[1] += static_cast<float>(share * part);
     }

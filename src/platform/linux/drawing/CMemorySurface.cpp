@@ -112,11 +112,12 @@ void CMemorySurface::drawPolygon(std::span<const SNativePoint> points) {
     if (points.size() < 2)
         return;
     const SPixels pixels = clipped();
-    if (m_brush.isVisible)
+    if (m_brush.isVisible) {
         fillPolygon(pixels.clip, points,
                     [&](std::int32_t y, std::int32_t left, std::int32_t right) {
                         fillSpan(pixels, y, left, right, m_brush.pixel);
                     });
+    }
     for (std::size_t i = 0; i < points.size(); ++i)
         drawSegment(pixels, points[i], points[(i + 1) % points.size()]);
 }
@@ -200,15 +201,16 @@ void CMemorySurface::drawRounded(const SNativeRect &rect, std::int64_t width, st
     const SPixels pixels = clipped();
     if (m_brush.isVisible)
         fillRounded(pixels, area, width, height, m_brush.pixel);
-    if (m_pen.width == 1)
+    if (m_pen.width == 1) {
         outlineRounded(pixels, area, width, height, m_pen.pixel);
-    else if (m_pen.width > 1 && !isRound)
+    } else if (m_pen.width > 1 && !isRound) {
         drawFrame(pixels, area);
-    else if (m_pen.width > 1)
+    } else if (m_pen.width > 1) {
         visitRing(pixels.clip, area, width, height, m_pen.width,
                   [&](std::int32_t y, std::int64_t left, std::int64_t right) {
                       fillSpan(pixels, y, left, right, m_pen.pixel);
                   });
+    }
 }
 
 /// The outline of a rectangle with a wide pen, whose joins are round.

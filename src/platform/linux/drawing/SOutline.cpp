@@ -30,13 +30,14 @@ void addArc(Polygon &polygon, SPoint centre, double radiusX, double radiusY, dou
 SArea SOutline::extents() const {
     constexpr double far = 1e9;
     double left = far, top = far, right = -far, bottom = -far;
-    for (const Polygon &polygon : polygons)
+    for (const Polygon &polygon : polygons) {
         for (const SPoint &point : polygon) {
             left = std::min(left, point.x);
             top = std::min(top, point.y);
             right = std::max(right, point.x);
             bottom = std::max(bottom, point.y);
         }
+    }
     const auto pixel = [&](double value) { return std::llround(std::clamp(value, -far, far)); };
     return {pixel(std::floor(left)), pixel(std::floor(top)), pixel(std::ceil(right)),
             pixel(std::ceil(bottom))};
