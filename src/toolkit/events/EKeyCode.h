@@ -1,0 +1,68 @@
+#pragma once
+
+#include <cstdint>
+
+namespace Tessitor::GUI::Events {
+
+/// The keys that controls can tell apart, besides their characters.
+enum class EKeyCode : std::int32_t {
+    Backspace,
+    Tab,
+    Clear,
+    Return,
+    Shift,
+    Control,
+    Alt,
+    Pause,
+    CapsLock,
+    Escape,
+    PageUp,
+    PageDown,
+    End,
+    Home,
+    Left,
+    Up,
+    Right,
+    Down,
+    PrintScreen,
+    Insert,
+    Delete,
+    Help,
+    LeftSystem,
+    RightSystem,
+    F1,
+    F2,
+    F3,
+    F4,
+    F5,
+    F6,
+    F7,
+    F8,
+    F9,
+    F10,
+    F11,
+    F12,
+    F13,
+    F14,
+    F15,
+    F16,
+    F17,
+    F18,
+    F19,
+    F20,
+    F21,
+    F22,
+    F23,
+    F24,
+    NumLock,
+    ScrollLock,
+    LeftShift,
+    RightShift,
+    LeftControl,
+    RightControl,
+    LeftAlt,
+    RightAlt,
+    Other  ///< any other key
+};
+
+}  // namespace Tessitor::GUI::Events

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <vector>
+
+/// The mouse of a program that links FakeNativeMouse.cpp, which replaces the platform's functions.
+struct SFakeNativeMouse {
+    struct SCursor {
+        int number;  // of the system cursor or the resource
+        void *module;
+        bool isAnimated;
+    };
+    std::vector<SCursor> loaded;
+    std::vector<void *> destroyed;
+    void *shown = nullptr;
+    void *captureWindow = nullptr;
+
+    /// The cursor that a handle stands for.
+    const SCursor &cursorOf(void *handle) const;
+};
+
+SFakeNativeMouse &fakeNativeMouse();
