@@ -1,6 +1,7 @@
 #include "toolkit/controls/CControlRoot.h"
 
 #include "foundation/CException.h"
+#include "toolkit/controls/CHeldControl.h"
 #include "toolkit/controls/Positions.h"
 #include "toolkit/events/IWindow.h"
 #include "toolkit/graphics/IImage.h"
@@ -52,10 +53,14 @@ void CControlRoot::setParentWindow(Windowing::IWindow *window) {
 // Modal control
 
 void CControlRoot::setModalControl(IControl *control) {
+    if (control == nullptr) {
+        clearModalControl();
+        return;
+    }
+    const CHeldControl held(control);  // it may be the one that is cleared
     clearModalControl();
     m_modalControl.setPointer(control);
-    if (control != nullptr)
-        updateArea(control->getAbsoluteRect());
+    updateArea(control->getAbsoluteRect());
 }
 
 void CControlRoot::clearModalControl() {

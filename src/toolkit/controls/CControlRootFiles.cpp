@@ -17,6 +17,16 @@ namespace {
 constexpr const char *listName = "controls", *nodeName = "control", *typeName = "type",
                      *countName = "number_of_controls";
 
+// Each panel in a panel adds two nodes. A damaged file must not overflow the stack.
+constexpr int maximumDepth = 200;
+
+bool isTooDeep(const CXMLNode *node) {
+    int depth = 0;
+    for (; node != nullptr && depth <= maximumDepth; node = node->getParent())
+        ++depth;
+    return depth > maximumDepth;
+}
+
 }  // namespace
 
 void CControlRoot::serialiseToXml(CXMLNode *node) const {
@@ -36,7 +46,7 @@ void CControlRoot::serialiseToXml(CXMLNode *node) const {
 }
 
 bool CControlRoot::serialiseFromXml(CXMLNode *node) {
-    if (node == nullptr)
+    if (node == nullptr || isTooDeep(node))
         return false;
     if (node->getName() != listName) {
         IO::trace("The node name of a control root xml file must be \"controls\"");

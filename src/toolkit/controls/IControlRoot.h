@@ -105,8 +105,9 @@ public:
 
     /// Adds the controls that serialiseToXml() has written.
     /// @param node  named "controls".
-    /// @return false if the node has another name, if the number of controls is wrong, or if one of
-    ///         them cannot be created or read. Those before it are added.
+    /// @return false if the node has another name, if the number of controls is wrong, if one of
+    ///         them cannot be created or read, or if about a hundred panels lie in each other.
+    ///         Those before it are added.
     virtual bool serialiseFromXml(IO::CXMLNode *node) = 0;
     /// Same for a file. @return false also if it cannot be read.
     virtual bool loadFromFile(const Tessitor::Basics::CSystemString &path) = 0;
