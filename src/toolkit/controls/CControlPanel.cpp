@@ -117,10 +117,9 @@ void CControlPanel::drawControl(Graphics::CGraphics &graphics) {
     if (!drawEnabledControl(graphics))
         return;
     CRect area = graphics.getUpdateArea();
-    if (getBackgroundImage() != nullptr)
-        drawBackground(graphics, area);
-    else
+    if (getBackgroundImage() == nullptr)
         drawPrimaryImage(graphics, isDefaultDrawing());
+    drawBackground(graphics, area);
     area.offset(getWindowOffset());
     drawControls(graphics, area);
 }

@@ -103,7 +103,8 @@ public:
     void lastReservedHook() override {}
 
 protected:
-    /// Draws the background image where it meets an area, both relative to the root's origin.
+    /// Draws the background image, if there is one, where it meets an area. Both are relative to
+    /// the root's origin.
     void drawBackground(Graphics::CGraphics &graphics, const MathTools::CRect &area);
     /// Draws the controls that meet an area, and last the modal control.
     /// @param area  in window coordinates.

@@ -40,15 +40,14 @@ void drawIfSeen(CGraphics &graphics, IControl &control, const CRect &area) {
 void CControlRoot::drawRootControl(CGraphics &graphics) {
     const CSavedDrawing saved(graphics);
     const CRect area = graphics.getUpdateArea();
-    if (getBackgroundImage() != nullptr) {
-        narrowClip(graphics, area);
-        drawBackground(graphics, area);
-    }
+    drawBackground(graphics, area);
     drawControls(graphics, area);
 }
 
 void CControlRoot::drawBackground(CGraphics &graphics, const CRect &area) {
     Graphics::IImage *image = getBackgroundImage();
+    if (image == nullptr)
+        return;
     // A blended image must not be asked for pixels outside itself.
     CRect part;
     CRect::getIntersection(area, image->getNormalisedImageArea(), part);

@@ -95,6 +95,8 @@ TEST_F(CControlPanelNested, PassesKeysOnToTheControlLastUnderTheMouse) {
 TEST_F(CControlPanelNested, PassesDropsDownToAControlThatAcceptsThem) {
     drop(36, 47);
     EXPECT_THAT(takeLog(), IsEmpty());
+    control->setDropFileEnabled(false);
+    EXPECT_FALSE(inner->isDropFileEnabled());
     control->setDropFileEnabled(true);
     EXPECT_TRUE(inner->isDropFileEnabled());
     EXPECT_TRUE(outer->isDropFileEnabled());

@@ -170,13 +170,13 @@ TEST_F(CControlPanelDrawing, DrawsItsModalControlLast) {
 }
 
 TEST_F(CControlPanelDrawing, DrawsItsBackgroundImageInPlaceOfThePrimaryImage) {
-    panel->setPrimaryImage(new CTestImage(20, 20, true));
-    panel->setBackgroundImage(new CTestImage(20, 20, false));
+    panel->setPrimaryImage(new CTestImage(20, 20, false));
+    panel->setBackgroundImage(new CTestImage(15, 15, false));
     draw(CRect(12, 0, 28, 30));
     EXPECT_EQ(at(12, 5), CTestImage::opaqueColourAt(2, 0));
-    EXPECT_EQ(at(29, 24), CTestImage::opaqueColourAt(19, 19));
+    EXPECT_EQ(at(24, 19), CTestImage::opaqueColourAt(14, 14));
     EXPECT_EQ(at(11, 5), SCanvas::background);
-    EXPECT_EQ(at(30, 24), SCanvas::background);
+    EXPECT_EQ(at(25, 20), SCanvas::background);
 }
 
 TEST_F(CControlPanelDrawing, DrawsItsPrimaryImageOrItsFrameUnderItsControls) {

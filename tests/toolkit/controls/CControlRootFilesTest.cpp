@@ -11,10 +11,32 @@ namespace {
 using Tessitor::Basics::CString;
 using Tessitor::Basics::CSystemString;
 using Tessitor::GUI::Controls::CControlRoot;
+using Tessitor::GUI::Controls::IControl;
 using Tessitor::GUI::Controls::IControlFactory;
+using Tessitor::GUI::Controls::IControlRoot;
 using Tessitor::IO::CXMLAttribute;
 using Tessitor::IO::CXMLNode;
 using Tessitor::IO::openTrace;
+using Tessitor::MathTools::CRect;
+
+/// Creates spies in place of plain controls.
+class CSpyFactory : public IControlFactory {
+public:
+    explicit CSpyFactory(EventLog &log) : m_log(log) {}
+    IControl *createControl(const CString &className, IControlRoot *root) const override {
+        m_log.push_back(className.getString());
+        if (className != "CControl")
+            return Tessitor::GUI::Controls::standardControlFactory().createControl(className, root);
+        auto *control = new CSpyControl(root, "", CRect(), m_log);
+        control->isDestroyed = isDestroyed;
+        return control;
+    }
+
+    bool *isDestroyed = nullptr;  // for the controls
+
+private:
+    EventLog &m_log;
+};
 
 class CControlRootFiles : public CRootTest {
 protected:
@@ -124,23 +146,10 @@ TEST_F(CControlRootFiles, RejectPanelsNestedWithoutEnd) {
     };
     EXPECT_TRUE(nest(99));
     EXPECT_FALSE(nest(100));
-    EXPECT_FALSE(nest(100000));
+    EXPECT_FALSE(nest(10000));
 }
 
 TEST_F(CControlRootFiles, CreateTheClassesOfAnotherFactoryInPanelsToo) {
-    class CSpyFactory : public IControlFactory {
-    public:
-        explicit CSpyFactory(EventLog &log) : m_log(log) {}
-        IControl *createControl(const CString &className, IControlRoot *root) const override {
-            m_log.push_back(className.getString());
-            if (className == "CControl")
-                return new CSpyControl(root, "", CRect(), m_log);
-            return Tessitor::GUI::Controls::standardControlFactory().createControl(className, root);
-        }
-
-    private:
-        EventLog &m_log;
-    };
     add(*addPanel(root, CRect()), "inside", CRect(1, 2, 3, 4));
     ASSERT_TRUE(root.saveToFile(path));
     EXPECT_FALSE(loaded.loadFromFile(path));
@@ -149,6 +158,17 @@ TEST_F(CControlRootFiles, CreateTheClassesOfAnotherFactoryInPanelsToo) {
     loaded.setControlFactory(factory);
     EXPECT_TRUE(loaded.loadFromFile(path));
     EXPECT_THAT(takeLog(), testing::ElementsAre("CControlPanel", "CControl"));
+}
+
+TEST_F(CControlRootFiles, FreeAControlThatCannotBeRead) {
+    bool isDestroyed = false;
+    CSpyFactory factory(log);
+    factory.isDestroyed = &isDestroyed;
+    loaded.setControlFactory(factory);
+    write("<controls number_of_controls=\"1\">\n<control type=\"CControl\">\n</control>\n"
+          "</controls>\n");
+    EXPECT_FALSE(loaded.loadFromFile(path));
+    EXPECT_TRUE(isDestroyed);
 }
 
 TEST_F(CControlRootFiles, BuildNewControlsWithTheirDefaults) {
