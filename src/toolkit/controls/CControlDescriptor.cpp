@@ -9,6 +9,7 @@
 #include "toolkit/graphics/CFont.h"
 #include "toolkit/graphics/CImageManager.h"
 
+#include <algorithm>
 #include <iterator>
 
 namespace Tessitor::GUI::Controls {
@@ -33,12 +34,11 @@ constexpr const char *typeNames[] = {"rect",  "image",  "colour",    "boolean", 
                                      "float", "string", "selection", "font"};
 
 bool findType(const CString &name, EDescriptorType &type) {
-    for (std::size_t i = 0; i < std::size(typeNames); ++i)
-        if (name == typeNames[i]) {
-            type = static_cast<EDescriptorType>(i);
-            return true;
-        }
-    return false;
+    const auto *found = std::find(std::begin(typeNames), std::end(typeNames), name);
+    if (found == std::end(typeNames))
+        return false;
+    type = static_cast<EDescriptorType>(found - std::begin(typeNames));
+    return true;
 }
 
 template <typename Value>

@@ -9,45 +9,44 @@ namespace Tessitor::GUI::Controls {
 using Events::CDropEvent;
 using Events::CKeyboardEvent;
 using Events::CMouseEvent;
-using Listeners::IKeyboardListener;
-using Listeners::IMouseListener;
 
 void CControlRoot::handleLeftButtonDown(CMouseEvent &event) {
-    dispatch(event, &IMouseListener::handleLeftButtonDown);
+    dispatch(event, &Listeners::IMouseListener::handleLeftButtonDown);
 }
 
 void CControlRoot::handleLeftButtonUp(CMouseEvent &event) {
-    dispatch(event, &IMouseListener::handleLeftButtonUp);
+    dispatch(event, &Listeners::IMouseListener::handleLeftButtonUp);
 }
 
 void CControlRoot::handleRightButtonDown(CMouseEvent &event) {
-    dispatch(event, &IMouseListener::handleRightButtonDown);
+    dispatch(event, &Listeners::IMouseListener::handleRightButtonDown);
 }
 
 void CControlRoot::handleRightButtonUp(CMouseEvent &event) {
-    dispatch(event, &IMouseListener::handleRightButtonUp);
+    dispatch(event, &Listeners::IMouseListener::handleRightButtonUp);
 }
 
 void CControlRoot::handleDoubleClick(CMouseEvent &event) {
-    dispatch(event, &IMouseListener::handleDoubleClick);
+    dispatch(event, &Listeners::IMouseListener::handleDoubleClick);
 }
 
 void CControlRoot::handleMouseScroll(CMouseEvent &event) {
     m_mouseEvent.setWheelAmount(event.getWheelAmount());
-    dispatch(event, &IMouseListener::handleMouseScroll);
+    dispatch(event, &Listeners::IMouseListener::handleMouseScroll);
 }
 
 void CControlRoot::handleMouseMovement(CMouseEvent &event) {
-    dispatch(event, &IMouseListener::handleMouseMovement);
+    dispatch(event, &Listeners::IMouseListener::handleMouseMovement);
 }
 
 void CControlRoot::handleMouseLeaving(CMouseEvent &event) {
-    dispatch(event, &IMouseListener::handleMouseLeaving);
+    dispatch(event, &Listeners::IMouseListener::handleMouseLeaving);
 }
 
 // The position is the mouse's own and so moves for the time of the call. A handler may run another
 // message of the window: then the position of that later one is restored.
-void CControlRoot::dispatch(CMouseEvent &event, void (IMouseListener::*handler)(CMouseEvent &)) {
+void CControlRoot::dispatch(CMouseEvent &event,
+                            void (Listeners::IMouseListener::*handler)(CMouseEvent &)) {
     m_position = event.getMousePosition();
     IControl *target = findMouseTarget();
     if (target == nullptr)
@@ -70,15 +69,15 @@ IControl *CControlRoot::findMouseTarget() {
 }
 
 bool CControlRoot::handleKeyDown(const CKeyboardEvent &event) {
-    return dispatch(event, &IKeyboardListener::handleKeyDown);
+    return dispatch(event, &Listeners::IKeyboardListener::handleKeyDown);
 }
 
 bool CControlRoot::handleKeyUp(const CKeyboardEvent &event) {
-    return dispatch(event, &IKeyboardListener::handleKeyUp);
+    return dispatch(event, &Listeners::IKeyboardListener::handleKeyUp);
 }
 
 bool CControlRoot::dispatch(const CKeyboardEvent &event,
-                            bool (IKeyboardListener::*handler)(const CKeyboardEvent &)) {
+                            bool (Listeners::IKeyboardListener::*handler)(const CKeyboardEvent &)) {
     if (IControl *modal = getModalControl()) {
         const CHeldControl held(modal);
         (modal->*handler)(event);

@@ -34,10 +34,9 @@ void CKeyboardEvent::setModifiers(bool isControlDown, bool isShiftDown, bool isA
 }
 
 EKeyCode CKeyboardEvent::keyCodeOf(int virtualKey) {
-    for (const SKeyRange &range : keyRanges)
-        if (virtualKey >= range.first && virtualKey <= range.last)
-            return static_cast<EKeyCode>(static_cast<int>(range.keyCode) + virtualKey -
-                                         range.first);
+    for (const auto &[first, last, keyCode] : keyRanges)
+        if (virtualKey >= first && virtualKey <= last)
+            return static_cast<EKeyCode>(static_cast<int>(keyCode) + virtualKey - first);
     return EKeyCode::Other;
 }
 
