@@ -39,6 +39,26 @@ const SControlProperty<Control> *findProperty(const SControlProperty<Control> (&
     return nullptr;
 }
 
+/// setFromDescriptor() of a class that has a table, and of its base for all other names.
+template <typename Base, typename Control, std::size_t size>
+bool setFromTable(const SControlProperty<Control> (&properties)[size], Control &control,
+                  const CControlDescriptor &descriptor) {
+    const SControlProperty<Control> *property = findProperty(properties, descriptor.getName());
+    return property != nullptr ? property->apply(control, descriptor)
+                               : control.Base::setFromDescriptor(descriptor);
+}
+
+/// Same for getDescriptorValue().
+template <typename Base, typename Control, std::size_t size>
+bool readFromTable(const SControlProperty<Control> (&properties)[size], const Control &control,
+                   CControlDescriptor &descriptor) {
+    const SControlProperty<Control> *property = findProperty(properties, descriptor.getName());
+    if (property == nullptr)
+        return control.Base::getDescriptorValue(descriptor);
+    property->read(control, descriptor);
+    return true;
+}
+
 /// Calls set(value). @return false if the descriptor holds no value of this class.
 template <typename Value, typename Set>
 bool applyValue(const CControlDescriptor &descriptor, Set set) {

@@ -5,6 +5,7 @@
 #include "foundation/CXMLNode.h"
 #include "toolkit/controls/CControlDescriptor.h"
 #include "toolkit/controls/CRootTest.h"
+#include "toolkit/controls/Properties.h"
 #include "toolkit/graphics/CImageManager.h"
 #include "toolkit/graphics/TargaBytes.h"
 
@@ -28,13 +29,6 @@ protected:
         auto *made = new CControl(&root, 3, area, nullptr);
         root.addControl(made);
         return made;
-    }
-    /// Sets a property from a new value.
-    static bool set(IControl &control, const char *name, EDescriptorType type,
-                    Tessitor::Basics::ICountedObject *value) {
-        CControlDescriptor descriptor(name, type);
-        descriptor.setValue(value);
-        return control.setFromDescriptor(descriptor);
     }
 
     CControl *control = addPlain(CRect(1, 2, 3, 4));
@@ -72,16 +66,16 @@ TEST_F(CControlProperties, AreReadOneByOne) {
 
 TEST_F(CControlProperties, AreSetOneByOne) {
     using enum EDescriptorType;
-    EXPECT_TRUE(set(*control, "Control Name", String, new CString("Gain")));
-    EXPECT_TRUE(set(*control, "Control ID", Integer, new CLong(-6)));
-    EXPECT_TRUE(set(*control, "Mouse Enabled", Boolean, new CBool(false)));
-    EXPECT_TRUE(set(*control, "Keyboard Enabled", Boolean, new CBool(true)));
-    EXPECT_TRUE(set(*control, "Drop File Enabled", Boolean, new CBool(true)));
-    EXPECT_TRUE(set(*control, "Is Enabled", Boolean, new CBool(false)));
-    EXPECT_TRUE(set(*control, "Default Drawing", Boolean, new CBool(true)));
-    EXPECT_TRUE(set(*control, "Area", Rect, new CRect(5, 6, 7, 8)));
-    EXPECT_TRUE(set(*control, "Frame Colour", Colour, new CAlphaColour(1, 2, 3, 4)));
-    EXPECT_TRUE(set(*control, "Background Colour", Colour, new CAlphaColour(5, 6, 7, 8)));
+    EXPECT_TRUE(setProperty(*control, "Control Name", String, new CString("Gain")));
+    EXPECT_TRUE(setProperty(*control, "Control ID", Integer, new CLong(-6)));
+    EXPECT_TRUE(setProperty(*control, "Mouse Enabled", Boolean, new CBool(false)));
+    EXPECT_TRUE(setProperty(*control, "Keyboard Enabled", Boolean, new CBool(true)));
+    EXPECT_TRUE(setProperty(*control, "Drop File Enabled", Boolean, new CBool(true)));
+    EXPECT_TRUE(setProperty(*control, "Is Enabled", Boolean, new CBool(false)));
+    EXPECT_TRUE(setProperty(*control, "Default Drawing", Boolean, new CBool(true)));
+    EXPECT_TRUE(setProperty(*control, "Area", Rect, new CRect(5, 6, 7, 8)));
+    EXPECT_TRUE(setProperty(*control, "Frame Colour", Colour, new CAlphaColour(1, 2, 3, 4)));
+    EXPECT_TRUE(setProperty(*control, "Background Colour", Colour, new CAlphaColour(5, 6, 7, 8)));
     EXPECT_STREQ(control->getDescription().getString(), "Gain");
     EXPECT_EQ(control->getUniqueId(), -6);
     EXPECT_FALSE(control->isMouseEnabled());
@@ -92,18 +86,18 @@ TEST_F(CControlProperties, AreSetOneByOne) {
     EXPECT_EQ(textOf(control->getAbsoluteRect()), "5,6,7,8");
     EXPECT_EQ(control->getFrameColour(), CAlphaColour(1, 2, 3, 4));
     EXPECT_EQ(control->getBackgroundColour(), CAlphaColour(5, 6, 7, 8));
-    EXPECT_TRUE(set(*control, "Is Enabled", Boolean, new CBool(true)));
+    EXPECT_TRUE(setProperty(*control, "Is Enabled", Boolean, new CBool(true)));
     EXPECT_TRUE(control->isEnabled());
 }
 
 TEST_F(CControlProperties, RejectUnknownNamesAndWrongClasses) {
     using enum EDescriptorType;
-    EXPECT_FALSE(set(*control, "Size", Integer, new CLong(6)));
-    EXPECT_FALSE(set(*control, "Control ID", Integer, new CBool(true)));
-    EXPECT_FALSE(set(*control, "Control ID", Integer, nullptr));
-    EXPECT_FALSE(set(*control, "Area", Rect, nullptr));
-    EXPECT_FALSE(set(*control, "Primary Image", Image, new CLong(6)));
-    EXPECT_TRUE(set(*control, "Primary Image", Image, nullptr));
+    EXPECT_FALSE(setProperty(*control, "Size", Integer, new CLong(6)));
+    EXPECT_FALSE(setProperty(*control, "Control ID", Integer, new CBool(true)));
+    EXPECT_FALSE(setProperty(*control, "Control ID", Integer, nullptr));
+    EXPECT_FALSE(setProperty(*control, "Area", Rect, nullptr));
+    EXPECT_FALSE(setProperty(*control, "Primary Image", Image, new CLong(6)));
+    EXPECT_TRUE(setProperty(*control, "Primary Image", Image, nullptr));
     EXPECT_EQ(control->getUniqueId(), 3);
 }
 
