@@ -2,6 +2,7 @@
 
 #include "toolkit/controls/CControlPanel.h"
 #include "toolkit/controls/CSpyControl.h"
+#include "toolkit/events/CActionEvent.h"
 #include "toolkit/events/CFakeWindow.h"
 #include "toolkit/events/IActionListener.h"
 
@@ -39,6 +40,12 @@ protected:
     void press(int x, int y) { send(&IControlRoot::handleLeftButtonDown, x, y); }
     void release(int x, int y) { send(&IControlRoot::handleLeftButtonUp, x, y); }
     void move(int x, int y) { send(&IControlRoot::handleMouseMovement, x, y); }
+    void doubleClick(int x, int y) { send(&IControlRoot::handleDoubleClick, x, y); }
+    void scroll(int x, int y, double notches) {
+        event.setWheelAmount(notches);
+        send(&IControlRoot::handleMouseScroll, x, y);
+    }
+    void holdShift(bool isDown) { event.setModifiers(false, isDown, false); }
     bool typeKey() { return root.handleKeyDown(Tessitor::GUI::Events::CKeyboardEvent()); }
     void drop(int x, int y) {
         Tessitor::GUI::Events::CDropEvent dropped(CPoint(x, y));
@@ -59,6 +66,19 @@ protected:
     Tessitor::GUI::Controls::CControlRoot root{&window};
     Tessitor::GUI::Windowing::CMouse mouse;
     CMouseEvent event{&mouse};
+};
+
+/// Notes the value of the sender at each action.
+class CValueLog : public Tessitor::GUI::Listeners::IActionListener {
+public:
+    std::vector<double> take() { return std::exchange(m_values, {}); }
+
+    void handleActionEvent(const Tessitor::GUI::Events::CActionEvent &event) override {
+        m_values.push_back(event.getSender()->getValue());
+    }
+
+private:
+    std::vector<double> m_values;
 };
 
 /// Calls a function for each action.
