@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/SNativePoint.h"
+
 /// The mouse and its cursors. [gui thread] A cursor handle belongs to the caller. It is null if
 /// there is no such cursor. Loading one needs no display.
 
@@ -22,3 +24,6 @@ void captureNativeMouse(void *window);
 void releaseNativeMouse();
 /// @return the window of this thread that has captured the mouse; null if there is none.
 void *nativeMouseCapture();
+
+/// @return where the mouse is on the screen, as far as the system tells; else 0, 0.
+SNativePoint nativeMousePosition();

@@ -54,3 +54,7 @@ void releaseNativeMouse() {
 void *nativeMouseCapture() {
     return fakeNativeMouse().captureWindow;
 }
+
+SNativePoint nativeMousePosition() {
+    return fakeNativeMouse().position;
+}

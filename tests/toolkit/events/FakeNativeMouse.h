@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/SNativePoint.h"
+
 #include <vector>
 
 /// The mouse of a program that links FakeNativeMouse.cpp, which replaces the platform's functions.
@@ -13,6 +15,7 @@ struct SFakeNativeMouse {
     std::vector<void *> destroyed;
     void *shown = nullptr;
     void *captureWindow = nullptr;
+    SNativePoint position;  // on the screen
 
     /// The cursor that a handle stands for.
     const SCursor &cursorOf(void *handle) const;
