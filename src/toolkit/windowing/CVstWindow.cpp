@@ -1,0 +1,93 @@
+#include "toolkit/windowing/CVstWindow.h"
+
+#include "foundation/CException.h"
+#include "foundation/Trace.h"
+#include "hostlayer/AudioEffect.h"
+
+namespace Tessitor::Vst {
+
+using GUI::Windowing::CWindow;
+using MathTools::CRect;
+
+CVstWindow::CVstWindow(AudioEffect *owner, const CRect &area,
+                       const GUI::Windowing::CWindowAttributes &attributes)
+    : AEffEditor(owner), CWindow(area) {
+    constexpr std::uint32_t visibleChild = 0x50000000, acceptsFiles = 16;
+    *getWindowAttributes() = attributes;
+    getWindowAttributes()->setWindowStyles(visibleChild, acceptsFiles);
+    if (effect != nullptr)
+        effect->setEditor(this);
+}
+
+CVstWindow::~CVstWindow() {
+    CVstWindow::detachFromParent();
+}
+
+bool CVstWindow::getRect(ERect **rect) {
+    m_rect = {0, 0, static_cast<std::int16_t>(getWindowSize().getHeight()),
+              static_cast<std::int16_t>(getWindowSize().getWidth())};
+    *rect = &m_rect;
+    return true;
+}
+
+bool CVstWindow::open(void *parent) {
+    IO::trace("Calling create window");
+    attachToParent(parent);
+    try {
+        makeWindow();
+    } catch (...) {
+        close();
+        throw;
+    }
+    return true;
+}
+
+void CVstWindow::attachToParent(void *parent) {
+    if (parent == nullptr)
+        throw Exceptions::CException("Parent window handle is NULL", "CVSTPanel::open(void *)",
+                                     true);
+    detachFromParent();  // a host may move the editor to another parent without closing it
+    systemWindow = parent;
+    m_parent = std::make_unique<CParentWindow>(parent);
+    setParentWindow(m_parent.get());
+}
+
+void CVstWindow::makeWindow() {
+    setWindowAttributes(getWindowAttributes(), true);
+}
+
+void CVstWindow::close() {
+    detachFromParent();
+    AEffEditor::close();
+}
+
+void CVstWindow::detachFromParent() {
+    setParentWindow(nullptr);
+    m_parent.reset();
+    destroyWindow();
+    uninitialiseWindow();
+}
+
+void CVstWindow::redrawWindow() {
+    if (!getIsEditing())
+        CWindow::redrawWindow();
+}
+
+void CVstWindow::redrawWindow(const CRect &area) {
+    if (!getIsEditing())
+        CWindow::redrawWindow(area);
+}
+
+bool CVstWindow::handleKeyDown(const GUI::Events::CKeyboardEvent &event) {
+    return getControlRoot()->handleKeyDown(event);
+}
+
+bool CVstWindow::handleKeyUp(const GUI::Events::CKeyboardEvent &event) {
+    return getControlRoot()->handleKeyUp(event);
+}
+
+CVstWindow::CParentWindow::CParentWindow(void *handle) : CWindow(CRect(0, 0, 10, 10)) {
+    getMutableWindowHandle()->native = handle;
+}
+
+}  // namespace Tessitor::Vst
