@@ -105,13 +105,14 @@ public:
     void drawImage(Graphics::CGraphics &graphics) override;
 
 protected:
+    /// Draws a whole image, scaled to the control. Null draws nothing.
+    void drawInto(Graphics::CGraphics &graphics, Graphics::IImage *image) const;
+
     // These report to the listener, if there is one. The listener may remove the control.
     void sendActionEvent();
     void sendActionEvent(const Events::CMouseEvent &event);  ///< with the event's modifiers
 
 private:
-    void drawInto(Graphics::CGraphics &graphics, Graphics::IImage *image) const;
-
     static Tessitor::Basics::TClassRecord<CControl> s_class;
 
     std::int32_t m_referenceCount = 0;

@@ -52,4 +52,9 @@ CCursor *CCursor::getDefaultCursor() {
     return &arrow;
 }
 
+CCursor *CCursor::getHandCursor() {
+    static CCursor hand(ECursorKind::Hand);
+    return &hand;
+}
+
 }  // namespace Tessitor::GUI::Windowing

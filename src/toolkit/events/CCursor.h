@@ -29,7 +29,9 @@ public:
 
     void *getCursorHandle() const { return m_handle; }  ///< null if there is no such cursor
 
+    // Owned by the library.
     static CCursor *getDefaultCursor();  ///< the arrow
+    static CCursor *getHandCursor();
 
 private:
     static Tessitor::Basics::TClassRecord<CCursor> s_class;

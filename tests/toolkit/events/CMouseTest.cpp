@@ -42,6 +42,13 @@ TEST(CMouse, ShowsTheCursorThatIsSet) {
     EXPECT_EQ(fakeNativeMouse().shown, hand.getCursorHandle());
 }
 
+TEST(CMouse, ShowsTheHandOfTheLibrary) {
+    CMouse mouse;
+    mouse.setCursor(CCursor::getHandCursor());
+    EXPECT_EQ(fakeNativeMouse().cursorOf(fakeNativeMouse().shown).number, 32649);
+    EXPECT_EQ(CCursor::getHandCursor(), CCursor::getHandCursor());
+}
+
 TEST(CMouse, KnowsWhichWindowHasCapturedIt) {
     CFakeWindow first, second;
     int firstNative = 0, secondNative = 0;
