@@ -10,6 +10,7 @@ namespace {
 
 using Tessitor::Basics::CString;
 using Tessitor::Basics::CSystemString;
+using Tessitor::GUI::Controls::CControl;
 using Tessitor::GUI::Controls::CControlRoot;
 using Tessitor::GUI::Controls::IControl;
 using Tessitor::GUI::Controls::IControlFactory;
@@ -171,16 +172,25 @@ TEST_F(CControlRootFiles, FreeAControlThatCannotBeRead) {
     EXPECT_TRUE(isDestroyed);
 }
 
-TEST_F(CControlRootFiles, BuildNewControlsWithTheirDefaults) {
+TEST_F(CControlRootFiles, CreateEveryStandardClassWithItsDefaults) {
     const auto &factory = Tessitor::GUI::Controls::standardControlFactory();
-    auto *control = dynamic_cast<CControlPanel *>(factory.createControl("CControlPanel", &root));
-    ASSERT_NE(control, nullptr);
-    root.addControl(control);
-    EXPECT_EQ(control->getReferenceCount(), 1);
-    EXPECT_EQ(control->getUniqueId(), -1);
-    EXPECT_EQ(textOf(control->getArea()), "0,0,0,0");
-    EXPECT_EQ(control->getActionListener(), nullptr);
+    for (const char *name : {"CAnimation", "CClickableKnob", "CClickableLabel", "CControlPanel",
+                             "CImageLabel", "CKnob", "CLatchingButton", "CMomentaryButton",
+                             "CSlider", "CSliderArray", "CTextLabel"}) {
+        SCOPED_TRACE(name);
+        auto *control = dynamic_cast<CControl *>(factory.createControl(name, &root));
+        ASSERT_NE(control, nullptr);
+        root.addControl(control);
+        EXPECT_TRUE(control->getClass() == name);
+        EXPECT_EQ(control->getReferenceCount(), 1);
+        EXPECT_EQ(control->getUniqueId(), -1);
+        EXPECT_EQ(textOf(control->getArea()), "0,0,0,0");
+        EXPECT_EQ(control->getActionListener(), nullptr);
+    }
     EXPECT_EQ(factory.createControl("CControl", &root), nullptr);
+    ASSERT_TRUE(root.saveToFile(path));
+    EXPECT_TRUE(loaded.loadFromFile(path));
+    EXPECT_EQ(loaded.getNumberOfInsertedControls(), 11);
 }
 
 }  // namespace
