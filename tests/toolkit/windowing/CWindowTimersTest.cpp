@@ -27,6 +27,10 @@ private:
 class CWindowTimers : public CWindowFixture {
 protected:
     CWindowTimers() { create(); }
+    ~CWindowTimers() override {
+        if (!isDeleted)
+            deleteWindow();  // before the timed objects
+    }
     void add(std::initializer_list<CTimed *> objects) {
         for (CTimed *object : objects)
             window->addTimedObject(object);
