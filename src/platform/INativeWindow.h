@@ -32,7 +32,7 @@ class INativeWindow {
 public:
     virtual ~INativeWindow() = default;
 
-    virtual void *getHandle() const = 0;  ///< HWND or X window id; never null
+    virtual void *getHandle() const = 0;  ///< HWND or X window id; null once it is gone
     /// @return where the window is on the screen. All zero if it is gone.
     virtual SNativeRect getScreenArea() const = 0;
 
