@@ -1,0 +1,36 @@
+#include "platform/win32/windowing/LowMemory.h"
+
+#include <cstdint>
+#include <new>
+#include <windows.h>
+
+namespace {
+
+constexpr std::uintptr_t granularity = 0x10000, limit = 0x80000000;
+
+void *toPointer(std::uintptr_t address) {
+    return reinterpret_cast<void *>(address);  // NOLINT(performance-no-int-to-ptr)
+}
+
+}  // namespace
+
+void *allocateLowMemory(std::size_t size) {
+    MEMORY_BASIC_INFORMATION region;
+    for (std::uintptr_t address = granularity; address + size < limit;) {
+        if (VirtualQuery(toPointer(address), &region, sizeof region) == 0)
+            break;
+        const std::uintptr_t end =
+            reinterpret_cast<std::uintptr_t>(region.BaseAddress) + region.RegionSize;
+        if (region.State == MEM_FREE && address + size <= end)
+            if (void *memory = VirtualAlloc(toPointer(address), size, MEM_RESERVE | MEM_COMMIT,
+                                            PAGE_READWRITE))
+                return memory;
+        address = (end + granularity - 1) / granularity * granularity;
+    }
+    throw std::bad_alloc();
+}
+
+void freeLowMemory(void *memory) {
+    if (memory != nullptr)
+        VirtualFree(memory, 0, MEM_RELEASE);
+}
