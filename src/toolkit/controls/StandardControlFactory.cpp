@@ -6,6 +6,7 @@
 #include "toolkit/controls/CMomentaryButton.h"
 #include "toolkit/controls/CSlider.h"
 #include "toolkit/controls/CSliderArray.h"
+#include "toolkit/controls/CTextEdit.h"
 #include "toolkit/controls/IControlFactory.h"
 
 namespace Tessitor::GUI::Controls {
@@ -46,6 +47,10 @@ constexpr SControlClass classes[] = {
     {"CMomentaryButton", create<CMomentaryButton>},
     {"CSlider", create<CSlider>},
     {"CSliderArray", create<CSliderArray>},
+    {"CTextEdit",
+     [](IControlRoot *root) -> IControl * {
+         return new CTextEdit(root, -1, CRect(), "", nullptr);
+     }},
     {"CTextLabel",
      [](IControlRoot *root) -> IControl * { return new CTextLabel(root, -1, CRect(), ""); }},
 };

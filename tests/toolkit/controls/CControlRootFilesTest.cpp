@@ -176,7 +176,7 @@ TEST_F(CControlRootFiles, CreateEveryStandardClassWithItsDefaults) {
     const auto &factory = Tessitor::GUI::Controls::standardControlFactory();
     for (const char *name : {"CAnimation", "CClickableKnob", "CClickableLabel", "CControlPanel",
                              "CImageLabel", "CKnob", "CLatchingButton", "CMomentaryButton",
-                             "CSlider", "CSliderArray", "CTextLabel"}) {
+                             "CSlider", "CSliderArray", "CTextEdit", "CTextLabel"}) {
         SCOPED_TRACE(name);
         auto *control = dynamic_cast<CControl *>(factory.createControl(name, &root));
         ASSERT_NE(control, nullptr);
@@ -190,7 +190,7 @@ TEST_F(CControlRootFiles, CreateEveryStandardClassWithItsDefaults) {
     EXPECT_EQ(factory.createControl("CControl", &root), nullptr);
     ASSERT_TRUE(root.saveToFile(path));
     EXPECT_TRUE(loaded.loadFromFile(path));
-    EXPECT_EQ(loaded.getNumberOfInsertedControls(), 11);
+    EXPECT_EQ(loaded.getNumberOfInsertedControls(), 12);
 }
 
 }  // namespace
