@@ -6,7 +6,6 @@
 
 namespace Tessitor::Vst {
 
-using GUI::Windowing::CWindow;
 using MathTools::CRect;
 
 CVstWindow::CVstWindow(AudioEffect *owner, const CRect &area,

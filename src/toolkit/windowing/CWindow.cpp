@@ -27,7 +27,9 @@ CWindow::CWindow(const CRect &rect)
 }
 
 CWindow::~CWindow() {
-    CWindow::destroyWindow();
+    // As destroyWindow() does, but without the hook of derived windows.
+    CWindow::stopAllTimers();
+    CWindow::uninitialiseWindow();
     m_mouseListener = nullptr;
     m_dropFileListener = nullptr;
     m_keyboardListener = nullptr;

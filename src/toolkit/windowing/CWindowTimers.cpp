@@ -70,8 +70,10 @@ void CWindow::removeTimedObject(ITimedObject *object) {
 }
 
 void CWindow::stopAllTimers() {
-    forEachTimedObject(*m_parts,
-                       [this](const ITimedObject &object) { stopTimer(object.getTimerId()); });
+    forEachTimedObject(*m_parts, [this](const ITimedObject &object) {
+        if (isCreated())
+            m_native->stopTimer(static_cast<int>(object.getTimerId()));
+    });
     m_parts->timedObjects.clearArray();
 }
 

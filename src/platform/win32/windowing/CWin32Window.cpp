@@ -4,9 +4,19 @@
 #include "platform/win32/drawing/IDeviceContext.h"
 #include "platform/win32/windowing/WindowClass.h"
 
+namespace {
+
+/// What a message or the user data of a window points to.
+template <typename Pointer>
+Pointer toPointer(LONG_PTR value) {
+    return reinterpret_cast<Pointer>(value);  // NOLINT(performance-no-int-to-ptr)
+}
+
+}  // namespace
+
 CWin32Window::~CWin32Window() {
     m_reportsEnd = false;
-    unhookWheel();
+    CWin32Window::unhookWheel();
     if (m_handle != nullptr)
         DestroyWindow(m_handle);
     unregisterWindowClass(m_className);
@@ -27,8 +37,8 @@ bool CWin32Window::create(const SNativeWindowOptions &options) {
 
 LRESULT CALLBACK CWin32Window::procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_NCCREATE) {
-        auto *window = static_cast<CWin32Window *>(
-            reinterpret_cast<const CREATESTRUCTA *>(lParam)->lpCreateParams);
+        auto *window =
+            static_cast<CWin32Window *>(toPointer<const CREATESTRUCTA *>(lParam)->lpCreateParams);
         window->m_handle = handle;
         const auto low = static_cast<LONG>(reinterpret_cast<LONG_PTR>(window));
         SetWindowLongPtrA(handle, GWLP_USERDATA, low);
@@ -39,20 +49,22 @@ LRESULT CALLBACK CWin32Window::procedure(HWND handle, UINT message, WPARAM wPara
     // From here on, the listener may have destroyed the window.
     const LRESULT answer =
         result.has_value() ? *result : DefWindowProcA(handle, message, wParam, lParam);
-    if (message == WM_NCDESTROY)
-        if (CWin32Window *window = find(handle)) {
-            SetWindowLongPtrA(handle, GWLP_USERDATA, 0);
-            window->m_handle = nullptr;
-            if (window->m_reportsEnd) {
-                window->unhookWheel();
-                window->m_listener.handleNativeDestroyed();
-            }
-        }
+    CWin32Window *window = message == WM_NCDESTROY ? find(handle) : nullptr;
+    if (window != nullptr)
+        window->handleEnd();
     return answer;
 }
 
+void CWin32Window::handleEnd() {
+    SetWindowLongPtrA(m_handle, GWLP_USERDATA, 0);
+    unhookWheel();
+    m_handle = nullptr;
+    if (m_reportsEnd)
+        m_listener.handleNativeDestroyed();
+}
+
 CWin32Window *CWin32Window::find(HWND handle) {
-    return reinterpret_cast<CWin32Window *>(GetWindowLongPtrA(handle, GWLP_USERDATA));
+    return toPointer<CWin32Window *>(GetWindowLongPtrA(handle, GWLP_USERDATA));
 }
 
 // Where and how the window is seen
@@ -185,7 +197,7 @@ void CWin32Window::unhookWheel() {
 
 LRESULT CALLBACK CWin32Window::hookProcedure(int code, WPARAM wParam, LPARAM lParam) {
     if (code >= 0 && wParam == WM_MOUSEWHEEL &&
-        sendHookedWheel(*reinterpret_cast<const MOUSEHOOKSTRUCTEX *>(lParam)))
+        sendHookedWheel(*toPointer<const MOUSEHOOKSTRUCTEX *>(lParam)))
         return 1;
     return CallNextHookEx(nullptr, code, wParam, lParam);
 }

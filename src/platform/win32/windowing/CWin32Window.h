@@ -42,6 +42,8 @@ public:
     static LRESULT CALLBACK procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam);
 
 private:
+    void handleEnd();
+
     static CWin32Window *find(HWND handle);
     static void CALLBACK timerProcedure(HWND handle, UINT message, UINT_PTR id, DWORD time);
     static LRESULT CALLBACK hookProcedure(int code, WPARAM wParam, LPARAM lParam);

@@ -21,10 +21,12 @@ void *allocateLowMemory(std::size_t size) {
             break;
         const std::uintptr_t end =
             reinterpret_cast<std::uintptr_t>(region.BaseAddress) + region.RegionSize;
-        if (region.State == MEM_FREE && address + size <= end)
-            if (void *memory = VirtualAlloc(toPointer(address), size, MEM_RESERVE | MEM_COMMIT,
-                                            PAGE_READWRITE))
-                return memory;
+        const bool fits = region.State == MEM_FREE && address + size <= end;
+        void *memory =
+            fits ? VirtualAlloc(toPointer(address), size, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE)
+                 : nullptr;
+        if (memory != nullptr)
+            return memory;
         address = (end + granularity - 1) / granularity * granularity;
     }
     throw std::bad_alloc();
