@@ -121,13 +121,14 @@ void CSlider::chooseOrientation() {
 // middle across the slider.
 void CSlider::layOut() {
     const std::int32_t width = getDimension().getWidth(), height = getDimension().getHeight();
-    if (const IImage *image = getPrimaryImage())
+    if (const IImage *image = getPrimaryImage()) {
         m_handleArea.setRect(0, 0, image->getImageSize().getWidth() / 3,
                              image->getImageSize().getHeight());
-    else if (m_isVertical)
+    } else if (m_isVertical) {
         m_handleArea.setRect(0, 0, width, width / 2);
-    else
+    } else {
         m_handleArea.setRect(0, 0, height / 2, height);
+    }
     m_handleImageArea = m_handleArea;
     if (m_isVertical)
         m_handleArea.setLeft((width - m_handleArea.getWidth()) / 2);
