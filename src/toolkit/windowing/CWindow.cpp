@@ -57,11 +57,13 @@ void CWindow::getObjectDescription(char *array, long size) const {
 void CWindow::setWindowAttributes(const CWindowAttributes *attributes, bool showWindow) {
     if (attributes == nullptr || isCreated())
         return;
+    const std::shared_ptr<SWindowParts> held = m_parts;
     *m_attributes = *attributes;
-    if (createWindow() && showWindow) {
-        openWindow();
+    if (!createWindow() || !showWindow)
+        return;
+    openWindow();
+    if (!held->isWindowGone())
         updateWindow();
-    }
 }
 
 bool CWindow::createWindow() {

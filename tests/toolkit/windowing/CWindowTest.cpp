@@ -285,4 +285,39 @@ TEST_F(CWindow, SurvivesTheEndOfItsNativeWindow) {
     EXPECT_EQ(window->getWindowHandle()->native, native().getHandle());
 }
 
+// Reports from inside a call of the native window
+
+class CWindowCalls : public CWindowFixture,
+                     public testing::WithParamInterface<void (*)(CTestWindow &)> {};
+
+TEST_P(CWindowCalls, MayDeleteTheWindow) {
+    listen();
+    window->createWindow();
+    fakeNatives().onChange = [this](INativeWindowListener &) {
+        fakeNatives().onChange = nullptr;
+        takeLog();
+        deleteWindow();
+    };
+    GetParam()(*window);
+    EXPECT_TRUE(isDeleted);
+    EXPECT_THAT(takeLog(), ElementsAre("unhook", "destroy"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Calls, CWindowCalls,
+                         testing::Values([](CTestWindow &window) { window.closeWindow(); },
+                                         [](CTestWindow &window) {
+                                             window.setWindowPosition({1, 2});
+                                         },
+                                         [](CTestWindow &window) {
+                                             window.setWindowSize({3, 4});
+                                         },
+                                         [](CTestWindow &window) {
+                                             window.setWindowPositionAndSize({1, 2, 3, 4});
+                                         },
+                                         [](CTestWindow &window) {
+                                             window.destroyWindow();
+                                             window.setWindowAttributes(
+                                                 window.getWindowAttributes(), true);
+                                         }));
+
 }  // namespace

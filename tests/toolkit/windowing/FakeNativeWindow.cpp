@@ -38,11 +38,11 @@ void *CFakeNativeWindow::getHandle() const {
 }
 
 void CFakeNativeWindow::show() {
-    note("show");
+    change("show");
 }
 
 void CFakeNativeWindow::hide() {
-    note("hide");
+    change("hide");
 }
 
 void CFakeNativeWindow::enable(bool isEnabled) {
@@ -58,11 +58,17 @@ void CFakeNativeWindow::setAlpha(std::uint8_t alpha) {
 }
 
 void CFakeNativeWindow::move(SNativePoint position) {
-    note("move " + std::to_string(position.x) + "," + std::to_string(position.y));
+    change("move " + std::to_string(position.x) + "," + std::to_string(position.y));
 }
 
 void CFakeNativeWindow::moveAndResize(const SNativeRect &bounds) {
-    note("place " + textOf(bounds));
+    change("place " + textOf(bounds));
+}
+
+void CFakeNativeWindow::change(const std::string &what) {
+    note(what);
+    if (fakeNatives().onChange)
+        fakeNatives().onChange(listener);
 }
 
 void CFakeNativeWindow::invalidate(const SNativeRect &area) {

@@ -36,6 +36,9 @@ public:
     INativeWindowListener &listener;
     SNativeRect screenArea;
     SNativeRect dirty;  // what paint() has painted
+
+private:
+    void change(const std::string &what);
 };
 
 /// The window system, keyboard and drops of a program that links FakeNativeWindow.cpp, which
@@ -46,8 +49,9 @@ struct SFakeNatives {
     SNativeWindowOptions lastOptions;
     bool refusesWindows = false;
     std::string reason;  // of a refusal
-    /// Called while a window is created, and while one is destroyed.
-    std::function<void(INativeWindowListener &)> onCreate, onDestroy;
+    /// Called while a window is created, while one is destroyed, and while one is shown, hidden,
+    /// moved or resized.
+    std::function<void(INativeWindowListener &)> onCreate, onDestroy, onChange;
     std::unique_ptr<INativeSurface> screen;  // what windows paint on
 
     SNativeModifiers modifiers;
