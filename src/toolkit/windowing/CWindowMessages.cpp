@@ -33,19 +33,20 @@ void *toHandle(std::uintptr_t value) {
     return reinterpret_cast<void *>(value);  // NOLINT(performance-no-int-to-ptr)
 }
 
+INativeChildHolder *findHolder(Controls::IControlRoot &root, void *child);
+
+INativeChildHolder *findHolder(Controls::IControl *control, void *child) {
+    if (auto *panel = dynamic_cast<Controls::IControlRoot *>(control))
+        return findHolder(*panel, child);
+    auto *holder = dynamic_cast<INativeChildHolder *>(control);
+    return holder != nullptr && holder->holdsNativeChild(child) ? holder : nullptr;
+}
+
 INativeChildHolder *findHolder(Controls::IControlRoot &root, void *child) {
-    for (std::int32_t i = 0; i < root.getNumberOfControls(); ++i) {
-        Controls::IControl *control = root.getControlAtIndex(i, true);
-        if (auto *panel = dynamic_cast<Controls::IControlRoot *>(control)) {
-            if (INativeChildHolder *holder = findHolder(*panel, child))
-                return holder;
-            continue;
-        }
-        auto *holder = dynamic_cast<INativeChildHolder *>(control);
-        if (holder != nullptr && holder->holdsNativeChild(child))
+    for (std::int32_t i = 0; i < root.getNumberOfControls(); ++i)
+        if (INativeChildHolder *holder = findHolder(root.getControlAtIndex(i, true), child))
             return holder;
-    }
-    return nullptr;
+    return findHolder(root.getModalControl(), child);
 }
 
 }  // namespace

@@ -345,6 +345,13 @@ TEST_F(CWindowMessages, AChildWindowGetsTheColoursOfItsControl) {
     EXPECT_EQ(send(307, 100, secondChild), 101);
 }
 
+TEST_F(CWindowMessages, AChildWindowGetsTheColoursOfAModalControl) {
+    int child = 0;
+    window->getControlRoot()->setModalControl(
+        new CHolder(window->getControlRoot(), events, &child));
+    EXPECT_EQ(send(307, 100, reinterpret_cast<std::intptr_t>(&child)), 101);
+}
+
 // Windows that go away inside a handler
 
 struct SDeletion {
