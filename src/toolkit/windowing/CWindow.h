@@ -121,6 +121,9 @@ protected:
     /// @param lParam  the packed position in the window.
     virtual void updateMousePosition(std::intptr_t lParam);
     virtual void trackMouseLeave();
+    const Collections::TPointerCollection<ITimedObject> &getTimedObjects() const {
+        return m_parts->timedObjects;
+    }
 
 private:
     using MouseHandler = void (Listeners::IMouseListener::*)(Events::CMouseEvent &);

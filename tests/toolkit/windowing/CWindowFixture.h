@@ -15,6 +15,7 @@ class CTestWindow : public Tessitor::GUI::Windowing::CWindow {
 public:
     using CWindow::createWindow;
     using CWindow::CWindow;
+    using CWindow::getTimedObjects;
     using CWindow::handleKeyboardHook;
     ~CTestWindow() override {
         if (onDeletion)

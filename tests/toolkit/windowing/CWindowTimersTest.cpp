@@ -80,6 +80,8 @@ TEST_F(CWindowTimers, OfARemovedObjectStopAndTheOthersStay) {
     add({&first, &second, &third});
     window->removeTimedObject(&second);
     EXPECT_THAT(takeLog(), ElementsAre("stop timer 2"));
+    EXPECT_EQ(window->getTimedObjects().getArraySize(), 2);
+    EXPECT_EQ(window->getTimedObjects().elementAtIndex(1), &third);
     for (const int id : {1, 2, 3})
         fire(id);
     EXPECT_EQ(first.fired + 10 * second.fired + 100 * third.fired, 101);
