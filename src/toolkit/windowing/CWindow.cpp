@@ -37,7 +37,7 @@ CWindow::~CWindow() {
     m_focusListener = nullptr;
     const bool isInMessage = m_parts.use_count() > 1;
     if (isInMessage)
-        m_parts->leaveTo(std::make_unique<CWindow>(m_rect));
+        m_parts->replaceWindow(std::make_unique<CWindow>(m_rect));
     else
         m_parts->root.reset();  // while its controls can still call the window
     s_class.decrementInstanceCount();
@@ -106,7 +106,8 @@ void CWindow::destroyWindow() {
     uninitialiseWindow();
 }
 
-// The native window reports its end to this one, whose handlers may delete it.
+// The native window reports NativeDestroy while it is destroyed. The listener that hears of it may
+// delete this window.
 void CWindow::uninitialiseWindow() {
     if (!isCreated())
         return;
@@ -125,7 +126,8 @@ void CWindow::handleNativeDestroyed() {
     m_native.reset();
 }
 
-// The native window
+// The native window. Each call may report messages before it returns, and their handlers may delete
+// this window.
 
 void CWindow::openWindow() {
     if (isCreated())
@@ -138,7 +140,7 @@ void CWindow::closeWindow() {
     const std::shared_ptr<SWindowParts> held = m_parts;
     m_native->hide();
     if (!held->isWindowGone())
-        mayClose();
+        notifyClosed();
 }
 
 void CWindow::updateWindow() {
@@ -229,7 +231,7 @@ void CWindow::notifySizeChanged() {
         m_windowChangeListener->windowSizeChanged(this, m_size);
 }
 
-bool CWindow::mayClose() {
+bool CWindow::notifyClosed() {
     return m_windowChangeListener == nullptr || m_windowChangeListener->windowClosed(this);
 }
 

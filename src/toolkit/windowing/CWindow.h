@@ -11,8 +11,9 @@
 
 namespace Tessitor::GUI::Windowing {
 
-/// A window with controls. Mouse, keys and dropped files go to its control root at first; of focus
-/// and changes it hears itself. It counts its own references, in the way of CCountedObject.
+/// A window with controls. At first its control root is the listener for mouse, keys and dropped
+/// files, and the window itself for focus and changes. It counts its own references, in the way of
+/// CCountedObject.
 ///
 /// Handlers may close or delete the window: its control root and all that the root uses live on
 /// until the last message in progress has been handled. [gui thread]
@@ -103,7 +104,7 @@ public:
     Controls::IControl *getToolTip() const override { return m_toolTip; }
 
 protected:
-    /// Nothing: the system does what it does by default.
+    /// The result of a message; empty for what the system does by default.
     using Result = std::optional<std::intptr_t>;
 
     bool isCreated() const { return m_native != nullptr; }
@@ -154,7 +155,7 @@ private:
     void storeDimension(const MathTools::CDimension &size);
     void notifyMoved();
     void notifySizeChanged();
-    bool mayClose();
+    bool notifyClosed();  // false if the listener keeps the window open
     bool hasTimedObject(long id) const;
 
     static Tessitor::Basics::TClassRecord<CWindow> s_class;

@@ -99,7 +99,7 @@ CWindow::Result CWindow::windowProcess(unsigned message, std::uintptr_t wParam,
 
 CWindow::Result CWindow::handleDestroy() {
     const std::shared_ptr<SWindowParts> held = m_parts;
-    if (!mayClose())
+    if (!notifyClosed())
         return refused;
     if (!held->isWindowGone() && isCreated())
         m_native->unhookWheel();
@@ -107,7 +107,7 @@ CWindow::Result CWindow::handleDestroy() {
 }
 
 CWindow::Result CWindow::handleClose() {
-    return mayClose() ? Result(byDefault) : refused;
+    return notifyClosed() ? Result(byDefault) : refused;
 }
 
 CWindow::Result CWindow::handleFocus() {
@@ -231,7 +231,6 @@ void CWindow::updateMousePosition(std::intptr_t lParam) {
 
 void CWindow::setMousePosition(const CPoint &position) {
     const auto [isControlDown, isShiftDown, isAltDown] = nativeModifierKeys();
-    m_parts->mousePosition = position;
     m_parts->mouse.setPosition(position);
     m_parts->mouseEvent.setModifiers(isControlDown, isShiftDown, isAltDown);
 }

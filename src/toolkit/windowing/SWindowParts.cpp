@@ -19,9 +19,9 @@ void moveToWindow(Controls::IControlRoot &root, IWindow &window) {
 
 }  // namespace
 
-void SWindowParts::leaveTo(std::unique_ptr<IWindow> standIn) {
-    moveToWindow(*root, *standIn);
-    replacement = std::move(standIn);
+void SWindowParts::replaceWindow(std::unique_ptr<IWindow> window) {
+    moveToWindow(*root, *window);
+    replacement = std::move(window);
 }
 
 }  // namespace Tessitor::GUI::Windowing

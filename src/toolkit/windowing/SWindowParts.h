@@ -20,15 +20,13 @@ struct SWindowParts {
     explicit SWindowParts(IWindow *window)
         : root(std::make_unique<Controls::CControlRoot>(window)) {}
 
-    /// The window is being deleted, and its controls have another window from now on, which does
-    /// nothing.
-    void leaveTo(std::unique_ptr<IWindow> standIn);
+    /// Gives the controls another window, which does nothing, because theirs is being deleted.
+    void replaceWindow(std::unique_ptr<IWindow> window);
     bool isWindowGone() const { return replacement != nullptr; }
 
     std::unique_ptr<IWindow> replacement;  // null while the window exists
     SWindowHandle handle;
     CMouse mouse;
-    MathTools::CPoint mousePosition;  // of the last message, in the window
     Graphics::CGraphics graphics;
     Events::CMouseEvent mouseEvent{&mouse};  // both reused for every message
     Events::CKeyboardEvent keyboardEvent;
