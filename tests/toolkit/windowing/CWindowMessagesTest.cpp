@@ -67,10 +67,10 @@ TEST_F(CWindowMessages, MoveStoresTheSignedPosition) {
 }
 
 TEST_F(CWindowMessages, SizeStoresTheSize) {
-    EXPECT_EQ(send(NativeSize, 0, packed(40000, 60)), byDefault);
+    EXPECT_EQ(send(NativeSize, 0, packed(40000, 50000)), byDefault);
     EXPECT_EQ(window->getWindowSize().getWidth(), 40000);
-    EXPECT_EQ(textOf(window->getWindowRect()), "10,20,40000,60");
-    EXPECT_THAT(takeLog(), ElementsAre("size 40000x60"));
+    EXPECT_EQ(textOf(window->getWindowRect()), "10,20,40000,50000");
+    EXPECT_THAT(takeLog(), ElementsAre("size 40000x50000"));
 }
 
 TEST_F(CWindowMessages, MovesAndSizesNeedNoListener) {
@@ -435,6 +435,21 @@ TEST_F(CWindowRoot, OutlivesTheDispatchOfAPanel) {
     };
     EXPECT_EQ(send(NativeLeftUp, 0, packed(65, 5)), 0);
     EXPECT_TRUE(isDestroyed);
+}
+
+TEST_F(CWindowRoot, OutlivesTheDispatchOfAModalPanel) {
+    auto *panel =
+        new CControlPanel(window, window->getControlRoot(), 0, CRect(0, 0, 100, 50), nullptr);
+    window->getControlRoot()->setModalControl(panel);
+    auto *inner = new CSpyControl(panel, "inner", CRect(0, 0, 100, 50), events);
+    panel->addControl(inner);
+    inner->onMouse = [&](CMouseEvent &) {
+        const auto *gone = window;
+        deleteWindow();
+        EXPECT_NE(inner->getControlRoot()->getParentWindow(), gone);
+    };
+    EXPECT_EQ(send(NativeLeftUp, 0, packed(65, 5)), 0);
+    EXPECT_TRUE(isDeleted);
 }
 
 TEST_F(CWindowRoot, OutlivesItsOwnDispatchOfKeysAndDrops) {

@@ -104,6 +104,9 @@ TEST_F(CWindow, GetsMessagesWhileItIsCreated) {
         EXPECT_EQ(created.handleMessage(NativeSize, 0, packed(30, 40)), std::nullopt);
         EXPECT_EQ(created.handleMessage(NativeSetFocus, 0, 0), std::nullopt);
         EXPECT_EQ(created.handleMessage(NativePaint, 0, 0), std::nullopt);
+        EXPECT_EQ(created.handleMessage(NativeMouseMove, 0, packed(1, 2)), 0);
+        EXPECT_EQ(created.handleMessage(NativeMouseWheel, 120u << 16, 0), 0);
+        EXPECT_EQ(created.handleMessage(NativeDropFiles, 0, 0), 0);
     };
     create();
     EXPECT_EQ(window->getWindowSize().getWidth(), 30);
@@ -208,8 +211,8 @@ TEST_F(CWindow, TheMainWindowQuitsTheApplicationWhenItCloses) {
 }
 
 TEST_F(CWindow, AnotherWindowQuitsNothing) {
-    EXPECT_TRUE(window->windowClosed(window));
     quitNativeMessageLoop(5);
+    EXPECT_TRUE(window->windowClosed(window));
     EXPECT_EQ(CApplicationInformation::runMessageLoop(), 5);
 }
 
@@ -240,6 +243,13 @@ TEST_F(CWindow, DescribesItselfByItsTitle) {
     window->getObjectDescription(text, sizeof text);
     EXPECT_STREQ(text, "Application");
     EXPECT_TRUE(window->getClass() == "CWindow");
+}
+
+TEST_F(CWindow, CountsItsInstances) {
+    const auto &record = window->getClass();
+    const std::uint32_t count = record.getInstanceCount();
+    deleteWindow();
+    EXPECT_EQ(record.getInstanceCount(), count - 1);
 }
 
 TEST_F(CWindow, RemembersItsToolTip) {
@@ -276,7 +286,7 @@ TEST_F(CWindow, SurvivesTheEndOfItsNativeWindow) {
     native().listener.handleNativeDestroyed();
     EXPECT_EQ(window->getWindowHandle()->native, nullptr);
     EXPECT_THAT(fakeNatives().windows, IsEmpty());
-    takeLog();
+    EXPECT_THAT(takeLog(), ElementsAre("destroying", "destroy"));
     window->redrawWindow();
     window->closeWindow();
     window->destroyWindow();

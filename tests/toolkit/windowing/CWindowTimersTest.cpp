@@ -94,6 +94,7 @@ TEST_F(CWindowTimers, IgnoreAnObjectThatWasNotAdded) {
     window->removeTimedObject(&otherSecond);
     window->removeTimedObject(nullptr);
     window->addTimedObject(nullptr);
+    EXPECT_EQ(window->getTimedObjects().getInsertIndex(), 1);
     EXPECT_THAT(takeLog(), IsEmpty());
     fire(2);
     EXPECT_EQ(second.fired, 1);
@@ -104,6 +105,14 @@ TEST_F(CWindowTimers, AllStopWithTheWindow) {
     window->destroyWindow();
     EXPECT_THAT(takeLog(),
                 ElementsAre("destroying", "stop timer 1", "stop timer 3", "unhook", "destroy"));
+    create();
+    fire(1);
+    EXPECT_EQ(first.fired, 0);
+}
+
+TEST_F(CWindowTimers, EndWithTheNativeWindow) {
+    add({&first});
+    native().listener.handleNativeDestroyed();
     create();
     fire(1);
     EXPECT_EQ(first.fired, 0);
