@@ -62,6 +62,11 @@ public:
     virtual bool startTimer(int id, int milliseconds) = 0;
     virtual void stopTimer(int id) = 0;  ///< safe inside handleTimer(), and for an idle id
 
+    /// Handles what the system has reported since the last call, runs the timers that are due and
+    /// paints what is invalid. May destroy the window. Windows leaves this to the message loop of
+    /// the thread, so that it does nothing there.
+    virtual void pump() = 0;
+
     virtual void trackMouseLeave() = 0;  ///< reports NativeMouseLeave once, when the mouse leaves
     /// From now on, this window gets the wheel messages over it that a host would keep for itself:
     /// as NativeMouseWheel, where a result of 0 ends the search for a receiver. One window of the

@@ -148,6 +148,14 @@ void CWindow::updateWindow() {
         m_native->update();
 }
 
+bool CWindow::pumpWindow() {
+    if (!isCreated())
+        return true;
+    const std::shared_ptr<SWindowParts> held = m_parts;
+    m_native->pump();
+    return !held->isWindowGone();
+}
+
 void CWindow::disableWindow() {
     if (isCreated())
         m_native->enable(false);

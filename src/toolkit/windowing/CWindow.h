@@ -125,6 +125,9 @@ protected:
     const Collections::TPointerCollection<ITimedObject> &getTimedObjects() const {
         return m_parts->timedObjects;
     }
+    /// Lets the native window handle what has been reported; see INativeWindow::pump().
+    /// @return false if that has deleted this window.
+    bool pumpWindow();
 
 private:
     using MouseHandler = void (Listeners::IMouseListener::*)(Events::CMouseEvent &);

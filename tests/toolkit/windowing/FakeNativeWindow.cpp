@@ -93,6 +93,12 @@ void CFakeNativeWindow::stopTimer(int id) {
     note("stop timer " + std::to_string(id));
 }
 
+void CFakeNativeWindow::pump() {
+    note("pump");
+    if (fakeNatives().onPump)
+        fakeNatives().onPump(listener);
+}
+
 void CFakeNativeWindow::trackMouseLeave() {
     note("track leave");
 }

@@ -28,6 +28,7 @@ public:
     void paint(const PaintCallback &callback) override;
     bool startTimer(int id, int milliseconds) override;
     void stopTimer(int id) override;
+    void pump() override;
     void trackMouseLeave() override;
     void hookWheel() override;
     void unhookWheel() override;
@@ -52,7 +53,8 @@ struct SFakeNatives {
     /// Called while a window is created, while one is destroyed, and while one is shown, hidden,
     /// moved or resized.
     std::function<void(INativeWindowListener &)> onCreate, onDestroy, onChange;
-    std::unique_ptr<INativeSurface> screen;  // what windows paint on
+    std::function<void(INativeWindowListener &)> onPump;  // called by pump()
+    std::unique_ptr<INativeSurface> screen;               // what windows paint on
 
     SNativeModifiers modifiers;
     SNativeCharacter character;

@@ -34,6 +34,7 @@ public:
     void paint(const PaintCallback &callback) override;
     bool startTimer(int id, int milliseconds) override;
     void stopTimer(int id) override;
+    void pump() override {}
     void trackMouseLeave() override;
     void hookWheel() override;
     void unhookWheel() override;
