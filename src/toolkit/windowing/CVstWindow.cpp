@@ -3,6 +3,7 @@
 #include "foundation/CException.h"
 #include "foundation/Trace.h"
 #include "hostlayer/AudioEffect.h"
+#include "platform/NativeThread.h"
 
 namespace Tessitor::Vst {
 
@@ -10,7 +11,8 @@ using MathTools::CRect;
 
 CVstWindow::CVstWindow(AudioEffect *owner, const CRect &area,
                        const GUI::Windowing::CWindowAttributes &attributes)
-    : AEffEditor(owner), CWindow(area) {
+    : AEffEditor(owner), CWindow(area), m_creator(numberNativeThread()),
+      m_pendingValues(owner != nullptr ? owner->getAeffect()->numParams : 0) {
     constexpr std::uint32_t visibleChild = 0x50000000, acceptsFiles = 16;
     *getWindowAttributes() = attributes;
     getWindowAttributes()->setWindowStyles(visibleChild, acceptsFiles);
@@ -31,8 +33,11 @@ bool CVstWindow::getRect(ERect **rect) {
 
 bool CVstWindow::open(void *parent) {
     IO::trace("Calling create window");
+    const std::lock_guard lock(m_mutex);
     attachToParent(parent);
+    m_guiThread = numberNativeThread();
     try {
+        showPendingValues();
         makeWindow();
     } catch (...) {
         close();
@@ -56,8 +61,10 @@ void CVstWindow::makeWindow() {
 }
 
 void CVstWindow::close() {
+    const std::lock_guard lock(m_mutex);
     detachFromParent();
     AEffEditor::close();
+    m_guiThread = noThread;
 }
 
 void CVstWindow::detachFromParent() {
@@ -65,6 +72,51 @@ void CVstWindow::detachFromParent() {
     m_parent.reset();
     destroyWindow();
     uninitialiseWindow();
+}
+
+void CVstWindow::idle() {
+    if (isOpenOnAnotherThread() || !pumpWindow())
+        return;
+    const std::unique_lock lock(m_mutex, std::try_to_lock);
+    if (lock.owns_lock() && !isOpenOnAnotherThread())
+        showPendingValues();
+}
+
+// Parameters
+
+void CVstWindow::handleParameterChange(long id, double value) {
+    if (isOpenOnThisThread())
+        showAtOnce(id, value);
+    else if (!showWhileClosed(id, value))
+        m_pendingValues.put(id, value);
+}
+
+bool CVstWindow::showWhileClosed(long id, double value) {
+    if (m_guiThread != noThread || m_creator == noThread || nativeThreadNumber() != m_creator)
+        return false;
+    const std::unique_lock lock(m_mutex, std::try_to_lock);
+    if (!lock.owns_lock() || m_guiThread != noThread)
+        return false;
+    showAtOnce(id, value);
+    return true;
+}
+
+bool CVstWindow::isOpenOnThisThread() const {
+    return m_guiThread != noThread && m_guiThread == nativeThreadNumber();
+}
+
+bool CVstWindow::isOpenOnAnotherThread() const {
+    return m_guiThread != noThread && m_guiThread != nativeThreadNumber();
+}
+
+void CVstWindow::showAtOnce(long id, double value) {
+    m_pendingValues.discard(id);  // it is older
+    if (!getIsEditing())
+        setParameter(id, value);
+}
+
+void CVstWindow::showPendingValues() {
+    m_pendingValues.take([this](long id, double value) { setParameter(id, value); });
 }
 
 void CVstWindow::redrawWindow() {

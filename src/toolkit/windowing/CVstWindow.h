@@ -3,12 +3,19 @@
 #include "hostlayer/AEffEditor.h"
 #include "toolkit/events/IActionListener.h"
 #include "toolkit/events/IKeyboardListener.h"
+#include "toolkit/windowing/CPendingValues.h"
 #include "toolkit/windowing/CWindow.h"
+
+#include <mutex>
 
 namespace Tessitor::Vst {
 
 /// The editor of an effect: a window inside a window of the host. It can be opened again after it
-/// was closed. [gui thread]
+/// was closed.
+///
+/// The thread that opens it is the [gui thread], which in Ardour 7.3 is not the one that created
+/// the effect. While it is open, no other thread touches its controls; while it is closed, whoever
+/// does holds its lock.
 class CVstWindow : public AEffEditor,
                    public GUI::Windowing::CWindow,
                    public GUI::Listeners::IActionListener,
@@ -26,7 +33,9 @@ public:
     /// then closed.
     bool open(void *parent) override;
     void close() override;
-    void idle() override {}
+    /// Pumps the window, then shows the values that other threads have set. The window may be
+    /// closed or deleted meanwhile. Does nothing on another thread than the one that has opened it.
+    void idle() override;
 
     // CWindow. While the editor makes a change itself, nothing is redrawn.
     void redrawWindow() override;
@@ -37,7 +46,14 @@ public:
     bool handleKeyUp(const GUI::Events::CKeyboardEvent &event) override;
 
     virtual void redraw() { redrawWindow(); }
-    /// The effect calls this when a parameter has changed, unless getIsEditing().
+    /// For the effect to call whenever a parameter has changed. Leads to setParameter(): at once on
+    /// the GUI thread while the window is open, and on the thread that created the window while it
+    /// is closed and no other thread is just opening it; otherwise at the next idle() or open().
+    /// While getIsEditing(), what changes at once is not shown, since the editor knows it.
+    ///
+    /// [any thread] Never waits. Threads other than these two take no lock and allocate nothing.
+    void handleParameterChange(long id, double value);
+    /// Shows a value. Called with the controls at its disposal; see handleParameterChange().
     virtual void setParameter(long id, double value) = 0;
     virtual bool getIsEditing() const { return m_isEditing; }
     virtual void setIsEditing(bool isEditing) { m_isEditing = isEditing; }
@@ -49,6 +65,15 @@ protected:
     virtual void detachFromParent();
 
 private:
+    using ThreadNumber = std::uintptr_t;  // see NativeThread.h
+    static constexpr ThreadNumber noThread = 0;
+
+    bool isOpenOnThisThread() const;
+    bool isOpenOnAnotherThread() const;
+    bool showWhileClosed(long id, double value);
+    void showAtOnce(long id, double value);
+    void showPendingValues();
+
     /// Stands for the host's window.
     class CParentWindow : public GUI::Windowing::CWindow {
     public:
@@ -58,6 +83,11 @@ private:
     std::unique_ptr<CParentWindow> m_parent;
     bool m_isEditing = false;
     ERect m_rect{};
+
+    const ThreadNumber m_creator;
+    std::atomic<ThreadNumber> m_guiThread = noThread;  // no thread while the window is closed
+    std::recursive_mutex m_mutex;                      // what opens the window may close it
+    CPendingValues m_pendingValues;
 };
 
 }  // namespace Tessitor::Vst

@@ -1,6 +1,6 @@
 #include "toolkit/windowing/CVstWindow.h"
 
-#include "CWindowFixture.h"
+#include "CTestEditor.h"
 #include "foundation/CException.h"
 #include "hostlayer/ProbeEffect.h"
 
@@ -8,25 +8,9 @@ namespace {
 
 using Tessitor::Exceptions::CException;
 using Tessitor::GUI::Events::CKeyboardEvent;
-using Tessitor::GUI::Windowing::CWindowAttributes;
 using Tessitor::MathTools::CRect;
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-class CTestEditor : public Tessitor::Vst::CVstWindow {
-public:
-    explicit CTestEditor(AudioEffect *owner)
-        : CVstWindow(owner, CRect(0, 0, 748, 370), attributesWithTitle()) {}
-    void handleActionEvent(const Tessitor::GUI::Events::CActionEvent &) override {}
-    void setParameter(long, double) override {}
-
-private:
-    static CWindowAttributes attributesWithTitle() {
-        CWindowAttributes attributes;
-        attributes.setWindowTitle("Editor");
-        return attributes;
-    }
-};
 
 class CVstWindow : public testing::Test {
 protected:

@@ -1,0 +1,234 @@
+#include "Allocation.h"
+#include "CTestEditor.h"
+#include "Locks.h"
+#include "hostlayer/ProbeEffect.h"
+
+#include <atomic>
+#include <future>
+#include <memory>
+#include <thread>
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+void onAnotherThread(const std::function<void()> &action) {
+    std::thread(action).join();
+}
+
+/// An editor of two parameters that this thread has created.
+class CVstWindowThreads : public testing::Test {
+protected:
+    CVstWindowThreads() { fakeNatives() = SFakeNatives(); }
+
+    void setElsewhere(long id, double value) {
+        onAnotherThread([=, this] { editor->handleParameterChange(id, value); });
+    }
+
+    ProbeEffect effect;
+    CTestEditor *editor = new CTestEditor(&effect);  // owned by the effect
+    int host = 0;
+};
+
+TEST_F(CVstWindowThreads, ShowAtOnceWhatTheGuiThreadSets) {
+    onAnotherThread([this] {
+        editor->open(&host);
+        editor->handleParameterChange(1, 0.5);
+        EXPECT_THAT(editor->takeShown(), ElementsAre("1=0.500000"));
+        editor->close();
+    });
+}
+
+TEST_F(CVstWindowThreads, ShowAtOnceWhatTheCreatorSetsWhileTheWindowIsClosed) {
+    editor->handleParameterChange(1, 0.5);
+    EXPECT_THAT(editor->takeShown(), ElementsAre("1=0.500000"));
+    editor->open(&host);
+    editor->close();
+    editor->handleParameterChange(0, 0.25);
+    EXPECT_THAT(editor->takeShown(), ElementsAre("0=0.250000"));
+}
+
+TEST_F(CVstWindowThreads, ShowWhatOthersSetAtTheNextIdle) {
+    editor->open(&host);
+    setElsewhere(1, 0.25);
+    setElsewhere(1, 0.5);
+    setElsewhere(0, 1.0);
+    EXPECT_THAT(editor->shown, IsEmpty());
+    editor->idle();
+    EXPECT_THAT(editor->takeShown(), ElementsAre("0=1.000000", "1=0.500000"));
+    editor->idle();
+    EXPECT_THAT(editor->shown, IsEmpty());
+}
+
+TEST_F(CVstWindowThreads, ShowWhatTheCreatorSetsAtTheNextIdleIfAnotherHasOpenedTheWindow) {
+    std::promise<void> opened, set;
+    std::thread gui([&] {
+        editor->open(&host);
+        opened.set_value();
+        set.get_future().wait();
+        EXPECT_THAT(editor->shown, IsEmpty());
+        editor->idle();
+        EXPECT_THAT(editor->shown, ElementsAre("1=0.500000"));
+        editor->close();
+    });
+    opened.get_future().wait();
+    editor->handleParameterChange(1, 0.5);
+    set.set_value();
+    gui.join();
+}
+
+TEST_F(CVstWindowThreads, ShowWhatOthersSetBeforeTheWindowIsCreated) {
+    setElsewhere(1, 0.5);
+    EXPECT_THAT(editor->shown, IsEmpty());
+    editor->onShow = [] { fakeNatives().log.emplace_back("shown"); };
+    editor->open(&host);
+    EXPECT_THAT(editor->shown, ElementsAre("1=0.500000"));
+    EXPECT_EQ(fakeNatives().log.at(0), "shown");
+}
+
+TEST_F(CVstWindowThreads, ShowWhatOthersSetWhenAClosedEditorIdles) {
+    setElsewhere(1, 0.5);
+    editor->idle();
+    EXPECT_THAT(editor->shown, ElementsAre("1=0.500000"));
+}
+
+TEST_F(CVstWindowThreads, DoNotWaitForAnotherThatOpensTheWindow) {
+    std::promise<void> opening, set;
+    editor->onAttach = [&] {
+        opening.set_value();
+        set.get_future().wait();
+    };
+    std::thread gui([&] {
+        editor->open(&host);
+        EXPECT_THAT(editor->shown, ElementsAre("1=0.500000"));
+        editor->close();
+    });
+    opening.get_future().wait();
+    editor->handleParameterChange(1, 0.5);
+    EXPECT_THAT(editor->shown, IsEmpty());
+    set.set_value();
+    gui.join();
+}
+
+TEST_F(CVstWindowThreads, MayChangeParametersFromTheHandlersOfAnOpening) {
+    editor->onAttach = [this] { editor->handleParameterChange(0, 0.25); };
+    editor->onWindowMade = [this] { editor->handleParameterChange(1, 0.5); };
+    editor->open(&host);
+    EXPECT_THAT(editor->shown, ElementsAre("0=0.250000", "1=0.500000"));
+}
+
+TEST_F(CVstWindowThreads, ShowNoOlderValueAfterANewerOne) {
+    setElsewhere(0, 0.25);
+    setElsewhere(1, 0.25);
+    editor->handleParameterChange(1, 0.5);
+    editor->open(&host);
+    EXPECT_THAT(editor->takeShown(), ElementsAre("1=0.500000", "0=0.250000"));
+    setElsewhere(0, 0.25);
+    setElsewhere(1, 0.25);
+    editor->handleParameterChange(1, 0.75);
+    editor->idle();
+    EXPECT_THAT(editor->takeShown(), ElementsAre("1=0.750000", "0=0.250000"));
+}
+
+TEST_F(CVstWindowThreads, DoNotShowTheEditorItsOwnChanges) {
+    editor->open(&host);
+    setElsewhere(0, 0.25);
+    editor->setIsEditing(true);
+    editor->handleParameterChange(0, 0.5);
+    setElsewhere(1, 1.0);
+    editor->setIsEditing(false);
+    editor->idle();
+    EXPECT_THAT(editor->shown, ElementsAre("1=1.000000"));
+}
+
+// The system gives the new thread the id of the one that has ended.
+TEST_F(CVstWindowThreads, AreNotTakenForACreatorThatHasEnded) {
+    std::unique_ptr<CTestEditor> other;
+    onAnotherThread([&] { other = std::make_unique<CTestEditor>(&effect); });
+    for (int i = 0; i < 10; ++i)
+        onAnotherThread([&] { other->handleParameterChange(1, 0.5); });
+    EXPECT_THAT(other->shown, IsEmpty());
+    other.reset();
+    effect.setEditor(editor);
+}
+
+TEST_F(CVstWindowThreads, NeitherLockNorAllocateUnlessTheyMayShowTheValue) {
+    const auto countElsewhere = [this] {
+        onAnotherThread([this] {
+            const std::uint64_t locks = locksOfThisThread();
+            const std::uint64_t allocations = allocationsOfThisThread();
+            for (int i = 0; i < 100; ++i)
+                editor->handleParameterChange(i % 2, i / 100.0);
+            EXPECT_EQ(locksOfThisThread(), locks);
+            EXPECT_EQ(allocationsOfThisThread(), allocations);
+        });
+    };
+    countElsewhere();
+    editor->open(&host);
+    countElsewhere();
+    editor->close();
+    countElsewhere();
+
+    const std::uint64_t locks = locksOfThisThread();
+    editor->handleParameterChange(1, 0.5);
+    EXPECT_EQ(locksOfThisThread(), locks + 1);
+}
+
+// Idling
+
+TEST_F(CVstWindowThreads, PumpBeforeTheyShowValues) {
+    editor->open(&host);
+    setElsewhere(1, 0.5);
+    fakeNatives().takeLog();
+    editor->onShow = [] { fakeNatives().log.emplace_back("shown"); };
+    editor->idle();
+    EXPECT_THAT(fakeNatives().takeLog(), ElementsAre("pump", "shown"));
+    editor->close();
+    fakeNatives().takeLog();
+    editor->idle();
+    EXPECT_THAT(fakeNatives().takeLog(), IsEmpty());
+}
+
+TEST_F(CVstWindowThreads, IdleOnlyOnTheGuiThread) {
+    editor->open(&host);
+    setElsewhere(1, 0.5);
+    fakeNatives().takeLog();
+    onAnotherThread([this] { editor->idle(); });
+    EXPECT_THAT(fakeNatives().takeLog(), IsEmpty());
+    EXPECT_THAT(editor->shown, IsEmpty());
+}
+
+TEST_F(CVstWindowThreads, MayCloseTheEditorWhileItIsPumped) {
+    editor->open(&host);
+    setElsewhere(1, 0.5);
+    fakeNatives().onPump = [this](INativeWindowListener &) { editor->close(); };
+    editor->idle();
+    EXPECT_FALSE(editor->isOpen());
+    EXPECT_THAT(editor->shown, ElementsAre("1=0.500000"));
+}
+
+TEST_F(CVstWindowThreads, MayLoseTheNativeWindowWhileItIsPumped) {
+    editor->open(&host);
+    setElsewhere(1, 0.5);
+    fakeNatives().onPump = [](INativeWindowListener &listener) {
+        listener.handleNativeDestroyed();
+    };
+    editor->idle();
+    EXPECT_THAT(fakeNatives().windows, IsEmpty());
+    EXPECT_THAT(editor->shown, ElementsAre("1=0.500000"));
+    fakeNatives().takeLog();
+    editor->idle();
+    EXPECT_THAT(fakeNatives().takeLog(), IsEmpty());
+}
+
+TEST_F(CVstWindowThreads, MayDeleteTheEditorWhileItIsPumped) {
+    editor->open(&host);
+    setElsewhere(1, 0.5);
+    fakeNatives().onPump = [this](INativeWindowListener &) { delete editor; };
+    editor->idle();
+    EXPECT_EQ(effect.getEditor(), nullptr);
+    EXPECT_THAT(fakeNatives().windows, IsEmpty());
+}
+
+}  // namespace
