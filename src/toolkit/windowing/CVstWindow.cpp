@@ -1,6 +1,8 @@
 #include "toolkit/windowing/CVstWindow.h"
 
 #include "foundation/CException.h"
+#include "foundation/CaughtException.h"
+#include "foundation/ExceptionFence.h"
 #include "foundation/Trace.h"
 #include "hostlayer/AudioEffect.h"
 #include "platform/NativeThread.h"
@@ -8,6 +10,15 @@
 namespace Tessitor::Vst {
 
 using MathTools::CRect;
+
+namespace {
+
+constexpr char nameOfOpen[] = "CVSTPanel::open(void *)";  // kept: another name than the class has
+constexpr Exceptions::SFence initialising{
+    "Caught an exception whilst initialising window. Further details below:\n\n",
+    "Caught unknown exception whilst initialising window", nameOfOpen};
+
+}  // namespace
 
 CVstWindow::CVstWindow(AudioEffect *owner, const CRect &area,
                        const GUI::Windowing::CWindowAttributes &attributes)
@@ -36,9 +47,9 @@ bool CVstWindow::open(void *parent) {
     const std::lock_guard lock(m_mutex);
     attachToParent(parent);
     m_guiThread = numberNativeThread();
+    showPendingValues();
     try {
-        showPendingValues();
-        makeWindow();
+        Exceptions::fenced(initialising, [this] { makeWindow(); });
     } catch (...) {
         close();
         throw;
@@ -48,8 +59,7 @@ bool CVstWindow::open(void *parent) {
 
 void CVstWindow::attachToParent(void *parent) {
     if (parent == nullptr)
-        throw Exceptions::CException("Parent window handle is NULL", "CVSTPanel::open(void *)",
-                                     true);
+        throw Exceptions::CException("Parent window handle is NULL", nameOfOpen, true);
     detachFromParent();  // a host may move the editor to another parent without closing it
     systemWindow = parent;
     m_parent = std::make_unique<CParentWindow>(parent);
@@ -112,11 +122,20 @@ bool CVstWindow::isOpenOnAnotherThread() const {
 void CVstWindow::showAtOnce(long id, double value) {
     m_pendingValues.discard(id);  // it is older
     if (!getIsEditing())
+        show(id, value);
+}
+
+// The host waits for this call, and cannot catch what a control throws.
+void CVstWindow::show(long id, double value) {
+    try {
         setParameter(id, value);
+    } catch (...) {
+        Exceptions::traceCaughtException("Caught an exception whilst showing a parameter");
+    }
 }
 
 void CVstWindow::showPendingValues() {
-    m_pendingValues.take([this](long id, double value) { setParameter(id, value); });
+    m_pendingValues.take([this](long id, double value) { show(id, value); });
 }
 
 void CVstWindow::redrawWindow() {

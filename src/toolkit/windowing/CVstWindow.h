@@ -72,6 +72,7 @@ private:
     bool isOpenOnAnotherThread() const;
     bool showWhileClosed(long id, double value);
     void showAtOnce(long id, double value);
+    void show(long id, double value);
     void showPendingValues();
 
     /// Stands for the host's window.

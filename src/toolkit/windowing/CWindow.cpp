@@ -118,14 +118,6 @@ void CWindow::uninitialiseWindow() {
     held->handle.native = nullptr;
 }
 
-void CWindow::handleNativeDestroyed() {
-    const std::shared_ptr<SWindowParts> held = m_parts;
-    windowDestroying();
-    held->timedObjects.clearArray();
-    held->handle.native = nullptr;
-    m_native.reset();
-}
-
 // The native window. Each call may report messages before it returns, and their handlers may delete
 // this window.
 

@@ -132,10 +132,11 @@ protected:
 private:
     using MouseHandler = void (Listeners::IMouseListener::*)(Events::CMouseEvent &);
 
-    // INativeWindowListener
+    // INativeWindowListener. The system calls these, so that no exception leaves them.
     Result handleMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lParam) override;
     void handleTimer(int id) override;
     void handleNativeDestroyed() override;
+    void handleException(SWindowParts &parts);
 
     Result handleMouse(unsigned message, std::uintptr_t wParam, std::intptr_t lParam);
     Result handleButtonDown(unsigned message, std::intptr_t lParam, MouseHandler handler);

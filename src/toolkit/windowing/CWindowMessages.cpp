@@ -51,12 +51,6 @@ INativeChildHolder *findHolder(Controls::IControlRoot &root, void *child) {
 
 }  // namespace
 
-CWindow::Result CWindow::handleMessage(unsigned message, std::uintptr_t wParam,
-                                       std::intptr_t lParam) {
-    const std::shared_ptr<SWindowParts> held = m_parts;  // a handler may delete the window
-    return windowProcess(message, wParam, lParam);
-}
-
 CWindow::Result CWindow::windowProcess(unsigned message, std::uintptr_t wParam,
                                        std::intptr_t lParam) {
     switch (message) {
@@ -282,18 +276,32 @@ bool CWindow::sendKey(bool isDown) {
 
 // Dropped files
 
+namespace {
+
+/// Finishes a drop, even if its listener throws.
+struct SDropEnd {
+    ~SDropEnd() { finishNativeDrop(wParam); }
+    std::uintptr_t wParam;
+};
+
+void sendDrop(Listeners::IDropFileListener &listener, std::uintptr_t wParam) {
+    const SDropEnd end{wParam};
+    const auto [names, position] = readNativeDrop(wParam);
+    Events::CDropEvent event(CPoint(position.x, position.y));
+    for (const std::string &name : names)
+        event.addFilename(new Tessitor::Basics::CString(name.c_str()));
+    listener.handleFileDrop(event);
+}
+
+}  // namespace
+
 CWindow::Result CWindow::handleDrop(std::uintptr_t wParam) {
     if (!hasDropFileListener()) {
         finishNativeDrop(wParam);
         return refused;
     }
     const std::shared_ptr<SWindowParts> held = m_parts;
-    const auto [names, position] = readNativeDrop(wParam);
-    Events::CDropEvent event(CPoint(position.x, position.y));
-    for (const std::string &name : names)
-        event.addFilename(new Tessitor::Basics::CString(name.c_str()));
-    m_dropFileListener->handleFileDrop(event);
-    finishNativeDrop(wParam);
+    sendDrop(*m_dropFileListener, wParam);
     if (!held->isWindowGone() && isCreated())
         m_native->bringToFront();
     return 0;

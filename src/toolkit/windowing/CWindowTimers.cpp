@@ -22,10 +22,6 @@ void forEachTimedObject(SWindowParts &parts, Visit visit) {
 
 }  // namespace
 
-void CWindow::handleTimer(int id) {
-    timerEvent(id);
-}
-
 void CWindow::timerEvent(long id) {
     const std::shared_ptr<SWindowParts> held = m_parts;  // an object may delete the window
     forEachTimedObject(*held, [id](ITimedObject &object) {

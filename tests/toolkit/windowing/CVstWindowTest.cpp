@@ -99,7 +99,14 @@ TEST_F(CVstWindow, ANullParentThrowsBeforeAnythingChanges) {
 TEST_F(CVstWindow, IsClosedIfTheSystemRefusesItsWindow) {
     fakeNatives().refusesWindows = true;
     fakeNatives().reason = "No display";
-    EXPECT_THROW(editor.open(&host), CException);
+    try {
+        editor.open(&host);
+        FAIL() << "nothing was thrown";
+    } catch (const CException &thrown) {
+        EXPECT_STREQ(thrown.getErrorReason().getString(),
+                     "Caught an exception whilst initialising window. Further details below:\n\n"
+                     "No display\n\nCWindow::createWindow()");
+    }
     EXPECT_FALSE(editor.isOpen());
     EXPECT_EQ(editor.getParentWindow(), nullptr);
     fakeNatives().refusesWindows = false;

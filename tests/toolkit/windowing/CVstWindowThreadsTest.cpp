@@ -6,6 +6,7 @@
 #include <atomic>
 #include <future>
 #include <memory>
+#include <stdexcept>
 #include <thread>
 
 namespace {
@@ -173,6 +174,19 @@ TEST_F(CVstWindowThreads, NeitherLockNorAllocateUnlessTheyMayShowTheValue) {
     const std::uint64_t locks = locksOfThisThread();
     editor->handleParameterChange(1, 0.5);
     EXPECT_EQ(locksOfThisThread(), locks + 1);
+}
+
+TEST_F(CVstWindowThreads, SurviveAValueThatCannotBeShown) {
+    editor->onShow = [] { throw std::runtime_error("cannot be shown"); };
+    editor->handleParameterChange(0, 0.5);
+    setElsewhere(0, 0.25);
+    setElsewhere(1, 0.25);
+    EXPECT_TRUE(editor->open(&host));
+    editor->handleParameterChange(1, 0.5);
+    setElsewhere(0, 0.75);
+    editor->idle();
+    EXPECT_THAT(editor->shown,
+                ElementsAre("0=0.500000", "0=0.250000", "1=0.250000", "1=0.500000", "0=0.750000"));
 }
 
 // Idling

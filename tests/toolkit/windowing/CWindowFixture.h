@@ -23,8 +23,13 @@ public:
     }
 
     std::function<void()> onDeletion;
+    std::function<void()> onDestroying;  // called after the note
 
-    void windowDestroying() override { note("destroying"); }
+    void windowDestroying() override {
+        note("destroying");
+        if (onDestroying)
+            onDestroying();
+    }
     void windowCreating() override { note("creating"); }
     void windowCreated() override { note("created"); }
 
