@@ -1,5 +1,7 @@
 #include "hostlayer/AudioEffect.h"
 
+#include "foundation/CaughtException.h"
+
 namespace {
 
 AudioEffect *effectOf(AEffect *record) {
@@ -30,10 +32,38 @@ float getParameterEntry(AEffect *record, std::int32_t index) {
     return effectOf(record)->getParameter(index);
 }
 
+bool isForEditor(std::int32_t opcode) {
+    switch (opcode) {
+    case effEditGetRect:
+    case effEditOpen:
+    case effEditClose:
+    case effEditIdle:
+    case effEditKeyDown:
+    case effEditKeyUp:
+    case effSetEditKnobMode:
+        return true;
+    default:
+        return false;
+    }
+}
+
+void reportFailureOfEditor(std::int32_t opcode) {
+    Tessitor::Exceptions::traceCaughtException("Caught an exception in a call of the host");
+    if (opcode == effEditOpen)
+        Tessitor::Exceptions::displayCaughtException("Exception occurred");
+}
+
 std::intptr_t dispatcherEntry(AEffect *record, std::int32_t opcode, std::int32_t index,
                               std::intptr_t value, void *ptr, float opt) {
     AudioEffect *effect = effectOf(record);
-    const std::intptr_t result = effect->dispatcher(opcode, index, value, ptr, opt);
+    std::intptr_t result = 0;
+    try {
+        result = effect->dispatcher(opcode, index, value, ptr, opt);
+    } catch (...) {
+        if (!isForEditor(opcode))
+            throw;
+        reportFailureOfEditor(opcode);
+    }
     if (opcode != effClose)
         return result;
     delete effect;

@@ -123,3 +123,16 @@ TEST(AEffEditor, LeavesALaterEditorInPlace) {
     }
     EXPECT_EQ(effect.getEditor(), second);
 }
+
+TEST(AEffEditor, ItsExceptionsDoNotReachTheHost) {
+    class Editor : public ProbeEditor {
+    public:
+        using ProbeEditor::ProbeEditor;
+        void close() override { throw std::runtime_error("close fails"); }
+        void idle() override { throw std::runtime_error("idle fails"); }
+    };
+    ProbeEffect effect;
+    effect.setEditor(new Editor(&effect));
+    EXPECT_EQ(effect.call(15), 0);
+    EXPECT_EQ(effect.call(19), 0);
+}
