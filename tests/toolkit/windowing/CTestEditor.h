@@ -1,7 +1,7 @@
 #pragma once
 
-#include "CWindowFixture.h"
 #include "toolkit/windowing/CVstWindow.h"
+#include "toolkit/windowing/CWindowFixture.h"
 
 #include <utility>
 

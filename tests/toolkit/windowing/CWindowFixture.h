@@ -1,9 +1,9 @@
 #pragma once
 
-#include "FakeNativeWindow.h"
 #include "toolkit/controls/CSpyControl.h"
 #include "toolkit/events/FakeNativeMouse.h"
 #include "toolkit/windowing/CWindow.h"
+#include "toolkit/windowing/FakeNativeWindow.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
