@@ -129,7 +129,8 @@ private:
     using Holder = Collections::TAutomaticPointer<IControl>;
 
     void dispatch(Events::CMouseEvent &event,
-                  void (Listeners::IMouseListener::*handler)(Events::CMouseEvent &));
+                  void (Listeners::IMouseListener::*handler)(Events::CMouseEvent &),
+                  bool isScroll = false);
     bool dispatch(const Events::CKeyboardEvent &event,
                   bool (Listeners::IKeyboardListener::*handler)(const Events::CKeyboardEvent &));
     IControl *findMouseTarget();

@@ -31,8 +31,7 @@ void CControlRoot::handleDoubleClick(CMouseEvent &event) {
 }
 
 void CControlRoot::handleMouseScroll(CMouseEvent &event) {
-    m_mouseEvent.setWheelAmount(event.getWheelAmount());
-    dispatch(event, &Listeners::IMouseListener::handleMouseScroll);
+    dispatch(event, &Listeners::IMouseListener::handleMouseScroll, true);
 }
 
 void CControlRoot::handleMouseMovement(CMouseEvent &event) {
@@ -46,7 +45,8 @@ void CControlRoot::handleMouseLeaving(CMouseEvent &event) {
 // The position is the mouse's own and so moves for the time of the call. A handler may run another
 // message of the window: then the position of that later one is restored.
 void CControlRoot::dispatch(CMouseEvent &event,
-                            void (Listeners::IMouseListener::*handler)(CMouseEvent &)) {
+                            void (Listeners::IMouseListener::*handler)(CMouseEvent &),
+                            bool isScroll) {
     m_position = event.getMousePosition();
     IControl *target = findMouseTarget();
     if (target == nullptr)
@@ -56,6 +56,8 @@ void CControlRoot::dispatch(CMouseEvent &event,
     m_mouseEvent.setMouse(event.getMouse());
     m_mouseEvent.copyModifiers(event);
     m_mouseEvent.setMousePosition(positionInside(target->getArea(), m_position));
+    if (isScroll)
+        m_mouseEvent.setWheelAmount(event.getWheelAmount());
     (target->*handler)(m_mouseEvent);
     event.setMousePosition(m_position);
     m_lastMouseControl.setPointer(target);

@@ -103,6 +103,17 @@ TEST_F(CControlRootEvents, CopiesTheWheelAmountOfScrollingOnly) {
     EXPECT_THAT(amounts, ElementsAre(-1.5, -1.5));
 }
 
+TEST_F(CControlRootEvents, ForgetsTheWheelAmountThatHitsNothing) {
+    CSpyControl *control = add(root, "a", CRect(0, 0, 20, 20));
+    double amount = -1.0;
+    control->onMouse = [&](const CMouseEvent &received) { amount = received.getWheelAmount(); };
+    scroll(100, 100, 2.0);
+    press(1, 1);
+    EXPECT_EQ(amount, 0.0);
+    scroll(1, 1, 3.0);
+    EXPECT_EQ(amount, 3.0);
+}
+
 TEST_F(CControlRootEvents, SendsEverythingToTheLockedControl) {
     CSpyControl *control = add(root, "locked", CRect(10, 10, 10, 10));
     add(root, "other", CRect(50, 50, 10, 10));
