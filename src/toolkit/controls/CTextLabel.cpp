@@ -78,8 +78,10 @@ CTextLabel::CTextLabel(IControlRoot *root, std::int32_t id, const MathTools::CRe
 }
 
 void CTextLabel::handleFileDrop(const Events::CDropEvent &event) {
-    if (const CString *name = event.getFilename(0))
+    if (const CString *name = event.getFilename(0)) {
         setText(*name);
+        update();  // a derived label's setText() may not
+    }
 }
 
 void CTextLabel::setColours(const CAlphaColour &frame, const CAlphaColour &background,
