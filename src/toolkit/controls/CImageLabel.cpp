@@ -18,10 +18,7 @@ void CImageLabel::handleFileDrop(const Events::CDropEvent &event) {
     const Tessitor::Basics::CString *name = event.getFilename(0);
     if (!isDropFileEnabled() || name == nullptr)
         return;
-    Graphics::IImage *image = Graphics::CImageManager::getImageFromFile(*name);
-    if (image == nullptr)
-        return;
-    setPrimaryImage(image);
+    setPrimaryImage(Graphics::CImageManager::getImageFromFile(*name));
     sendActionEvent();
     update();
 }

@@ -4,8 +4,8 @@
 
 namespace Tessitor::GUI::Controls {
 
-/// Shows its primary image. If drops are enabled, an image file that is dropped on it replaces the
-/// image, and the label reports that.
+/// Shows its primary image. If drops are enabled, a file that is dropped on it replaces the image,
+/// and the label reports that.
 class CImageLabel : public CControl {
 public:
     CImageLabel(IControlRoot *root, std::int32_t id, const MathTools::CRect &area,
@@ -13,7 +13,7 @@ public:
     ~CImageLabel() override { s_class.decrementInstanceCount(); }
     Tessitor::Basics::CClass &getClass() const override { return s_class; }
 
-    /// Ignores files that are not images.
+    /// Kept: a file that is not an image is reported, too, and leaves the label without an image.
     void handleFileDrop(const Events::CDropEvent &event) override;
     void drawControl(Graphics::CGraphics &graphics) override;
 

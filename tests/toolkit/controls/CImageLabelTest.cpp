@@ -53,12 +53,21 @@ TEST_F(CImageLabelTest, ShowsAndReportsADroppedImage) {
     EXPECT_THAT(takeRedrawnAreas(), ElementsAre("0,0,8,6"));
 
     const auto *shown = label->getPrimaryImage();
-    dropFile((folder / "missing.tga").string());
-    dropFile("");
     label->handleFileDrop(CDropEvent(CPoint(1, 1)));
     EXPECT_EQ(label->getPrimaryImage(), shown);
     EXPECT_THAT(actions.take(), testing::IsEmpty());
     EXPECT_THAT(takeRedrawnAreas(), testing::IsEmpty());
+}
+
+TEST_F(CImageLabelTest, ShowsNothingAfterADropOfAnythingElse) {
+    label->setDropFileEnabled(true);
+    for (const char *name : {"missing.tga", "text.txt", ""}) {
+        label->setPrimaryImage(new CTestImage(8, 6, false));
+        dropFile(name);
+        EXPECT_EQ(label->getPrimaryImage(), nullptr);
+        EXPECT_EQ(actions.take().size(), 1u);
+        EXPECT_THAT(takeRedrawnAreas(), ElementsAre("0,0,8,6"));
+    }
 }
 
 TEST_F(CImageLabelTest, FramesItsImageIfAsked) {
