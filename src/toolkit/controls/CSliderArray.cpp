@@ -22,7 +22,7 @@ Tessitor::Basics::TClassRecord<CSliderArray> CSliderArray::s_class("CSliderArray
 CSliderArray::CSliderArray(IControlRoot *root, std::int32_t id, const CRect &area,
                            Listeners::IActionListener *listener)
     : CControl(root, id, area, listener) {
-    setBars(wrappedSum(area.getWidth(), m_barGap) / (m_barWidth + m_barGap), m_barWidth, m_barGap);
+    fillWithBars();
     s_class.incrementInstanceCount();
 }
 
@@ -94,6 +94,14 @@ void CSliderArray::setBars(std::int32_t number, std::int32_t width, std::int32_t
         placeBarByValue(i);
 }
 
+// The width may come from a damaged file.
+void CSliderArray::fillWithBars() {
+    constexpr std::int32_t most = 1000;
+    const std::int32_t fitting =
+        wrappedSum(getDimension().getWidth(), m_barGap) / (m_barWidth + m_barGap);
+    setBars(std::min(fitting, most), m_barWidth, m_barGap);
+}
+
 void CSliderArray::setBarColours(const CAlphaColour &normal, const CAlphaColour &highlight) {
     m_normalColour = normal;
     m_highlightColour = highlight;
@@ -112,7 +120,10 @@ double CSliderArray::getBarValue(std::int32_t index) const {
 }
 
 void CSliderArray::setArea(const CRect &area) {
+    const bool isFirstArea = getDimension().getWidth() == 0 && getDimension().getHeight() == 0;
     CControl::setArea(area);
+    if (isFirstArea && getNumberOfBars() == 0)
+        fillWithBars();
     for (std::int32_t i = 0; i < getNumberOfBars(); ++i)
         placeBarByValue(i);
 }

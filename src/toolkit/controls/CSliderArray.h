@@ -7,7 +7,8 @@
 namespace Tessitor::GUI::Controls {
 
 /// A row of thin vertical bars. Pressing or dragging sets the bar under the mouse to its height.
-/// At first there are as many bars as fit, each 4 pixels wide with 1 pixel between them.
+/// When it first gets an area that is not empty, as many bars as fit are made, but no more than
+/// 1000, each 4 pixels wide with 1 pixel between them.
 class CSliderArray : public CControl {
 public:
     CSliderArray(IControlRoot *root, std::int32_t id, const MathTools::CRect &area,
@@ -20,7 +21,7 @@ public:
     void handleMouseMovement(Events::CMouseEvent &event) override;
     void handleMouseLeaving(Events::CMouseEvent &event) override;
 
-    /// Moves and sizes the control. The number of bars, and their values, stay.
+    /// Moves and sizes the control. Bars that are there keep their number and values.
     void setArea(const MathTools::CRect &area) override;
     /// Starts anew with bars of the value 1. @param width, gap  pixels.
     void setBars(std::int32_t number, std::int32_t width, std::int32_t gap);
@@ -38,6 +39,7 @@ private:
     bool hasBar(std::int32_t index) const { return index >= 0 && index < getNumberOfBars(); }
     std::int32_t barLeft(std::int32_t index) const;
     std::int32_t findBar(const MathTools::CPoint &point) const;
+    void fillWithBars();
     void placeBar(std::int32_t index, std::int32_t top);
     void placeBarByValue(std::int32_t index);
     void dragBar(const Events::CMouseEvent &event);

@@ -3,6 +3,8 @@
 #include "toolkit/controls/CRootTest.h"
 #include "toolkit/graphics/SCanvas.h"
 
+#include <limits>
+
 namespace {
 
 using Tessitor::GUI::Controls::CSliderArray;
@@ -35,6 +37,37 @@ TEST_F(CSliderArrayTest, StartsWithFullBarsInAllItsWidth) {
     EXPECT_EQ(array->getActionListener(), &actions);
     EXPECT_TRUE(array->getClass() == "CSliderArray");
     EXPECT_TRUE(array->getClass().isTypeOf(Tessitor::Basics::CClass("CControl")));
+}
+
+TEST_F(CSliderArrayTest, FillsItsFirstAreaWithBars) {
+    auto *later = new CSliderArray(&root, 4, CRect(), &actions);
+    root.addControl(later);
+    EXPECT_EQ(later->getNumberOfBars(), 0);
+    later->setArea(CRect(0, 0, 14, 20));
+    EXPECT_EQ(later->getNumberOfBars(), 3);
+    later->setBarValue(0, 0.5);
+    later->setArea(CRect(0, 0, 100, 20));
+    EXPECT_EQ(later->getNumberOfBars(), 3);
+    EXPECT_EQ(later->getBarValue(0), 0.5);
+    later->setBars(0, 4, 1);
+    later->setArea(CRect(0, 0, 50, 20));
+    EXPECT_EQ(later->getNumberOfBars(), 0);
+    auto *chosen = new CSliderArray(&root, 4, CRect(), &actions);
+    root.addControl(chosen);
+    chosen->setBars(2, 8, 3);
+    chosen->setArea(CRect(0, 0, 100, 20));
+    EXPECT_EQ(chosen->getNumberOfBars(), 2);
+}
+
+TEST_F(CSliderArrayTest, LimitsTheBarsThatItMakesByItself) {
+    constexpr int most = std::numeric_limits<int>::max();
+    for (const int width : {4999, 5000, most - 1, most}) {
+        auto *wide = new CSliderArray(&root, 4, CRect(0, 0, width, 20), &actions);
+        root.addControl(wide);
+        EXPECT_EQ(wide->getNumberOfBars(), width == most ? 0 : 1000) << width;
+    }
+    array->setBars(1200, 4, 1);
+    EXPECT_EQ(array->getNumberOfBars(), 1200);
 }
 
 TEST_F(CSliderArrayTest, SetsTheBarUnderAPress) {
