@@ -233,6 +233,20 @@ TEST_F(CControlRootEvents, AllocatesNothingWhenTheMouseMoves) {
     EXPECT_EQ(allocationsOfThisThread(), before);
 }
 
+TEST_F(CControlRootEvents, AllocatesNothingWhenTheMouseMovesOverAHundredControls) {
+    using Tessitor::GUI::Controls::CControl;
+    CControlPanel *panel = addPanel(root, CRect(0, 0, 600, 600));
+    for (int i = 0; i < 50; ++i) {
+        panel->addControl(new CControl(panel, i, CRect(i * 10, 0, 8, 30), nullptr));
+        root.addControl(new CControl(&root, i, CRect(600 + i * 10, 0, 8, 30), nullptr));
+    }
+    move(1, 20);
+    const auto before = allocationsOfThisThread();
+    for (int x = 0; x < 1200; ++x)
+        move(x, x % 40);
+    EXPECT_EQ(allocationsOfThisThread(), before);
+}
+
 // Handlers that change what they are called from
 
 TEST_F(CControlRootEvents, KeepsAControlAliveWhileItsListenerRemovesIt) {

@@ -100,6 +100,35 @@ TEST_F(CKnobDrag, StaysContinuousWhenShiftIsPressedAndReleased) {
     EXPECT_EQ(knob->getCoefficient(), 0.005);
 }
 
+TEST_F(CKnobDrag, ReadsShiftAtEachMovementInAPanel) {
+    CControlPanel *panel = addPanel(root, CRect(100, 100, 100, 100));
+    auto *inside = new CKnob(panel, 5, CRect(10, 10, 20, 20), &actions);
+    panel->addControl(inside);
+    const auto valueAt = [&](int x) {
+        move(x, 120);
+        return inside->getValue();
+    };
+    // Held already when the button goes down. Kept: the first movement still counts in full.
+    holdShift(true);
+    press(120, 120);
+    EXPECT_EQ(inside->getCoefficient(), 0.005);
+    EXPECT_NEAR(valueAt(122), 0.01, 1e-12);
+    EXPECT_NEAR(valueAt(142), 0.02, 1e-12);
+    holdShift(false);
+    EXPECT_NEAR(valueAt(142), 0.02, 1e-12);
+    EXPECT_NEAR(valueAt(162), 0.12, 1e-12);
+    event.setModifiers(true, false, true);  // the other keys change nothing
+    EXPECT_NEAR(valueAt(170), 0.16, 1e-12);
+    holdShift(true);
+    EXPECT_NEAR(valueAt(170), 0.16, 1e-12);
+    EXPECT_NEAR(valueAt(190), 0.17, 1e-12);
+    release(190, 120);
+    EXPECT_NEAR(valueAt(500), 0.17, 1e-12);
+    holdShift(false);
+    press(120, 120);
+    EXPECT_NEAR(valueAt(130), 0.22, 1e-12);
+}
+
 TEST_F(CKnobDrag, ComesBackOnlyAfterThePointerHasPassedTheEndAgain) {
     knob->setValue(0.9);
     press(20, 20);
