@@ -76,7 +76,10 @@ void CTextEdit::handleTextFieldEnd(ENativeTextFieldEnd end) {
 void CTextEdit::handleActionEvent(const Events::CActionEvent &event) {
     if (!isEditing())
         return;
-    const CHeldControl held(this);
+    // The listener may remove the panel around this control. No event that is being handed over
+    // holds the panel, as it does in other controls.
+    IControl *const panel = getParentControl();
+    const CHeldControl held(this), heldPanel(panel != nullptr ? panel : this);
     if (!m_isCancelled) {
         const CString text = readField();
         setText(text == "" ? CString(" ") : text);
