@@ -129,6 +129,13 @@ TEST_F(CLatchingButtonTest, RoundsItsCornersByASixteenthOfItsWidth) {
     EXPECT_EQ(canvas.at(0, 1), SCanvas::background);
     EXPECT_EQ(canvas.at(5, 0), black);
     EXPECT_EQ(canvas.at(0, 5), black);
+    SCanvas expected(false);
+    expected.graphics.getBrush().setColour({243, 32, 32});
+    expected.graphics.fillRoundedRectangle(button->getNormalisedArea(), {10, 10});
+    expected.graphics.drawRoundedRectangle(button->getNormalisedArea(), {10, 10});
+    for (int y = 0; y < 30; ++y)
+        for (int x = 0; x < 40; ++x)
+            ASSERT_EQ(canvas.at(x, y), expected.at(x, y)) << x << "," << y;
 }
 
 TEST_F(CLatchingButtonTest, DrawsItsTextInTheMiddleInTheColourOfItsPosition) {

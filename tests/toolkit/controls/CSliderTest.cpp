@@ -110,6 +110,18 @@ TEST_F(CSliderTest, GrabsItsHandleWithoutMovingIt) {
     EXPECT_THAT(actions.take(), ElementsAre(DoubleEq(0.7)));
 }
 
+TEST_F(CSliderTest, KeepsTheMouseWhereItHasGrabbedTheHandle) {
+    slider->setValue(0.5);
+    press(5, 54);
+    move(5, 64);
+    EXPECT_EQ(top(), 60);
+    release(5, 64);
+    press(5, 22);  // moves the centre of the handle to the mouse
+    EXPECT_EQ(top(), 20);
+    move(5, 32);
+    EXPECT_EQ(top(), 30);
+}
+
 TEST_F(CSliderTest, ReportsEachMovementOfADrag) {
     press(5, 2);
     move(5, 12);
@@ -201,6 +213,10 @@ TEST_F(CSliderTest, TakesTheSizeOfItsHandleFromTheImage) {
     EXPECT_EQ(slider->getRange(), 80.0);
     slider->setPrimaryImage(nullptr);
     EXPECT_EQ(textOf(slider->getHandleArea()), "0,100,10,5");
+    CSlider *wide = make(CRect(0, 0, 105, 31));
+    wide->setPrimaryImage(new CTestImage(12, 25, false));
+    EXPECT_EQ(textOf(wide->getHandleArea()), "0,3,4,25");
+    EXPECT_EQ(wide->getRange(), 101.0);
 }
 
 TEST_F(CSliderTest, DrawsTheThirdOfItsImageThatShowsItsState) {

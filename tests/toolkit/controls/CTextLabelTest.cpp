@@ -110,6 +110,21 @@ TEST_F(CTextLabelTest, DrawsItsTextInItsFormat) {
     CFont::releaseDefaultFont();
 }
 
+TEST_F(CTextLabelTest, DrawsItsTextOnePixelFromItsCorner) {
+    CFont::createDefaultFont();
+    for (int format = 0; format <= 10; ++format) {
+        SCanvas drawn, expected;
+        label->setTextFormat(format);
+        label->drawControl(drawn.graphics);
+        expected.graphics.setTextColour({0, 0, 0});
+        expected.graphics.drawText("M", CRect(1, 1, 30, 20), nullptr, format);
+        for (int y = 0; y < 30; ++y)
+            for (int x = 0; x < 40; ++x)
+                ASSERT_EQ(drawn.at(x, y), expected.at(x, y)) << format << ": " << x << "," << y;
+    }
+    CFont::releaseDefaultFont();
+}
+
 TEST_F(CTextLabelTest, DrawsItsTextInItsColourAndFont) {
     label->setTextColour({255, 0, 0});
     label->setFont(new CFont("Arial", 40, false, true));  // the M fills the label
