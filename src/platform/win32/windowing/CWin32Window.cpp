@@ -17,8 +17,9 @@ Pointer toPointer(LONG_PTR value) {
 CWin32Window::~CWin32Window() {
     m_reportsEnd = false;
     CWin32Window::unhookWheel();
-    if (m_handle != nullptr)
-        DestroyWindow(m_handle);
+    // Windows refuses another thread than the window's. The window then stays without an object.
+    if (m_handle != nullptr && !DestroyWindow(m_handle))
+        SetWindowLongPtrA(m_handle, GWLP_USERDATA, 0);
     unregisterWindowClass(m_className);
 }
 
@@ -180,6 +181,8 @@ void CWin32Window::trackMouseLeave() {
 HWND CWin32Window::s_hookWindow = nullptr;
 
 void CWin32Window::hookWheel() {
+    if (m_handle == nullptr)
+        return;
     unhookWheel();
     m_hook =
         SetWindowsHookExA(WH_MOUSE, hookProcedure, static_cast<HINSTANCE>(nativeModuleHandle()), 0);
@@ -195,6 +198,7 @@ void CWin32Window::unhookWheel() {
         s_hookWindow = nullptr;
 }
 
+// Called on each thread of the process that takes a mouse message from its queue.
 LRESULT CALLBACK CWin32Window::hookProcedure(int code, WPARAM wParam, LPARAM lParam) {
     if (code >= 0 && wParam == WM_MOUSEWHEEL &&
         sendHookedWheel(*toPointer<const MOUSEHOOKSTRUCTEX *>(lParam)))
@@ -206,7 +210,9 @@ bool CWin32Window::sendHookedWheel(const MOUSEHOOKSTRUCTEX &mouse) {
     CWin32Window *window = s_hookWindow != nullptr ? find(s_hookWindow) : nullptr;
     RECT area;
     POINT position;
-    if (window == nullptr || !GetWindowRect(s_hookWindow, &area) || !GetCursorPos(&position) ||
+    if (window == nullptr ||
+        GetWindowThreadProcessId(s_hookWindow, nullptr) != GetCurrentThreadId() ||
+        !GetWindowRect(s_hookWindow, &area) || !GetCursorPos(&position) ||
         !PtInRect(&area, position))
         return false;
     const std::uintptr_t movement = mouse.mouseData & 0xFFFF0000;

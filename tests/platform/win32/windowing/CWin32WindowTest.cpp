@@ -4,10 +4,13 @@
 #include "platform/NativeModule.h"
 #include "platform/NativeMouse.h"
 #include "platform/win32/windowing/LowMemory.h"
+#include "platform/win32/windowing/RemoveHooks.h"
 
+#include <atomic>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <shlobj.h>
+#include <thread>
 #include <utility>
 #include <vector>
 #include <windows.h>
@@ -186,8 +189,11 @@ TEST_F(CWin32Window, LeavesMessagesToTheSystem) {
 TEST_F(CWin32Window, IsRefusedWithTheSystemsMessage) {
     options.parent = &options;
     EXPECT_EQ(createNativeWindow(options, listener, reason), nullptr);
+    char text[256] = {};
+    FormatMessageA(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
+                   ERROR_INVALID_WINDOW_HANDLE, 0, text, sizeof text, nullptr);
     EXPECT_NE(reason, "");
-    EXPECT_NE(reason, "untouched");
+    EXPECT_EQ(std::string(text).rfind(reason, 0), 0u) << reason;
     EXPECT_EQ(listener.ends, 0);
 }
 
@@ -363,6 +369,17 @@ TEST_F(CWin32Window, CloseEndsItByDefault) {
     EXPECT_EQ(listener.ends, 1);
 }
 
+TEST_F(CWin32Window, LeavesAWindowWithoutListenerIfAnotherThreadDeletesIt) {
+    create();
+    HWND old = handle();
+    std::thread([this] { window.reset(); }).join();
+    listener.messages.clear();
+    ASSERT_TRUE(IsWindow(old));
+    EXPECT_EQ(SendMessageA(old, WM_USER, 0, 0), 0);
+    EXPECT_TRUE(listener.messages.empty());
+    DestroyWindow(old);
+}
+
 // Mouse, keys and files
 
 TEST_F(CWin32Window, CapturesTheMouse) {
@@ -418,26 +435,93 @@ TEST(NativeKeyboard, KnowsTheModifiers) {
     }
 }
 
-TEST_F(CWin32Window, TheHookedWheelGoesToTheWindowUnderTheMouse) {
-    create();
-    SetCursorPos(70, 90);
-    window->hookWheel();
-    listener.onMessage = [](const SMessage &message) {
-        return message.number == NativeMouseWheel ? std::optional<std::intptr_t>(0) : std::nullopt;
-    };
-    INPUT input = {};
-    input.type = INPUT_MOUSE;
-    input.mi.dwFlags = MOUSEEVENTF_WHEEL;
-    input.mi.mouseData = static_cast<DWORD>(-120);
-    SetForegroundWindow(hostWindow);
-    SetFocus(hostWindow);
-    SendInput(1, &input, sizeof input);
+void handleMessages() {
     MSG message;
     while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE))
         DispatchMessageA(&message);
+}
+
+/// Turns the wheel, over a window of the calling thread, and handles all messages in the queue.
+void turnWheel(int movement) {
+    INPUT input = {};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = MOUSEEVENTF_WHEEL;
+    input.mi.mouseData = static_cast<DWORD>(movement);
+    SendInput(1, &input, sizeof input);
+    handleMessages();
+}
+
+class CWin32WindowWheel : public CWin32Window {
+protected:
+    CWin32WindowWheel() {
+        create();
+        listener.onMessage = [this](const SMessage &message) {
+            return message.number == NativeMouseWheel ? wheelResult : std::nullopt;
+        };
+        SetForegroundWindow(hostWindow);
+        SetCursorPos(70, 90);
+        SetCapture(hostWindow);  // Wine sends the wheel to the window under the mouse otherwise
+        window->hookWheel();
+    }
+    ~CWin32WindowWheel() override { ReleaseCapture(); }
+
+    std::optional<std::intptr_t> wheelResult = 0;
+};
+
+TEST_F(CWin32WindowWheel, GoesToTheWindowUnderTheMouse) {
+    turnWheel(-120);
     ASSERT_NE(listener.find(NativeMouseWheel), nullptr);
     EXPECT_EQ(static_cast<std::int16_t>(HIWORD(listener.find(NativeMouseWheel)->wParam)), -120);
+}
+
+TEST_F(CWin32WindowWheel, StaysWithTheHostElsewhere) {
+    SetCursorPos(55, 65);
+    turnWheel(120);
+    EXPECT_EQ(listener.find(NativeMouseWheel), nullptr);
+}
+
+TEST_F(CWin32WindowWheel, StaysWithTheHostOnceItIsUnhooked) {
     window->unhookWheel();
+    turnWheel(120);
+    EXPECT_EQ(listener.find(NativeMouseWheel), nullptr);
+}
+
+TEST_F(CWin32WindowWheel, StaysWithAnotherThreadAboveTheWindow) {
+    ReleaseCapture();
+    std::atomic<bool> isOver = false;
+    std::thread other([&] {
+        // Without SS_NOTIFY, the mouse would go through it.
+        HWND above = CreateWindowExA(0, "STATIC", "", WS_CHILD | WS_VISIBLE | SS_NOTIFY, 0, 0, 300,
+                                     200, hostWindow, nullptr, nullptr, nullptr);
+        SetWindowPos(above, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+        turnWheel(120);
+        DestroyWindow(above);
+        isOver = true;
+    });
+    while (!isOver)
+        handleMessages();  // for the host's window
+    other.join();
+    EXPECT_EQ(listener.find(NativeMouseWheel), nullptr);
+}
+
+TEST_F(CWin32Window, NoHookIsLeftBehind) {
+    create();
+    window->hookWheel();
+    window->hookWheel();
+    window->unhookWheel();
+    EXPECT_EQ(removeHooks(), 0);
+    window->hookWheel();
+    EXPECT_EQ(removeHooks(), 1);
+    window->hookWheel();
+    DestroyWindow(handle());
+    EXPECT_EQ(removeHooks(), 0);
+    window->hookWheel();
+    EXPECT_EQ(removeHooks(), 0);
+    window = nullptr;
+    create();
+    window->hookWheel();
+    window = nullptr;
+    EXPECT_EQ(removeHooks(), 0);
 }
 
 TEST(NativeDrop, ReadsNamesAndPosition) {
