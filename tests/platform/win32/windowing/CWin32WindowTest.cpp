@@ -3,13 +3,14 @@
 #include "platform/NativeKeyboard.h"
 #include "platform/NativeModule.h"
 #include "platform/NativeMouse.h"
+#include "platform/win32/windowing/Input.h"
 #include "platform/win32/windowing/LowMemory.h"
 #include "platform/win32/windowing/RemoveHooks.h"
+#include "platform/win32/windowing/SampleDrop.h"
 
 #include <atomic>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <shlobj.h>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -422,32 +423,18 @@ TEST(NativeKeyboard, KnowsWhatAKeyTypes) {
 
 TEST(NativeKeyboard, KnowsTheModifiers) {
     for (const int key : {VK_CONTROL, VK_SHIFT, VK_MENU}) {
-        INPUT input = {};
-        input.type = INPUT_KEYBOARD;
-        input.ki.wVk = static_cast<WORD>(key);
-        SendInput(1, &input, sizeof input);
+        sendKey(static_cast<WORD>(key), true);
         const auto [isControlDown, isShiftDown, isAltDown] = nativeModifierKeys();
         EXPECT_EQ(isControlDown, key == VK_CONTROL);
         EXPECT_EQ(isShiftDown, key == VK_SHIFT);
         EXPECT_EQ(isAltDown, key == VK_MENU);
-        input.ki.dwFlags = KEYEVENTF_KEYUP;
-        SendInput(1, &input, sizeof input);
+        sendKey(static_cast<WORD>(key), false);
     }
 }
 
-void handleMessages() {
-    MSG message;
-    while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE))
-        DispatchMessageA(&message);
-}
-
-/// Turns the wheel, over a window of the calling thread, and handles all messages in the queue.
+/// Turns the wheel, over a window of the calling thread.
 void turnWheel(int movement) {
-    INPUT input = {};
-    input.type = INPUT_MOUSE;
-    input.mi.dwFlags = MOUSEEVENTF_WHEEL;
-    input.mi.mouseData = static_cast<DWORD>(movement);
-    SendInput(1, &input, sizeof input);
+    sendMouse(MOUSEEVENTF_WHEEL, movement);
     handleMessages();
 }
 
@@ -525,14 +512,7 @@ TEST_F(CWin32Window, NoHookIsLeftBehind) {
 }
 
 TEST(NativeDrop, ReadsNamesAndPosition) {
-    constexpr char names[] = "C:\\one.wav\0C:\\two.wav\0";
-    HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, sizeof(DROPFILES) + sizeof names);
-    auto *files = static_cast<DROPFILES *>(GlobalLock(memory));
-    files->pFiles = sizeof(DROPFILES);
-    files->pt = {7, 8};
-    std::copy(std::begin(names), std::end(names), reinterpret_cast<char *>(files + 1));
-    GlobalUnlock(memory);
-    const auto wParam = reinterpret_cast<std::uintptr_t>(memory);
+    const auto wParam = reinterpret_cast<std::uintptr_t>(createSampleDrop());
     const SNativeDrop drop = readNativeDrop(wParam);
     EXPECT_THAT(drop.names, ElementsAre("C:\\one.wav", "C:\\two.wav"));
     EXPECT_EQ(drop.position, (SNativePoint{7, 8}));
