@@ -33,8 +33,9 @@ protected:
     static void TearDownTestSuite() { DestroyWindow(host); }
     /// @return a window of 300 by 200 that keeps all messages to itself.
     static HWND createHost(HWND parent, DWORD style) {
-        return CreateWindowExA(0, "STATIC", "host", style, 50, 60, 300, 200, parent, nullptr,
-                               nullptr, nullptr);
+        // Without SS_NOTIFY, the mouse would go through it.
+        return CreateWindowExA(0, "STATIC", "host", style | SS_NOTIFY, 50, 60, 300, 200, parent,
+                               nullptr, nullptr, nullptr);
     }
 
     CNativeWindowTest() {
