@@ -231,6 +231,17 @@ TEST_F(CWin32Window, CanBeShownMovedAndDisabled) {
     EXPECT_EQ(listener.find(NativeSize)->lParam, MAKELPARAM(80, 60));
 }
 
+TEST_F(CWin32Window, MovingItLeavesItBelowTheOthers) {
+    create();
+    const auto above = createNativeWindow(options, listener, reason);
+    ASSERT_NE(above, nullptr);
+    const auto other = static_cast<HWND>(above->getHandle());
+    SetWindowPos(other, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    window->move({30, 40});
+    window->moveAndResize({1, 2, 81, 62});
+    EXPECT_EQ(GetWindow(other, GW_HWNDNEXT), handle());
+}
+
 TEST_F(CWin32Window, APopupCanBeTranslucent) {
     options.style = 0x80000000;
     options.extendedStyle = 0x8080008;

@@ -103,22 +103,24 @@ TEST_F(CWindowExceptions, OfAPaintingAreNotRepeated) {
 
 class CThrowingTimer : public Tessitor::GUI::Windowing::ITimedObject {
 public:
-    int fired = 0;
+    explicit CThrowingTimer(EventLog &log) : m_log(log) {}
     void timerFired() override {
-        ++fired;
+        m_log.emplace_back("timer");
         throw std::runtime_error("on purpose");
     }
     std::int32_t getTimerId() const override { return 3; }
+
+private:
+    EventLog &m_log;
 };
 
 TEST_F(CWindowExceptions, OfATimerLeaveItRunning) {
-    CThrowingTimer timer;
+    CThrowingTimer timer(log);
     window->addTimedObject(&timer);
     window->startTimer(3, 10);
-    MSG message;
-    while (timer.fired < 2 && GetMessageA(&message, nullptr, 0, 0))
-        DispatchMessageA(&message);
-    EXPECT_EQ(timer.fired, 2);
+    EXPECT_TRUE(waitFor("timer"));
+    log.clear();
+    EXPECT_TRUE(waitFor("timer"));
     window->removeTimedObject(&timer);
     expectNoHarm();
 }
