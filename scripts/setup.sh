@@ -7,10 +7,10 @@ set -euo pipefail
 
 run_packages=(
     g++ cmake ninja-build pkgconf  # the build
-    libxcb1-dev                    # talks to the X server
+    libxcb1-dev libxkbcommon-dev libxcb-xkb-dev  # windows and keys
     libfontconfig-dev libfreetype-dev libjpeg62-turbo-dev libpng-dev  # fonts and pictures
     libsndfile1-dev libsamplerate0-dev libcli11-dev nlohmann-json3-dev  # the command-line host
-    googletest locales             # the tests, part of every whole build
+    googletest locales libxcb-xtest0-dev libxcb-res0-dev libxcb-xfixes0-dev  # the tests, part of every whole build
     libbenchmark-dev python3       # the benchmarks and the table of their results
     libcairo2-dev                  # what the drawing is measured against
     alsa-utils                     # contains recorded speech, for its speaker test
@@ -20,6 +20,7 @@ test_packages=(
     g++-mingw-w64-x86-64-posix gcc-mingw-w64-x86-64-posix  # the Windows build
     wine wine64 xvfb xauth                              # run the Windows tests
     fonts-liberation                                    # the face of the text in the tests
+    openbox libxcb-cursor0                              # a window manager and cursor themes for them
 )
 # Each version formats and warns in its own way, so these are pinned.
 lint_packages=(clang-format-14 clang-tidy-14 shellcheck pyflakes3)
