@@ -25,6 +25,8 @@ enum ENativeMessage : unsigned {
     NativeDoubleClick = 515,  ///< comes in place of the second NativeLeftDown
     NativeRightDown = 516,
     NativeRightUp = 517,
+    NativeMiddleDown = 519,
+    NativeMiddleUp = 520,
 
     /// wParam: the signed high 16 bits are the movement, 120 for each notch; up is positive.
     NativeMouseWheel = 522,

@@ -19,7 +19,7 @@ public:
         const std::string descriptor = std::to_string(ready[1]);
         const char *const arguments[] = {"Xvfb",      "-displayfd", descriptor.c_str(),
                                          "-screen",   "0",          screen,
-                                         "-nolisten", "tcp",        nullptr};
+                                         "-nolisten", "tcp", "-noreset",  nullptr};
         const int failed = posix_spawnp(&m_server, "Xvfb", nullptr, nullptr,
                                         const_cast<char *const *>(arguments), environ);
         close(ready[1]);
@@ -43,10 +43,16 @@ public:
         stop();
     }
 
+    /// Ends the server without giving it time to tell its clients.
+    void crash() { stop(SIGKILL); }
+
 private:
-    void stop() const {
-        kill(m_server, SIGTERM);
+    void stop(int signal = SIGTERM) {
+        if (m_server == 0)
+            return;
+        kill(m_server, signal);
         waitpid(m_server, nullptr, 0);
+        m_server = 0;
     }
 
     pid_t m_server = 0;

@@ -15,6 +15,7 @@ public:
     CLinuxFont(const CLinuxFont &) = delete;
     CLinuxFont &operator=(const CLinuxFont &) = delete;
 
+    const SNativeFontRecord &getRecord() const { return m_record; }
     bool isUnderlined() const { return m_record.underline != 0; }
     bool isStruckOut() const { return m_record.strikeOut != 0; }
 
