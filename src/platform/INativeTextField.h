@@ -21,10 +21,10 @@ protected:
 
 /// What a text field is created from. The pointers need not outlive the call.
 struct SNativeTextFieldSettings {
-    SNativeRect area;                   ///< on the screen
+    SNativeRect area;                   ///< in the window
     const char *text = "";              ///< in the system's narrow encoding
     const INativeFont *font = nullptr;  ///< null for the system's own font
-    SNativeColour background;
+    SNativeColour textColour, background;
     std::uint32_t styleBits = 0;     ///< further window style bits; Linux has none
     std::int32_t maximumLength = 0;  ///< of what can be typed, in bytes; 0 for no limit
 };
@@ -35,9 +35,14 @@ class INativeTextField {
 public:
     virtual ~INativeTextField() = default;
 
+    virtual void *getHandle() const = 0;  ///< HWND or X window id; null once it is gone
     /// Copies the text.
     /// @param buffer  of size bytes; a longer text is cut. Always terminated.
     virtual void getText(char *buffer, std::int32_t size) const = 0;
+    /// The answer to NativeColourEdit, with which Windows asks for the field's colours.
+    /// @param deviceContext  receives the colours.
+    /// @return the handle of the brush for the background, which the field owns.
+    virtual std::intptr_t colour(void *deviceContext) = 0;
 };
 
 /// Opens a text field without margins, with all of its text selected, and gives it the focus. It

@@ -52,17 +52,16 @@ void CTextEdit::startEditing() {
     windowRoot().lockControl(this);
     m_field.reset();
 
-    Windowing::IWindow *window = getControlRoot()->getParentWindow();
-    CRect area = getAbsoluteRect();
-    area.offset(window->getWindowPosition());
     SNativeTextFieldSettings settings;
-    settings.area = area.toNative();
+    settings.area = getAbsoluteRect().toNative();
     settings.text = getText().getString();
     if (getFont() != nullptr)
         settings.font = &getFont()->getNativeFont();
+    settings.textColour = getTextColour().toNative();
     settings.background = m_fieldColour.toNative();
     settings.styleBits = static_cast<std::uint32_t>(m_styleBits);
     settings.maximumLength = m_isLengthLimited ? m_maximumLength : 0;
+    const Windowing::IWindow *window = getControlRoot()->getParentWindow();
     m_field = createNativeTextField(window->getWindowHandle()->native, settings, *this);
     if (!isEditing())
         stopEditing();
@@ -98,6 +97,14 @@ void CTextEdit::stopEditing() {
         windowRoot().lockControl(before);
     m_lockedBefore.freePointer();
     update();
+}
+
+bool CTextEdit::holdsNativeChild(void *child) const {
+    return isEditing() && m_field->getHandle() == child;
+}
+
+std::intptr_t CTextEdit::colourNativeChild(void *deviceContext) {
+    return m_field->colour(deviceContext);
 }
 
 CString CTextEdit::getEditedText() const {

@@ -3,6 +3,7 @@
 #include "platform/INativeTextField.h"
 #include "toolkit/controls/CTextLabel.h"
 #include "toolkit/events/IActionListener.h"
+#include "toolkit/events/INativeChildHolder.h"
 
 namespace Tessitor::GUI::Controls {
 
@@ -10,6 +11,7 @@ namespace Tessitor::GUI::Controls {
 /// takes the new text over and reports it; the escape key, or a loss of the focus, abandons it.
 class CTextEdit : public CTextLabel,
                   public Listeners::IActionListener,
+                  public Windowing::INativeChildHolder,
                   private INativeTextFieldListener {
 public:
     CTextEdit(IControlRoot *root, std::int32_t id, const MathTools::CRect &area,
@@ -22,6 +24,10 @@ public:
     /// Ends editing, and unless it has been cancelled, takes over the text and passes the event on
     /// to the listener. Does nothing if nothing is being edited.
     void handleActionEvent(const Events::CActionEvent &event) override;
+
+    // INativeChildHolder
+    bool holdsNativeChild(void *child) const override;
+    std::intptr_t colourNativeChild(void *deviceContext) override;
 
     // Settings for the next time that editing starts.
     /// @param isLimited  whether more than maximumLength bytes can be typed. Kept: without a limit,
@@ -40,6 +46,7 @@ public:
     virtual void setReservedFlag(bool isSet) { m_reservedFlag = isSet; }  ///< only stored
     bool getReservedFlag() const { return m_reservedFlag; }
     bool isEditing() const { return m_field != nullptr; }
+    const INativeTextField *getField() const { return m_field.get(); }  ///< null unless editing
 
 private:
     void handleTextFieldEnd(ENativeTextFieldEnd end) override;

@@ -17,7 +17,7 @@ protected:
     CTextEditTest() {
         field = {};
         window.setControlRoot(&root);
-        window.setWindowPosition({100, 200});
+        window.setWindowPosition({100, 200});  // does not matter
         window.getMutableWindowHandle()->native = &nativeWindow;
         root.addControl(edit);
     }
@@ -44,17 +44,19 @@ TEST_F(CTextEditTest, OpensAFieldOverItselfWhenPressed) {
     auto *font = new Tessitor::GUI::Fonts::CFont;
     edit->setFont(font);
     edit->setStyleBits(0x2000);
+    edit->setTextColour({1, 2, 3});
     press(15, 25);
     ASSERT_TRUE(field.isOpen);
     EXPECT_TRUE(edit->isEditing());
     EXPECT_EQ(root.getLockedControl(), edit);
     EXPECT_EQ(field.window, &nativeWindow);
-    EXPECT_EQ(field.settings.area.left, 110);
-    EXPECT_EQ(field.settings.area.top, 220);
-    EXPECT_EQ(field.settings.area.right, 140);
-    EXPECT_EQ(field.settings.area.bottom, 235);
+    EXPECT_EQ(field.settings.area.left, 10);
+    EXPECT_EQ(field.settings.area.top, 20);
+    EXPECT_EQ(field.settings.area.right, 40);
+    EXPECT_EQ(field.settings.area.bottom, 35);
     EXPECT_EQ(field.text, "old");
     EXPECT_EQ(field.settings.font, &font->getNativeFont());
+    EXPECT_EQ(field.settings.textColour, (SNativeColour{1, 2, 3}));
     EXPECT_EQ(field.settings.background, (SNativeColour{85, 86, 200}));
     EXPECT_EQ(field.settings.styleBits, 0x2000u);
     EXPECT_EQ(field.settings.maximumLength, 50);
@@ -157,10 +159,23 @@ TEST_F(CTextEditTest, LocksInTheRootOfTheWindow) {
     panel->addControl(inner);
     inner->handleLeftButtonDown(event);
     EXPECT_EQ(root.getLockedControl(), inner);
-    EXPECT_EQ(field.settings.area.left, 151);
-    EXPECT_EQ(field.settings.area.top, 252);
+    EXPECT_EQ(field.settings.area.left, 51);
+    EXPECT_EQ(field.settings.area.top, 52);
     field.end(ReturnKey);
     EXPECT_FALSE(root.controlIsLocked());
+}
+
+TEST_F(CTextEditTest, AnswersForTheColoursOfItsField) {
+    int context = 0, other = 0;
+    EXPECT_FALSE(edit->holdsNativeChild(&field));
+    press(15, 25);
+    EXPECT_TRUE(edit->holdsNativeChild(&field));
+    EXPECT_FALSE(edit->holdsNativeChild(&other));
+    EXPECT_EQ(edit->colourNativeChild(&context), 42);
+    EXPECT_EQ(field.deviceContext, &context);
+    field.end(EscapeKey);
+    EXPECT_FALSE(edit->holdsNativeChild(&field));
+    EXPECT_FALSE(edit->holdsNativeChild(nullptr));
 }
 
 TEST_F(CTextEditTest, LocksNothingIfThereIsNoField) {

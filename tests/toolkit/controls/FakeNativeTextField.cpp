@@ -8,6 +8,11 @@ class CFakeField : public INativeTextField {
 public:
     CFakeField() { fakeNativeTextField().isOpen = true; }
     ~CFakeField() override { fakeNativeTextField().isOpen = false; }
+    void *getHandle() const override { return &fakeNativeTextField(); }
+    std::intptr_t colour(void *deviceContext) override {
+        fakeNativeTextField().deviceContext = deviceContext;
+        return 42;
+    }
     void getText(char *buffer, std::int32_t size) const override {
         std::snprintf(buffer, static_cast<std::size_t>(size), "%s",
                       fakeNativeTextField().text.c_str());

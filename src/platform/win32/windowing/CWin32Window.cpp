@@ -2,7 +2,10 @@
 
 #include "platform/NativeModule.h"
 #include "platform/win32/drawing/IDeviceContext.h"
+#include "platform/win32/windowing/TiedPopup.h"
 #include "platform/win32/windowing/WindowClass.h"
+
+#include <utility>
 
 namespace {
 
@@ -59,7 +62,7 @@ LRESULT CALLBACK CWin32Window::procedure(HWND handle, UINT message, WPARAM wPara
 void CWin32Window::handleEnd() {
     SetWindowLongPtrA(m_handle, GWLP_USERDATA, 0);
     unhookWheel();
-    m_handle = nullptr;
+    destroyTiedPopup(std::exchange(m_handle, nullptr));
     if (m_reportsEnd)
         m_listener.handleNativeDestroyed();
 }
