@@ -9,4 +9,4 @@ scripts/build.sh linux graphics_bench
 build/linux/bin/graphics_bench --benchmark_repetitions=5 --benchmark_min_time=0.05 \
     --benchmark_enable_random_interleaving=true --benchmark_out=build/drawing.json \
     --benchmark_out_format=json > build/drawing.log 2>&1 || { cat build/drawing.log >&2; exit 1; }
-bench/drawing.py build/drawing.json
+bench/sides.py build/drawing.json
