@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # setup.sh [run|test|lint|figures|fuzz]: installs missing packages with apt. "run" is what building and
 # running need. The others add to it: "test" (the default) what the tests need, "lint" what the tests
-# and scripts/lint.sh need, "figures" what draws the pictures of the documentation, "fuzz" what the
-# fuzzers need. Prints nothing if no package is missing.
+# and scripts/lint.sh need, "figures" what draws the pictures of the documentation and the editor,
+# "fuzz" what the fuzzers need. Prints nothing if no package is missing.
 set -euo pipefail
 
 run_packages=(
@@ -21,10 +21,11 @@ test_packages=(
     wine wine64 xvfb xauth                              # run the Windows tests
     fonts-liberation                                    # the face of the text in the tests
     openbox libxcb-cursor0                              # a window manager and cursor themes for them
+    python3-cairo                                       # draws the pictures of the editor, to compare
 )
 # Each version formats and warns in its own way, so these are pinned.
 lint_packages=(clang-format-14 clang-tidy-14 shellcheck pyflakes3)
-figures_packages=(python3-matplotlib python3-soundfile)
+figures_packages=(python3-matplotlib python3-soundfile python3-cairo)
 fuzz_packages=(clang-14 libclang-rt-14-dev)  # libFuzzer and the sanitizers that go with it
 
 packages=("${run_packages[@]}")

@@ -15,7 +15,7 @@ void CCountedObject::dereference() {
 void CCountedObject::getObjectDescription(char *array, long size) const {
     char text[1024];
     std::snprintf(text, sizeof text, "[CCounted Object Base Reference Count = %li",
-                  static_cast<long>(m_referenceCount));
+                  static_cast<long>(getReferenceCount()));
     if (array != nullptr && size > 0)
         std::strncpy(array, text, static_cast<std::size_t>(size));
 }

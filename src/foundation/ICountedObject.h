@@ -7,8 +7,7 @@ namespace Tessitor::Basics {
 class CClass;
 
 /// The interface of every object of the library. Whoever keeps an object calls reference(), and
-/// dereference() when done with it. The count is a plain integer, so an object must not be
-/// referenced or released on two threads at once.
+/// dereference() when done with it.
 class ICountedObject {
 public:
     virtual ~ICountedObject() = default;

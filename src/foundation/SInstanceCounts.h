@@ -1,20 +1,21 @@
 #pragma once
 
+#include <atomic>
 #include <cstdint>
 
 namespace Tessitor::Basics {
 
-/// How many instances a class has, and how many it ever had. The counts are plain integers: below
-/// zero they wrap, and two threads that count at once race.
+/// How many instances a class has, and how many it ever had. Below zero the counts wrap. [any
+/// thread]
 struct SInstanceCounts {
-    std::uint32_t instances = 0;  // live now
-    std::uint32_t total = 0;      // ever constructed
+    std::atomic<std::uint32_t> instances = 0;  // live now
+    std::atomic<std::uint32_t> total = 0;      // ever constructed
 
-    constexpr void increment() {
-        ++instances;
-        ++total;
+    void increment() {
+        instances.fetch_add(1, std::memory_order_relaxed);
+        total.fetch_add(1, std::memory_order_relaxed);
     }
-    constexpr void decrement() { --instances; }
+    void decrement() { instances.fetch_sub(1, std::memory_order_relaxed); }
 };
 
 }  // namespace Tessitor::Basics

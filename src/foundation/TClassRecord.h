@@ -29,8 +29,8 @@ namespace Tessitor::Basics {
 /// Static objects of different files are constructed and destroyed in no fixed order, so an
 /// instance may be constructed before its record and outlive it. The counts are therefore kept
 /// outside the record: they exist before the first constructor of the program runs and are never
-/// destroyed. They are plain integers, so the instances of a class must be created and destroyed by
-/// one thread at a time. The audio thread creates none.
+/// destroyed. Instances may be created and destroyed on several threads at once: a host may draw
+/// the editor of one effect while it creates another.
 template <typename Owner>
 class TClassRecord : public CClass {
 public:

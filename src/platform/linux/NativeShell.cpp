@@ -2,8 +2,10 @@
 
 #include <cerrno>
 #include <spawn.h>
+#include <string_view>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <vector>
 
 namespace {
 
@@ -18,6 +20,16 @@ int waitFor(pid_t process) {
     return status;
 }
 
+// Ardour 7.3 sets LD_LIBRARY_PATH to its own libraries, which may not suit other programs.
+std::vector<char *> environmentWithoutLibraryPath() {
+    std::vector<char *> kept;
+    for (char **variable = environ; *variable != nullptr; ++variable)
+        if (!std::string_view(*variable).starts_with("LD_LIBRARY_PATH="))
+            kept.push_back(*variable);
+    kept.push_back(nullptr);
+    return kept;
+}
+
 }  // namespace
 
 bool openNativeDocument(const std::string &document) {
@@ -30,8 +42,9 @@ bool openNativeDocument(const std::string &document) {
         return false;
     posix_spawn_file_actions_addclosefrom_np(&actions, STDERR_FILENO + 1);
     pid_t shell = 0;
-    const int failed = posix_spawn(&shell, "/bin/sh", &actions, nullptr,
-                                   const_cast<char *const *>(arguments), environ);
+    const int failed =
+        posix_spawn(&shell, "/bin/sh", &actions, nullptr, const_cast<char *const *>(arguments),
+                    environmentWithoutLibraryPath().data());
     posix_spawn_file_actions_destroy(&actions);
     return failed == 0 && waitFor(shell) == 0;
 }

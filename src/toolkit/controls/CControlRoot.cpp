@@ -50,6 +50,14 @@ void CControlRoot::setParentWindow(Windowing::IWindow *window) {
     m_parentWindow = checked(window);
 }
 
+// Unlocking a panel unlocks the roots above it.
+void CControlRoot::unlockAll() {
+    if (auto *panel = dynamic_cast<CControlRoot *>(getLockedControl()))
+        panel->unlockAll();
+    else
+        unlockControl();
+}
+
 // Modal control
 
 void CControlRoot::setModalControl(IControl *control) {

@@ -42,6 +42,8 @@ public:
     void unlockControl() override { m_lockedControl.freePointer(); }
     bool controlIsLocked() const override { return getLockedControl() != nullptr; }
     IControl *getLockedControl() const override { return m_lockedControl.getPointer(); }
+    /// Unlocks all roots down to the control that has the mouse, without telling that control.
+    void unlockAll();
     void setModalControl(IControl *control) override;
     void clearModalControl() override;
     IControl *getModalControl() const override { return m_modalControl.getPointer(); }

@@ -56,6 +56,8 @@ void CKnob::handleLeftButtonDown(CMouseEvent &event) {
 }
 
 void CKnob::handleMouseMovement(CMouseEvent &event) {
+    // A window that is closed during a drag takes the mouse away.
+    m_isDragging = m_isDragging && getControlRoot()->getLockedControl() == this;
     if (!m_isDragging)
         return;
     CPoint distance = event.getMousePosition();

@@ -4,6 +4,7 @@
 #include "foundation/TClassRecord.h"
 #include "toolkit/graphics/IImage.h"
 
+#include <atomic>
 #include <memory>
 
 namespace Tessitor::GUI::Graphics {
@@ -51,7 +52,7 @@ private:
     static Tessitor::Basics::TClassRecord<CBaseImage> s_class;
 
     bool m_hasAlpha;
-    std::int32_t m_referenceCount = 0;
+    std::atomic<std::int32_t> m_referenceCount = 0;
     MathTools::CDimension m_size;
     MathTools::CRect m_area;
     Tessitor::Basics::CSystemString m_filename;

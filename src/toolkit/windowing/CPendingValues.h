@@ -6,8 +6,9 @@
 
 namespace Tessitor::Vst {
 
-/// Values of parameters that wait until a window can show them: one place per parameter, which
-/// holds the last value. Nothing here locks or waits, and only the constructor allocates.
+/// The parameters whose values wait until a window can show them. Nothing here locks or waits, and
+/// only the constructor allocates. No value is kept: two threads that set a parameter at the same
+/// time may report in the wrong order, so what to show is the present value of the effect.
 class CPendingValues {
 public:
     /// @param size  the ids are 0 to size - 1; all others are ignored.
@@ -15,22 +16,20 @@ public:
     CPendingValues(const CPendingValues &) = delete;
     CPendingValues &operator=(const CPendingValues &) = delete;
 
-    /// [any thread] Replaces the parameter's waiting value.
-    void put(long id, double value);
-    /// [any thread] Forgets the parameter's waiting value.
-    void discard(long id);
+    /// [any thread] Call it after the effect has stored the value.
+    void put(long id);
 
-    /// Calls show(id, value) for each value that is waiting now, in order of the ids. The value is
-    /// then gone, even if the call throws. One that is put during this call may wait for the next;
-    /// it is never lost. [one thread at a time]
+    /// Calls show(id) for each parameter that is waiting now, in order of the ids. It then waits no
+    /// longer, even if the call throws. One that is put during this call may wait for the next; it
+    /// is never lost. [one thread at a time]
     template <typename Show>
     void take(Show show);
 
 private:
     static constexpr long idsPerWord = 64;
 
-    /// @return true if a value was waiting. It may be read from now on: a later one sets the bit
-    ///         again.
+    /// @return true if the parameter was waiting. Its value may be read from now on: a later one
+    ///         sets the bit again.
     bool clear(long id) {
         return (wordOf(id).fetch_and(~bitOf(id), std::memory_order_acquire) & bitOf(id)) != 0;
     }
@@ -40,9 +39,7 @@ private:
     static std::uint64_t bitOf(long id) { return std::uint64_t{1} << (id % idsPerWord); }
 
     long m_size;
-    std::unique_ptr<std::atomic<double>[]> m_values;
-    std::unique_ptr<std::atomic<std::uint64_t>[]> m_waiting;  // a bit per id, set after its value
-    static_assert(std::atomic<double>::is_always_lock_free);
+    std::unique_ptr<std::atomic<std::uint64_t>[]> m_waiting;  // a bit per id
     static_assert(std::atomic<std::uint64_t>::is_always_lock_free);
 };
 
@@ -55,7 +52,7 @@ void CPendingValues::take(Show show) {
             continue;
         for (long id = first; id < m_size && id < first + idsPerWord; ++id)
             if (clear(id))
-                show(id, m_values[id].load(std::memory_order_relaxed));
+                show(id);
     }
 }
 

@@ -88,8 +88,10 @@ void CVstWindow::idle() {
     if (isOpenOnAnotherThread() || !pumpWindow())
         return;
     const std::unique_lock lock(m_mutex, std::try_to_lock);
-    if (lock.owns_lock() && !isOpenOnAnotherThread())
-        showPendingValues();
+    if (!lock.owns_lock() || isOpenOnAnotherThread())
+        return;
+    showPendingValues();
+    handleIdle();
 }
 
 // Parameters
@@ -98,7 +100,7 @@ void CVstWindow::handleParameterChange(long id, double value) {
     if (isOpenOnThisThread())
         showAtOnce(id, value);
     else if (!showWhileClosed(id, value))
-        m_pendingValues.put(id, value);
+        m_pendingValues.put(id);
 }
 
 bool CVstWindow::showWhileClosed(long id, double value) {
@@ -120,7 +122,6 @@ bool CVstWindow::isOpenOnAnotherThread() const {
 }
 
 void CVstWindow::showAtOnce(long id, double value) {
-    m_pendingValues.discard(id);  // it is older
     if (!getIsEditing())
         show(id, value);
 }
@@ -135,7 +136,7 @@ void CVstWindow::show(long id, double value) {
 }
 
 void CVstWindow::showPendingValues() {
-    m_pendingValues.take([this](long id, double value) { show(id, value); });
+    m_pendingValues.take([this](long id) { show(id, effect->getParameter(static_cast<int>(id))); });
 }
 
 void CVstWindow::redrawWindow() {

@@ -48,10 +48,12 @@ public:
     virtual void redraw() { redrawWindow(); }
     /// For the effect to call whenever a parameter has changed. Leads to setParameter(): at once on
     /// the GUI thread while the window is open, and on the thread that created the window while it
-    /// is closed and no other thread is just opening it; otherwise at the next idle() or open().
-    /// While getIsEditing(), what changes at once is not shown, since the editor knows it.
+    /// is closed and no other thread is just opening it; otherwise at the next idle() or open(),
+    /// with the value that the effect then has. While getIsEditing(), what changes at once is not
+    /// shown, since the editor knows it.
     ///
     /// [any thread] Never waits. Threads other than these two take no lock and allocate nothing.
+    /// @param value  the effect must have stored it.
     void handleParameterChange(long id, double value);
     /// Shows a value. Called with the controls at its disposal; see handleParameterChange().
     virtual void setParameter(long id, double value) = 0;
@@ -63,6 +65,8 @@ protected:
     virtual void attachToParent(void *parent);
     virtual void makeWindow();  ///< creates and shows the native window
     virtual void detachFromParent();
+    /// Called at the end of idle(), with the controls at its disposal.
+    virtual void handleIdle() {}
 
 private:
     using ThreadNumber = std::uintptr_t;  // see NativeThread.h

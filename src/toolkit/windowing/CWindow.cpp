@@ -17,9 +17,13 @@ using Tessitor::Basics::CApplicationInformation;
 Tessitor::Basics::TClassRecord<CWindow> CWindow::s_class("CWindow", "IWindow");
 
 CWindow::CWindow(const CRect &rect)
+    : CWindow(rect,
+              [](IWindow *window) { return std::make_unique<Controls::CControlRoot>(window); }) {}
+
+CWindow::CWindow(const CRect &rect, const RootFactory &createRoot)
     : m_attributes(std::make_unique<CWindowAttributes>()),
       m_size(rect.getWidth(), rect.getHeight()), m_position(rect.getLeft(), rect.getTop()),
-      m_rect(rect), m_parts(std::make_shared<SWindowParts>(this)) {
+      m_rect(rect), m_parts(std::make_shared<SWindowParts>(createRoot(this))) {
     m_mouseListener = m_parts->root.get();
     m_dropFileListener = m_parts->root.get();
     m_keyboardListener = m_parts->root.get();
@@ -115,6 +119,7 @@ void CWindow::uninitialiseWindow() {
     m_native->unhookWheel();
     std::unique_ptr<INativeWindow> native = std::move(m_native);
     native.reset();
+    held->root->unlockAll();
     held->handle.native = nullptr;
 }
 

@@ -9,6 +9,8 @@
 #include "toolkit/windowing/IToolTipSupportingWindow.h"
 #include "toolkit/windowing/SWindowParts.h"
 
+#include <functional>
+
 namespace Tessitor::GUI::Windowing {
 
 /// A window with controls. At first its control root is the listener for mouse, keys and dropped
@@ -104,6 +106,10 @@ public:
     Controls::IControl *getToolTip() const override { return m_toolTip; }
 
 protected:
+    using RootFactory = std::function<std::unique_ptr<Controls::CControlRoot>(IWindow *)>;
+    /// For a window with a control root of its own kind.
+    CWindow(const MathTools::CRect &rect, const RootFactory &createRoot);
+
     /// The result of a message; empty for what the system does by default.
     using Result = std::optional<std::intptr_t>;
 
@@ -136,7 +142,8 @@ private:
     Result handleMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lParam) override;
     void handleTimer(int id) override;
     void handleNativeDestroyed() override;
-    void handleException(SWindowParts &parts);
+    /// @param window  may be deleted already, as the parts tell.
+    static void handleException(CWindow *window, SWindowParts &parts);
 
     Result handleMouse(unsigned message, std::uintptr_t wParam, std::intptr_t lParam);
     Result handleButtonDown(unsigned message, std::intptr_t lParam, MouseHandler handler);

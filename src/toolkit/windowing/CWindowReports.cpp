@@ -6,11 +6,11 @@ namespace Tessitor::GUI::Windowing {
 
 // Ends a drag that is in progress. The mouse may be captured by another window, even one of the
 // host.
-void CWindow::handleException(SWindowParts &parts) {
+void CWindow::handleException(CWindow *window, SWindowParts &parts) {
     Exceptions::traceCaughtException("Caught an exception in a window");
-    if (!parts.isWindowGone() && parts.mouse.isCapturedBy(this))
+    if (!parts.isWindowGone() && parts.mouse.isCapturedBy(window))
         parts.mouse.releaseMouse();
-    parts.root->unlockControl();
+    parts.root->unlockAll();
 }
 
 CWindow::Result CWindow::handleMessage(unsigned message, std::uintptr_t wParam,
@@ -19,7 +19,7 @@ CWindow::Result CWindow::handleMessage(unsigned message, std::uintptr_t wParam,
     try {
         return windowProcess(message, wParam, lParam);
     } catch (...) {
-        handleException(*held);
+        handleException(this, *held);
         return 0;
     }
 }
@@ -29,7 +29,7 @@ void CWindow::handleTimer(int id) {
     try {
         timerEvent(id);
     } catch (...) {
-        handleException(*held);
+        handleException(this, *held);
     }
 }
 
@@ -38,8 +38,9 @@ void CWindow::handleNativeDestroyed() {
     try {
         windowDestroying();
     } catch (...) {
-        handleException(*held);
+        handleException(this, *held);
     }
+    held->root->unlockAll();
     held->timedObjects.clearArray();
     held->handle.native = nullptr;
     m_native.reset();

@@ -17,8 +17,8 @@ namespace Tessitor::GUI::Windowing {
 /// What the code that handles a message uses. The window shares it with each message in progress,
 /// so that a handler may delete the window.
 struct SWindowParts {
-    explicit SWindowParts(IWindow *window)
-        : root(std::make_unique<Controls::CControlRoot>(window)) {}
+    explicit SWindowParts(std::unique_ptr<Controls::CControlRoot> windowRoot)
+        : root(std::move(windowRoot)) {}
 
     /// Gives the controls another window, which does nothing, because theirs is being deleted.
     void replaceWindow(std::unique_ptr<IWindow> window);

@@ -17,9 +17,9 @@ public:
         if (pipe(ready) != 0)
             throw std::runtime_error("no pipe");
         const std::string descriptor = std::to_string(ready[1]);
-        const char *const arguments[] = {"Xvfb",      "-displayfd", descriptor.c_str(),
-                                         "-screen",   "0",          screen,
-                                         "-nolisten", "tcp", "-noreset",  nullptr};
+        const char *const arguments[] = {"Xvfb",     "-displayfd", descriptor.c_str(), "-screen",
+                                         "0",        screen,       "-nolisten",        "tcp",
+                                         "-noreset", nullptr};
         const int failed = posix_spawnp(&m_server, "Xvfb", nullptr, nullptr,
                                         const_cast<char *const *>(arguments), environ);
         close(ready[1]);
@@ -45,6 +45,12 @@ public:
 
     /// Ends the server without giving it time to tell its clients.
     void crash() { stop(SIGKILL); }
+    /// Makes the server do nothing until it is resumed.
+    void pause() const {
+        kill(m_server, SIGSTOP);
+        waitpid(m_server, nullptr, WUNTRACED);
+    }
+    void resume() const { kill(m_server, SIGCONT); }
 
 private:
     void stop(int signal = SIGTERM) {

@@ -16,7 +16,7 @@ namespace fs = std::filesystem;
 namespace {
 
 /// Puts a fake xdg-open on the path. It writes to a pipe: the number of its arguments, the first
-/// argument, and whether it has inherited file 100, "open" or "closed".
+/// argument, whether it has inherited file 100, "open" or "closed", and its LD_LIBRARY_PATH.
 class NativeShell : public testing::Test {
 protected:
     void SetUp() override {
@@ -24,7 +24,8 @@ protected:
         std::ofstream(folder / "xdg-open")
             << "#!/bin/sh\n"
             << "[ -e /proc/$$/fd/100 ] && file=open || file=closed\n"
-            << "printf '%s|%s|%s' \"$#\" \"$1\" \"$file\" > " << (folder / "call") << "\n";
+            << "printf '%s|%s|%s|%s' \"$#\" \"$1\" \"$file\" \"$LD_LIBRARY_PATH\" > "
+            << (folder / "call") << "\n";
         fs::permissions(folder / "xdg-open", fs::perms::owner_all);
         path = std::getenv("PATH");
         setenv("PATH", folder.path().c_str(), 1);
@@ -44,14 +45,14 @@ protected:
 
 TEST_F(NativeShell, PassesTheDocumentAsOneArgument) {
     ASSERT_TRUE(openNativeDocument("http://here/a b?c='d'&e=\"$f\""));
-    EXPECT_EQ(call(), "1|http://here/a b?c='d'&e=\"$f\"|closed");
+    EXPECT_EQ(call(), "1|http://here/a b?c='d'&e=\"$f\"|closed|");
 }
 
 TEST_F(NativeShell, LeavesNoChildProcess) {
     ASSERT_TRUE(openNativeDocument("help.htm"));
     EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1);
     EXPECT_EQ(errno, ECHILD);
-    EXPECT_EQ(call(), "1|help.htm|closed");
+    EXPECT_EQ(call(), "1|help.htm|closed|");
 }
 
 TEST_F(NativeShell, PassesOnNoOpenFile) {
@@ -59,7 +60,15 @@ TEST_F(NativeShell, PassesOnNoOpenFile) {
     const bool opened = openNativeDocument("help.htm");
     close(100);
     ASSERT_TRUE(opened);
-    EXPECT_EQ(call(), "1|help.htm|closed");
+    EXPECT_EQ(call(), "1|help.htm|closed|");
+}
+
+TEST_F(NativeShell, DoesNotPassOnTheLibraryPathOfTheHost) {
+    setenv("LD_LIBRARY_PATH", "/usr/lib/host", 1);
+    const bool opened = openNativeDocument("help.htm");
+    unsetenv("LD_LIBRARY_PATH");
+    ASSERT_TRUE(opened);
+    EXPECT_EQ(call(), "1|help.htm|closed|");
 }
 
 }  // namespace

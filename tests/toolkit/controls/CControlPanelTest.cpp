@@ -119,6 +119,15 @@ TEST_F(CControlPanelNested, LocksTheChainOfRootsUpToTheWindow) {
     EXPECT_FALSE(root.controlIsLocked());
 }
 
+TEST_F(CControlPanelNested, IsUnlockedWithAllOthersFromTheTop) {
+    inner->lockControl(control);
+    root.unlockAll();
+    EXPECT_FALSE(inner->controlIsLocked());
+    EXPECT_FALSE(outer->controlIsLocked());
+    EXPECT_FALSE(root.controlIsLocked());
+    root.unlockAll();
+}
+
 TEST_F(CControlPanelNested, RestrictsOnlyItselfWithAModalControl) {
     CSpyControl *modal = add(*inner, "modal", CRect(50, 50, 10, 10));
     CSpyControl *outside = add(root, "outside", CRect(300, 0, 10, 10));

@@ -51,6 +51,14 @@ TEST_F(CKnobDrag, DoesNotMoveWithoutAPress) {
     EXPECT_EQ(knob->getValue(), 0.0);
 }
 
+TEST_F(CKnobDrag, EndsWhenTheMouseIsTakenAway) {
+    press(20, 20);
+    root.unlockAll();
+    move(25, 20);
+    EXPECT_FALSE(knob->isDragging());
+    EXPECT_THAT(actions.take(), IsEmpty());
+}
+
 TEST_F(CKnobDrag, LocksTheMouseAndReportsNothingWhenPressedAndReleased) {
     press(20, 20);
     EXPECT_TRUE(knob->isDragging());

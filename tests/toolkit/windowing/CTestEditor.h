@@ -15,6 +15,8 @@ public:
     std::function<void()> onShow;        // called after each note
     std::function<void()> onAttach;      // called when the editor starts to open
     std::function<void()> onWindowMade;  // called once the native window exists
+    int idles = 0;                       // calls of handleIdle()
+    std::size_t shownBeforeIdle = 0;     // notes at the last one
 
     EventLog takeShown() { return std::exchange(shown, {}); }
 
@@ -30,6 +32,10 @@ protected:
         if (onAttach)
             onAttach();
         CVstWindow::attachToParent(parent);
+    }
+    void handleIdle() override {
+        ++idles;
+        shownBeforeIdle = shown.size();
     }
     void windowCreated() override {
         if (onWindowMade)

@@ -2,7 +2,7 @@
 #include "CTestEditor.h"
 #include "hostlayer/ProbeEffect.h"
 
-#include <atomic>
+#include <array>
 #include <future>
 #include <memory>
 #include <stdexcept>
@@ -17,16 +17,28 @@ void onAnotherThread(const std::function<void()> &action) {
     std::thread(action).join();
 }
 
+/// An effect with two values.
+class CEffectWithValues : public ProbeEffect {
+public:
+    float getParameter(int index) override { return values.at(static_cast<std::size_t>(index)); }
+
+    std::array<float, 2> values{};
+};
+
 /// An editor of two parameters that this thread has created.
 class CVstWindowThreads : public testing::Test {
 protected:
     CVstWindowThreads() { fakeNatives() = SFakeNatives(); }
 
-    void setElsewhere(long id, double value) {
-        onAnotherThread([=, this] { editor->handleParameterChange(id, value); });
+    void change(int id, float value) {
+        effect.values.at(static_cast<std::size_t>(id)) = value;
+        editor->handleParameterChange(id, value);
+    }
+    void setElsewhere(int id, float value) {
+        onAnotherThread([=, this] { change(id, value); });
     }
 
-    ProbeEffect effect;
+    CEffectWithValues effect;
     CTestEditor *editor = new CTestEditor(&effect);  // owned by the effect
     int host = 0;
 };
@@ -34,26 +46,26 @@ protected:
 TEST_F(CVstWindowThreads, ShowAtOnceWhatTheGuiThreadSets) {
     onAnotherThread([this] {
         editor->open(&host);
-        editor->handleParameterChange(1, 0.5);
+        change(1, 0.5f);
         EXPECT_THAT(editor->takeShown(), ElementsAre("1=0.500000"));
         editor->close();
     });
 }
 
 TEST_F(CVstWindowThreads, ShowAtOnceWhatTheCreatorSetsWhileTheWindowIsClosed) {
-    editor->handleParameterChange(1, 0.5);
+    change(1, 0.5f);
     EXPECT_THAT(editor->takeShown(), ElementsAre("1=0.500000"));
     editor->open(&host);
     editor->close();
-    editor->handleParameterChange(0, 0.25);
+    change(0, 0.25f);
     EXPECT_THAT(editor->takeShown(), ElementsAre("0=0.250000"));
 }
 
 TEST_F(CVstWindowThreads, ShowWhatOthersSetAtTheNextIdle) {
     editor->open(&host);
-    setElsewhere(1, 0.25);
-    setElsewhere(1, 0.5);
-    setElsewhere(0, 1.0);
+    setElsewhere(1, 0.25f);
+    setElsewhere(1, 0.5f);
+    setElsewhere(0, 1.0f);
     EXPECT_THAT(editor->shown, IsEmpty());
     editor->idle();
     EXPECT_THAT(editor->takeShown(), ElementsAre("0=1.000000", "1=0.500000"));
@@ -73,13 +85,13 @@ TEST_F(CVstWindowThreads, ShowWhatTheCreatorSetsAtTheNextIdleIfAnotherHasOpenedT
         editor->close();
     });
     opened.get_future().wait();
-    editor->handleParameterChange(1, 0.5);
+    change(1, 0.5f);
     set.set_value();
     gui.join();
 }
 
 TEST_F(CVstWindowThreads, ShowWhatOthersSetBeforeTheWindowIsCreated) {
-    setElsewhere(1, 0.5);
+    setElsewhere(1, 0.5f);
     EXPECT_THAT(editor->shown, IsEmpty());
     editor->onShow = [] { fakeNatives().log.emplace_back("shown"); };
     editor->open(&host);
@@ -88,7 +100,7 @@ TEST_F(CVstWindowThreads, ShowWhatOthersSetBeforeTheWindowIsCreated) {
 }
 
 TEST_F(CVstWindowThreads, ShowWhatOthersSetWhenAClosedEditorIdles) {
-    setElsewhere(1, 0.5);
+    setElsewhere(1, 0.5f);
     editor->idle();
     EXPECT_THAT(editor->shown, ElementsAre("1=0.500000"));
 }
@@ -105,38 +117,48 @@ TEST_F(CVstWindowThreads, DoNotWaitForAnotherThatOpensTheWindow) {
         editor->close();
     });
     opening.get_future().wait();
-    editor->handleParameterChange(1, 0.5);
+    change(1, 0.5f);
     EXPECT_THAT(editor->shown, IsEmpty());
     set.set_value();
     gui.join();
 }
 
 TEST_F(CVstWindowThreads, MayChangeParametersFromTheHandlersOfAnOpening) {
-    editor->onAttach = [this] { editor->handleParameterChange(0, 0.25); };
-    editor->onWindowMade = [this] { editor->handleParameterChange(1, 0.5); };
+    editor->onAttach = [this] { change(0, 0.25f); };
+    editor->onWindowMade = [this] { change(1, 0.5f); };
     editor->open(&host);
     EXPECT_THAT(editor->shown, ElementsAre("0=0.250000", "1=0.500000"));
 }
 
 TEST_F(CVstWindowThreads, ShowNoOlderValueAfterANewerOne) {
-    setElsewhere(0, 0.25);
-    setElsewhere(1, 0.25);
-    editor->handleParameterChange(1, 0.5);
+    setElsewhere(1, 0.25f);
+    change(1, 0.5f);
     editor->open(&host);
-    EXPECT_THAT(editor->takeShown(), ElementsAre("1=0.500000", "0=0.250000"));
-    setElsewhere(0, 0.25);
-    setElsewhere(1, 0.25);
-    editor->handleParameterChange(1, 0.75);
+    EXPECT_THAT(editor->takeShown(), ElementsAre("1=0.500000", "1=0.500000"));
+    setElsewhere(1, 0.25f);
+    change(1, 0.75f);
     editor->idle();
-    EXPECT_THAT(editor->takeShown(), ElementsAre("1=0.750000", "0=0.250000"));
+    EXPECT_THAT(editor->takeShown(), ElementsAre("1=0.750000", "1=0.750000"));
+}
+
+// Of two threads that set a parameter, the first to store may be the last to report.
+TEST_F(CVstWindowThreads, ShowWhatTheEffectHasIfReportsComeInTheWrongOrder) {
+    editor->open(&host);
+    effect.values[1] = 0.75f;
+    onAnotherThread([this] { editor->handleParameterChange(1, 0.25); });
+    editor->idle();
+    EXPECT_THAT(editor->takeShown(), ElementsAre("1=0.750000"));
+    onAnotherThread([this] { editor->handleParameterChange(1, 0.75); });
+    editor->handleParameterChange(1, 0.25);
+    editor->idle();
+    EXPECT_THAT(editor->takeShown(), ElementsAre("1=0.250000", "1=0.750000"));
 }
 
 TEST_F(CVstWindowThreads, DoNotShowTheEditorItsOwnChanges) {
     editor->open(&host);
-    setElsewhere(0, 0.25);
     editor->setIsEditing(true);
-    editor->handleParameterChange(0, 0.5);
-    setElsewhere(1, 1.0);
+    change(0, 0.5f);
+    setElsewhere(1, 1.0f);
     editor->setIsEditing(false);
     editor->idle();
     EXPECT_THAT(editor->shown, ElementsAre("1=1.000000"));
@@ -171,12 +193,12 @@ TEST_F(CVstWindowThreads, DoNotAllocateUnlessTheyMayShowTheValue) {
 
 TEST_F(CVstWindowThreads, SurviveAValueThatCannotBeShown) {
     editor->onShow = [] { throw std::runtime_error("cannot be shown"); };
-    editor->handleParameterChange(0, 0.5);
-    setElsewhere(0, 0.25);
-    setElsewhere(1, 0.25);
+    change(0, 0.5f);
+    setElsewhere(0, 0.25f);
+    setElsewhere(1, 0.25f);
     EXPECT_TRUE(editor->open(&host));
-    editor->handleParameterChange(1, 0.5);
-    setElsewhere(0, 0.75);
+    change(1, 0.5f);
+    setElsewhere(0, 0.75f);
     editor->idle();
     EXPECT_THAT(editor->shown,
                 ElementsAre("0=0.500000", "0=0.250000", "1=0.250000", "1=0.500000", "0=0.750000"));
@@ -184,9 +206,21 @@ TEST_F(CVstWindowThreads, SurviveAValueThatCannotBeShown) {
 
 // Idling
 
+TEST_F(CVstWindowThreads, LetTheEditorActAtTheEndOfIdle) {
+    setElsewhere(1, 0.5f);
+    editor->idle();
+    EXPECT_EQ(editor->idles, 1);
+    EXPECT_EQ(editor->shownBeforeIdle, 1u);
+    editor->open(&host);
+    onAnotherThread([this] { editor->idle(); });
+    EXPECT_EQ(editor->idles, 1);
+    editor->idle();
+    EXPECT_EQ(editor->idles, 2);
+}
+
 TEST_F(CVstWindowThreads, PumpBeforeTheyShowValues) {
     editor->open(&host);
-    setElsewhere(1, 0.5);
+    setElsewhere(1, 0.5f);
     fakeNatives().takeLog();
     editor->onShow = [] { fakeNatives().log.emplace_back("shown"); };
     editor->idle();
@@ -199,7 +233,7 @@ TEST_F(CVstWindowThreads, PumpBeforeTheyShowValues) {
 
 TEST_F(CVstWindowThreads, IdleOnlyOnTheGuiThread) {
     editor->open(&host);
-    setElsewhere(1, 0.5);
+    setElsewhere(1, 0.5f);
     fakeNatives().takeLog();
     onAnotherThread([this] { editor->idle(); });
     EXPECT_THAT(fakeNatives().takeLog(), IsEmpty());
@@ -208,7 +242,7 @@ TEST_F(CVstWindowThreads, IdleOnlyOnTheGuiThread) {
 
 TEST_F(CVstWindowThreads, MayCloseTheEditorWhileItIsPumped) {
     editor->open(&host);
-    setElsewhere(1, 0.5);
+    setElsewhere(1, 0.5f);
     fakeNatives().onPump = [this](INativeWindowListener &) { editor->close(); };
     editor->idle();
     EXPECT_FALSE(editor->isOpen());
@@ -217,7 +251,7 @@ TEST_F(CVstWindowThreads, MayCloseTheEditorWhileItIsPumped) {
 
 TEST_F(CVstWindowThreads, MayLoseTheNativeWindowWhileItIsPumped) {
     editor->open(&host);
-    setElsewhere(1, 0.5);
+    setElsewhere(1, 0.5f);
     fakeNatives().onPump = [](INativeWindowListener &listener) {
         listener.handleNativeDestroyed();
     };
@@ -231,7 +265,7 @@ TEST_F(CVstWindowThreads, MayLoseTheNativeWindowWhileItIsPumped) {
 
 TEST_F(CVstWindowThreads, MayDeleteTheEditorWhileItIsPumped) {
     editor->open(&host);
-    setElsewhere(1, 0.5);
+    setElsewhere(1, 0.5f);
     fakeNatives().onPump = [this](INativeWindowListener &) { delete editor; };
     editor->idle();
     EXPECT_EQ(effect.getEditor(), nullptr);

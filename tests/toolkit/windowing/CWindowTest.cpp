@@ -128,6 +128,19 @@ TEST_F(CWindow, CanBeCreatedAgain) {
     EXPECT_EQ(window->getWindowHandle()->native, native().getHandle());
 }
 
+TEST_F(CWindow, ADragEndsWithTheNativeWindow) {
+    CSpyControl *control = addControl(CRect(0, 0, 100, 50));
+    for (const bool isOurs : {true, false}) {
+        create();
+        window->getControlRoot()->lockControl(control);
+        if (isOurs)
+            window->destroyWindow();
+        else
+            native().listener.handleNativeDestroyed();
+        EXPECT_FALSE(window->getControlRoot()->controlIsLocked());
+    }
+}
+
 TEST_F(CWindow, ItsDestructorDestroysTheNativeWindow) {
     create();
     deleteWindow();

@@ -6,6 +6,8 @@
 
 namespace {
 
+// A socket of Linux has room for twice as much when it reports that it can be written to.
+constexpr std::size_t stripBytes = 65536;
 constexpr std::size_t requestHead = 32;  // bytes of a request beside its image, generously
 
 /// @return null if the server has no images of this depth.
@@ -75,6 +77,11 @@ void CXcbCanvas::take(const xcb_visualtype_t &visual, std::uint8_t depth) {
     m_format.emplace(layout);
     m_visual = visual.visual_id;
     m_depth = depth;
+}
+
+std::int64_t CXcbCanvas::rowsOfStrip(std::int64_t width) const {
+    const std::size_t rowBytes = m_format->bytesOfRow(static_cast<std::int32_t>(width));
+    return std::max<std::int64_t>(1, static_cast<std::int64_t>(stripBytes / rowBytes));
 }
 
 std::optional<unsigned> CXcbCanvas::put(xcb_window_t window, const SSource &picture,

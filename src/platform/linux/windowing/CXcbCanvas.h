@@ -20,6 +20,9 @@ public:
     xcb_visualid_t getVisual() const { return m_visual; }
     xcb_colormap_t getColourMap() const { return m_colourMap; }
 
+    /// @return how many rows of a part that is so wide should be sent at once: as much as a server
+    ///         that takes anything takes without making us wait.
+    std::int64_t rowsOfStrip(std::int64_t width) const;
     /// Sends a part of a picture to the same place of a window.
     /// @param area  inside the picture.
     /// @return the number of the first request; nothing if the area is empty.

@@ -11,7 +11,9 @@
 #include "platform/linux/windowing/CXcbWindow.h"
 
 #include <algorithm>
+#include <chrono>
 #include <mutex>
+#include <poll.h>
 #include <thread>
 #include <utility>
 
@@ -30,6 +32,8 @@ SOpenConnections &openConnections() {
 
 // A grab that was refused is asked for again by each pump.
 constexpr int millisecondsBetweenGrabs = 50;
+
+constexpr int millisecondsForSlowServer = 200;
 
 thread_local CXcbConnection *pumped = nullptr;
 
@@ -131,10 +135,26 @@ CXcbConnection::~CXcbConnection() {
     m_cursors.reset();
     m_keyboard.reset();
     m_drops.reset();
-    // A server that finds the connection closed while it sends an event skips our last requests.
-    const CNoPipeSignal guard;
-    ownReply(xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
+    waitForLastRequests();
     xcb_disconnect(m_connection);
+}
+
+// A server that cannot send an event because the client is gone ignores the requests that it has
+// not read, and with them one that gives the keyboard back. Not for ever: it may hang.
+void CXcbConnection::waitForLastRequests() const {
+    const CNoPipeSignal guard;
+    const unsigned last = xcb_get_input_focus(m_connection).sequence;
+    xcb_flush(m_connection);
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(1);
+    void *reply = nullptr;
+    xcb_generic_error_t *error = nullptr;
+    while (xcb_poll_for_reply(m_connection, last, &reply, &error) == 0 &&
+           std::chrono::steady_clock::now() < deadline) {
+        pollfd readable = {getDescriptor(), POLLIN, 0};
+        poll(&readable, 1, 50);
+    }
+    ownReply(reply);
+    ownReply(error);
 }
 
 bool CXcbConnection::isBroken() const {
@@ -152,6 +172,12 @@ int CXcbConnection::getDescriptor() const {
 void CXcbConnection::flush() {
     const CNoPipeSignal guard;
     xcb_flush(m_connection);
+}
+
+bool CXcbConnection::canSendPicture() {
+    pollfd writable = {getDescriptor(), POLLOUT, 0};
+    m_isHanging = poll(&writable, 1, m_isHanging ? 0 : millisecondsForSlowServer) == 0;
+    return !m_isHanging;
 }
 
 // The windows
@@ -197,6 +223,11 @@ void CXcbConnection::endWindowsOf(xcb_window_t parent) {
     });
 }
 
+void CXcbConnection::endWindowsIfBroken() {
+    if (isBroken())
+        forEachWindow([](CXcbWindow &window) { window.handleEnd(); });
+}
+
 int CXcbConnection::millisecondsToWork() {
     // While it sends, xcb may also read events, which the descriptor then does not announce.
     if (!m_next)
@@ -219,10 +250,9 @@ void CXcbConnection::pump() {
     const CPumping pumping(*this, m_depth);
     while (const Event event = takeEvent())
         handleEvent(*event);
-    if (isBroken()) {
-        forEachWindow([](CXcbWindow &window) { window.handleEnd(); });
+    endWindowsIfBroken();
+    if (isBroken())
         return;
-    }
     m_popups->pump();
     m_drops->pump();
     m_selections->pump();

@@ -53,6 +53,8 @@ public:
     xcb_window_t ownerOf(xcb_window_t window) const;
     /// Destroys the windows that lie in a window or float above it.
     void endWindowsOf(xcb_window_t parent);
+    /// Tells all windows that the server is gone, if it is.
+    void endWindowsIfBroken();
 
     /// Handles all events that have arrived, runs the timers that are due, paints what is invalid.
     /// Sends no request if there was nothing to do. Ends the windows if the server is gone.
@@ -64,6 +66,9 @@ public:
     int millisecondsToWork();
     /// Sends the requests that are waiting.
     void flush();
+    /// @return whether the server takes a strip of a picture without making us wait. Gives a slow
+    ///         one some time for that, but none again to one that hangs.
+    bool canSendPicture();
 
     /// @return the time of the last event that had one, in milliseconds of the server.
     xcb_timestamp_t getTime() const { return m_time; }
@@ -81,6 +86,7 @@ private:
     using Event = TXcbReply<xcb_generic_event_t>;
 
     CXcbConnection(xcb_connection_t *connection, int screen);
+    void waitForLastRequests() const;
     Event takeEvent();
     void handleEvent(const xcb_generic_event_t &event);
     void noteTime(const xcb_generic_event_t &event);
@@ -93,8 +99,9 @@ private:
     SXcbAtoms m_atoms;
     std::map<xcb_window_t, CXcbWindow *> m_windows;  // not owned
     xcb_timestamp_t m_time = XCB_CURRENT_TIME;
-    Event m_next;     // taken from the queue already
-    int m_depth = 0;  // of pumps that are running
+    Event m_next;              // taken from the queue already
+    int m_depth = 0;           // of pumps that are running
+    bool m_isHanging = false;  // has not taken a picture in time
     std::unique_ptr<CXcbCanvas> m_canvas;
     std::unique_ptr<CXcbPointer> m_pointer;
     std::unique_ptr<CXcbPopups> m_popups;

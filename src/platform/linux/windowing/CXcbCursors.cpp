@@ -70,6 +70,4 @@ xcb_cursor_t CXcbCursors::find(int cursor) {
 
 void CXcbCursors::forgetWindow(xcb_window_t window) {
     m_shown.erase(window);
-    if (m_window == window)
-        m_window = XCB_NONE;
 }

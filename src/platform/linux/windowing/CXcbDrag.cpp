@@ -46,11 +46,8 @@ void CXcbDrag::update() {
     if (m_types.poll(types))
         m_offersFiles = types && hasType(*types, m_connection.getAtoms().textUriList);
     TXcbReply<xcb_translate_coordinates_reply_t> place;
-    if (m_place.poll(place)) {
-        m_point.reset();
-        if (place)
-            m_point = SNativePoint{place->dst_x, place->dst_y};
-    }
+    if (m_place.poll(place) && place)
+        m_point = SNativePoint{place->dst_x, place->dst_y};
     if (isSettled() && std::exchange(m_owesStatus, false))
         sendXdndStatus(m_connection, m_partners, isAccepted());
 }

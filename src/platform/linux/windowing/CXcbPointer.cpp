@@ -142,6 +142,7 @@ void CXcbPointer::handleEnter(const xcb_enter_notify_event_t &event) {
                                 event.detail == XCB_NOTIFY_DETAIL_NONLINEAR_VIRTUAL;
     if (event.mode == XCB_NOTIFY_MODE_GRAB || isOnWayToChild)
         return;
+    sendLostReleases(asMotion(event));
     m_entered = {event.event, screenPositionOf(asMotion(event)), event.time};
     sendMotion(asMotion(event));
 }

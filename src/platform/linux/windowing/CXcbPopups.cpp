@@ -30,6 +30,7 @@ void CXcbPopups::report(xcb_window_t window, unsigned message) {
 // Popups come and go
 
 void CXcbPopups::handleShown(CXcbWindow &popup) {
+    const std::shared_ptr<CXcbConnection> held = m_connection.shared_from_this();
     const xcb_window_t id = popup.getId();
     const xcb_window_t before = m_hasFocus ? m_chain.back() : XCB_NONE;
     m_chain.push_back(id);
@@ -46,7 +47,12 @@ void CXcbPopups::handleHidden(CXcbWindow &popup) {
 
 void CXcbPopups::forgetWindow(xcb_window_t window) {
     remove(window);
-    if (m_hasFocus && window == m_opener)
+    if (window != m_opener)
+        return;
+    // From now on nobody may pump, so that nobody would end a drag in a popup.
+    if (contains(m_connection.pointer().getCapture()))
+        m_connection.pointer().release();
+    if (m_hasFocus)
         loseFocus();
 }
 

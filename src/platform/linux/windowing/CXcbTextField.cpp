@@ -142,7 +142,7 @@ void CXcbTextField::handleKey(std::uintptr_t key) {
         handleCommand(command);
         return;
     }
-    if (!applyEditKey(m_line, key, modifiers) && !modifiers.isAltDown)
+    if (!applyEditKey(m_line, key, modifiers))
         m_line.insert(m_connection->keyboard().getText());
     handleChange();
 }

@@ -59,6 +59,7 @@ CXcbWindow::~CXcbWindow() {
     m_connection->removeWindow(m_id);
     xcb_destroy_window(m_connection->get(), m_id);
     m_connection->flush();
+    m_connection->endWindowsIfBroken();  // nobody may pump any more
 }
 
 // Creation
@@ -279,7 +280,7 @@ bool CXcbWindow::needsPainting() const {
 }
 
 void CXcbWindow::update() {
-    if (!needsPainting())
+    if (!needsPainting() || !m_connection->canSendPicture())
         return;
     const std::shared_ptr<CXcbConnection> connection = m_connection;
     const xcb_window_t id = m_id;

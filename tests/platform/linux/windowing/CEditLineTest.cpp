@@ -201,6 +201,18 @@ TEST(CEditLine, LeavesTheSelectionAtItsEdge) {
     EXPECT_EQ(shown(line), "abc|");
 }
 
+TEST(CEditLine, LeavesTheSelectionByWordsFromTheCaret) {
+    CEditLine line("one two three", 0);
+    line.moveTo(9, false);
+    line.moveTo(5, true);
+    line.moveRight(Word, false);
+    EXPECT_EQ(shown(line), "one two |three");
+    line.moveTo(5, false);
+    line.moveTo(9, true);
+    line.moveLeft(Word, false);
+    EXPECT_EQ(shown(line), "one two |three");
+}
+
 TEST(CEditLine, PutsTheCaretBetweenCharacters) {
     CEditLine line = lineAt("ö€", 1);
     EXPECT_EQ(shown(line), "|ö€");

@@ -109,6 +109,13 @@ TEST_F(CEditViewTest, DrawsACaretThatIsSeenOnTheSelection) {
     EXPECT_EQ(count(*draw(line, true), ink, end), end.bottom - end.top);
 }
 
+TEST_F(CEditViewTest, KeepsTheCaretInsideTheFrame) {
+    const CEditView low(width, 8, font.get(), {ink, paper});
+    const SNativeRect caret = low.getCaretArea(lineOf("", 0));
+    EXPECT_EQ(caret.top, 1);
+    EXPECT_EQ(caret.bottom, 7);
+}
+
 TEST_F(CEditViewTest, DrawsOnlyTheAreaThatIsNeeded) {
     CEditLine line("MMMMMMMMMM", 0);
     const SNativeRect needed = {10, 5, 20, 12};

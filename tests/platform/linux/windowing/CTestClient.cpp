@@ -117,8 +117,8 @@ void CTestClient::synchronise() {
 }
 
 SNativeRect CTestClient::areaOf(xcb_window_t window) {
-    const auto size =
-        ownReply(xcb_get_geometry_reply(m_connection, xcb_get_geometry(m_connection, window), nullptr));
+    const auto size = ownReply(
+        xcb_get_geometry_reply(m_connection, xcb_get_geometry(m_connection, window), nullptr));
     const auto origin = ownReply(xcb_translate_coordinates_reply(
         m_connection, xcb_translate_coordinates(m_connection, window, m_screen->root, 0, 0),
         nullptr));

@@ -60,7 +60,7 @@ void CTestDragSource::send(xcb_window_t target, const char *name,
                            const std::vector<std::uint32_t> &data) {
     xcb_client_message_event_t message = {};
     message.response_type = XCB_CLIENT_MESSAGE;
-    message.format = 32;
+    message.format = messageFormat;
     message.window = target;
     message.type = atomOf(name);
     std::copy(data.begin(), data.end(), message.data.data32);
@@ -121,11 +121,18 @@ void CTestDragSource::serve(const xcb_selection_request_event_t &request) {
     notify.selection = request.selection;
     notify.target = request.target;
     notify.property = request.property;
-    xcb_send_event(m_client.get(), 0, request.requestor, 0,
-                   reinterpret_cast<const char *>(&notify));
+    for (int i = 0; i < notifications; ++i)
+        xcb_send_event(m_client.get(), 0, request.requestor, 0,
+                       reinterpret_cast<const char *>(&notify));
 }
 
 void CTestDragSource::sendPart() {
+    if (writesMore) {
+        xcb_change_property(m_client.get(), XCB_PROP_MODE_REPLACE, m_request.requestor,
+                            XCB_ATOM_CUT_BUFFER0, XCB_ATOM_STRING, 8, 0, nullptr);
+        pumpAll(m_client);
+        pumpAll(m_client);
+    }
     const std::string_view rest = std::string_view(addresses).substr(m_sent, partSize);
     xcb_change_property(m_client.get(), XCB_PROP_MODE_REPLACE, m_request.requestor,
                         m_request.property, type, format,

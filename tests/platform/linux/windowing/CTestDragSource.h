@@ -23,6 +23,8 @@ public:
     void drop(xcb_window_t target);
     void setTypeList(xcb_atom_t type, std::uint8_t format, const std::vector<std::uint32_t> &types);
 
+    std::uint8_t messageFormat = 32;
+
     // What it answers to those who ask for the selection
     bool hasSelection = true;
     bool answers = true;
@@ -30,6 +32,8 @@ public:
     xcb_atom_t type;           // text/uri-list at first
     std::uint8_t format = 8;   // bits of an element
     std::size_t partSize = 0;  // if not 0, it sends the text incrementally, in such parts
+    int notifications = 1;     // for each answer
+    bool writesMore = false;   // another property before each part
 
     /// Takes the messages that have arrived, and serves the selection.
     void poll();

@@ -59,6 +59,14 @@ TEST(CXcbConnection, EachEditorHasItsOwn) {
     EXPECT_EQ(CXcbConnection::current(), second.connection());
 }
 
+TEST(CXcbConnection, KnowsTheTimeBeforeTheUserDoesAnything) {
+    const CVirtualDisplay display("640x480x24");
+    CTestClient host;
+    const SEditor editor(host);
+    pumpAll(host);
+    EXPECT_NE(editor.connection()->getTime(), xcb_timestamp_t{XCB_CURRENT_TIME});
+}
+
 TEST(CXcbConnection, IsSharedByWindowsThatBelongTogether) {
     const CVirtualDisplay display("640x480x24");
     CTestClient host;

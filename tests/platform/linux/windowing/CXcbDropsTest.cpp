@@ -279,6 +279,22 @@ TEST_F(CXcbDrops, TakesAListInParts) {
     EXPECT_EQ(source.finishes[0].flags, 1u);
 }
 
+TEST_F(CXcbDrops, TakesFilesFromASourceThatSaysTooMuch) {
+    source.addresses = "file:///a\r\nfile:///b";
+    source.notifications = 2;
+    source.writesMore = true;
+    for (const std::size_t partSize : {0, 9}) {
+        source.partSize = partSize;
+        source.finishes.clear();
+        drops.clear();
+        dropFiles(source);
+        source.leave(target);
+        ASSERT_TRUE(isFinished());
+        ASSERT_EQ(drops.size(), 1u);
+        EXPECT_THAT(drops[0].names, ElementsAre("/a", "/b"));
+    }
+}
+
 TEST_F(CXcbDrops, MayComeBeforeTheAnswerToTheLastPosition) {
     source.addresses = "file:///a";
     source.enter(target, {XCB_ATOM_STRING, XCB_ATOM_PIXMAP, XCB_ATOM_BITMAP, source.type});
@@ -436,6 +452,16 @@ TEST_F(CXcbDrops, OnlyTheSourceOfADragCanMoveIt) {
     other.drop(target);
     EXPECT_TRUE(other.runUntil([&] { return !other.finishes.empty(); }));
     EXPECT_EQ(other.finishes[0].flags, 0u);
+    source.moveTo(target, 65, 90);
+    EXPECT_TRUE(source.runUntil([this] { return source.statuses.size() == 2; }));
+    EXPECT_EQ(source.statuses[1].flags & accepts, accepts);
+}
+
+TEST_F(CXcbDrops, AMessageOfAnotherFormatIsNone) {
+    dragOver(source);
+    source.messageFormat = 8;
+    source.leave(target);
+    source.messageFormat = 32;
     source.moveTo(target, 65, 90);
     EXPECT_TRUE(source.runUntil([this] { return source.statuses.size() == 2; }));
     EXPECT_EQ(source.statuses[1].flags & accepts, accepts);

@@ -262,20 +262,33 @@ TEST_F(CXcbKeyboard, ShiftMakesCapitals) {
 }
 
 TEST_F(CXcbKeyboard, AModifierIsDownInItsOwnMessage) {
+    struct SModifier {
+        xcb_keysym_t left, right;
+        std::uintptr_t virtualKey;
+        bool SNativeModifiers::*isDown;
+    };
+    constexpr SModifier modifiers[] = {
+        {XKB_KEY_Shift_L, XKB_KEY_Shift_R, 16, &SNativeModifiers::isShiftDown},
+        {XKB_KEY_Control_L, XKB_KEY_Control_R, 17, &SNativeModifiers::isControlDown},
+        {XKB_KEY_Alt_L, XKB_KEY_Alt_R, 18, &SNativeModifiers::isAltDown},
+    };
     createFocused();
-    client->pressKey(XKB_KEY_Control_L);
-    client->pressKey(XKB_KEY_Control_R);
-    client->releaseKey(XKB_KEY_Control_L);
-    client->releaseKey(XKB_KEY_Control_R);
-    pumpAll(*client);
-    ASSERT_EQ(keys.size(), 4u);
-    for (const SKeyReport &key : keys)
-        EXPECT_EQ(key.virtualKey, 17u);
-    EXPECT_TRUE(keys[0].modifiers.isControlDown);
-    EXPECT_TRUE(keys[1].modifiers.isControlDown);
-    EXPECT_TRUE(keys[2].modifiers.isControlDown);
-    EXPECT_FALSE(keys[3].modifiers.isControlDown);
-    EXPECT_EQ(keys[0].character.number, 0);
+    for (const auto &[left, right, virtualKey, isDown] : modifiers) {
+        keys.clear();
+        client->pressKey(left);
+        client->pressKey(right);
+        client->releaseKey(left);
+        client->releaseKey(right);
+        pumpAll(*client);
+        ASSERT_EQ(keys.size(), 4u);
+        for (const SKeyReport &key : keys)
+            EXPECT_EQ(key.virtualKey, virtualKey);
+        EXPECT_TRUE(keys[0].modifiers.*isDown);
+        EXPECT_TRUE(keys[1].modifiers.*isDown);
+        EXPECT_TRUE(keys[2].modifiers.*isDown);
+        EXPECT_FALSE(keys[3].modifiers.*isDown);
+        EXPECT_EQ(keys[0].character.number, 0);
+    }
 }
 
 TEST_F(CXcbKeyboard, ControlTypesControlCharacters) {
@@ -356,6 +369,17 @@ TEST_F(CXcbKeyboard, AKeyThatRepeatsItselfDoesNotGoUp) {
         EXPECT_EQ(keys[i].text, "a");
     }
     EXPECT_FALSE(keys.back().isDown);
+}
+
+TEST_F(CXcbKeyboard, AKeyThatWentUpElsewhereDoesNotRepeatItself) {
+    createFocused();
+    client->pressKey(XKB_KEY_a);
+    client->focus(host);
+    client->releaseKey(XKB_KEY_a);
+    pumpAll(*client);
+    client->focus(idOf(*spy.window));
+    pumpAll(*client);
+    EXPECT_EQ(typed(XKB_KEY_a).lParam, 0x001E0001);
 }
 
 // Layouts

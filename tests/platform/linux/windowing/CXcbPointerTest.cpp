@@ -48,7 +48,32 @@ TEST_F(CXcbPointer, ReportsMovementsWithThePositionInTheWindow) {
     EXPECT_THAT(messagesOf([&] { client->movePointer(59, 100); }), IsEmpty());
 }
 
+TEST_F(CXcbPointer, ReportsTheLastOfSeveralMovementsWithTheSameKeys) {
+    client->typeKey(shiftKey);  // the first key brings an event of its own
+    point(1, 2);
+    pumpAll(*client);
+    EXPECT_THAT(messagesOf([&] {
+                    point(30, 40);
+                    point(31, 40);
+                    client->pressKey(shiftKey);
+                    point(32, 40);
+                }),
+                ElementsAre(Message{NativeMouseMove, 31, 40}, Message{NativeMouseMove, 32, 40}));
+    client->releaseKey(shiftKey);
+}
+
 TEST_F(CXcbPointer, ReportsEnteringAsAMovement) {
+    EXPECT_THAT(messagesOf([&] { point(30, 40); }), ElementsAre(Message{NativeMouseMove, 30, 40}));
+}
+
+TEST_F(CXcbPointer, ReportsAReturnToThePlaceWhereItEntered) {
+    point(30, 40);
+    pumpAll(*client);
+    const xcb_timestamp_t entered = connection().getTime();
+    for (int i = 0; connection().getTime() == entered; ++i) {
+        point(31, 40 + i % 2);
+        pumpAll(*client);
+    }
     EXPECT_THAT(messagesOf([&] { point(30, 40); }), ElementsAre(Message{NativeMouseMove, 30, 40}));
 }
 
@@ -73,12 +98,15 @@ TEST_F(CXcbPointer, ReportsADoubleClickInPlaceOfTheSecondPress) {
                             Message{NativeLeftDown, 30, 40}, Message{NativeLeftUp, 30, 40}));
 }
 
-TEST_F(CXcbPointer, ReportsADoubleClickOfTheRightButtonAsTwoClicks) {
+TEST_F(CXcbPointer, ReportsADoubleClickOfAnotherButtonAsTwoClicks) {
     point(30, 40);
     pumpAll(*client);
     EXPECT_THAT(messagesOf([&] { client->click(rightButton, 2); }),
                 ElementsAre(Message{NativeRightDown, 30, 40}, Message{NativeRightUp, 30, 40},
                             Message{NativeRightDown, 30, 40}, Message{NativeRightUp, 30, 40}));
+    EXPECT_THAT(messagesOf([&] { client->click(middleButton, 2); }),
+                ElementsAre(Message{NativeMiddleDown, 30, 40}, Message{NativeMiddleUp, 30, 40},
+                            Message{NativeMiddleDown, 30, 40}, Message{NativeMiddleUp, 30, 40}));
 }
 
 // The wheel
@@ -269,6 +297,15 @@ TEST_F(CXcbPointer, DoesNotReportADragOutsideWithoutACapture) {
                 IsEmpty());
 }
 
+TEST_F(CXcbPointer, ReportsADragWithoutACaptureUpToTheEdges) {
+    pressAt(30, 40);
+    for (const SNativePoint &outside : {SNativePoint{-1, 20}, {20, -1}, {100, 20}, {20, 50}})
+        EXPECT_THAT(messagesOf([&] { point(outside.x, outside.y); }), IsEmpty());
+    for (const SNativePoint &inside : {SNativePoint{0, 0}, {99, 49}})
+        EXPECT_THAT(messagesOf([&] { point(inside.x, inside.y); }),
+                    ElementsAre(Message{NativeMouseMove, inside.x, inside.y}));
+}
+
 TEST_F(CXcbPointer, KeepsAPressThatComesBeforeTheReleaseIsHandled) {
     captureOnPress();
     point(30, 40);
@@ -317,12 +354,10 @@ TEST_F(CXcbPointer, ReportsAReleaseThatTheServerToldSomebodyElse) {
     xcb_unmap_window(client->get(), host);
     client->release(leftButton);
     xcb_map_window(client->get(), host);
-    EXPECT_THAT(messagesOf([&] {
-                    point(20, 20);
-                    point(21, 21);
-                }),
-                testing::Contains(Message{NativeLeftUp, 21, 21}));
+    EXPECT_THAT(messagesOf([&] { point(20, 20); }),
+                testing::Contains(Message{NativeLeftUp, 30, 40}));
     EXPECT_EQ(nativeMouseCapture(), nullptr);
+    EXPECT_THAT(messagesOf([&] { point(22, 22); }), ElementsAre(Message{NativeMouseMove, 22, 22}));
     EXPECT_TRUE(isPointerFree());
 }
 

@@ -189,6 +189,31 @@ TEST_F(CXcbPopups, LoseTheFocusByAPressOutside) {
     EXPECT_THAT(mouseMessages(menu.messages), IsEmpty());
 }
 
+TEST_F(CXcbPopups, LoseTheFocusByAPressInAnotherEditor) {
+    const xcb_window_t otherHost = client->createWindow({50, 300, 350, 460});
+    CWindowSpy other;
+    other.options.parent = handleOf(otherHost);
+    other.create();
+    show(menu);
+    pumpAll(*client);
+    tellsOf(other, [] {
+        client->movePointer(70, 330);
+        client->click(leftButton);
+    });
+    EXPECT_THAT(other.all(NativeLeftDown), IsEmpty());
+    expectFocusIsLost();
+    tellsOf(other, [] { client->click(leftButton); });
+    EXPECT_THAT(other.all(NativeLeftDown), ElementsAre(10 | 10 << 16));
+    client->destroyWindow(otherHost);
+}
+
+TEST_F(CXcbPopups, LoseTheFocusByAPressOfAFurtherButton) {
+    show(menu);
+    client->movePointer(300, 300);
+    client->click(8);  // above those of the wheel
+    expectFocusIsLost();
+}
+
 TEST_F(CXcbPopups, CloseByAPressOutside) {
     show(menu);
     show(subMenu);
@@ -368,6 +393,25 @@ TEST_F(CXcbPopups, LeaveADragToTheWindowThatHasOpenedThem) {
     EXPECT_TRUE(isPointerFree());
 }
 
+TEST_F(CXcbPopups, LeaveADragToACaptureThatComesAfterThem) {
+    editor.onMessage = [this](const CWindowSpy::SMessage &message) {
+        if (message.number == NativeLeftDown) {
+            show(menu);
+            menu.window->hide();
+            captureNativeMouse(editor.window->getHandle());
+        }
+        return std::nullopt;
+    };
+    client->movePointer(90, 120);
+    client->press(leftButton);
+    pumpAll(*client);
+    pumpAll(*client);
+    EXPECT_THAT(mouseMessages(tellsOf(editor, [&] { client->movePointer(600, 470); })),
+                ElementsAre(Message{NativeMouseMove, 540, 390}));
+    releaseNativeMouse();
+    EXPECT_TRUE(isPointerFree());
+}
+
 TEST_F(CXcbPopups, AskAgainForAPointerThatSomebodyElseHolds) {
     xcb_grab_pointer(client->get(), 0, client->getScreen().root, 0, XCB_GRAB_MODE_ASYNC,
                      XCB_GRAB_MODE_ASYNC, XCB_NONE, XCB_NONE, XCB_CURRENT_TIME);
@@ -390,6 +434,16 @@ TEST_F(CXcbPopups, LoseTheFocusIfTheirGrabIsBroken) {
         expectFocusIsLost();
         menu.window->hide();
     }
+}
+
+TEST_F(CXcbPopups, KeepTheFocusWhenAGrabFromBeforeTheirsHasEnded) {
+    client->movePointer(90, 120);
+    pumpAll(*client);
+    EXPECT_TRUE(client->canGrabPointer());
+    show(menu);
+    pumpAll(*client);
+    EXPECT_EQ(menu.all(NativeKillFocus).size(), 0u);
+    EXPECT_TRUE(isPointerHeld());
 }
 
 // The host

@@ -28,6 +28,7 @@ public:
     const xcb_window_t window = client.createWindow({0, 0, 10, 10});
     bool knowsUtf8 = true;
     bool usesPieces = false;
+    int notifications = 1;  // for each answer
     std::uint8_t format = 8;
     std::string text;
     std::vector<xcb_atom_t> asked;  // for these targets
@@ -45,6 +46,13 @@ public:
         const auto reply = ownReply(xcb_get_selection_owner_reply(
             client.get(), xcb_get_selection_owner(client.get(), selection), nullptr));
         return reply->owner != XCB_NONE;
+    }
+
+    bool hasProperty(xcb_atom_t property) {
+        const auto reply = ownReply(xcb_get_property_reply(
+            client.get(), xcb_get_property(client.get(), 0, window, property, XCB_ATOM_ANY, 0, 0),
+            nullptr));
+        return reply->type != XCB_NONE;
     }
 
     /// @return the server's time.
@@ -84,6 +92,11 @@ public:
                  xcb_atom_t property = XCB_ATOM_CUT_BUFFER0) {
         xcb_convert_selection(client.get(), window, selection, target, property, XCB_CURRENT_TIME);
         client.synchronise();
+    }
+    void forgetEvents() {
+        client.synchronise();
+        while (ownReply(xcb_poll_for_event(client.get()))) {
+        }
     }
     std::optional<SAnswer> receive() {
         const auto notify = waitFor(
@@ -160,7 +173,8 @@ private:
             put(m_target, format, static_cast<std::uint32_t>(text.size()) / (format / 8u),
                 text.data());
         }
-        xcb_send_event(client.get(), 0, request.requestor, 0, notify.bytes);
+        for (int i = 0; i < notifications; ++i)
+            xcb_send_event(client.get(), 0, request.requestor, 0, notify.bytes);
     }
     void continueText(const xcb_property_notify_event_t &change) {
         if (change.window != m_requestor || change.state != XCB_PROPERTY_DELETE)
@@ -286,6 +300,20 @@ TEST_F(CXcbSelectionsTest, OffersALargeTextInPieces) {
     }
 }
 
+TEST_F(CXcbSelectionsTest, StartsALargeTextAnewIfAskedAgain) {
+    offer(largeText());
+    peer.convert(atoms.clipboard, atoms.utf8String);
+    pumpAll(peer.client);
+    peer.forgetEvents();
+    peer.convert(atoms.clipboard, atoms.utf8String);
+    pumpAll(peer.client);
+    const auto answer = peer.receive();
+    ASSERT_TRUE(answer.has_value());
+    EXPECT_TRUE(answer->bytes == largeText());
+    pumpAll(peer.client);
+    EXPECT_FALSE(peer.hasProperty(XCB_ATOM_CUT_BUFFER0)) << "nothing comes after the end";
+}
+
 TEST_F(CXcbSelectionsTest, SendsTheRestOfATextThatIsNotOfferedAnyMore) {
     offer(largeText());
     peer.convert(atoms.clipboard, atoms.utf8String);
@@ -308,6 +336,22 @@ TEST_F(CXcbSelectionsTest, SurvivesAProgramThatEndsInTheMiddleOfAText) {
     const auto answer = peer.ask(atoms.clipboard, atoms.utf8String);
     ASSERT_TRUE(answer.has_value());
     EXPECT_TRUE(answer->bytes == largeText());
+}
+
+TEST_F(CXcbSelectionsTest, OffersAgainWhatItLostBefore) {
+    connection->setTime(peer.now());
+    offer("first");
+    peer.own(atoms.clipboard);
+    const xcb_timestamp_t lost = peer.now();
+    xcb_timestamp_t now = lost;
+    while (now == lost)
+        now = peer.now();
+    connection->setTime(now);
+    selections.offer(1, atoms.clipboard, "second");
+    pumpAll(peer.client);  // tells only now that the first is lost
+    const auto answer = peer.ask(atoms.clipboard, atoms.utf8String);
+    ASSERT_TRUE(answer.has_value());
+    EXPECT_EQ(answer->bytes, "second");
 }
 
 TEST_F(CXcbSelectionsTest, OffersUntilTheWindowIsGone) {
@@ -364,6 +408,16 @@ TEST_F(CXcbSelectionsTest, FallsBackToLatin1) {
     EXPECT_TRUE(waitUntil([this] { return !received.empty(); }));
     EXPECT_EQ(received, std::vector<std::string>{"größe"});
     EXPECT_EQ(peer.asked, (std::vector<xcb_atom_t>{atoms.utf8String, XCB_ATOM_STRING}));
+}
+
+TEST_F(CXcbSelectionsTest, TakesARefusalForOneEvenIfItComesTwice) {
+    peer.knowsUtf8 = false;
+    peer.notifications = 2;
+    peer.text = "text";
+    peer.own(atoms.clipboard);
+    request();
+    EXPECT_TRUE(waitUntil([this] { return !received.empty(); }));
+    EXPECT_EQ(received, std::vector<std::string>{"text"});
 }
 
 TEST_F(CXcbSelectionsTest, PutsThePiecesOfALargeTextTogether) {

@@ -226,6 +226,16 @@ TEST_F(CXcbTextFieldTest, SelectsByTheMouse) {
     EXPECT_EQ(text(), "y");
 }
 
+TEST_F(CXcbTextFieldTest, AThirdPressElsewhereSelectsNothing) {
+    open();
+    point(3);
+    click(leftButton, 2);
+    point(85);
+    click(leftButton);
+    type('x');
+    EXPECT_EQ(text(), "one twox");
+}
+
 TEST_F(CXcbTextFieldTest, KeepsCharactersWhole) {
     settings.text = "aö€";
     settings.maximumLength = 4;

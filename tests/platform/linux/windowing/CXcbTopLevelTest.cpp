@@ -200,12 +200,13 @@ TEST_P(CXcbTopLevel, OnlySomeStylesAreResizable) {
 }
 
 TEST_P(CXcbTopLevel, HasAnIcon) {
-    // Blue, green, red, alpha; half transparent red above opaque green
-    const std::uint8_t pixels[] = {0, 255, 0, 255, 0, 0, 128, 128};
-    const auto icon = createNativeBitmap(1, 2, pixels);
+    // Blue, green, red, alpha, from the bottom: half transparent and too green, opaque green, half
+    // transparent red
+    const std::uint8_t pixels[] = {0, 255, 0, 128, 0, 255, 0, 255, 0, 0, 128, 128};
+    const auto icon = createNativeBitmap(1, 3, pixels);
     spy.options.icon = icon.get();
     show();
-    EXPECT_THAT(property("_NET_WM_ICON"), ElementsAre(1, 2, 0x80FF0000, 0xFF00FF00));
+    EXPECT_THAT(property("_NET_WM_ICON"), ElementsAre(1, 3, 0x80FF0000, 0xFF00FF00, 0x8000FF00));
 }
 
 TEST_P(CXcbTopLevel, AnIconMayBeTooLarge) {

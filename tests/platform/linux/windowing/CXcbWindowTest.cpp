@@ -112,6 +112,19 @@ TEST_F(CXcbWindows, AParentMayBeMappedLater) {
     EXPECT_EQ(screenPixel(60, 80), CWindowSpy::colour);
 }
 
+// Ardour 7.3 only hides the host window when the user closes it, and shows it again later.
+TEST_F(CXcbWindows, AParentMayBeHiddenAndShownAgain) {
+    createPainted();
+    xcb_unmap_window(client->get(), parent);
+    pumpAll(*client);
+    spy.window->invalidate({0, 0, 100, 50});
+    pumpAll(*client);
+    xcb_map_window(client->get(), parent);
+    pumpAll(*client);
+    EXPECT_EQ(screenPixel(60, 80), CWindowSpy::colour);
+    EXPECT_EQ(screenPixel(159, 129), CWindowSpy::colour);
+}
+
 TEST_F(CXcbWindows, AParentMayMoveIt) {
     createPainted();
     const std::uint32_t bounds[] = {5, 6, 40, 30};
@@ -123,6 +136,16 @@ TEST_F(CXcbWindows, AParentMayMoveIt) {
     EXPECT_THAT(spy.all(NativeMove), ElementsAre(5 | 6 << 16));
     EXPECT_THAT(spy.all(NativeSize), ElementsAre(40 | 30 << 16));
     EXPECT_EQ(screenPixel(50 + 5 + 39, 60 + 6 + 29), CWindowSpy::colour);
+}
+
+TEST_F(CXcbWindows, MayBeGivenToAnotherParent) {
+    createPainted();
+    const xcb_window_t other = client->createWindow({100, 100, 200, 200});
+    xcb_reparent_window(client->get(), idOf(*spy.window), other, 7, 8);
+    pumpAll(*client);
+    EXPECT_THAT(spy.all(NativeMove), ElementsAre(7 | 8 << 16));
+    spy.window.reset();
+    client->destroyWindow(other);
 }
 
 TEST_F(CXcbWindows, EarlierMovesDoNotComeBack) {
@@ -173,6 +196,16 @@ TEST_F(CXcbWindows, PaintsWhatWasCovered) {
     EXPECT_EQ(spy.painted[0].top, 6);
     EXPECT_EQ(spy.painted[0].right, 25);
     EXPECT_EQ(spy.painted[0].bottom, 16);
+    EXPECT_EQ(screenPixel(60 + 5, 80 + 6), CWindowSpy::colour);
+}
+
+TEST_F(CXcbWindows, PaintsWhatWasCoveredAlsoAfterAnotherPart) {
+    createPainted();
+    const xcb_window_t cover = client->createWindow({60 + 5, 80 + 6, 60 + 25, 80 + 16});
+    client->destroyWindow(cover);
+    spy.window->invalidate({50, 0, 60, 10});
+    spy.window->update();
+    pumpAll(*client);
     EXPECT_EQ(screenPixel(60 + 5, 80 + 6), CWindowSpy::colour);
 }
 

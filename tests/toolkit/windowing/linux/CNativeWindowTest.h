@@ -1,0 +1,139 @@
+#pragma once
+
+#include "platform/NativeMouse.h"
+#include "platform/linux/CVirtualDisplay.h"
+#include "platform/linux/windowing/CTestClient.h"
+#include "platform/linux/windowing/CXcbConnection.h"
+#include "platform/linux/windowing/WindowIds.h"
+#include "toolkit/windowing/CListener.h"
+#include "toolkit/windowing/CWindow.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <memory>
+#include <utility>
+
+/// A window of 100 by 50 at 10, 20 in a host's window of 300 by 200 at 50, 60 on the screen, and
+/// what listens to it. The host has the keyboard.
+class CNativeWindowTest : public testing::Test {
+protected:
+    using CRect = Tessitor::MathTools::CRect;
+    using CWindow = Tessitor::GUI::Windowing::CWindow;
+    using CWindowAttributes = Tessitor::GUI::Windowing::CWindowAttributes;
+
+    /// The window that a host's window stands for.
+    class CParent : public CWindow {
+    public:
+        explicit CParent(xcb_window_t window) : CWindow(CRect(0, 0, 10, 10)) {
+            getMutableWindowHandle()->native = ::handleOf(window);
+        }
+        ~CParent() override { getMutableWindowHandle()->native = nullptr; }
+    };
+
+    static void SetUpTestSuite() {
+        display = std::make_unique<CVirtualDisplay>("640x480x24");
+        client = std::make_unique<CTestClient>();
+    }
+    static void TearDownTestSuite() {
+        client.reset();
+        display.reset();
+    }
+
+    CNativeWindowTest() {
+        client->movePointer(outside.x, outside.y);
+        client->focus(host);
+    }
+    ~CNativeWindowTest() override {
+        client->release(leftButton);
+        window.reset();
+        client->destroyWindow(host);
+    }
+
+    /// Opens a window in a host's window.
+    static void openIn(CWindow &opened, xcb_window_t parent) {
+        CWindowAttributes attributes;
+        attributes.setWindowStyles(0x50000000, 16);
+        CParent parentWindow(parent);
+        opened.setParentWindow(&parentWindow);
+        opened.setWindowAttributes(&attributes, true);
+        opened.setParentWindow(nullptr);
+    }
+    /// Opens a window above that of the test.
+    void openPopup(CWindow &popup) {
+        const CWindowAttributes attributes(Tessitor::GUI::Windowing::EWindowKind::Popup);
+        popup.setParentWindow(window.get());
+        popup.setWindowAttributes(&attributes, true);
+    }
+    std::unique_ptr<CWindow> openPopup(const CRect &area = CRect(200, 210, 60, 40)) {
+        auto popup = std::make_unique<CWindow>(area);
+        listenTo(*popup);
+        openPopup(*popup);
+        handleMessages();
+        return popup;
+    }
+    /// Opens the window of the test and begins to listen.
+    void open() {
+        window = std::make_unique<CWindow>(CRect(10, 20, 100, 50));
+        openIn(*window, host);
+        listenTo(*window);
+        handleMessages();
+        log.clear();
+    }
+    void listenTo(CWindow &heard) {
+        heard.setWindowChangeListener(&listener);
+        heard.setFocusListener(&listener);
+        heard.setMouseListener(&listener);
+        heard.setKeyboardListener(&listener);
+        heard.setDropFileListener(&listener);
+    }
+    static void *handleOf(const CWindow &window) { return window.getWindowHandle()->native; }
+    std::shared_ptr<CXcbConnection> connection() const {
+        return CXcbConnection::find(idOf(handleOf(*window)));
+    }
+
+    static void moveMouse(SNativePoint position) { client->movePointer(position.x, position.y); }
+    /// Lets the windows hear of all that has happened, and of what comes of that.
+    static void handleMessages() {
+        pumpAll(*client);
+        pumpAll(*client);
+    }
+    /// @return what has been heard since the last call.
+    EventLog take() {
+        handleMessages();
+        return std::exchange(log, {});
+    }
+    /// Likewise, without the movements, which changes of the pointer's window bring as well.
+    EventLog takeWithoutMovements() {
+        EventLog events = take();
+        std::erase_if(events, [](const auto &event) { return event.starts_with("movement"); });
+        return events;
+    }
+
+    static xcb_window_t focus() {
+        return ownReply(xcb_get_input_focus_reply(client->get(), xcb_get_input_focus(client->get()),
+                                                  nullptr))
+            ->focus;
+    }
+    /// Another program can have the pointer and the keyboard.
+    static void expectNothingHeld() {
+        handleMessages();
+        EXPECT_EQ(nativeMouseCapture(), nullptr);
+        EXPECT_TRUE(client->canGrabPointer());
+        EXPECT_TRUE(client->canGrabKeyboard());
+    }
+    /// Likewise, and the host has its keyboard.
+    void expectNothingTaken() {
+        expectNothingHeld();
+        EXPECT_EQ(focus(), host);
+    }
+
+    static constexpr SNativePoint outside = {500, 400}, inside = {65, 87};  // 5, 7 in the window
+    static constexpr int leftButton = 1, rightButton = 3;
+    static inline std::unique_ptr<CVirtualDisplay> display;
+    static inline std::unique_ptr<CTestClient> client;
+
+    xcb_window_t host = client->createWindow({50, 60, 350, 260});
+    EventLog log;
+    CListener listener{log};
+    std::unique_ptr<CWindow> window;
+};
