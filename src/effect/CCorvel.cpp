@@ -1,8 +1,10 @@
 #include "effect/CCorvel.h"
 
+#include "editor/CCorvelEditor.h"
 #include "effect/FactoryPrograms.h"
 #include "foundation/CCriticalSection.h"
 #include "hostlayer/PinProperties.h"
+#include "toolkit/graphics/StaticColours.h"
 
 #include <algorithm>
 #include <cstring>
@@ -60,6 +62,14 @@ CCorvel::CCorvel(audioMasterCallback host)
         m_dsp->getParameterLabel(id, unit);
         m_parameterUnits[std::size_t(id)] = unit;
     }
+    buildEditor();
+}
+
+void CCorvel::buildEditor() {
+    GUI::Windowing::CWindowAttributes attributes;
+    attributes.setBackgroundColour(GUI::Basics::StaticColours::black);
+    m_editor = std::make_unique<CCorvelEditor>(
+        this, MathTools::CRect(0, 0, CCorvelEditor::width, CCorvelEditor::height), attributes);
 }
 
 CCorvel::~CCorvel() {
@@ -103,9 +113,13 @@ void CCorvel::process(float **inputs, float **outputs, long sampleFrames) {
 }
 
 void CCorvel::setParameter(int index, float value) {
-    TRelaxed<float> &present = m_parameterValues[std::size_t(index)];
-    if (value == present)
-        return;
+    if (value != m_parameterValues[std::size_t(index)])
+        changeParameter(index, value);
+    if (m_editor != nullptr)
+        m_editor->handleParameterChange(index, value);
+}
+
+void CCorvel::changeParameter(int index, float value) {
     if (index == kRvSpread) {
         // The one setter that replaces buffers the audio path reads.
         const std::lock_guard lock(*m_criticalSection);
@@ -113,7 +127,7 @@ void CCorvel::setParameter(int index, float value) {
     } else {
         m_dsp->setStripParameter(index, value);
     }
-    present = value;
+    m_parameterValues[std::size_t(index)] = value;
 }
 
 float CCorvel::getParameter(int index) {
@@ -165,6 +179,8 @@ void CCorvel::applyProgram(const SProgram &program) {
         m_dsp->setOrderEntry(slot, link.prev, link.next);
     }
     m_dsp->recountFX();
+    if (m_editor != nullptr)
+        m_editor->handleChainChange();
 }
 
 void CCorvel::setProgram(int program) {

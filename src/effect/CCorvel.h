@@ -1,8 +1,7 @@
 #pragma once
 
-#include "dspclasses/strip/CDSPMultiFX.h"
+#include "editor/IStripOwner.h"
 #include "effect/SProgram.h"
-#include "foundation/CString.h"
 #include "foundation/TClassRecord.h"
 #include "hostlayer/CVstEffect.h"
 #include "values/TRelaxed.h"
@@ -12,10 +11,12 @@
 
 namespace Tessitor::Corvel {
 
+class CCorvelEditor;
+
 /// The effect that the host talks to. It combines the channel strip, the parameters as the host
 /// sees them and the stored programs. The constructor sets up all state, so calls may come in any
 /// order. The host's sample rate and block size are recorded but never passed to the strip.
-class CCorvel : public Vst::CVstEffect {
+class CCorvel : public Vst::CVstEffect, public IStripOwner {
 public:
     explicit CCorvel(audioMasterCallback host);
     ~CCorvel() override;
@@ -57,8 +58,11 @@ public:
     /// @return 1 if the effect can do `text`, otherwise -1; never 0.
     int canDo(char *text) override;
 
-    /// Lives as long as the effect. The editor edits its running order.
-    CDSPMultiFX &getStrip() { return *m_dsp; }
+    // IStripOwner
+    CDSPMultiFX &getStrip() override { return *m_dsp; }
+    const Basics::CString &getParameterUnit(int id) const override {
+        return m_parameterUnits[std::size_t(id)];
+    }
 
     Basics::CClass &getClass() const override { return s_class; }
 
@@ -66,6 +70,8 @@ private:
     void readTempo();
     template <typename Run, typename Sample>
     void runStrip(Run operation, Sample **inputs, Sample **outputs, int sampleFrames);
+    void buildEditor();
+    void changeParameter(int index, float value);
     void initialisePrograms();
     void storeCurrentProgram();
     void loadProgram(int program);
@@ -78,6 +84,7 @@ private:
     // Normalised, as the host sees them
     std::array<TRelaxed<float>, kParameterCount> m_parameterValues;
     std::unique_ptr<SProgram[]> m_programs;
+    std::unique_ptr<CCorvelEditor> m_editor;  // built last, as it reads all of the others
 };
 
 }  // namespace Tessitor::Corvel

@@ -1,5 +1,6 @@
 #include "effect/CLibrarySession.h"
 
+#include "editor/EditorImages.h"
 #include "foundation/CApplicationInformation.h"
 #include "foundation/CClass.h"
 #include "platform/NativeModule.h"
@@ -24,6 +25,7 @@ CLibrarySession::CLibrarySession() {
 CLibrarySession::~CLibrarySession() {
     CApplicationInformation::destroyApplicationInformation();
     CClass::destroyClassManager(nullptr);
+    releaseEditorImages();
     CImageManager::end();
     CFont::releaseDefaultFont();
 }

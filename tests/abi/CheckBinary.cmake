@@ -1,6 +1,6 @@
 # cmake -D FILE=<plug-in> -D OBJDUMP=<objdump> -D NM=<nm> -D WINDOWS=<bool> -P CheckBinary.cmake
 # The plug-in exports one function under its two names and nothing else, and needs only what every
-# system has and, on Linux, the libraries that it draws with.
+# system has and, on Linux, the libraries that it draws with and that talk to the X server.
 cmake_minimum_required(VERSION 3.25)
 
 execute_process(COMMAND ${OBJDUMP} -p ${FILE} OUTPUT_VARIABLE headers COMMAND_ERROR_IS_FATAL ANY)
@@ -21,7 +21,8 @@ else()
     list(TRANSFORM addresses REPLACE "^[^ ]+ [^ ]+ ([0-9a-f]+).*" "\\1")
     string(REGEX MATCHALL "NEEDED +[^\n]+" needed "${headers}")
     set(drawing "libfontconfig\\.so\\.1|libfreetype\\.so\\.6|libjpeg\\.so\\.62|libpng16\\.so\\.16")
-    set(system "^NEEDED +(libc\\.so\\.6|libm\\.so\\.6|ld-linux-x86-64\\.so\\.2|${drawing})$")
+    set(windows "libxcb\\.so\\.1|libxcb-xkb\\.so\\.1|libxkbcommon\\.so\\.0")
+    set(system "^NEEDED +(libc\\.so\\.6|libm\\.so\\.6|ld-linux-x86-64\\.so\\.2|${drawing}|${windows})$")
 endif()
 
 list(SORT exports)

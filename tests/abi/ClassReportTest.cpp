@@ -77,12 +77,13 @@ void use(const CLoadedEffect &effect) {
 class ClassReport : public testing::Test {
 protected:
     FakeHost host;
-    /// The objects that every report lists: the stream that writes it and the class manager.
+    /// The objects that every report lists: the stream that writes it, the class manager, the trace
+    /// and the colours of the library.
     const std::map<std::string, std::uint32_t> withoutAnEffect = CReportingFile().report();
 };
 
-TEST_F(ClassReport, ListsItsOwnStreamWhenThereIsNoEffect) {
-    EXPECT_EQ(withoutAnEffect.at("CTextStream"), 1u);
+TEST_F(ClassReport, ListsItsOwnStreamAndTheTraceWhenThereIsNoEffect) {
+    EXPECT_EQ(withoutAnEffect.at("CTextStream"), 2u);
     EXPECT_EQ(withoutAnEffect.count("CCorvel"), 0u);
 }
 
@@ -108,6 +109,13 @@ TEST_F(ClassReport, ListsOnlyTheSharedObjectsAfterEffectsWereUsedAndClosed) {
     expected["CSystemString"] += 1;
     expected["CString"] += 2;
     expected["CCountedObject"] += 2 + 4 + 3;
+    // The editors share deleters, a cursor and the pictures, none of which is beside this library.
+    for (const char *shared : {"CFont", "CMenu", "CMenuItem", "CWindowIcon", "IControl", "IImage"})
+        for (const char *part : {"TCountedObjectDeleter", "TPointerDeleter"})
+            expected[std::string(part) + "<" + shared + ">"] = 1;
+    expected["CCursor"] = 1;
+    expected["TAutomaticPointer<IImage>"] = 19;
+    expected["CCountedObject"] += 6 + 1 + 19;
     EXPECT_EQ(file.report(), expected);
 }
 

@@ -6,8 +6,11 @@
 
 #include <cstring>
 #include <gtest/gtest.h>
+#include <memory>
+#include <optional>
 #include <set>
 #include <string>
+#include <thread>
 
 namespace {
 
@@ -69,11 +72,29 @@ TEST(PluginFile, FreesAllItsMemoryWhenItIsUnloaded) {
     host.logging = false;
     loadRunAndUnload();  // the loader keeps what it allocates for the first library
     const std::size_t before = heapInUse();
-    constexpr std::size_t loads = 20;
+    constexpr std::size_t loads = 50;
     for (std::size_t i = 0; i < loads; ++i)
         loadRunAndUnload();
     constexpr std::size_t bytesPerLoad = 1024;
     EXPECT_LT(heapInUse(), before + loads * bytesPerLoad);
+}
+
+TEST(PluginFile, FreesTheMemoryOfEachOfManyEffects) {
+    FakeHost host;
+    host.logging = false;
+    const CPluginFile file;
+    constexpr std::size_t count = 50, bytesPerEffect = 100;
+    const auto useMany = [&] {
+        std::vector<std::unique_ptr<CLoadedEffect>> effects;
+        for (int i = 0; i < int{count}; ++i) {
+            effects.push_back(std::make_unique<CLoadedEffect>(file, FakeHost::callback));
+            effects.back()->send(effSetProgram, 0, i % 20);
+        }
+    };
+    useMany();  // the first effect loads what all share
+    const std::size_t before = heapInUse();
+    useMany();
+    EXPECT_LT(heapInUse(), before + count * bytesPerEffect);
 }
 
 TEST(LoadedEffect, NamesItself) {
@@ -99,7 +120,7 @@ TEST(LoadedEffect, FillsItsRecord) {
     EXPECT_EQ(record.numParams, 64);
     EXPECT_EQ(record.numInputs, 2);
     EXPECT_EQ(record.numOutputs, 2);
-    EXPECT_EQ(record.flags, 1 << 4 | 1 << 5 | 1 << 12);
+    EXPECT_EQ(record.flags, 1 << 0 | 1 << 4 | 1 << 5 | 1 << 12);
     EXPECT_EQ(record.uniqueID, 0x6B4D7251);
     EXPECT_EQ(record.version, 1);
     for (char byte : record.future)
@@ -144,14 +165,37 @@ TEST(LoadedEffect, AnswersUnknownOpcodesWithZero) {
         EXPECT_EQ(effect.send(static_cast<AEffectOpcode>(opcode)), 0) << opcode;
 }
 
-TEST(LoadedEffect, HasNoEditor) {
+// Audacity 3.2.4 asks for the rectangle before it opens the editor.
+TEST(LoadedEffect, HasAnEditorWhoseSizeIsKnownBeforeItOpens) {
     FakeHost host;
     const CPluginFile file;
     const CLoadedEffect effect(file, FakeHost::callback);
     ERect *rect = nullptr;
-    EXPECT_EQ(effect.send(effEditGetRect, 0, 0, &rect), 0);
-    EXPECT_EQ(effect.send(effEditOpen), 0);
-    EXPECT_EQ(rect, nullptr);
+    ASSERT_EQ(effect.send(effEditGetRect, 0, 0, &rect), 1);
+    EXPECT_EQ(rect->top, 0);
+    EXPECT_EQ(rect->left, 0);
+    EXPECT_EQ(rect->bottom, 370);
+    EXPECT_EQ(rect->right, 748);
+}
+
+TEST(LoadedEffect, MayIdleAndCloseAnEditorThatIsNotOpen) {
+    FakeHost host;
+    const CPluginFile file;
+    const CLoadedEffect effect(file, FakeHost::callback);
+    EXPECT_EQ(effect.send(effEditIdle), 0);
+    EXPECT_EQ(effect.send(effEditClose), 0);
+    EXPECT_EQ(effect.send(effEditIdle), 0);
+}
+
+// Hosts that scan call it from a thread that ends, and use the effect elsewhere.
+TEST(LoadedEffect, MayBeCreatedAndClosedOnDifferentThreads) {
+    FakeHost host;
+    const CPluginFile file;
+    std::optional<CLoadedEffect> effect;
+    std::thread([&] { effect.emplace(file, FakeHost::callback); }).join();
+    effect->send(effSetProgram, 0, 5);
+    EXPECT_EQ(effect->text(effGetProgramName), "Pop Vocal");
+    std::thread([&] { effect.reset(); }).join();
 }
 
 // Giada's pin record ends after the first 80 bytes.

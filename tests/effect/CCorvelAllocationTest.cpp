@@ -1,9 +1,12 @@
 #include "Allocation.h"
 #include "dspclasses/support/Signals.h"
+#include "editor/CCorvelEditor.h"
 #include "effect/CCorvel.h"
 #include "hostlayer/FakeHost.h"
+#include "toolkit/windowing/FakeNativeWindow.h"
 
 #include <gtest/gtest.h>
+#include <thread>
 
 using Tessitor::Corvel::CCorvel;
 
@@ -49,18 +52,30 @@ TYPED_TEST(CCorvelAllocation, HappensForALongerBlock) {
     EXPECT_GT(allocationsOfThisThread(), before);
 }
 
-// MusE 4.1 sets and reads parameters on the audio thread.
+// MusE 4.1 sets and reads parameters on the audio thread. The thread that created the effect also
+// changes the texts of a closed editor.
 TYPED_TEST(CCorvelAllocation, HappensForNoParameterExceptTheReverbsSpread) {
-    CRandom random(2);
-    for (int id = 0; id < 64; ++id) {
-        if (id == kRvSpread)
-            continue;
-        const std::uint64_t before = allocationsOfThisThread();
-        for (int i = 0; i < 20; ++i)
-            this->effect.setParameter(id, static_cast<float>(random.real(0.0, 1.0)));
-        this->effect.getParameter(id);
-        EXPECT_EQ(allocationsOfThisThread(), before) << "parameter " << id;
-    }
+    const auto setAll = [this] {
+        CRandom random(2);
+        for (int id = 0; id < 64; ++id) {
+            if (id == kRvSpread)
+                continue;
+            const std::uint64_t before = allocationsOfThisThread();
+            for (int i = 0; i < 20; ++i)
+                this->effect.setParameter(id, static_cast<float>(random.real(0.0, 1.0)));
+            this->effect.getParameter(id);
+            EXPECT_EQ(allocationsOfThisThread(), before) << "parameter " << id;
+        }
+    };
+    std::thread(setAll).join();
+    fakeNatives() = SFakeNatives();
+    int parent = 0;
+    this->effect.getEditor()->open(&parent);
+    std::thread(setAll).join();
+    this->effect.getEditor()->idle();
+    std::thread(setAll).join();
+    this->effect.getEditor()->close();
+    std::thread(setAll).join();
 }
 
 TYPED_TEST(CCorvelAllocation, DoesNotHappenForTheHostsEvents) {

@@ -41,8 +41,8 @@ TEST_F(CCorvelTest, FillsThePublishedFields) {
     EXPECT_EQ(fields.numParams, 64);
     EXPECT_EQ(fields.numInputs, 2);
     EXPECT_EQ(fields.numOutputs, 2);
-    EXPECT_EQ(fields.flags,
-              effFlagsCanReplacing | effFlagsCanDoubleReplacing | effFlagsProgramChunks);
+    EXPECT_EQ(fields.flags, effFlagsHasEditor | effFlagsCanReplacing | effFlagsCanDoubleReplacing |
+                                effFlagsProgramChunks);
     EXPECT_EQ(fields.uniqueID, 0x6B4D7251);
     EXPECT_EQ(std::string(reinterpret_cast<const char *>(&fields.uniqueID), 4), "QrMk");
     EXPECT_EQ(fields.version, 1);
