@@ -1,16 +1,12 @@
 #include "hostlayer/AudioEffectX.h"
 
+#include "values/ToPointer.h"
+
 namespace {
 
 VstKeyCode keyCodeOf(int index, std::intptr_t value, float opt) {
     return {index, static_cast<unsigned char>(value),
             static_cast<unsigned char>(static_cast<int>(opt))};
-}
-
-/// The interface passes some pointers as integers.
-template <typename Record>
-Record *recordAt(std::intptr_t value) {
-    return reinterpret_cast<Record *>(value);  // NOLINT(performance-no-int-to-ptr)
 }
 
 }  // namespace
@@ -42,10 +38,10 @@ std::intptr_t AudioEffectX::dispatcher(int opcode, int index, std::intptr_t valu
     case effProcessVarIo:
         return processVariableIo(static_cast<VstVariableIo *>(ptr));
     case effSetSpeakerArrangement:
-        return setSpeakerArrangement(recordAt<VstSpeakerArrangement>(value),
+        return setSpeakerArrangement(toPointer<VstSpeakerArrangement *>(value),
                                      static_cast<VstSpeakerArrangement *>(ptr));
     case effGetSpeakerArrangement:
-        return getSpeakerArrangement(recordAt<VstSpeakerArrangement *>(value),
+        return getSpeakerArrangement(toPointer<VstSpeakerArrangement **>(value),
                                      static_cast<VstSpeakerArrangement **>(ptr));
     case effSetBlockSizeAndSampleRate:
         setBlockSize(number);
@@ -129,7 +125,7 @@ VstPlugCategory AudioEffectX::getPlugCategory() {
 }
 
 VstTimeInfo *AudioEffectX::getTimeInfo(int filter) {
-    return recordAt<VstTimeInfo>(askHost(audioMasterGetTime, 0, filter));
+    return toPointer<VstTimeInfo *>(askHost(audioMasterGetTime, 0, filter));
 }
 
 int AudioEffectX::canHostDo(const char *text) {
@@ -197,7 +193,7 @@ int AudioEffectX::getHostLanguage() {
 }
 
 const char *AudioEffectX::getDirectory() {
-    return recordAt<const char>(askHost(audioMasterGetDirectory));
+    return toPointer<const char *>(askHost(audioMasterGetDirectory));
 }
 
 bool AudioEffectX::ioChanged() {

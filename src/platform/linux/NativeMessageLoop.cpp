@@ -1,6 +1,6 @@
 #include "platform/NativeMessageLoop.h"
 
-#include "platform/linux/windowing/CXcbConnection.h"
+#include "platform/linux/windowing/connection/CXcbConnection.h"
 
 #include <algorithm>
 #include <mutex>

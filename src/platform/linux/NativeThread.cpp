@@ -1,5 +1,7 @@
 #include "platform/NativeThread.h"
 
+#include "values/ToPointer.h"
+
 #include <atomic>
 #include <pthread.h>
 
@@ -32,8 +34,7 @@ std::uintptr_t numberNativeThread() {
         return 0;
     if (nativeThreadNumber() == 0) {
         const std::uintptr_t number = ++last;
-        // NOLINTNEXTLINE(performance-no-int-to-ptr)
-        pthread_setspecific(numbers().key, reinterpret_cast<void *>(number));
+        pthread_setspecific(numbers().key, toPointer<void *>(number));
     }
     return nativeThreadNumber();
 }

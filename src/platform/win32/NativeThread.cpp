@@ -1,5 +1,7 @@
 #include "platform/NativeThread.h"
 
+#include "values/ToPointer.h"
+
 #include <atomic>
 #include <windows.h>
 
@@ -33,8 +35,7 @@ std::uintptr_t numberNativeThread() {
         return 0;
     if (nativeThreadNumber() == 0) {
         const std::uintptr_t number = ++last;
-        // NOLINTNEXTLINE(performance-no-int-to-ptr)
-        TlsSetValue(numbers().index, reinterpret_cast<void *>(number));
+        TlsSetValue(numbers().index, toPointer<void *>(number));
     }
     return nativeThreadNumber();
 }

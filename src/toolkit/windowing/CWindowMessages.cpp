@@ -7,6 +7,7 @@
 #include "toolkit/events/INativeChildHolder.h"
 #include "toolkit/graphics/Painting.h"
 #include "toolkit/windowing/CWindow.h"
+#include "values/ToPointer.h"
 
 namespace Tessitor::GUI::Windowing {
 
@@ -27,10 +28,6 @@ std::int16_t signedLow(std::intptr_t packed) {
 
 std::int16_t signedHigh(std::intptr_t packed) {
     return static_cast<std::int16_t>(packed >> 16);
-}
-
-void *toHandle(std::uintptr_t value) {
-    return reinterpret_cast<void *>(value);  // NOLINT(performance-no-int-to-ptr)
 }
 
 INativeChildHolder *findHolder(Controls::IControlRoot &root, void *child);
@@ -141,8 +138,8 @@ CWindow::Result CWindow::handlePaint() {
 
 CWindow::Result CWindow::handleChildColour(std::uintptr_t wParam, std::intptr_t lParam) {
     INativeChildHolder *holder =
-        findHolder(*m_parts->root, toHandle(static_cast<std::uintptr_t>(lParam)));
-    return holder != nullptr ? holder->colourNativeChild(toHandle(wParam)) : refused;
+        findHolder(*m_parts->root, toPointer<void *>(static_cast<std::uintptr_t>(lParam)));
+    return holder != nullptr ? holder->colourNativeChild(toPointer<void *>(wParam)) : refused;
 }
 
 // Mouse

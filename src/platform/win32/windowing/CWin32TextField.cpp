@@ -3,6 +3,7 @@
 #include "platform/NativeModule.h"
 #include "platform/win32/drawing/CWin32Font.h"
 #include "platform/win32/windowing/TiedPopup.h"
+#include "values/ToPointer.h"
 
 #include <utility>
 
@@ -44,7 +45,7 @@ bool CWin32TextField::open(const SNativeTextFieldSettings &settings,
         return false;
     tiePopup(m_window, m_handle);
     SetWindowLongPtrA(m_handle, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-    m_editProcedure = reinterpret_cast<WNDPROC>(
+    m_editProcedure = toPointer<WNDPROC>(
         SetWindowLongPtrA(m_handle, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
     SendMessageA(m_handle, WM_SETFONT, reinterpret_cast<WPARAM>(m_font.get()), FALSE);
     SendMessageA(m_handle, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
@@ -78,8 +79,7 @@ void CWin32TextField::end(ENativeTextFieldEnd how) {
 
 LRESULT CALLBACK CWin32TextField::procedure(HWND handle, UINT message, WPARAM wParam,
                                             LPARAM lParam) {
-    auto *field = reinterpret_cast<CWin32TextField *>(  // NOLINT(performance-no-int-to-ptr)
-        GetWindowLongPtrA(handle, GWLP_USERDATA));
+    auto *field = toPointer<CWin32TextField *>(GetWindowLongPtrA(handle, GWLP_USERDATA));
     const WNDPROC editProcedure = field->m_editProcedure;
     // After each report, the field and its window may be gone.
     switch (message) {

@@ -4,18 +4,9 @@
 #include "platform/win32/drawing/IDeviceContext.h"
 #include "platform/win32/windowing/TiedPopup.h"
 #include "platform/win32/windowing/WindowClass.h"
+#include "values/ToPointer.h"
 
 #include <utility>
-
-namespace {
-
-/// What a message or the user data of a window points to.
-template <typename Pointer>
-Pointer toPointer(LONG_PTR value) {
-    return reinterpret_cast<Pointer>(value);  // NOLINT(performance-no-int-to-ptr)
-}
-
-}  // namespace
 
 CWin32Window::~CWin32Window() {
     m_reportsEnd = false;

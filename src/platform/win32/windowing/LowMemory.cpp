@@ -1,5 +1,7 @@
 #include "platform/win32/windowing/LowMemory.h"
 
+#include "values/ToPointer.h"
+
 #include <cstdint>
 #include <new>
 #include <windows.h>
@@ -8,23 +10,19 @@ namespace {
 
 constexpr std::uintptr_t granularity = 0x10000, limit = 0x80000000;
 
-void *toPointer(std::uintptr_t address) {
-    return reinterpret_cast<void *>(address);  // NOLINT(performance-no-int-to-ptr)
-}
-
 }  // namespace
 
 void *allocateLowMemory(std::size_t size) {
     MEMORY_BASIC_INFORMATION region;
     for (std::uintptr_t address = granularity; address + size < limit;) {
-        if (VirtualQuery(toPointer(address), &region, sizeof region) == 0)
+        if (VirtualQuery(toPointer<void *>(address), &region, sizeof region) == 0)
             break;
         const std::uintptr_t end =
             reinterpret_cast<std::uintptr_t>(region.BaseAddress) + region.RegionSize;
         const bool fits = region.State == MEM_FREE && address + size <= end;
-        void *memory =
-            fits ? VirtualAlloc(toPointer(address), size, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE)
-                 : nullptr;
+        void *memory = fits ? VirtualAlloc(toPointer<void *>(address), size,
+                                           MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE)
+                            : nullptr;
         if (memory != nullptr)
             return memory;
         address = (end + granularity - 1) / granularity * granularity;

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "CTestClient.h"
-#include "WindowIds.h"
 #include "platform/linux/CVirtualDisplay.h"
-#include "platform/linux/windowing/CXcbConnection.h"
+#include "platform/linux/windowing/CTestClient.h"
+#include "platform/linux/windowing/WindowIds.h"
+#include "platform/linux/windowing/connection/CXcbConnection.h"
 #include "platform/windowing/CWindowSpy.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
-#include "CTestClient.h"
+#include "platform/linux/windowing/CTestClient.h"
 
-#include "platform/linux/windowing/CXcbConnection.h"
-#include "platform/linux/windowing/XcbReply.h"
+#include "platform/linux/windowing/connection/CXcbConnection.h"
+#include "platform/linux/windowing/connection/XcbReply.h"
 
 #include <chrono>
 #include <poll.h>

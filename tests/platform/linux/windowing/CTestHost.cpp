@@ -1,8 +1,8 @@
 #include "platform/windowing/CTestHost.h"
 
-#include "CTestClient.h"
-#include "WindowIds.h"
 #include "platform/linux/CVirtualDisplay.h"
+#include "platform/linux/windowing/CTestClient.h"
+#include "platform/linux/windowing/WindowIds.h"
 
 struct CTestHost::SSystem {
     CVirtualDisplay display = CVirtualDisplay("640x480x24");

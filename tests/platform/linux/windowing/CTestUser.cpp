@@ -1,9 +1,9 @@
 #include "platform/windowing/CTestUser.h"
 
-#include "CTestClient.h"
-#include "WindowIds.h"
-#include "platform/linux/windowing/CXcbConnection.h"
-#include "platform/linux/windowing/CXcbKeyboard.h"
+#include "platform/linux/windowing/CTestClient.h"
+#include "platform/linux/windowing/WindowIds.h"
+#include "platform/linux/windowing/connection/CXcbConnection.h"
+#include "platform/linux/windowing/keyboard/CXcbKeyboard.h"
 
 #include <stdexcept>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "CTestClient.h"
-#include "WindowProperty.h"
+#include "platform/linux/windowing/CTestClient.h"
+#include "platform/linux/windowing/WindowProperty.h"
 
 #include <chrono>
 #include <csignal>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "CTestClient.h"
-#include "platform/linux/windowing/XcbReply.h"
+#include "platform/linux/windowing/CTestClient.h"
+#include "platform/linux/windowing/connection/XcbReply.h"
 
 #include <string>
 #include <string_view>

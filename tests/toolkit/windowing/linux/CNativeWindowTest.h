@@ -3,8 +3,8 @@
 #include "platform/NativeMouse.h"
 #include "platform/linux/CVirtualDisplay.h"
 #include "platform/linux/windowing/CTestClient.h"
-#include "platform/linux/windowing/CXcbConnection.h"
 #include "platform/linux/windowing/WindowIds.h"
+#include "platform/linux/windowing/connection/CXcbConnection.h"
 #include "toolkit/windowing/CListener.h"
 #include "toolkit/windowing/CWindow.h"
 

@@ -1,7 +1,7 @@
 // What a text edit leaves behind, however it ends: the keyboard is the host's again.
 #include "CNativeWindowTest.h"
 #include "foundation/CString.h"
-#include "platform/linux/windowing/CXcbKeyboard.h"
+#include "platform/linux/windowing/keyboard/CXcbKeyboard.h"
 #include "toolkit/controls/CTextEdit.h"
 
 namespace {

@@ -1,7 +1,7 @@
 // A server that dies, or answers no more for a while, while an editor is open.
 #include "CNativeWindowTest.h"
 #include "foundation/CException.h"
-#include "platform/linux/windowing/CNoPipeSignal.h"
+#include "platform/linux/windowing/connection/CNoPipeSignal.h"
 #include "toolkit/controls/CTextEdit.h"
 #include "toolkit/events/CActionEvent.h"
 #include "toolkit/events/CCursor.h"
