@@ -184,6 +184,8 @@ TEST_F(CControlRootLists, KeepsAModalControlThatIsSetAgain) {
     EXPECT_EQ(root.getModalControl(), modal);
     EXPECT_FALSE(isDestroyed);
     EXPECT_EQ(modal->getReferenceCount(), 1);
+    root.clearModalControl();
+    EXPECT_TRUE(isDestroyed);
 }
 
 TEST_F(CControlRootLists, ConnectsAControlOfTheRightClass) {
