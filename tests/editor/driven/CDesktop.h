@@ -52,6 +52,7 @@ public:
     /// @return what a host's window shows of its children, from its top left corner. On Linux other
     ///         windows may cover it.
     CPicture pictureOf(void *window, int width, int height) const;
+    CPicture pictureOfScreen(const SNativeRect &area) const;
     std::optional<SNativeRect> openMenu() const;  ///< on the screen; of this process
     int countMenus() const;
     /// @return the windows that are in a host's window.

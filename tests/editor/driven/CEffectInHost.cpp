@@ -90,7 +90,7 @@ void CEffectInHost::turnWheelAt(SNativePoint position, int notches) const {
     settle();
 }
 
-void CEffectInHost::choose(int number, int ofItems) const {
+void CEffectInHost::pointAtItem(int number, int ofItems) const {
     const auto menu = m_desktop.openMenu();
     if (!menu)
         throw std::runtime_error("no menu is open");
@@ -98,14 +98,24 @@ void CEffectInHost::choose(int number, int ofItems) const {
     m_desktop.movePointer(
         {(menu->left + menu->right) / 2, menu->top + number * height + height / 2});
     settle();
+}
+
+void CEffectInHost::pointAtModule(int module) const {
+    constexpr int modules = kLastModuleSlot - kFirstModuleSlot + 1;
+    pointAtItem(module == -1 ? modules : module - kFirstModuleSlot, modules + 1);
+}
+
+void CEffectInHost::choose(int number, int ofItems) const {
+    pointAtItem(number, ofItems);
     settlePress();
     settleRelease();
 }
 
 void CEffectInHost::chooseModule(Layout::EHotSpot kind, int slot, int module) const {
-    constexpr int modules = kLastModuleSlot - kFirstModuleSlot + 1;
     clickHotSpot(kind, slot);
-    choose(module == -1 ? modules : module - kFirstModuleSlot, modules + 1);
+    pointAtModule(module);
+    settlePress();
+    settleRelease();
 }
 
 // What became of it

@@ -43,8 +43,10 @@ public:
     /// In one movement.
     void drag(SNativePoint position, int right, int down) const;
     void turnWheelAt(SNativePoint position, int notches) const;
-    /// Chooses an item of the menu that is open.
+    /// Moves the mouse to an item of the menu that is open.
     /// @param number  from the top.
+    void pointAtItem(int number, int ofItems) const;
+    void pointAtModule(int module) const;  ///< the same in the menu of modules; -1 for none
     void choose(int number, int ofItems) const;
     void clickHotSpot(Layout::EHotSpot kind, int slot) const {
         clickAt(Layout::hotSpot(kind, slot));

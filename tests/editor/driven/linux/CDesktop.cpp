@@ -74,6 +74,25 @@ struct CDesktop::SSystem {
         std::erase_if(found, [this](xcb_window_t window) { return !isMenu(window); });
         return found;
     }
+    CPicture pictureOf(xcb_window_t window, const SNativeRect &area) const {
+        const int width = area.right - area.left, height = area.bottom - area.top;
+        const auto image = ownReply(xcb_get_image_reply(
+            client.get(),
+            xcb_get_image(client.get(), XCB_IMAGE_FORMAT_Z_PIXMAP, window,
+                          static_cast<std::int16_t>(area.left), static_cast<std::int16_t>(area.top),
+                          static_cast<std::uint16_t>(width), static_cast<std::uint16_t>(height),
+                          0xFFFFFFFF),
+            nullptr));
+        if (!image)
+            throw std::runtime_error("the window is not on the screen");
+        CPicture picture(width, height);
+        const std::uint8_t *bytes = xcb_get_image_data(image.get());
+        for (int y = 0; y < height; ++y)
+            for (int x = 0; x < width; ++x, bytes += 4)
+                picture.at(x, y) =
+                    std::uint32_t{bytes[2]} << 16 | std::uint32_t{bytes[1]} << 8 | bytes[0];
+        return picture;
+    }
     xcb_window_t focus() const {
         const auto reply = ownReply(
             xcb_get_input_focus_reply(client.get(), xcb_get_input_focus(client.get()), nullptr));
@@ -179,22 +198,11 @@ void CDesktop::settle(const std::function<void()> &idle) {
 // What can be seen
 
 CPicture CDesktop::pictureOf(void *window, int width, int height) const {
-    CTestClient &client = m_system->client;
-    const auto image = ownReply(
-        xcb_get_image_reply(client.get(),
-                            xcb_get_image(client.get(), XCB_IMAGE_FORMAT_Z_PIXMAP, idOf(window), 0,
-                                          0, static_cast<std::uint16_t>(width),
-                                          static_cast<std::uint16_t>(height), 0xFFFFFFFF),
-                            nullptr));
-    if (!image)
-        throw std::runtime_error("the window is not on the screen");
-    CPicture picture(width, height);
-    const std::uint8_t *bytes = xcb_get_image_data(image.get());
-    for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x, bytes += 4)
-            picture.at(x, y) =
-                std::uint32_t{bytes[2]} << 16 | std::uint32_t{bytes[1]} << 8 | bytes[0];
-    return picture;
+    return m_system->pictureOf(idOf(window), {0, 0, width, height});
+}
+
+CPicture CDesktop::pictureOfScreen(const SNativeRect &area) const {
+    return m_system->pictureOf(m_system->client.getScreen().root, area);
 }
 
 std::optional<SNativeRect> CDesktop::openMenu() const {

@@ -45,6 +45,34 @@ std::vector<HWND> menus() {
     return found;
 }
 
+/// @param window  null for the screen.
+CPicture pictureFrom(HWND window, const SNativeRect &area) {
+    const int width = area.right - area.left, height = area.bottom - area.top;
+    const HDC context = GetDC(window);
+    const HDC memory = CreateCompatibleDC(context);
+    BITMAPINFO format = {};
+    format.bmiHeader.biSize = sizeof format.bmiHeader;
+    format.bmiHeader.biWidth = width;
+    format.bmiHeader.biHeight = -height;  // from the top
+    format.bmiHeader.biPlanes = 1;
+    format.bmiHeader.biBitCount = 32;
+    void *bits = nullptr;
+    const HBITMAP bitmap = CreateDIBSection(memory, &format, DIB_RGB_COLORS, &bits, nullptr, 0);
+    const HGDIOBJ previous = SelectObject(memory, bitmap);
+    BitBlt(memory, 0, 0, width, height, context, area.left, area.top, SRCCOPY);
+    GdiFlush();
+    CPicture picture(width, height);
+    const auto *pixels = static_cast<const std::uint32_t *>(bits);
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x)
+            picture.at(x, y) = *pixels++ & 0xFFFFFF;
+    SelectObject(memory, previous);
+    DeleteObject(bitmap);
+    DeleteDC(memory);
+    ReleaseDC(window, context);
+    return picture;
+}
+
 /// Without a window manager, Wine waits two seconds for it whenever a window ends that the screen
 /// shows. This has Wine do without one. To be called before Wine shows anything.
 void liveWithoutWindowManager() {
@@ -166,29 +194,11 @@ void CDesktop::settle(const std::function<void()> &idle) {
 // What can be seen
 
 CPicture CDesktop::pictureOf(void *window, int width, int height) const {
-    const HDC context = GetDC(toWindow(window));
-    const HDC memory = CreateCompatibleDC(context);
-    BITMAPINFO format = {};
-    format.bmiHeader.biSize = sizeof format.bmiHeader;
-    format.bmiHeader.biWidth = width;
-    format.bmiHeader.biHeight = -height;  // from the top
-    format.bmiHeader.biPlanes = 1;
-    format.bmiHeader.biBitCount = 32;
-    void *bits = nullptr;
-    const HBITMAP bitmap = CreateDIBSection(memory, &format, DIB_RGB_COLORS, &bits, nullptr, 0);
-    const HGDIOBJ previous = SelectObject(memory, bitmap);
-    BitBlt(memory, 0, 0, width, height, context, 0, 0, SRCCOPY);
-    GdiFlush();
-    CPicture picture(width, height);
-    const auto *pixels = static_cast<const std::uint32_t *>(bits);
-    for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x)
-            picture.at(x, y) = *pixels++ & 0xFFFFFF;
-    SelectObject(memory, previous);
-    DeleteObject(bitmap);
-    DeleteDC(memory);
-    ReleaseDC(toWindow(window), context);
-    return picture;
+    return pictureFrom(toWindow(window), {0, 0, width, height});
+}
+
+CPicture CDesktop::pictureOfScreen(const SNativeRect &area) const {
+    return pictureFrom(nullptr, area);
 }
 
 std::optional<SNativeRect> CDesktop::openMenu() const {
