@@ -56,13 +56,16 @@ def draw_plain_ring(canvas, value):
 
 
 GAP = 0.03  # on either side of the noon mark
+LEAST = 0.05  # of the ring is coloured as soon as the value leaves the middle, to tell the side
 
 
 def draw_centred_ring(canvas, value, left, right, left_width, right_width):
     draw_ring(canvas, 0, NOON - GAP, TRACK, left_width)
     draw_ring(canvas, NOON + GAP, 1, TRACK, right_width)
-    draw_ring(canvas, value, NOON - GAP, left, left_width)
-    draw_ring(canvas, NOON + GAP, value, right, right_width)
+    if value < NOON:
+        draw_ring(canvas, min(value, NOON - GAP - LEAST), NOON - GAP, left, left_width)
+    if value > NOON:
+        draw_ring(canvas, NOON + GAP, max(value, NOON + GAP + LEAST), right, right_width)
     draw_noon_mark(canvas)
 
 

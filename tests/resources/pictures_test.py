@@ -142,6 +142,13 @@ class Knobs(unittest.TestCase):
         self.assertLess(max(x for x, y in coloured_places(strip[0])), 12)
         self.assertGreaterEqual(min(x for x, y in coloured_places(strip[62])), 12)
 
+    def test_the_first_step_from_the_middle_shows_its_side(self):
+        strip = frames("Green2Red_Centred")
+        for frame, is_left in ((30, True), (32, False)):
+            places = coloured_places(strip[frame])
+            self.assertTrue(places, frame)
+            self.assertTrue(all((x < 12) == is_left for x, y in places), frame)
+
 
 # The background
 
