@@ -14,7 +14,7 @@ from string import Template
 from writing.facts import Facts
 from writing.prose import anchor, inline, to_html
 from writing.tables import entries_html
-from writing.window_picture import window_picture
+from writing.window_picture import menu_picture, window_picture
 
 FOLDER = Path(__file__).resolve().parent / "manual"
 
@@ -47,10 +47,10 @@ def modules_html(facts):
 
 
 def chapters_html(facts):
-    picture = FOLDER / "editor.png"
     parts = {
         "modules": modules_html(facts),
-        "window": window_picture(picture.read_bytes() if picture.exists() else None),
+        "window": window_picture((FOLDER / "editor.png").read_bytes()),
+        "menu": menu_picture((FOLDER / "menu.png").read_bytes()),
         "signal-path": read("signal-path.svg").strip(),
     }
     paths = sorted((FOLDER / "chapters").glob("*.md"))

@@ -29,7 +29,7 @@ def range_html(parameter):
 
 def row(parameters, value, text):
     first = parameters[0]
-    names = " ".join(f"<code>{escape(parameter.name)}</code>" for parameter in parameters)
+    names = "<br> ".join(f"<code>{escape(parameter.name)}</code>" for parameter in parameters)
     label = TOP_ROW.get(first.name, first.label)
     shown = escape(value.replace("-", "\u2212").replace(first.unit, spelled(first.unit)))
     return (
