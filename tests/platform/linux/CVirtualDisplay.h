@@ -2,9 +2,9 @@
 
 #include <csignal>
 #include <cstdlib>
-#include <spawn.h>
 #include <stdexcept>
 #include <string>
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -20,19 +20,18 @@ public:
         const char *const arguments[] = {"Xvfb",     "-displayfd", descriptor.c_str(), "-screen",
                                          "0",        screen,       "-nolisten",        "tcp",
                                          "-noreset", nullptr};
-        const int failed = posix_spawnp(&m_server, "Xvfb", nullptr, nullptr,
-                                        const_cast<char *const *>(arguments), environ);
+        m_server = fork();
+        if (m_server == 0)
+            run(arguments);
         close(ready[1]);
         // The server writes its number when it is ready. If it dies instead, the pipe is closed.
         std::string number;
-        for (char digit = 0; failed == 0 && read(ready[0], &digit, 1) == 1 && digit != '\n';)
+        for (char digit = 0; read(ready[0], &digit, 1) == 1 && digit != '\n';)
             number += digit;
         close(ready[0]);
-        if (failed != 0)
-            throw std::runtime_error("Xvfb is not installed");
         if (number.empty()) {
             stop();
-            throw std::runtime_error("Xvfb did not start");
+            throw std::runtime_error("Xvfb is not installed or did not start");
         }
         setenv("DISPLAY", (":" + number).c_str(), 1);
     }
@@ -53,8 +52,14 @@ public:
     void resume() const { kill(m_server, SIGCONT); }
 
 private:
+    /// Becomes the server. It ends with the thread that has started it, however that one ends.
+    [[noreturn]] static void run(const char *const *arguments) {
+        prctl(PR_SET_PDEATHSIG, SIGTERM);
+        execvp(arguments[0], const_cast<char *const *>(arguments));
+        _exit(127);
+    }
     void stop(int signal = SIGTERM) {
-        if (m_server == 0)
+        if (m_server <= 0)
             return;
         kill(m_server, signal);
         waitpid(m_server, nullptr, 0);
