@@ -35,9 +35,17 @@ struct CDesktop::SSystem {
     std::unique_ptr<CWindowManager> manager;
     std::map<xcb_window_t, int> keys;  // that a window has heard
 
+    /// Waits until the server and the window manager have handled all that has happened.
+    void synchronise() const {
+        synchroniseWithServer();
+        if (manager == nullptr)
+            return;
+        manager->synchronise(client);
+        synchroniseWithServer();
+    }
     /// Waits until the server has handled all that this process has asked for, and has sent what
     /// this led to. It serves its clients in any order, so round trips alone do not tell.
-    void synchronise() const {
+    void synchroniseWithServer() const {
         pumpUntil([this] {
             for (int i = 0; i < 4; ++i)
                 client.synchronise();
@@ -122,6 +130,7 @@ void *CDesktop::createHostWindow(const SNativeRect &area) {
 void *CDesktop::createHiddenHostWindow(const SNativeRect &area) {
     CTestClient &client = m_system->client;
     const xcb_window_t window = client.createWindow(area, 0, m_system->manager != nullptr);
+    m_system->synchronise();  // or the window manager maps it after it was unmapped
     xcb_unmap_window(client.get(), window);
     constexpr std::uint32_t events = XCB_EVENT_MASK_KEY_PRESS;
     xcb_change_window_attributes(client.get(), window, XCB_CW_EVENT_MASK, &events);
@@ -141,8 +150,7 @@ void CDesktop::showHostWindow(void *window, const SNativeRect &area) {
                          values);
     xcb_map_window(client.get(), idOf(window));
     client.synchronise();
-    if (m_system->manager != nullptr)
-        CWindowManager::waitFor(client, idOf(window));
+    m_system->synchronise();
     client.focus(idOf(window));
 }
 

@@ -34,6 +34,35 @@ public:
     CWindowManager &operator=(const CWindowManager &) = delete;
     ~CWindowManager() { stop(); }
 
+    /// Waits until it has handled all that has happened on the screen so far. Until then it keeps
+    /// a press to itself, for example, since a press may also be meant for it.
+    void synchronise(CTestClient &client) const {
+        const xcb_window_t window = xcb_generate_id(client.get());
+        xcb_create_window(client.get(), XCB_COPY_FROM_PARENT, window, client.getScreen().root, 0, 0,
+                          1, 1, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
+        xcb_client_message_event_t question = {};
+        question.response_type = XCB_CLIENT_MESSAGE;
+        question.format = 32;
+        question.window = window;
+        question.type = atomOf(client, "_NET_REQUEST_FRAME_EXTENTS");
+        xcb_send_event(client.get(), 0, client.getScreen().root,
+                       XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
+                       reinterpret_cast<const char *>(&question));
+        const auto isAnswered = [&] {
+            return !numbersOf(client, window, "_NET_FRAME_EXTENTS").empty();
+        };
+        const bool hasAnswered = waitUntil(isAnswered, std::chrono::milliseconds(1));
+        client.destroyWindow(window);
+        if (!hasAnswered)
+            throw std::runtime_error("openbox does not answer");
+    }
+    /// Makes it do nothing until it is resumed.
+    void pause() const {
+        kill(m_manager, SIGSTOP);
+        waitpid(m_manager, nullptr, WUNTRACED);
+    }
+    void resume() const { kill(m_manager, SIGCONT); }
+
     /// @return whether the window manager has put the window on the screen.
     static bool waitFor(CTestClient &client, xcb_window_t window) {
         return pumpUntil([&] { return !numbersOf(client, window, "WM_STATE").empty(); });
@@ -43,18 +72,28 @@ private:
     /// It takes hold of the screen before it looks at windows, and some are lost between.
     void waitUntilItManages(CTestClient &client) {
         const xcb_window_t window = client.createWindow({0, 0, 10, 10}, 0, true);
-        const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(20);
-        while (numbersOf(client, window, "WM_STATE").empty()) {
-            if (std::chrono::steady_clock::now() > deadline) {
-                stop();
-                throw std::runtime_error("openbox did not start");
-            }
+        const auto isManaged = [&] {
             xcb_unmap_window(client.get(), window);
             xcb_map_window(client.get(), window);
             client.synchronise();
-            std::this_thread::sleep_for(std::chrono::milliseconds(20));
+            return !numbersOf(client, window, "WM_STATE").empty();
+        };
+        if (!waitUntil(isManaged, std::chrono::milliseconds(20))) {
+            stop();
+            throw std::runtime_error("openbox did not start");
         }
         client.destroyWindow(window);
+        synchronise(client);
+    }
+    /// @param interval  between two questions: each takes time from openbox.
+    static bool waitUntil(const std::function<bool()> &isMet, std::chrono::milliseconds interval) {
+        const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+        while (!isMet()) {
+            if (std::chrono::steady_clock::now() > deadline)
+                return false;
+            std::this_thread::sleep_for(interval);
+        }
+        return true;
     }
     void stop() const {
         kill(m_manager, SIGTERM);
