@@ -110,4 +110,5 @@ private:
     unsigned m_configured = 0;  // the number of the last request to move or resize
     unsigned m_painted = 0;     // of the last request that painted the whole window
     CXcbTimers m_timers;
+    const std::shared_ptr<const int> m_life = std::make_shared<int>();  // ends with the window
 };

@@ -67,9 +67,13 @@ void CXcbWindow::handleDestroyed() {
         handleEnd();
 }
 
+// Other windows may hear that they have the focus back. Their listeners may destroy this one.
 void CXcbWindow::handleEnd() {
-    m_connection->removeWindow(m_id);
-    m_id = XCB_NONE;
+    const std::weak_ptr<const int> life = m_life;
+    const std::shared_ptr<CXcbConnection> connection = m_connection;
+    connection->removeWindow(std::exchange(m_id, XCB_NONE));
+    if (life.expired())
+        return;
     m_timers.stopAll();
     m_listener.handleNativeDestroyed();
 }

@@ -158,6 +158,40 @@ TEST_F(CXcbPopups, SurviveANewPopupThatTheOldOneDestroys) {
     EXPECT_TRUE(isPointerFree());
 }
 
+TEST_F(CXcbPopups, MayBeDeletedByTheNextWhenTheyEnd) {
+    show(menu);
+    show(subMenu);
+    menu.onMessage = [this](const CWindowSpy::SMessage &message) {
+        if (message.number == NativeSetFocus)
+            subMenu.window.reset();
+        return std::nullopt;
+    };
+    pumpAll(*client);
+    client->destroyWindow(idOf(*subMenu.window));
+    pumpAll(*client);
+    EXPECT_EQ(subMenu.window, nullptr);
+    EXPECT_EQ(subMenu.all(NativeDestroy).size(), 1u);
+    EXPECT_EQ(subMenu.ends, 0);
+    EXPECT_TRUE(isPointerHeld());
+    menu.window->hide();
+    EXPECT_TRUE(isPointerFree());
+}
+
+TEST_F(CXcbPopups, MayBeDeletedByAPopupThatLosesTheFocusWithTheirOpener) {
+    show(menu);
+    menu.onMessage = [this](const CWindowSpy::SMessage &message) {
+        if (message.number == NativeKillFocus)
+            editor.window.reset();
+        return std::nullopt;
+    };
+    pumpAll(*client);
+    client->destroyWindow(host);
+    pumpAll(*client);
+    EXPECT_EQ(editor.window, nullptr);
+    EXPECT_EQ(editor.ends, 0);
+    EXPECT_TRUE(isPointerFree());
+}
+
 TEST_F(CXcbPopups, SendNothingWhileNothingHappens) {
     const auto requests = [this] { return xcb_no_operation(connection().get()).sequence; };
     show(menu);
