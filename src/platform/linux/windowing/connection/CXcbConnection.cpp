@@ -223,6 +223,13 @@ void CXcbConnection::endWindowsOf(xcb_window_t parent) {
     });
 }
 
+void CXcbConnection::endWindowsOpenedBy(xcb_window_t opener) {
+    forEachWindow([opener](CXcbWindow &window) {
+        if (window.getOpener() == opener)
+            window.end();
+    });
+}
+
 void CXcbConnection::endWindowsIfBroken() {
     if (isBroken())
         forEachWindow([](CXcbWindow &window) { window.handleEnd(); });

@@ -53,6 +53,8 @@ public:
     xcb_window_t ownerOf(xcb_window_t window) const;
     /// Destroys the windows that lie in a window or float above it.
     void endWindowsOf(xcb_window_t parent);
+    /// Destroys the windows that were created with a window as parent, whoever owns them.
+    void endWindowsOpenedBy(xcb_window_t opener);
     /// Tells all windows that the server is gone, if it is.
     void endWindowsIfBroken();
 

@@ -62,9 +62,13 @@ void CXcbWindow::end() {
     handleEnd();
 }
 
+// Only the host does this, with a window around this one. Popups float above that, so they go too.
 void CXcbWindow::handleDestroyed() {
+    const std::shared_ptr<CXcbConnection> connection = m_connection;
+    const xcb_window_t id = m_id;
     if (reportDestroy())
         handleEnd();
+    connection->endWindowsOpenedBy(id);
 }
 
 // Other windows may hear that they have the focus back. Their listeners may destroy this one.

@@ -98,6 +98,19 @@ TEST_F(CXcbPopups, GiveThePointerBackWhenTheHostDestroysItsWindow) {
     EXPECT_TRUE(isPointerFree());
 }
 
+TEST_F(CXcbPopups, GoWithTheHostsWindow) {
+    show(menu);
+    pumpAll(*client);
+    client->destroyWindow(host);
+    pumpAll(*client);
+    for (const CWindowSpy *popup : {&menu, &subMenu}) {
+        EXPECT_EQ(popup->ends, 1);
+        EXPECT_EQ(popup->all(NativeDestroy).size(), 1u);
+        EXPECT_EQ(popup->window->getHandle(), nullptr);
+    }
+    EXPECT_THAT(focusMessages(menu.messages), ElementsAre(NativeSetFocus, NativeKillFocus));
+}
+
 TEST_F(CXcbPopups, PassTheFocusOnToTheNextAndBack) {
     show(menu);
     std::vector<const CWindowSpy *> order;
