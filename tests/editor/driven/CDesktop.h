@@ -29,6 +29,9 @@ public:
     void *createHostWindow(const SNativeRect &area);
     void *createHiddenHostWindow(const SNativeRect &area);  ///< for showHostWindow()
     void showHostWindow(void *window, const SNativeRect &area);
+    /// As a user does it. The window has to be one of createHiddenHostWindow().
+    void moveHostWindow(void *window, SNativePoint position);
+    void minimiseHostWindow(void *window);  ///< likewise
     void destroyHostWindow(void *window);
     SNativePoint originOf(void *window) const;  ///< on the screen
     bool hasKeyboard(void *window) const;

@@ -169,6 +169,7 @@ TEST_F(DrivenOpening, TheHostMayDestroyItsWindowWhileAMenuIsOpen) {
     ASSERT_EQ(desktop->countMenus(), 1);
     driven.destroyWindow();
     driven.settle();
+    EXPECT_EQ(desktop->countMenus(), 0);
     driven.effect.send(effEditClose);
     driven.settle();
     expectGone(nullptr);

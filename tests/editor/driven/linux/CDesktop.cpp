@@ -154,6 +154,24 @@ void CDesktop::showHostWindow(void *window, const SNativeRect &area) {
     client.focus(idOf(window));
 }
 
+void CDesktop::moveHostWindow(void *window, SNativePoint position) {
+    CTestClient &client = m_system->client;
+    const std::uint32_t values[] = {static_cast<std::uint32_t>(position.x),
+                                    static_cast<std::uint32_t>(position.y)};
+    xcb_configure_window(client.get(), idOf(window), XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y,
+                         values);
+    client.synchronise();
+}
+
+void CDesktop::minimiseHostWindow(void *window) {
+    CTestClient &client = m_system->client;
+    if (m_system->manager != nullptr)
+        CWindowManager::minimise(client, idOf(window));
+    else
+        xcb_unmap_window(client.get(), idOf(window));
+    client.synchronise();
+}
+
 void CDesktop::destroyHostWindow(void *window) {
     m_system->client.destroyWindow(idOf(window));
 }

@@ -135,6 +135,19 @@ void CDesktop::showHostWindow(void *window, const SNativeRect &area) {
     handleMessages();
 }
 
+void CDesktop::moveHostWindow(void *window, SNativePoint position) {
+    // A user presses a button on the frame.
+    SetForegroundWindow(toWindow(window));
+    SetWindowPos(toWindow(window), nullptr, position.x, position.y, 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void CDesktop::minimiseHostWindow(void *window) {
+    ShowWindow(toWindow(window), SW_MINIMIZE);
+    // Unlike Windows, Wine does not activate the next window.
+    SetForegroundWindow(m_system->screen);
+}
+
 void CDesktop::destroyHostWindow(void *window) {
     DestroyWindow(toWindow(window));
 }

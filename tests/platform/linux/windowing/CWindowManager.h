@@ -40,14 +40,7 @@ public:
         const xcb_window_t window = xcb_generate_id(client.get());
         xcb_create_window(client.get(), XCB_COPY_FROM_PARENT, window, client.getScreen().root, 0, 0,
                           1, 1, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
-        xcb_client_message_event_t question = {};
-        question.response_type = XCB_CLIENT_MESSAGE;
-        question.format = 32;
-        question.window = window;
-        question.type = atomOf(client, "_NET_REQUEST_FRAME_EXTENTS");
-        xcb_send_event(client.get(), 0, client.getScreen().root,
-                       XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
-                       reinterpret_cast<const char *>(&question));
+        ask(client, window, "_NET_REQUEST_FRAME_EXTENTS");
         const auto isAnswered = [&] {
             return !numbersOf(client, window, "_NET_FRAME_EXTENTS").empty();
         };
@@ -55,6 +48,10 @@ public:
         client.destroyWindow(window);
         if (!hasAnswered)
             throw std::runtime_error("openbox does not answer");
+    }
+    static void minimise(CTestClient &client, xcb_window_t window) {
+        constexpr std::uint32_t iconicState = 3;
+        ask(client, window, "WM_CHANGE_STATE", iconicState);
     }
     /// Makes it do nothing until it is resumed.
     void pause() const {
@@ -69,6 +66,18 @@ public:
     }
 
 private:
+    static void ask(CTestClient &client, xcb_window_t window, const char *type,
+                    std::uint32_t argument = 0) {
+        xcb_client_message_event_t message = {};
+        message.response_type = XCB_CLIENT_MESSAGE;
+        message.format = 32;
+        message.window = window;
+        message.type = atomOf(client, type);
+        message.data.data32[0] = argument;
+        xcb_send_event(client.get(), 0, client.getScreen().root,
+                       XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
+                       reinterpret_cast<const char *>(&message));
+    }
     /// It takes hold of the screen before it looks at windows, and some are lost between.
     void waitUntilItManages(CTestClient &client) {
         const xcb_window_t window = client.createWindow({0, 0, 10, 10}, 0, true);
