@@ -90,7 +90,9 @@ void CCorvelEditor::openHelp() {
     Basics::CHtmlString(path).openInBrowser(true);
 }
 
+// Only one menu is open at a time, even if the user turns the wheel over a knob beside it.
 void CCorvelEditor::openAtMouse(CEditorMenu &menu) {
+    closeMenus();
     CMenuWindow &window = menu.getWindow();
     window.setMenuListener(this);
     window.setParentWindow(this);

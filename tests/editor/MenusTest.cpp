@@ -174,21 +174,37 @@ TEST_F(EditorMenus, CloseWhenTheEditorMovesToAnotherParent) {
     EXPECT_FALSE(isMenuOpen());
 }
 
-TEST_F(EditorMenus, MayBeOpenWhenTheEditorIsDeleted) {
-    auto *deleted = new CMenuSpy(effect.get(), CRect(0, 0, 748, 370),
-                                 Tessitor::GUI::Windowing::CWindowAttributes());
-    editor = deleted;
-    open();
-    for (const int id : {1, 32, 39, 48})
+TEST_F(EditorMenus, CloseWhenAnotherOneOpens) {
+    for (const int id : {1, 32, 39, 48, 61}) {
         click(control(id));
+        EXPECT_EQ(fakeNatives().windows.size(), 2u) << id;
+    }
     click(Insert, 0);
-    const INativeWindowListener *const parentOfMenus = &nativeOf(*editor).listener;
-    const INativeWindowListener *last = nullptr;
-    fakeNatives().onDestroy = [&](INativeWindowListener &listener) { last = &listener; };
-    delete deleted;
-    fakeNatives().onDestroy = nullptr;
-    EXPECT_EQ(fakeNatives().windows.size(), 1u);
-    EXPECT_EQ(last, parentOfMenus);
+    EXPECT_EQ(fakeNatives().windows.size(), 2u);
+    click(control(1));
+    EXPECT_EQ(fakeNatives().windows.size(), 2u);
+}
+
+TEST_F(EditorMenus, MayBeOpenWhenTheEditorIsDeleted) {
+    constexpr int noId = -1;  // the menu of a hot spot
+    for (const int id : {1, 61, 32, 39, 48, noId}) {
+        SCOPED_TRACE(id);
+        auto *deleted = new CMenuSpy(effect.get(), CRect(0, 0, 748, 370),
+                                     Tessitor::GUI::Windowing::CWindowAttributes());
+        editor = deleted;
+        open();
+        if (id == noId)
+            click(Insert, 0);
+        else
+            click(control(id));
+        const INativeWindowListener *const parentOfMenu = &nativeOf(*editor).listener;
+        const INativeWindowListener *last = nullptr;
+        fakeNatives().onDestroy = [&](INativeWindowListener &listener) { last = &listener; };
+        delete deleted;
+        fakeNatives().onDestroy = nullptr;
+        EXPECT_EQ(fakeNatives().windows.size(), 1u);
+        EXPECT_EQ(last, parentOfMenu);
+    }
 }
 
 // The values that they set
