@@ -22,6 +22,18 @@ using Events::CMouseEvent;
 using MathTools::CDimension;
 using MathTools::CRect;
 
+namespace {
+
+/// @return null for an item of another kind.
+CMenu *subMenuOf(CMenuItem &item) {
+    if (item.getType() != EMenuItemType::SubMenu)
+        return nullptr;
+    auto *subMenu = dynamic_cast<CSubMenuMenuItem *>(&item);
+    return subMenu != nullptr ? subMenu->getSubMenu() : nullptr;
+}
+
+}  // namespace
+
 CMenuWindow::CMenuRoot::CMenuRoot(IWindow *window, bool useIcons)
     : CControlRoot(window), m_menu(TCountedObjectDeleter<CMenu>::getStaticDeleter()),
       m_font(TCountedObjectDeleter<Fonts::CFont>::getStaticDeleter()), m_useIcons(useIcons) {
@@ -131,8 +143,8 @@ void CMenuWindow::CMenuRoot::select(CMenuItemDisplay &display, std::int32_t inde
         return;
     }
     setCurrentSelection(item.getType() == EMenuItemType::Separator ? -1 : index);
-    if (auto *subMenu = dynamic_cast<CSubMenuMenuItem *>(&item))
-        menuWindow()->openSubMenu(subMenu->getSubMenu(), display.getArea().getTop());
+    if (CMenu *subMenu = subMenuOf(item))
+        menuWindow()->openSubMenu(subMenu, display.getArea().getTop());
     else
         menuWindow()->closeSubMenu();
 }

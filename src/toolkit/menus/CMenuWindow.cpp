@@ -4,6 +4,9 @@
 #include "toolkit/menus/CMenuEvent.h"
 #include "toolkit/menus/CMenuRoot.h"
 
+#include <algorithm>
+#include <atomic>
+
 namespace Tessitor::GUI::Windowing {
 
 using Controls::CMenu;
@@ -14,17 +17,18 @@ Tessitor::Basics::TClassRecord<CMenuWindow> CMenuWindow::s_class("CMenuWindow", 
 
 namespace {
 
-/// A window class of its own for each menu window.
+/// The title is also the name of the window class, so no two menu windows share one. Several
+/// editors may create menu windows on threads of their own.
 Tessitor::Basics::CString uniqueTitle(const CMenu *menu) {
-    static long windows = 0;
+    static std::atomic<long> windows = 0;
     const long items = menu != nullptr ? menu->getNumberOfMenuItems() : 0;
     Tessitor::Basics::CString title;
-    title.setStringWithFormat("Menu_%li_%li", ++windows, items);
+    title.setStringWithFormat("Menu_%li_%li", long{++windows}, items);
     return title;
 }
 
-/// Where to put something of a length so that it lies before a limit, as far as it does not start
-/// before the first position for that.
+/// @return the start of a span, moved back so that it ends at the limit, but no further than
+/// `first`.
 std::int32_t fitted(std::int32_t start, std::int32_t length, std::int32_t first,
                     std::int32_t limit) {
     return start + length > limit && start > first ? std::max(limit - length, first) : start;
@@ -114,6 +118,7 @@ void CMenuWindow::openPopupWindow(const CPoint &point) {
     notify(&Listeners::IMenuListener::menuOpened);
 }
 
+// Kept: the size of the screen is the limit, not its far edges. They differ if its origin is not 0.
 void CMenuWindow::moveOntoScreen() {
     const CRect screen = Host::getVirtualScreen();
     const CRect rect = getWindowRect();
@@ -132,7 +137,7 @@ void CMenuWindow::closePopupWindow() {
     notify(&Listeners::IMenuListener::menuClosed);
 }
 
-/// Says that a child is being opened, unless a listener deletes the window meanwhile.
+/// While one exists, its window is opening a sub-menu. A listener may delete the window meanwhile.
 class CMenuWindow::COpeningChild {
 public:
     explicit COpeningChild(CMenuWindow &window) : m_window(window), m_life(window.m_life) {

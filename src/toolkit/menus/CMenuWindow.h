@@ -19,8 +19,7 @@ public:
     /// @param menu        referenced; null for none yet.
     /// @param useIcons    whether the images of the items are shown.
     /// @param listener    not owned; null for none.
-    /// @param originator  the control that events name; not owned while no event exists; null for
-    ///                    none.
+    /// @param originator  the control that events name; not owned; null for none.
     CMenuWindow(const MathTools::CRect &rect, const CWindowAttributes &attributes,
                 Controls::CMenu *menu, bool useIcons, Listeners::IMenuListener *listener,
                 Controls::IControl *originator = nullptr);

@@ -40,12 +40,12 @@ SMenuLayout layOutMenu(const CMenu &menu, Fonts::CFont *font, bool usesIcons,
             return;
         layout.hasTicks |= item.getType() == EMenuItemType::Selectable;
         layout.hasArrows |= item.getType() == EMenuItemType::SubMenu;
-        layout.hasIcons |= usesIcons && item.getNormalImage() != nullptr;
         enlarge(text, sizeOfText(item, font));
         if (usesIcons)
             enlarge(icon, sizeOfImages(item));
     });
 
+    layout.hasIcons = icon.getWidth() > 0;
     constexpr std::int32_t margins = 2 * SMenuLayout::margin;
     layout.itemHeight = std::max(text.getHeight(), icon.getHeight()) + margins;
     if (layout.hasIcons)

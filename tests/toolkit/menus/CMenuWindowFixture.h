@@ -96,7 +96,8 @@ protected:
     void loseFocus(CMenuWindow &shown) { send(shown, NativeKillFocus, CPoint(0, 0)); }
 
     std::vector<std::string> events;
-    std::function<void()> onEvent;  // called after each note
+    std::vector<Tessitor::GUI::Controls::IControl *> originators;  // of all events
+    std::function<void()> onEvent;                                 // called after each note
     CMenu *menu = new CMenu;
     const Tessitor::GUI::Windowing::CWindowAttributes attributes;
     CMenuWindow *window = nullptr;
@@ -109,6 +110,7 @@ private:
         if (event.getMenu() != menu)
             text += " in a sub-menu";
         events.push_back(text);
+        originators.push_back(event.getOriginator());
         if (onEvent)
             onEvent();
     }

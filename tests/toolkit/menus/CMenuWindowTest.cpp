@@ -82,6 +82,13 @@ TEST_F(CMenuWindow, MayIgnoreIcons) {
     EXPECT_EQ(areaOf(0).getHeight(), itemHeight());
 }
 
+TEST_F(CMenuWindow, LeavesRoomForAnImageOfDisabledItems) {
+    add("item")->setImages(nullptr, new CTestImage(30, 50, true));
+    createWindow();
+    EXPECT_EQ(areaOf(0).getWidth(), widthOf("item") + 8 + 30);
+    EXPECT_EQ(areaOf(0).getHeight(), 58);
+}
+
 TEST_F(CMenuWindow, IsAtLeastAsWideAsAskedFor) {
     add("item");
     createWindow();
@@ -110,6 +117,19 @@ TEST_F(CMenuWindow, TwoColumnBreaksLeaveAnEmptyColumn) {
     createWindow();
     EXPECT_EQ(window->getMenuSize()->getWidth(), 3 * (widthOf("item") + 8) + 8);
     EXPECT_EQ(window->getMenuSize()->getHeight(), 0);
+}
+
+// Kept: the text of a column break is not seen.
+TEST_F(CMenuWindow, MeasuresTheTextOfAColumnBreak) {
+    add("item");
+    add("a wide column break", EMenuItemType::ColumnBreak);
+    createWindow();
+    EXPECT_EQ(areaOf(0).getWidth(), widthOf("a wide column break") + 8);
+}
+
+TEST_F(CMenuWindow, StartsWithTheDefaultFont) {
+    createWindow();
+    EXPECT_EQ(window->getFont(), Tessitor::GUI::Fonts::CFont::getDefaultFont());
 }
 
 TEST_F(CMenuWindow, FollowsItsFont) {
@@ -199,6 +219,19 @@ TEST_F(CMenuWindow, MovesOntoTheScreen) {
     open(990, 799);
     EXPECT_EQ(window->getWindowRect().getRight(), 1000);
     EXPECT_EQ(window->getWindowRect().getBottom(), 800);
+}
+
+// Kept: the limits on the right and at the bottom are the size of the screen, wherever it begins.
+TEST_F(CMenuWindow, MovesOntoAScreenAsIfItBeganAtZero) {
+    add("item");
+    fakeNativeScreen() = {100, 50, 1100, 850};
+    open(990, 799);
+    EXPECT_EQ(window->getWindowRect().getRight(), 1000);
+    EXPECT_EQ(window->getWindowRect().getBottom(), 800);
+    fakeNativeScreen() = {-500, -400, 500, 400};
+    window->openPopupWindow(CPoint(700, 600));
+    EXPECT_EQ(window->getWindowPosition().getXPosition(), 700);
+    EXPECT_EQ(window->getWindowPosition().getYPosition(), 600);
 }
 
 TEST_F(CMenuWindow, StopsAtTheTopLeftOfTheScreen) {
@@ -356,6 +389,40 @@ TEST_F(CMenuWindow, PassesColoursAndFontToSubMenus) {
     moveTo(0);
     EXPECT_EQ(window->getChildWindow()->getMenuColours().text.getGreen(), 2);
     EXPECT_EQ(window->getChildWindow()->getFont(), window->getFont());
+}
+
+TEST_F(CMenuWindow, IgnoresIconsInSubMenusToo) {
+    CMenuItem *item = addSubMenu("more")->getSubMenu()->getMenuItem(0);
+    item->setImages(new CTestImage(30, 50, true), nullptr);
+    window = new Tessitor::GUI::Windowing::CMenuWindow(CRect(0, 0, 10, 10), attributes, menu, false,
+                                                       this);
+    window->openPopupWindow(CPoint(0, 0));
+    moveTo(0);
+    EXPECT_EQ(areaOf(*window->getChildWindow(), 0).getHeight(), itemHeight());
+}
+
+TEST_F(CMenuWindow, NamesItsOriginatorInEveryEvent) {
+    addSubMenu("more");
+    add("a");
+    Tessitor::GUI::Windowing::CWindow owner(CRect(0, 0, 10, 10));
+    auto *label = new Tessitor::GUI::Controls::CTextLabel(owner.getControlRoot(), 0,
+                                                          CRect(0, 0, 10, 10), "menu");
+    owner.getControlRoot()->addControl(label);
+    window = new Tessitor::GUI::Windowing::CMenuWindow(CRect(0, 0, 10, 10), attributes, menu, true,
+                                                       this, label);
+    window->openPopupWindow(CPoint(0, 0));
+    moveTo(0);
+    click(1);
+    EXPECT_THAT(events, ElementsAre("opened", "opened in a sub-menu", "closed", "selected a"));
+    EXPECT_THAT(originators, testing::Each(label));
+    delete std::exchange(window, nullptr);
+}
+
+TEST_F(CMenuWindow, AnItemThatIsNoSubMenuAnyMoreOpensNone) {
+    addSubMenu("more")->setType(EMenuItemType::Normal);
+    open();
+    click(0);
+    EXPECT_THAT(events, ElementsAre("closed", "selected more"));
 }
 
 TEST_F(CMenuWindow, ANormalItemClosesTheSubMenu) {
