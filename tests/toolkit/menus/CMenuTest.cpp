@@ -5,6 +5,7 @@
 #include "toolkit/menus/CSelectableMenuItem.h"
 #include "toolkit/menus/CSubMenuMenuItem.h"
 #include "toolkit/menus/NoteLengthMenu.h"
+#include "toolkit/menus/SMenuColours.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -51,6 +52,16 @@ TEST(CMenuItem, HoldsWhatItIsMadeOf) {
     EXPECT_EQ(item->getNormalImage(), nullptr);
     EXPECT_EQ(item->getDisabledImage(), nullptr);
     EXPECT_FALSE(item->usesOwnColour());
+    EXPECT_EQ(item->getTextColour(), CAlphaColour(0, 0, 0));
+}
+
+TEST(CMenuItem, HasATypeThatIsANumber) {
+    EXPECT_EQ(static_cast<int>(EMenuItemType::Normal), 0);
+    EXPECT_EQ(static_cast<int>(EMenuItemType::Address), 1);
+    EXPECT_EQ(static_cast<int>(EMenuItemType::Separator), 2);
+    EXPECT_EQ(static_cast<int>(EMenuItemType::Selectable), 3);
+    EXPECT_EQ(static_cast<int>(EMenuItemType::SubMenu), 4);
+    EXPECT_EQ(static_cast<int>(EMenuItemType::ColumnBreak), 5);
 }
 
 TEST(CMenuItem, CanBeChanged) {
@@ -152,6 +163,16 @@ TEST(CMenuEvent, HoldsReferences) {
         EXPECT_EQ(menu->getReferenceCount(), 2);
     }
     EXPECT_EQ(item->getReferenceCount(), 1);
+}
+
+TEST(SMenuColours, StartsInBlackPurpleAndOrange) {
+    const SMenuColours colours;
+    EXPECT_EQ(colours.text, CAlphaColour(0, 0, 0));
+    EXPECT_EQ(colours.disabledText, CAlphaColour(208, 208, 208));
+    EXPECT_EQ(colours.separator, CAlphaColour(239, 149, 41));
+    EXPECT_EQ(colours.pointer, CAlphaColour(0, 0, 0));
+    EXPECT_EQ(colours.frame, CAlphaColour(153, 116, 188));
+    EXPECT_EQ(colours.selectionFill, CAlphaColour(153, 116, 188));
 }
 
 TEST(NoteLengthMenu, HasThreeSubMenusOfLengths) {
