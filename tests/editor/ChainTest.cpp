@@ -269,6 +269,13 @@ TEST_F(EditorChain, FollowsAProgramAtTheNextIdle) {
     EXPECT_THAT(fakeNatives().takeLog(), ElementsAre("pump"));
 }
 
+TEST_F(EditorChain, StaysWithTheProgramThatIsChosenAgain) {
+    strip().initOrder();
+    effect->setProgram(0);
+    editor->idle();
+    EXPECT_THAT(shownPanels(), ElementsAre(2, 3, 4));
+}
+
 TEST_F(EditorChain, FollowsAChunkAtTheNextIdle) {
     void *chunk = nullptr;
     effect->setProgram(18);

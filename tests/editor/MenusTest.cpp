@@ -1,5 +1,6 @@
 // The menus of the editor: what they offer, where they open, and the values that they set.
 #include "CEditorFixture.h"
+#include "platform/INativeSurface.h"
 #include "toolkit/menus/CMenuEvent.h"
 
 using Tessitor::GUI::Controls::CMenu;
@@ -225,6 +226,21 @@ protected:
         EXPECT_THAT(host.calls(audioMasterAutomate), IsEmpty()) << id;
         choose(item, numberOfItems);
     }
+    void turnWheelOver(const CControl &knob) const {
+        const CRect &area = knob.getAbsoluteRect();
+        fakeNativeMouse().position = {area.getCentreX(), area.getCentreY()};
+        constexpr std::uintptr_t oneNotch = 120u << 16;
+        nativeOf(*editor).listener.handleMessage(NativeMouseWheel, oneNotch, 0);
+    }
+    /// The frame that the knob of a parameter shows.
+    int frameOf(int id) const {
+        CFakeNativeWindow &window = nativeOf(*editor);
+        fakeNatives().screen = createNativeSurface(nullptr, 748, 370, {0, 0, 0});
+        window.dirty = {0, 0, 748, 370};
+        window.listener.handleMessage(NativePaint, 0, 0);
+        const auto &knob = dynamic_cast<const Tessitor::GUI::Controls::CAnimation &>(control(id));
+        return knob.getFrameArea().getTop() / knob.getFrameHeight();
+    }
     void expectSet(int id, double value) const {
         const auto calls = host.calls(audioMasterAutomate);
         ASSERT_EQ(calls.size(), 1u);
@@ -260,6 +276,38 @@ TEST_F(EditorMenuValues, FollowTheKindsOfDelay) {
         chooseFor(48, kind, 3);
         expectSet(48, values[kind]);
     }
+}
+
+// The other frames of Modulation.png are for values that no menu sets.
+TEST_F(EditorMenuValues, AreShownByTheirFrames) {
+    const std::pair<int, std::vector<int>> expected[] = {
+        {1, {0, 1, 2, 3}}, {61, {0, 1, 2, 3}}, {32, {0, 5, 10}}, {39, {0, 5, 10}}, {48, {0, 2, 1}}};
+    for (const auto &[id, frames] : expected)
+        for (std::size_t item = 0; item < frames.size(); ++item) {
+            chooseFor(id, static_cast<int>(item), static_cast<int>(frames.size()));
+            EXPECT_EQ(frameOf(id), frames[item]) << id;
+        }
+}
+
+// Kept: the knob turns, but its parameter does not follow.
+TEST_F(EditorMenuValues, AreLeftAloneByWheelAndDoubleClick) {
+    for (const int id : {1, 61, 32, 39, 48}) {
+        SCOPED_TRACE(id);
+        const float before = effect->getParameter(id);
+        const CRect &area = control(id).getAbsoluteRect();
+        send(NativeDoubleClick, area.getCentreX(), area.getCentreY());
+        EXPECT_TRUE(isMenuOpen());
+        EXPECT_EQ(control(id).getValue(), 0.5);
+        editor->close();
+        open();
+        turnWheelOver(control(id));
+        EXPECT_TRUE(isMenuOpen());
+        EXPECT_EQ(control(id).getValue(), 0.525);
+        EXPECT_EQ(effect->getParameter(id), before);
+        editor->close();
+        open();
+    }
+    EXPECT_THAT(host.calls(audioMasterAutomate), IsEmpty());
 }
 
 TEST_F(EditorMenuValues, AreChangesOfTheEditorItself) {

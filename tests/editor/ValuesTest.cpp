@@ -213,6 +213,15 @@ TEST_F(EditorValues, OfADragAreNotRemembered) {
     expectShown(0);
 }
 
+// A host that repeats the value of a drag narrows what the knob shows.
+TEST_F(EditorValues, AreShownEvenIfTheEffectHasThemAlready) {
+    effect->setParameter(0, 0.5f);
+    drag(0, 20);
+    EXPECT_EQ(control(0).getValue(), 0.6);
+    effect->setParameter(0, effect->getParameter(0));
+    EXPECT_EQ(control(0).getValue(), double{0.6f});
+}
+
 // Without an effect
 
 TEST_F(EditorValues, NeedNoEffect) {
