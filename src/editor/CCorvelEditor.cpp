@@ -1,5 +1,5 @@
-// The editor: its values, its slots, and what happens in its menus. See CCorvelEditorBuilding.cpp
-// for how it is put together, and CCorvelEditorActions.cpp for what its controls do.
+// The values and the chain that the editor shows. See CCorvelEditorBuilding.cpp for how it is put
+// together, and CCorvelEditorActions.cpp for what its controls and menus do.
 #include "editor/CCorvelEditor.h"
 
 #include "hostlayer/AudioEffect.h"
@@ -12,12 +12,6 @@ using Basics::CString;
 using GUI::Controls::CControlPanel;
 using MathTools::CRect;
 namespace StaticColours = GUI::Basics::StaticColours;
-
-void CCorvelEditor::closeMenus() {
-    for (CEditorMenu *menu : {&m_fxMenu, &m_stereoMenu, &m_modulator1->getMenu(),
-                              &m_modulator2->getMenu(), &m_delay->getMenu()})
-        menu->close();
-}
 
 // Values
 

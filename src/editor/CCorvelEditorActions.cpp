@@ -17,7 +17,7 @@ namespace StaticColours = GUI::Basics::StaticColours;
 
 namespace {
 
-/// Says that the editor itself makes a change, for as long as it exists.
+/// While it exists, changes are the editor's own.
 class CEditing {
 public:
     explicit CEditing(Vst::CVstWindow &window) : m_window(window) { m_window.setIsEditing(true); }
@@ -33,9 +33,9 @@ bool isHotSpot(const IControl &control) {
     return std::string_view(control.getClass().getClassName()) == "CClickableLabel";
 }
 
-/// Choices of a menu, with ids that follow each other, for the values from 0 to 1.
+/// The items of a menu that set a parameter, in steps of equal size from 0 to 1.
 struct SChoices {
-    std::int32_t firstItemId;
+    std::int32_t firstItemId;  // for the value 0; the other ids follow
     int number;
     long parameter;
 };
@@ -88,16 +88,6 @@ void CCorvelEditor::openHelp() {
     Basics::CSystemString path = resourceFolder();
     path.appendPath("Corvel.htm");
     Basics::CHtmlString(path).openInBrowser(true);
-}
-
-// Only one menu is open at a time, even if the user turns the wheel over a knob beside it.
-void CCorvelEditor::openAtMouse(CEditorMenu &menu) {
-    closeMenus();
-    CMenuWindow &window = menu.getWindow();
-    window.setMenuListener(this);
-    window.setParentWindow(this);
-    const SNativePoint mouse = nativeMousePosition();
-    window.openPopupWindow({mouse.x, mouse.y});
 }
 
 void CCorvelEditor::openStereoMenu(bool isInput) {
@@ -170,6 +160,24 @@ void CCorvelEditor::prepareFxMenu(bool disableAll) {
     menu.setMenuTitle(m_insertMode ? "Insert FX" : "Replace FX");
     for (int module = kFirstModuleSlot; module <= kLastModuleSlot; ++module)
         menu.getMenuItem(module - kFirstModuleSlot)->setEnabled(!isInChain(module) && !disableAll);
+}
+
+// Menus
+
+// Only one menu is open at a time, even if the user turns the wheel over a knob beside it.
+void CCorvelEditor::openAtMouse(CEditorMenu &menu) {
+    closeMenus();
+    CMenuWindow &window = menu.getWindow();
+    window.setMenuListener(this);
+    window.setParentWindow(this);
+    const SNativePoint mouse = nativeMousePosition();
+    window.openPopupWindow({mouse.x, mouse.y});
+}
+
+void CCorvelEditor::closeMenus() {
+    for (CEditorMenu *menu : {&m_fxMenu, &m_stereoMenu, &m_modulator1->getMenu(),
+                              &m_modulator2->getMenu(), &m_delay->getMenu()})
+        menu->close();
 }
 
 // Choices

@@ -123,12 +123,12 @@ void CCorvelEditor::buildTopRow() {
     for (const auto &[id, name, caption, x, image, isDragEnabled] : knobs) {
         SParameterControls controls;
         controls.valueLabel = addTopLabels(root, x, name, caption);
-        controls.control = addKnob(root, id, x + 12, topRowTop + 12, image, isDragEnabled, this);
+        controls.control = addKnob(root, id, x, topRowTop + 12, image, isDragEnabled, this);
         m_controlTable.record(id, controls);
     }
     constexpr std::int32_t helpX = 184;
     addTopLabels(root, helpX, " Help", "");
-    addButton<GUI::Controls::CMomentaryButton>(root, helpId, helpX + 12, topRowTop + 12, kHelpImage,
+    addButton<GUI::Controls::CMomentaryButton>(root, helpId, helpX, topRowTop + 12, kHelpImage,
                                                kHelpImage, this);
 }
 

@@ -7,9 +7,9 @@
 
 namespace Tessitor::Corvel {
 
-/// One of the editor's menus, grey and a little translucent. Its window measures the texts, so it
-/// is created when it is first needed: an effect that is only scanned, or that only plays, never
-/// looks for a font.
+/// One of the editor's menus, grey and slightly translucent. Its window measures the texts, so it
+/// is created only when the menu is first used: an effect that is only scanned, or only plays,
+/// never looks for a font.
 class CEditorMenu {
 public:
     /// @param size     of the window until the menu has been measured.

@@ -41,8 +41,9 @@ CClickableKnob *addKnob(IControlRoot &root, long id, std::int32_t x, std::int32_
                         EImageSlot image, bool isDragEnabled,
                         GUI::Listeners::IActionListener *listener) {
     const std::int32_t width = image == kModulationImage ? 2 * frameSize : frameSize;
-    auto *knob = new CClickableKnob(&root, static_cast<std::int32_t>(id),
-                                    CRect(x, y, width, frameSize), listener, isDragEnabled);
+    const CRect area(centredOnLabel(x, width), y, width, frameSize);
+    auto *knob =
+        new CClickableKnob(&root, static_cast<std::int32_t>(id), area, listener, isDragEnabled);
     knob->setPrimaryImage(editorImage(image), frameSize, numberOfFrames(image), false);
     root.addControl(knob);
     return knob;

@@ -8,9 +8,13 @@
 namespace Tessitor::Corvel {
 
 inline constexpr std::int32_t labelWidth = 48, labelHeight = 13;
-inline constexpr std::int32_t frameSize = 24;  ///< of knobs and buttons
-
+inline constexpr std::int32_t frameSize = 24;    ///< of knobs and buttons
 inline constexpr std::int32_t centredAtTop = 1;  ///< the text format of all labels
+
+/// @return the left edge of a control that has the same centre as a label at x.
+constexpr std::int32_t centredOnLabel(std::int32_t x, std::int32_t width) {
+    return x + (labelWidth - width) / 2;
+}
 
 /// Adds a label of 48 by 13 in the default font.
 /// @param background  set, but not drawn: only the text shows over the picture.
@@ -18,12 +22,15 @@ GUI::Controls::CTextLabel *addLabel(GUI::Controls::IControlRoot &root, std::int3
                                     std::int32_t y, const char *text,
                                     const GUI::Basics::CAlphaColour &background,
                                     const GUI::Basics::CAlphaColour &textColour);
-/// Adds a knob, 24 by 24, or 48 by 24 for the kinds of modulation, with its filmstrip.
+/// Adds a knob with its filmstrip, centred above its value. It is 24 by 24, or 48 by 24 for the
+/// kinds of modulation.
+/// @param x              of the label with its value.
 /// @param isDragEnabled  false if a click opens a menu instead.
 GUI::Controls::CClickableKnob *addKnob(GUI::Controls::IControlRoot &root, long id, std::int32_t x,
                                        std::int32_t y, EImageSlot image, bool isDragEnabled,
                                        GUI::Listeners::IActionListener *listener);
-/// Adds a button of 24 by 24 with two images.
+/// Adds a button of 24 by 24 with two images, centred above its value.
+/// @param x  of the label with its value.
 template <typename Button>
 Button *addButton(GUI::Controls::IControlRoot &root, long id, std::int32_t x, std::int32_t y,
                   EImageSlot up, EImageSlot down, GUI::Listeners::IActionListener *listener);
@@ -33,8 +40,8 @@ Button *addButton(GUI::Controls::IControlRoot &root, long id, std::int32_t x, st
 template <typename Button>
 Button *addButton(GUI::Controls::IControlRoot &root, long id, std::int32_t x, std::int32_t y,
                   EImageSlot up, EImageSlot down, GUI::Listeners::IActionListener *listener) {
-    auto *button = new Button(&root, static_cast<std::int32_t>(id),
-                              MathTools::CRect(x, y, frameSize, frameSize), listener);
+    const MathTools::CRect area(centredOnLabel(x, frameSize), y, frameSize, frameSize);
+    auto *button = new Button(&root, static_cast<std::int32_t>(id), area, listener);
     button->setPrimaryImage(editorImage(up));
     button->setDownImage(editorImage(down));
     root.addControl(button);

@@ -7,6 +7,7 @@
 #include <array>
 #include <memory>
 #include <mutex>
+#include <string_view>
 
 namespace Tessitor::Corvel {
 
@@ -49,7 +50,7 @@ public:
 using Images = std::array<CImageHolder, kImageSlotCount>;
 std::unique_ptr<Images> images;
 
-/// @return the slot before this one that has the same file; the slot itself if there is none.
+/// @return the first slot that has the same file; it may be this one.
 std::size_t firstSlotOf(std::size_t slot) {
     std::size_t first = 0;
     while (std::string_view(fileNames[first]) != fileNames[slot])

@@ -34,7 +34,7 @@ Tessitor::Basics::CSystemString resourceFolder();
 /// Loads the pictures unless they are loaded. A file that cannot be read leaves its slots empty.
 /// The pictures belong to the process. [any thread]
 void loadEditorImages();
-/// Once there is no editor any more.
+/// For the end, when no editor is left.
 void releaseEditorImages();
 /// @return null for an empty slot.
 GUI::Graphics::IImage *editorImage(EImageSlot slot);

@@ -9,7 +9,7 @@ namespace Tessitor::Corvel {
 /// A choice for the parameter of a MenuKnob.
 struct SPanelMenuItem {
     const char *text;
-    int idOffset;  // added to the negated first parameter of the panel, this gives the item's id
+    int idOffset;  // the item's id is this minus the first parameter of the panel
 };
 
 struct SPanelMenu {

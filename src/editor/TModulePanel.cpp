@@ -14,11 +14,10 @@ namespace {
 IControl *addControl(CControlPanel &panel, const SPanelControl &description, long id,
                      std::int32_t x, std::int32_t y, GUI::Listeners::IActionListener *listener) {
     if (description.kind == EPanelControl::Button)
-        return addButton<GUI::Controls::CLatchingButton>(panel, id, x + 12, y, kButtonUpImage,
+        return addButton<GUI::Controls::CLatchingButton>(panel, id, x, y, kButtonUpImage,
                                                          kButtonDownImage, listener);
-    const bool isWide = description.image == kModulationImage;
-    return addKnob(panel, id, isWide ? x : x + 12, y, description.image,
-                   description.kind == EPanelControl::Knob, listener);
+    return addKnob(panel, id, x, y, description.image, description.kind == EPanelControl::Knob,
+                   listener);
 }
 
 }  // namespace

@@ -21,18 +21,24 @@ auto *deleterOf() {
 
 }  // namespace
 
-// The tick
-
-class CMenuItemDisplay::CMenuItemSelectable : public CControl {
+/// A part of a display that looks as its item says.
+class CMenuItemDisplay::CPart : public CControl {
 public:
-    CMenuItemSelectable(CMenuItemDisplay &display, const CRect &area)
+    CPart(CMenuItemDisplay &display, const CRect &area)
         : CControl(&display, 0, area, nullptr), m_display(display) {
         CControl::setMouseEnabled(false);
     }
-    void drawControl(CGraphics &graphics) override;
 
-private:
+protected:
     const CMenuItemDisplay &m_display;
+};
+
+// The tick
+
+class CMenuItemDisplay::CMenuItemSelectable : public CPart {
+public:
+    using CPart::CPart;
+    void drawControl(CGraphics &graphics) override;
 };
 
 void CMenuItemDisplay::CMenuItemSelectable::drawControl(CGraphics &graphics) {
@@ -49,16 +55,10 @@ void CMenuItemDisplay::CMenuItemSelectable::drawControl(CGraphics &graphics) {
 
 // The arrow
 
-class CMenuItemDisplay::CMenuItemSubMenuPointer : public CControl {
+class CMenuItemDisplay::CMenuItemSubMenuPointer : public CPart {
 public:
-    CMenuItemSubMenuPointer(CMenuItemDisplay &display, const CRect &area)
-        : CControl(&display, 0, area, nullptr), m_display(display) {
-        CControl::setMouseEnabled(false);
-    }
+    using CPart::CPart;
     void drawControl(CGraphics &graphics) override;
-
-private:
-    const CMenuItemDisplay &m_display;
 };
 
 void CMenuItemDisplay::CMenuItemSubMenuPointer::drawControl(CGraphics &graphics) {

@@ -8,8 +8,8 @@
 
 namespace Tessitor::GUI::Controls {
 
-/// An item as a menu window shows it: an icon or a tick, the text, and the arrow of a sub-menu; or
-/// else a separator. [gui thread]
+/// Shows an item in a menu window: its icon or tick, its text and the arrow of a sub-menu. Draws a
+/// line for a separator. [gui thread]
 class CMenuItemDisplay : public CControlPanel {
 public:
     CMenuItemDisplay(Windowing::IWindow *window, IControlRoot *root, const MathTools::CRect &area,
@@ -30,6 +30,7 @@ public:
     void drawControl(Graphics::CGraphics &graphics) override;
 
 private:
+    class CPart;
     class CMenuItemSelectable;
     class CMenuItemSubMenuPointer;
 
