@@ -2,6 +2,7 @@
 #include "editor/CCorvelEditor.h"
 
 #include "CEditorFixture.h"
+#include "CMenuSpy.h"
 #include "editor/EditorImages.h"
 #include "platform/INativeSurface.h"
 #include "toolkit/menus/FakeNativeShell.h"
@@ -223,6 +224,25 @@ TEST_F(CCorvelEditor, MenusOfPanelsHaveTheirColours) {
         EXPECT_EQ(colours.pointer, Colour(0, 0, 0));
         EXPECT_EQ(colours.frame, Colour(153, 116, 188));
         EXPECT_EQ(colours.selectionFill, Colour(153, 116, 188));
+    }
+}
+
+TEST_F(CCorvelEditor, MenusOfTheTopRowDisableInBlue) {
+    CMenuSpy spy(effect.get(), CRect(0, 0, 748, 370),
+                 Tessitor::GUI::Windowing::CWindowAttributes());
+    editor = &spy;
+    open();
+    for (const int id : {1, 61}) {
+        click(control(id));
+        spy.lastMenu->getMenuItem(0)->setEnabled(false);
+        EXPECT_TRUE(isBluish(paintMenu().inkOf(0, 4))) << id;
+    }
+}
+
+TEST_F(CCorvelEditor, MenusOfPanelsHaveASizeBeforeTheyAreOpened) {
+    for (const int module : {13, 14, 16}) {
+        EXPECT_EQ(menuOf(module).getWindowSize().getWidth(), module == 16 ? 100 : 75);
+        EXPECT_EQ(menuOf(module).getWindowSize().getHeight(), 36);
     }
 }
 

@@ -1,27 +1,13 @@
 // The menus of the editor: what they offer, where they open, and the values that they set.
 #include "CEditorFixture.h"
+#include "CMenuSpy.h"
 #include "platform/INativeSurface.h"
-#include "toolkit/menus/CMenuEvent.h"
 
-using Tessitor::GUI::Controls::CMenu;
 using Tessitor::GUI::Controls::CMenuItem;
 using Tessitor::GUI::Events::CMenuEvent;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Pair;
-
-namespace {
-
-/// An editor that notes which menu has been opened last.
-class CMenuSpy : public Tessitor::Corvel::CCorvelEditor {
-public:
-    using CCorvelEditor::CCorvelEditor;
-    void menuOpened(CMenuEvent &event) override { lastMenu = event.getMenu(); }
-
-    CMenu *lastMenu = nullptr;
-};
-
-}  // namespace
 
 class EditorMenus : public CEditorFixture {
 protected:
