@@ -266,6 +266,19 @@ TEST_F(CMenuWindow, SelectsTheItemUnderTheMouse) {
     EXPECT_EQ(selection(), -1);
 }
 
+TEST_F(CMenuWindow, IsRedrawnWhenTheMouseMovesOverItems) {
+    add("a");
+    add("b");
+    open();
+    moveTo(0);
+    fakeNatives().takeLog();
+    moveTo(0);
+    const CDimension &size = *window->getMenuSize();
+    EXPECT_THAT(fakeNatives().takeLog(),
+                testing::Contains("invalidate 0,0," + std::to_string(size.getWidth()) + "," +
+                                  std::to_string(size.getHeight())));
+}
+
 TEST_F(CMenuWindow, SelectsNeitherSeparatorsNorDisabledItems) {
     add("a");
     add("", EMenuItemType::Separator);
