@@ -21,7 +21,7 @@ public:
     virtual CMenuItem *getMenuItem(std::int32_t index) const;
     /// @return the first item with this text; null if there is none.
     virtual CMenuItem *getMenuItemByName(const Tessitor::Basics::CString &text) const;
-    virtual void deleteMenuItem(std::int32_t index);  ///< the items behind it move up
+    virtual void deleteMenuItem(std::int32_t index);  ///< later items move up
     virtual void clearMenuItem(std::int32_t index);   ///< leaves an empty place
     /// @return the places, empty ones included.
     virtual std::int32_t getNumberOfMenuItems() const { return m_items.getArraySize(); }

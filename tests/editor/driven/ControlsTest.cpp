@@ -1,5 +1,4 @@
-// What users do with each knob and button, and what becomes of it on the screen, in the host and in
-// the stored program.
+// Users turn each knob and press each button. The screen, the host and the stored program follow.
 #include "DrivenEditor.h"
 
 namespace {
@@ -10,7 +9,7 @@ using Layout::SControl;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// The control that stands on the screen, while a chain of modules is shown.
+/// All controls of the editor, six modules at a time.
 class DrivenControls : public DrivenEditor {
 protected:
     /// Calls `act` with each control of a kind in the whole editor, with six modules at a time.
