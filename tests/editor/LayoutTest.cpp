@@ -268,6 +268,8 @@ TEST_F(EditorLayout, TheDefaultFontIsSmall) {
     EXPECT_EQ(CFont::getDefaultFont()->getHeight(), 10);
     EXPECT_FALSE(CFont::getDefaultFont()->isBold());
     EXPECT_FALSE(CFont::getDefaultFont()->isItalic());
+    EXPECT_EQ(CFont::getDefaultFont()->getRecord().underline, 0);
+    EXPECT_EQ(CFont::getDefaultFont()->getRecord().strikeOut, 0);
     EXPECT_EQ(valueLabel(5).getFont(), CFont::getDefaultFont());
     EXPECT_EQ(valueLabel(0).getFont(), CFont::getDefaultFont());
 }
