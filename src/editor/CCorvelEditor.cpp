@@ -15,6 +15,7 @@ namespace StaticColours = GUI::Basics::StaticColours;
 
 // Values
 
+// Kept: compares with the value as a float, so a value that no float equals is always shown again.
 void CCorvelEditor::setParameter(long id, double value) {
     float &shown = m_parameterCache[std::size_t(id)];
     if (m_isBuilt && double{shown} == value)
@@ -66,6 +67,7 @@ void CCorvelEditor::showChainChange() {
         refreshChainDisplay();
 }
 
+// Kept: the panel of a seventh module is neither placed nor parked.
 void CCorvelEditor::refreshChainDisplay() {
     if (m_owner == nullptr)
         return;

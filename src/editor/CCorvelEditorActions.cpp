@@ -75,6 +75,7 @@ void CCorvelEditor::handleActionEvent(const GUI::Events::CActionEvent &event) {
     }
 }
 
+// Kept: the cache still has the value from before, so a host that goes back to it is ignored.
 void CCorvelEditor::sendParameter(const IControl &control) {
     const std::int32_t id = control.getUniqueId();
     {

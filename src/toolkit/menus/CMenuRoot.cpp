@@ -53,7 +53,7 @@ std::unique_ptr<CDimension> CMenuWindow::CMenuRoot::getMenuSize(CMenu *menu) {
     return menu != nullptr ? std::make_unique<CDimension>(addDisplays(*menu)) : nullptr;
 }
 
-// The height is that of the last column, whichever is the tallest.
+// Kept: the height is that of the last column, even if another one is taller.
 CDimension CMenuWindow::CMenuRoot::addDisplays(const CMenu &menu) {
     const auto layout = layOutMenu(menu, getFont(), m_useIcons, m_minimumWidth);
     std::int32_t x = 0, y = 0;
@@ -136,6 +136,7 @@ void CMenuWindow::CMenuRoot::showCursor(CMouseEvent &event, const CMenuItem &ite
                                               : CCursor::getDefaultCursor());
 }
 
+// Kept: a disabled item leaves a sub-menu open.
 void CMenuWindow::CMenuRoot::select(CMenuItemDisplay &display, std::int32_t index) {
     CMenuItem &item = *display.getMenuItem();
     if (!item.isEnabled()) {
