@@ -25,6 +25,13 @@ protected:
         return dynamic_cast<CMenuItemDisplay *>(
             window->getControlRoot()->getControlAtIndex(index, true));
     }
+    /// What the native window logs when an item is to be redrawn.
+    std::string invalidationOf(int index) const {
+        const CRect &area = areaOf(index);
+        return "invalidate " + std::to_string(area.getLeft()) + "," +
+               std::to_string(area.getTop()) + "," + std::to_string(area.getRight()) + "," +
+               std::to_string(area.getBottom());
+    }
     int selection() const {
         for (int i = 0; displayAt(i) != nullptr; ++i)
             if (displayAt(i)->isHovered())
@@ -303,6 +310,29 @@ TEST_F(CMenuWindow, IgnoresSelectionsOutside) {
     EXPECT_EQ(selection(), 0);
     window->setCurrentSelection(-1);
     EXPECT_EQ(selection(), -1);
+}
+
+TEST_F(CMenuWindow, RedrawsItemsWhoseSelectionChanges) {
+    add("a");
+    add("b");
+    open();
+    fakeNatives().takeLog();
+    window->setCurrentSelection(1);
+    EXPECT_THAT(fakeNatives().takeLog(), ElementsAre(invalidationOf(1)));
+    send(*window, NativeMouseLeave, CPoint(-1, -1));
+    EXPECT_THAT(fakeNatives().takeLog(), testing::Contains(invalidationOf(1)));
+}
+
+TEST_F(CMenuWindow, AReleaseAfterItHasBeenOpenedAgainChoosesNothing) {
+    add("a");
+    open();
+    moveTo(0);
+    press(0);
+    window->closePopupWindow();
+    window->openPopupWindow(CPoint(0, 0));
+    moveTo(0);
+    release(0);
+    EXPECT_THAT(events, ElementsAre("closed", "opened"));
 }
 
 TEST_F(CMenuWindow, ReportsAChoiceAfterItHasClosed) {
