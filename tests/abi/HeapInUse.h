@@ -2,6 +2,5 @@
 
 #include <cstddef>
 
-/// @return the bytes that the process has allocated and not freed; 0 under a sanitizer that
-///         replaces malloc.
+/// @return the bytes that the process has allocated and not freed.
 std::size_t heapInUse();

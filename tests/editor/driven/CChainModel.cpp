@@ -17,6 +17,13 @@ void CChainModel::load(const Links &links) {
     }
 }
 
+bool CChainModel::hasEnd() const {
+    int module = 1;
+    for (std::size_t i = 0; i < m_links.size() && module != -1; ++i)
+        module = m_links.at(static_cast<std::size_t>(module)).next;
+    return module == -1;
+}
+
 std::array<int, 6> CChainModel::getSlots() const {
     std::array<int, 6> modules{};
     int module = m_links[1].next;

@@ -31,6 +31,7 @@ public:
     bool isFree(int module) const {
         return m_links.at(static_cast<std::size_t>(module)).prev == -1;
     }
+    bool hasEnd() const;  ///< false if it leads back to itself
     /// @return the modules from the first slot on; -1 for an empty slot.
     std::array<int, 6> getSlots() const;
 

@@ -7,8 +7,9 @@
 using Layout::EHotSpot;
 
 CEditorStress::CEditorStress(CDesktop &desktop, const CPluginFile &file, unsigned seed)
-    : m_desktop(desktop), m_random(seed), m_driven(desktop, file),
+    : m_desktop(desktop), m_file(file), m_random(seed), m_driven(desktop, file),
       m_chain(m_driven.stored().links) {
+    m_driven.effect.send(effMainsChanged, 0, 1);
     const std::vector<char> bank = m_driven.effect.chunk(false);
     for (std::size_t start = 0; start < bank.size(); start += sizeof(SStoredProgram)) {
         SStoredProgram program;
@@ -20,15 +21,30 @@ CEditorStress::CEditorStress(CDesktop &desktop, const CPluginFile &file, unsigne
 
 const char *CEditorStress::act() {
     using Action = const char *(CEditorStress::*)();
-    constexpr Action actions[] = {&CEditorStress::insert,           &CEditorStress::insert,
-                                  &CEditorStress::replace,          &CEditorStress::moveLeft,
-                                  &CEditorStress::moveRight,        &CEditorStress::drag,
-                                  &CEditorStress::turnWheel,        &CEditorStress::click,
-                                  &CEditorStress::doubleClick,      &CEditorStress::typeKey,
-                                  &CEditorStress::changeParameters, &CEditorStress::insert,
-                                  &CEditorStress::changeProgram,    &CEditorStress::changeChunk,
-                                  &CEditorStress::openAgain};
+    constexpr Action actions[] = {&CEditorStress::insert,
+                                  &CEditorStress::insert,
+                                  &CEditorStress::insert,
+                                  &CEditorStress::replace,
+                                  &CEditorStress::moveLeft,
+                                  &CEditorStress::moveRight,
+                                  &CEditorStress::drag,
+                                  &CEditorStress::turnWheel,
+                                  &CEditorStress::click,
+                                  &CEditorStress::doubleClick,
+                                  &CEditorStress::typeKey,
+                                  &CEditorStress::changeParameters,
+                                  &CEditorStress::changeParametersInDrag,
+                                  &CEditorStress::changeProgram,
+                                  &CEditorStress::changeChunk,
+                                  &CEditorStress::openAgain,
+                                  &CEditorStress::look};
     return (this->*actions[below(std::size(actions))])();
+}
+
+std::string CEditorStress::difference() const {
+    if (m_driven.stored().links != m_chain.getLinks())
+        return "the chain is another one";
+    return m_wrongValue + m_wrongPicture;
 }
 
 // The user
@@ -150,32 +166,70 @@ const char *CEditorStress::changeProgram() {
 }
 
 const char *CEditorStress::changeParameters() {
-    const auto seed = static_cast<unsigned>(m_random());
-    const auto change = [this, seed] {
-        std::mt19937 random(seed);
-        std::uniform_real_distribution<float> value(0.0f, 1.0f);
-        for (int i = 0; i < 200; ++i)
-            m_driven.effect.setParameter(static_cast<int>(random() % 64), value(random));
-    };
-    std::thread other(change);
-    m_driven.settle();
-    other.join();
-    m_driven.settle();
+    automate(0, [this] { m_driven.settle(); });
     return "parameters";
 }
 
+const char *CEditorStress::changeParametersInDrag() {
+    const auto dragGain = [this] {
+        m_driven.drag(Layout::centreOf(Layout::topRow[0].area), below(100) - 50, 0);
+    };
+    automate(kInGain + 1, dragGain);
+    return "parameters in a drag";
+}
+
+void CEditorStress::automate(int first, const std::function<void()> &user) {
+    std::vector<float> expected = m_driven.effect.parameters();
+    const auto seed = static_cast<unsigned>(m_random());
+    const auto change = [&, seed] {
+        std::mt19937 random(seed);
+        std::uniform_real_distribution<float> value(0.0f, 1.0f);
+        std::uniform_int_distribution<int> id(first, int(expected.size()) - 1);
+        for (int i = 0; i < 200; ++i) {
+            const int changed = id(random);
+            expected.at(static_cast<std::size_t>(changed)) = value(random);
+            m_driven.effect.setParameter(changed, expected.at(static_cast<std::size_t>(changed)));
+        }
+        play(4);
+    };
+    std::thread other(change);
+    user();
+    other.join();
+    m_driven.settle();
+    for (int id = first; id < int(expected.size()); ++id)
+        if (m_driven.effect.getParameter(id) != expected.at(static_cast<std::size_t>(id)))
+            m_wrongValue = "parameter " + std::to_string(id) + " has another value";
+}
+
+// A chain that leads back to itself would never end.
+void CEditorStress::play(int blocks) const {
+    if (!m_chain.hasEnd())
+        return;
+    constexpr std::size_t frames = 64;
+    std::array<std::array<float, frames>, 4> channels{};
+    std::array<float *, 2> in = {channels[0].data(), channels[1].data()},
+                           out = {channels[2].data(), channels[3].data()};
+    for (int i = 0; i < blocks; ++i)
+        m_driven.effect.processReplacing(in.data(), out.data(), int(frames));
+}
+
 const char *CEditorStress::changeChunk() {
+    constexpr int moreThanSlots = 8;
+    restoreChain(moreThanSlots);
+    m_driven.settle();
+    return "chunk";
+}
+
+void CEditorStress::restoreChain(int limit) {
     std::vector<int> modules;
     for (int module = kFirstModuleSlot; module <= kLastModuleSlot; ++module)
         modules.push_back(module);
     std::ranges::shuffle(modules, m_random);
-    modules.resize(static_cast<std::size_t>(below(9)));  // a chunk may have more than six
+    modules.resize(static_cast<std::size_t>(below(limit + 1)));
     SStoredProgram program = m_driven.stored();
     program.links = chainOf(modules);
     m_driven.restore(program);
     m_chain.load(program.links);
-    m_driven.settle();
-    return "chunk";
 }
 
 const char *CEditorStress::openAgain() {
@@ -186,4 +240,40 @@ const char *CEditorStress::openAgain() {
     m_driven.close();
     m_driven.open();
     return "open again";
+}
+
+namespace {
+
+/// Sets all parameters to random values.
+void randomise(const CLoadedEffect &effect, unsigned seed) {
+    std::mt19937 random(seed);
+    std::uniform_real_distribution<float> value(0.0f, 1.0f);
+    // A delay time is rounded when it is set, if it is then synchronised.
+    effect.setParameter(kDlySync, value(random));
+    for (int id = 0; id < effect.record().numParams; ++id)
+        if (id != kDlySync)
+            effect.setParameter(id, value(random));
+}
+
+}  // namespace
+
+// A panel without a slot stays where it was, so each module gets a slot. And what the user has done
+// to a knob may differ from its value until the host sets another one.
+const char *CEditorStress::look() {
+    restoreChain(Layout::slotCount);
+    const auto seed = static_cast<unsigned>(m_random());
+    std::thread([this, seed] { randomise(m_driven.effect, seed); }).join();
+    m_driven.moveTo(Layout::empty);
+    CEffectInHost other(m_desktop, m_file);
+    randomise(other.effect, seed);
+    other.restore(m_driven.stored());
+    other.open(CEffectInHost::lowerPlace);
+    other.moveTo(Layout::empty);
+    const auto [left, top, right, bottom] =
+        differenceOutside(m_driven.picture(), other.picture(), {});
+    if (right > 0)
+        m_wrongPicture = "the editor shows something else at " + std::to_string(left) + ", " +
+                         std::to_string(top);
+    other.close();
+    return "look";
 }

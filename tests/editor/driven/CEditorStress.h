@@ -2,10 +2,12 @@
 
 #include "CEffectInHost.h"
 
-#include <atomic>
+#include <functional>
 #include <random>
+#include <string>
 
-/// A user and a host who do things at random to an editor, beside a model of the chain of modules.
+/// A user and a host who do things at random to an editor, beside a model of the chain of modules
+/// and of the values that the host has set.
 class CEditorStress {
 public:
     CEditorStress(CDesktop &desktop, const CPluginFile &file, unsigned seed);
@@ -15,9 +17,8 @@ public:
 
     /// Does one thing. @return a word for it.
     const char *act();
-    /// @return whether the chain of the effect is that of the model.
-    bool isAsExpected() const { return m_driven.stored().links == m_chain.getLinks(); }
-    const CLoadedEffect &effect() const { return m_driven.effect; }
+    /// @return what the last action has left different from what it should be; "" if nothing.
+    std::string difference() const;
 
 private:
     int below(int limit) { return std::uniform_int_distribution<int>(0, limit - 1)(m_random); }
@@ -43,13 +44,25 @@ private:
     // The host
     const char *changeProgram();
     const char *changeParameters();
+    const char *changeParametersInDrag();
     const char *changeChunk();
     const char *openAgain();
+    /// Compares the editor with a new one.
+    const char *look();
+
+    /// Sets values on another thread, as a host's automation does, and plays a little, while the
+    /// user does something else to the parameters below `first`.
+    void automate(int first, const std::function<void()> &user);
+    void play(int blocks) const;
+    /// @param limit  of how many modules it may have.
+    void restoreChain(int limit);
 
     CDesktop &m_desktop;
+    const CPluginFile &m_file;
     std::mt19937 m_random;
     CEffectInHost m_driven;
     CChainModel m_chain;
     std::vector<CChainModel::Links> m_programs;
     int m_program = 0;
+    std::string m_wrongValue, m_wrongPicture;
 };
