@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editor/CControlTable.h"
+#include "editor/EditorImages.h"
 #include "editor/IStripOwner.h"
 #include "editor/ModulePanels.h"
 #include "toolkit/controls/CClickableLabel.h"
@@ -40,6 +41,7 @@ public:
     /// For the effect, when it has replaced the chain: the slots follow at the next idle().
     /// [any thread]
     void handleChainChange() { m_chainChanged = true; }
+    void windowCreating() override { loadEditorImages(); }
     void windowDestroying() override { closeMenus(); }
 
     void updateParameterControls();  ///< reads all values from the effect

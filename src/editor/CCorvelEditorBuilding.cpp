@@ -44,7 +44,7 @@ CCorvelEditor::CCorvelEditor(AudioEffect *owner, const CRect &area,
       m_fxMenu({112, 216}, editorMenuColours(StaticColours::alphaBlue)),
       m_stereoMenu({75, 48}, editorMenuColours(StaticColours::alphaBlue)) {
     s_class.incrementInstanceCount();
-    loadEditorImages();
+    findEditorImages();
     setUpDefaultFont();
     m_slotFont.setPointer(new CFont(face, fontHeight, false, true));
     m_slotModule.fill(kNoSlot);

@@ -2,16 +2,18 @@
 
 #include "foundation/CApplicationInformation.h"
 #include "foundation/TAutomaticPointer.h"
-#include "toolkit/graphics/CImageManager.h"
+#include "platform/NativeFile.h"
+#include "platform/PictureFile.h"
+#include "toolkit/graphics/CPNGImage.h"
 
 #include <array>
 #include <memory>
 #include <mutex>
 #include <string_view>
+#include <utility>
 
 namespace Tessitor::Corvel {
 
-using GUI::Graphics::CImageManager;
 using GUI::Graphics::IImage;
 using Tessitor::Basics::CApplicationInformation;
 using Tessitor::Basics::CSystemString;
@@ -40,6 +42,16 @@ constexpr std::array<const char *, kImageSlotCount> fileNames = {
     "Help.png",
 };
 
+/// A picture that knows its file and its size before it is loaded.
+class CEditorImage : public GUI::Graphics::CPNGImage {
+public:
+    explicit CEditorImage(const CSystemString &path) {
+        setFilename(path);
+        if (const auto size = pngSize(path.getString()))
+            setSize(size->width, size->height);
+    }
+};
+
 /// Holds a reference to an image.
 class CImageHolder : public Collections::TAutomaticPointer<IImage> {
 public:
@@ -47,8 +59,12 @@ public:
         : TAutomaticPointer(Collections::TCountedObjectDeleter<IImage>::getStaticDeleter()) {}
 };
 
-using Images = std::array<CImageHolder, kImageSlotCount>;
-std::unique_ptr<Images> images;
+struct SImages {
+    std::array<CImageHolder, kImageSlotCount> slots;
+    bool areLoaded = false;
+};
+std::unique_ptr<SImages> images;
+std::mutex mutex;
 
 /// @return the first slot that has the same file; it may be this one.
 std::size_t firstSlotOf(std::size_t slot) {
@@ -56,6 +72,13 @@ std::size_t firstSlotOf(std::size_t slot) {
     while (std::string_view(fileNames[first]) != fileNames[slot])
         ++first;
     return first;
+}
+
+/// @return null if there is no such file.
+IImage *findImage(const char *fileName) {
+    CSystemString path = resourceFolder();
+    path.appendPath(fileName);
+    return isNativeRegularFile(path.getString()) ? new CEditorImage(path) : nullptr;
 }
 
 }  // namespace
@@ -67,20 +90,28 @@ CSystemString resourceFolder() {
     return folder;
 }
 
-void loadEditorImages() {
-    static std::mutex mutex;
+void findEditorImages() {
     const std::lock_guard lock(mutex);
     if (images != nullptr)
         return;
-    auto loaded = std::make_unique<Images>();
-    const CSystemString folder = resourceFolder();
+    auto found = std::make_unique<SImages>();
     for (std::size_t slot = 0; slot < fileNames.size(); ++slot) {
         const std::size_t first = firstSlotOf(slot);
-        (*loaded)[slot].setPointer(first < slot
-                                       ? (*loaded)[first].getPointer()
-                                       : CImageManager::getImageFromFile(folder, fileNames[slot]));
+        found->slots[slot].setPointer(first < slot ? found->slots[first].getPointer()
+                                                   : findImage(fileNames[slot]));
     }
-    images = std::move(loaded);
+    images = std::move(found);
+}
+
+void loadEditorImages() {
+    const std::lock_guard lock(mutex);
+    if (images == nullptr || std::exchange(images->areLoaded, true))
+        return;
+    for (std::size_t slot = 0; slot < fileNames.size(); ++slot) {
+        IImage *image = images->slots[slot].getPointer();
+        if (image != nullptr && firstSlotOf(slot) == slot)
+            image->loadFromFile(CSystemString(image->getFilename()));
+    }
 }
 
 void releaseEditorImages() {
@@ -88,7 +119,7 @@ void releaseEditorImages() {
 }
 
 IImage *editorImage(EImageSlot slot) {
-    return images != nullptr ? (*images)[std::size_t(slot)].getPointer() : nullptr;
+    return images != nullptr ? images->slots[std::size_t(slot)].getPointer() : nullptr;
 }
 
 }  // namespace Tessitor::Corvel

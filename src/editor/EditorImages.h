@@ -31,8 +31,11 @@ inline constexpr int kImageSlotCount = kHelpImage + 1;
 /// The folder beside the module that holds the pictures and the help page.
 Tessitor::Basics::CSystemString resourceFolder();
 
-/// Loads the pictures unless they are loaded. A file that cannot be read leaves its slots empty.
-/// The pictures belong to the process. [any thread]
+/// Fills the slots unless they are filled. A missing file leaves its slots empty. The pictures
+/// belong to the process; their sizes are known from now on. [any thread]
+void findEditorImages();
+/// Loads the pictures, unless they are loaded: this takes longer than all else that an effect does
+/// when it is created, and only an open editor needs them. [any thread]
 void loadEditorImages();
 /// For the end, when no editor is left.
 void releaseEditorImages();

@@ -41,6 +41,8 @@ private:
 
 // PNG: the signature, then chunks of length, name, contents and check sum.
 
+constexpr std::uint32_t pngSignature = 0x89504e47;  // its first half
+
 constexpr std::uint32_t chunkName(const char (&name)[5]) {
     std::uint32_t value = 0;
     for (int i = 0; i < 4; ++i)
@@ -68,27 +70,31 @@ std::uint32_t samplesPerPixel(std::uint32_t colourType, std::uint32_t depth) {
     }
 }
 
-// Reads the header chunk.
-// @return the bytes of all rows, at least; 0 if the header is wrong.
-std::uint64_t readPngHeader(CBytes &bytes) {
-    if (bytes.number(4) != 13 || bytes.number(4) != chunkName("IHDR"))
-        return 0;
+struct SPngHeader {
+    SPictureSize size;
+    std::uint64_t bytes;  // of all rows, at least
+};
+
+// Reads the second half of the signature and the header chunk.
+std::optional<SPngHeader> readPngHeader(CBytes &bytes) {
+    if (bytes.number(4) != 0x0d0a1a0a || bytes.number(4) != 13 ||
+        bytes.number(4) != chunkName("IHDR"))
+        return {};
     const std::uint32_t width = bytes.number(4), height = bytes.number(4);
     const std::uint32_t depth = bytes.byte();
     const std::uint32_t samples = samplesPerPixel(bytes.byte(), depth);
     const bool areMethodsKnown = bytes.number(2) == 0 && bytes.byte() <= 1;
     bytes.skip(4);
-    if (!isSide(width) || !isSide(height) || samples == 0 || !areMethodsKnown)
-        return 0;
+    if (!bytes.isGood() || !isSide(width) || !isSide(height) || samples == 0 || !areMethodsKnown)
+        return {};
     const std::uint32_t rowBytes = 1 + (width * samples * depth + 7) / 8;  // 1 for the filter
-    return std::uint64_t{rowBytes} * height;
+    return SPngHeader{{static_cast<std::int32_t>(width), static_cast<std::int32_t>(height)},
+                      std::uint64_t{rowBytes} * height};
 }
 
 bool isWholePng(CBytes &bytes) {
-    if (bytes.number(4) != 0x0d0a1a0a)  // the second half of the signature
-        return false;
-    const std::uint64_t needed = readPngHeader(bytes);
-    if (needed == 0)
+    const std::optional<SPngHeader> header = readPngHeader(bytes);
+    if (!header)
         return false;
     std::uint64_t compressed = 0;
     while (bytes.isGood()) {
@@ -99,7 +105,7 @@ bool isWholePng(CBytes &bytes) {
             compressed += length;
         if (name == chunkName("IEND")) {
             constexpr std::uint64_t deflateLimit = 1032;  // bytes from one byte
-            return bytes.isGood() && needed <= compressed * deflateLimit;
+            return bytes.isGood() && header->bytes <= compressed * deflateLimit;
         }
     }
     return false;
@@ -195,9 +201,20 @@ std::optional<EPictureFormat> pictureFormat(const std::string &path) {
         return {};
     CBytes bytes(path);
     const std::uint32_t signature = bytes.number(2);
-    if (signature == 0x8950 && bytes.number(2) == 0x4e47 && isWholePng(bytes))
+    if (signature == pngSignature >> 16 && bytes.number(2) == (pngSignature & 0xffff) &&
+        isWholePng(bytes))
         return EPictureFormat::PNG;
     if (signature == 0xffd8 && isWholeJpeg(bytes))
         return EPictureFormat::JPEG;
     return {};
+}
+
+std::optional<SPictureSize> pngSize(const std::string &path) {
+    if (!isNativeRegularFile(path))
+        return {};
+    CBytes bytes(path);
+    if (bytes.number(4) != pngSignature)
+        return {};
+    const std::optional<SPngHeader> header = readPngHeader(bytes);
+    return header ? std::optional(header->size) : std::nullopt;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -16,3 +17,13 @@ enum class EPictureFormat { PNG, JPEG };
 /// @return nothing if there is no such picture, if the file cannot be read, or if it is not a
 ///         regular file. A pipe or device is not opened.
 std::optional<EPictureFormat> pictureFormat(const std::string &path);
+
+struct SPictureSize {
+    std::int32_t width, height;  ///< pixels, 1 to 32767
+    bool operator==(const SPictureSize &) const = default;
+};
+
+/// Reads only the start of a PNG file, so the rest may be damaged. [any thread]
+/// @param path  in the system's narrow encoding.
+/// @return nothing if it is not a regular file with the header of a PNG picture.
+std::optional<SPictureSize> pngSize(const std::string &path);

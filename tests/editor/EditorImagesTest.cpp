@@ -1,6 +1,7 @@
 #include "editor/EditorImages.h"
 
 #include "CEditorFixture.h"
+#include "PictureBytes.h"
 
 using Tessitor::Corvel::editorImage;
 using Tessitor::Corvel::EImageSlot;
@@ -41,6 +42,31 @@ TEST_F(EditorImages, EachSlotHasItsFile) {
     EXPECT_EQ(Tessitor::Corvel::kImageSlotCount, 19);
     for (int slot = 0; slot < 19; ++slot)
         EXPECT_EQ(fileOf(slot), files[slot]) << slot;
+}
+
+TEST_F(EditorImages, AreLoadedWhenAnEditorOpensForTheFirstTime) {
+    const auto *image = editorImage(EImageSlot(2));
+    EXPECT_FALSE(image->hasImageLoaded());
+    EXPECT_EQ(image->getImageSize().getWidth(), 1);
+    open();
+    EXPECT_TRUE(image->hasImageLoaded());
+    EXPECT_EQ(image->getImageSize().getWidth(), 1);
+    const auto *handle = image->getImageHandle();
+    editor->close();
+    open();
+    EXPECT_EQ(image->getImageHandle(), handle);
+}
+
+TEST_F(EditorImages, ADamagedFileDrawsNothing) {
+    effect.reset();
+    Tessitor::Corvel::releaseEditorImages();
+    writeBytes((folder / "Corvel" / "Resources" / "Blue.png").string(), "no picture");
+    effect = std::make_unique<CSpyEffect>();
+    editor = dynamic_cast<CCorvelEditor *>(effect->getEditor());
+    open();
+    EXPECT_EQ(fileOf(2), "Blue.png");
+    EXPECT_FALSE(editorImage(EImageSlot(2))->hasImageLoaded());
+    EXPECT_TRUE(editorImage(EImageSlot(1))->hasImageLoaded());
 }
 
 TEST_F(EditorImages, SlotsWithTheSameFileShareIt) {

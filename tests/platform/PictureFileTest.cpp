@@ -46,6 +46,21 @@ TEST_F(PictureFile, OtherFilesAreNoPictures) {
     EXPECT_FALSE(pictureFormat(folder.path().string()));
 }
 
+TEST_F(PictureFile, ThePngHeaderHasTheSize) {
+    const SPictureSize size = {1, 1};
+    const std::string bytes = png.bytes();
+    constexpr std::size_t headerEnd = 33;
+    for (const std::size_t length : {bytes.size(), headerEnd}) {
+        writeBytes(path, bytes.substr(0, length));
+        EXPECT_EQ(pngSize(path), size) << length;
+    }
+    for (const std::string &other : {bytes.substr(0, headerEnd - 1), jpeg.bytes(), std::string()}) {
+        writeBytes(path, other);
+        EXPECT_EQ(pngSize(path), std::nullopt);
+    }
+    EXPECT_EQ(pngSize((folder / "none").string()), std::nullopt);
+}
+
 TEST_F(PictureFile, EveryShorterPngIsRefused) {
     const std::string bytes = png.bytes();
     for (std::size_t length = 0; length < bytes.size(); ++length)
