@@ -3,8 +3,10 @@
 #include "CPicture.h"
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
+#include <string>
 #include <vector>
 
 /// The screen with its windows, a user with a mouse and a space bar, and the part of a host that
@@ -62,6 +64,12 @@ public:
     int countChildren(void *window) const;
     bool isPointerFree() const;  ///< nobody has captured it, or soon nobody will have
     bool isKeyboardFree() const;
+
+    /// What this process has of the system, by kind: on Linux all that the X server holds for its
+    /// clients, descriptors and threads; on Windows GDI and USER objects.
+    using Resources = std::map<std::string, int>;
+    Resources countResources() const;
+    bool willHave(const Resources &resources) const;  ///< now or soon
 
 private:
     struct SSystem;

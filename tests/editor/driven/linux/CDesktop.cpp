@@ -6,15 +6,20 @@
 #include "platform/linux/windowing/WindowIds.h"
 #include "platform/linux/windowing/WindowProperty.h"
 
+#include <filesystem>
 #include <linux/sockios.h>
-#include <map>
 #include <sys/ioctl.h>
 #include <utility>
+#include <xcb/res.h>
 
 namespace {
 
 constexpr xcb_keysym_t spaceKey = ' ';
 constexpr int leftButton = 1, wheelUp = 4, wheelDown = 5;
+
+int countFiles(const char *folder) {
+    return static_cast<int>(std::distance(std::filesystem::directory_iterator(folder), {}));
+}
 
 /// @return whether a socket of this process has bytes that the other side has not read.
 bool hasUnreadRequests() {
@@ -100,6 +105,18 @@ struct CDesktop::SSystem {
                 picture.at(x, y) =
                     std::uint32_t{bytes[2]} << 16 | std::uint32_t{bytes[1]} << 8 | bytes[0];
         return picture;
+    }
+    /// Adds what the server holds for one client to what it holds for the others.
+    void addResourcesOf(const xcb_res_client_t &owner, Resources &resources) const {
+        const auto reply = ownReply(xcb_res_query_client_resources_reply(
+            client.get(), xcb_res_query_client_resources(client.get(), owner.resource_base),
+            nullptr));
+        const int kinds = reply ? xcb_res_query_client_resources_types_length(reply.get()) : 0;
+        for (int i = 0; i < kinds; ++i) {
+            const auto &kind = xcb_res_query_client_resources_types(reply.get())[i];
+            resources["X resource " + std::to_string(kind.resource_type)] +=
+                static_cast<int>(kind.count);
+        }
     }
     xcb_window_t focus() const {
         const auto reply = ownReply(
@@ -253,4 +270,23 @@ bool CDesktop::isPointerFree() const {
 
 bool CDesktop::isKeyboardFree() const {
     return pumpUntil([this] { return m_system->client.canGrabKeyboard(); });
+}
+
+CDesktop::Resources CDesktop::countResources() const {
+    m_system->synchronise();
+    Resources resources = {{"descriptors", countFiles("/proc/self/fd")},
+                           {"threads", countFiles("/proc/self/task")}};
+    CTestClient &client = m_system->client;
+    const auto clients = ownReply(
+        xcb_res_query_clients_reply(client.get(), xcb_res_query_clients(client.get()), nullptr));
+    const int count = clients ? xcb_res_query_clients_clients_length(clients.get()) : 0;
+    resources["X clients"] = count;
+    for (int i = 0; i < count; ++i)
+        m_system->addResourcesOf(xcb_res_query_clients_clients(clients.get())[i], resources);
+    return resources;
+}
+
+bool CDesktop::willHave(const Resources &resources) const {
+    // The server does not hear of the end of a connection at once.
+    return pumpUntil([&] { return countResources() == resources; });
 }

@@ -1,5 +1,7 @@
 #include "editor/driven/CDesktop.h"
 
+#include "platform/win32/drawing/CountObjects.h"
+#include "platform/win32/windowing/CountWindows.h"
 #include "platform/win32/windowing/Input.h"
 
 #include <cstdlib>
@@ -241,4 +243,13 @@ bool CDesktop::isPointerFree() const {
 
 bool CDesktop::isKeyboardFree() const {
     return true;  // Windows has no grab of the keyboard
+}
+
+CDesktop::Resources CDesktop::countResources() const {
+    handleMessages();
+    return {{"GDI objects", countObjects()}, {"USER objects", countWindows()}};
+}
+
+bool CDesktop::willHave(const Resources &resources) const {
+    return countResources() == resources;
 }
