@@ -1,29 +1,15 @@
 #include "CTemporaryFolder.h"
+#include "CVariable.h"
 #include "abi/LoadedPlugin.h"
 #include "hostlayer/FakeHost.h"
 #include "platform/windowing/CTestHost.h"
 
-#include <cstdlib>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <sys/inotify.h>
 #include <unistd.h>
 
 namespace {
-
-/// Sets a variable of the environment for as long as it exists.
-class CVariable {
-public:
-    CVariable(const char *name, const std::string &value) : m_name(name) {
-        setenv(name, value.c_str(), 1);
-    }
-    CVariable(const CVariable &) = delete;
-    CVariable &operator=(const CVariable &) = delete;
-    ~CVariable() { unsetenv(m_name); }
-
-private:
-    const char *m_name;
-};
 
 /// Notes whether a file is opened.
 class CFileWatch {
@@ -53,7 +39,7 @@ bool opens(const CLoadedEffect &effect, void *parent) {
 
 TEST(EditorNeeds, ADisplayOnlyToOpen) {
     FakeHost host;
-    unsetenv("DISPLAY");
+    const CVariable display("DISPLAY", std::nullopt);
     const CPluginFile file;
     const CLoadedEffect effect(file, FakeHost::callback);
     int parent = 0;
