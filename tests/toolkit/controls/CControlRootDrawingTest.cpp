@@ -119,16 +119,16 @@ TEST_F(CControlRootDrawing, DrawsABlendedBackgroundThatIsSmallerThanTheWindow) {
 }
 
 TEST_F(CControlRootDrawing, LetsAControlRemoveItselfWhileItIsDrawn) {
-    bool isDestroyed = false;
+    const auto isDestroyed = std::make_shared<bool>(false);
     CSpyControl *control = add(root, "a", CRect(5, 6, 10, 8));
-    control->isDestroyed = &isDestroyed;
+    control->isDestroyed = isDestroyed;
     control->onDraw = [&](CGraphics &) {
         root.clearControls();
-        EXPECT_FALSE(isDestroyed);
+        EXPECT_FALSE(*isDestroyed);
     };
     add(root, "b", CRect(5, 6, 10, 8));
     drawAll();
-    EXPECT_TRUE(isDestroyed);
+    EXPECT_TRUE(*isDestroyed);
     EXPECT_THAT(takeLog(), ElementsAre("a: draw 0,0,10,8"));
 }
 

@@ -250,29 +250,29 @@ TEST_F(CControlRootEvents, AllocatesNothingWhenTheMouseMovesOverAHundredControls
 // Handlers that change what they are called from
 
 TEST_F(CControlRootEvents, KeepsAControlAliveWhileItsListenerRemovesIt) {
-    bool isDestroyed = false;
+    const auto isDestroyed = std::make_shared<bool>(false);
     CSpyControl *control = add(root, "a", CRect(0, 0, 10, 10));
-    control->isDestroyed = &isDestroyed;
+    control->isDestroyed = isDestroyed;
     control->onMouse = [&](CMouseEvent &) {
         root.removeControl(control);
-        EXPECT_FALSE(isDestroyed);
+        EXPECT_FALSE(*isDestroyed);
     };
     press(5, 5);
     EXPECT_EQ(root.getControlAtPoint({5, 5}), nullptr);
     add(root, "b", CRect(0, 0, 10, 10));
-    EXPECT_FALSE(isDestroyed);  // it still has the keys
+    EXPECT_FALSE(*isDestroyed);  // it still has the keys
     move(5, 5);
-    EXPECT_TRUE(isDestroyed);
+    EXPECT_TRUE(*isDestroyed);
 }
 
 TEST_F(CControlRootEvents, LetsAListenerRemoveThePanelThatItIsCalledFrom) {
-    bool isDestroyed = false;
+    const auto isDestroyed = std::make_shared<bool>(false);
     CControlPanel *outer = addPanel(root, CRect(10, 10, 100, 100));
     CControlPanel *inner = addPanel(*outer, CRect(10, 10, 50, 50));
     CActionSpy listener;
     auto *control = new CSpyControl(inner, "a", CRect(0, 0, 20, 20), log, &listener);
     inner->addControl(control);
-    control->isDestroyed = &isDestroyed;
+    control->isDestroyed = isDestroyed;
     control->onMouse = [&](const CMouseEvent &received) {
         inner->lockControl(control);
         control->sendActionEvent(received);
@@ -286,63 +286,63 @@ TEST_F(CControlRootEvents, LetsAListenerRemoveThePanelThatItIsCalledFrom) {
     press(25, 25);
     EXPECT_EQ(textOf(mouse.getPosition()), "25,25");
     EXPECT_FALSE(root.controlIsLocked());
-    EXPECT_FALSE(isDestroyed);
+    EXPECT_FALSE(*isDestroyed);
     add(root, "b", CRect(0, 0, 50, 50));
     press(25, 25);
-    EXPECT_TRUE(isDestroyed);
+    EXPECT_TRUE(*isDestroyed);
 }
 
 TEST_F(CControlRootEvents, UnlocksAPanelThatOnlyTheLockKeepsAlive) {
-    bool isDestroyed = false;
+    const auto isDestroyed = std::make_shared<bool>(false);
     CControlPanel *panel = addPanel(root, CRect(10, 10, 50, 50));
     CSpyControl *control = add(*panel, "a", CRect(0, 0, 20, 20));
-    control->isDestroyed = &isDestroyed;
+    control->isDestroyed = isDestroyed;
     panel->lockControl(control);
     root.removeControl(panel);
     panel->unlockControl();
-    EXPECT_TRUE(isDestroyed);
+    EXPECT_TRUE(*isDestroyed);
     EXPECT_FALSE(root.controlIsLocked());
 }
 
 TEST_F(CControlRootEvents, KeepsAControlAliveThatIsRemovedByAKeyOrADrop) {
-    bool isDestroyed = false;
+    const auto isDestroyed = std::make_shared<bool>(false);
     CSpyControl *control = add(root, "a", CRect(0, 0, 10, 10));
     control->setDropFileEnabled(true);
-    control->isDestroyed = &isDestroyed;
+    control->isDestroyed = isDestroyed;
     root.lockControl(control);
     control->onKey = [&] {
         root.removeControl(control);
         root.unlockControl();
-        EXPECT_FALSE(isDestroyed);
+        EXPECT_FALSE(*isDestroyed);
         return true;
     };
     EXPECT_TRUE(typeKey());
-    EXPECT_TRUE(isDestroyed);
+    EXPECT_TRUE(*isDestroyed);
 
-    isDestroyed = false;
+    *isDestroyed = false;
     control = add(root, "a", CRect(0, 0, 10, 10));
     control->setDropFileEnabled(true);
-    control->isDestroyed = &isDestroyed;
+    control->isDestroyed = isDestroyed;
     control->onDrop = [&] {
         root.removeControl(control);
-        EXPECT_FALSE(isDestroyed);
+        EXPECT_FALSE(*isDestroyed);
     };
     drop(5, 5);
-    EXPECT_TRUE(isDestroyed);
+    EXPECT_TRUE(*isDestroyed);
 }
 
 TEST_F(CControlRootEvents, KeepsAModalControlAliveWhileItClosesItself) {
-    bool isDestroyed = false;
+    const auto isDestroyed = std::make_shared<bool>(false);
     auto *modal = new CSpyControl(&root, "modal", CRect(0, 0, 10, 10), log);
-    modal->isDestroyed = &isDestroyed;
+    modal->isDestroyed = isDestroyed;
     root.setModalControl(modal);
     modal->onKey = [&] {
         root.clearModalControl();
-        EXPECT_FALSE(isDestroyed);
+        EXPECT_FALSE(*isDestroyed);
         return true;
     };
     EXPECT_FALSE(typeKey());
-    EXPECT_TRUE(isDestroyed);
+    EXPECT_TRUE(*isDestroyed);
 }
 
 TEST_F(CControlRootEvents, AllowsAnotherMessageDuringAHandler) {

@@ -33,7 +33,7 @@ public:
         return control;
     }
 
-    bool *isDestroyed = nullptr;  // for the controls
+    std::shared_ptr<bool> isDestroyed;  // for the controls
 
 private:
     EventLog &m_log;
@@ -162,14 +162,14 @@ TEST_F(CControlRootFiles, CreateTheClassesOfAnotherFactoryInPanelsToo) {
 }
 
 TEST_F(CControlRootFiles, FreeAControlThatCannotBeRead) {
-    bool isDestroyed = false;
+    const auto isDestroyed = std::make_shared<bool>(false);
     CSpyFactory factory(log);
-    factory.isDestroyed = &isDestroyed;
+    factory.isDestroyed = isDestroyed;
     loaded.setControlFactory(factory);
     write("<controls number_of_controls=\"1\">\n<control type=\"CControl\">\n</control>\n"
           "</controls>\n");
     EXPECT_FALSE(loaded.loadFromFile(path));
-    EXPECT_TRUE(isDestroyed);
+    EXPECT_TRUE(*isDestroyed);
 }
 
 TEST_F(CControlRootFiles, CreateEveryStandardClassWithItsDefaults) {

@@ -108,11 +108,11 @@ INSTANTIATE_TEST_SUITE_P(Reporting, CControlRootReentryOfClass,
                          [](const auto &test) { return std::string(test.param); });
 
 TEST_F(CControlRootReentry, KeepsAPanelAliveWhoseLastReferenceIsDroppedInAnAction) {
-    bool isDestroyed = false;
+    const auto isDestroyed = std::make_shared<bool>(false);
     CControlPanel *panel = addPanel(root, CRect(10, 10, 50, 50));
     auto *control = new CSpyControl(panel, "a", CRect(0, 0, 20, 20), log, &listener);
     panel->addControl(control);
-    control->isDestroyed = &isDestroyed;
+    control->isDestroyed = isDestroyed;
     add(root, "other", CRect(100, 100, 10, 10));
     move(15, 15);
     root.setModalControl(panel);
@@ -129,25 +129,25 @@ TEST_F(CControlRootReentry, KeepsAPanelAliveWhoseLastReferenceIsDroppedInAnActio
         root.clearControls();
         add(root, "other", CRect(100, 100, 10, 10));
         move(105, 105);  // the panel is no longer the last under the mouse, either
-        EXPECT_FALSE(isDestroyed);
+        EXPECT_FALSE(*isDestroyed);
     };
     press(15, 15);
-    EXPECT_FALSE(isDestroyed);  // it has the keys again
+    EXPECT_FALSE(*isDestroyed);  // it has the keys again
     move(105, 105);
-    EXPECT_TRUE(isDestroyed);
+    EXPECT_TRUE(*isDestroyed);
     EXPECT_FALSE(root.controlIsLocked());
 }
 
 TEST_F(CControlRootReentry, DestroysAPanelRightAfterTheKeyThatDropsItsLastReference) {
-    bool isDestroyed = false;
+    const auto isDestroyed = std::make_shared<bool>(false);
     CControlPanel *panel = addPanel(root, CRect(10, 10, 50, 50));
     auto *control = new CSpyControl(panel, "a", CRect(0, 0, 20, 20), log, &listener);
     panel->addControl(control);
-    control->isDestroyed = &isDestroyed;
+    control->isDestroyed = isDestroyed;
     panel->lockControl(control);
     control->onKey = [&] {
         control->sendActionEvent();
-        EXPECT_FALSE(isDestroyed);
+        EXPECT_FALSE(*isDestroyed);
         return true;
     };
     listener.onAction = [&](const auto &) {
@@ -155,23 +155,23 @@ TEST_F(CControlRootReentry, DestroysAPanelRightAfterTheKeyThatDropsItsLastRefere
         root.unlockControl();
     };
     EXPECT_TRUE(typeKey());
-    EXPECT_TRUE(isDestroyed);
+    EXPECT_TRUE(*isDestroyed);
 }
 
 TEST_F(CControlRootReentry, ClearsAllControlsInAnyHandler) {
-    bool isDestroyed = false;
+    const auto isDestroyed = std::make_shared<bool>(false);
     const auto prepare = [&] {
-        isDestroyed = false;
+        *isDestroyed = false;
         CControlPanel *panel = addPanel(root, CRect(0, 0, 50, 50));
         CSpyControl *control = add(*panel, "a", CRect(0, 0, 50, 50));
         add(*panel, "b", CRect(0, 0, 50, 50));
         add(root, "c", CRect(0, 0, 50, 50));
-        control->isDestroyed = &isDestroyed;
+        control->isDestroyed = isDestroyed;
         control->setDropFileEnabled(true);
-        const auto clear = [this, panel, &isDestroyed] {
+        const auto clear = [this, panel, isDestroyed] {
             panel->clearControls();
             root.clearControls();
-            EXPECT_FALSE(isDestroyed);
+            EXPECT_FALSE(*isDestroyed);
             EXPECT_EQ(root.getNumberOfControls(), 0);
         };
         control->onMouse = [clear](CMouseEvent &) { clear(); };
@@ -184,15 +184,15 @@ TEST_F(CControlRootReentry, ClearsAllControlsInAnyHandler) {
     };
     prepare();
     drop(5, 5);
-    EXPECT_TRUE(isDestroyed);
+    EXPECT_TRUE(*isDestroyed);
     for (const MouseHandler handler :
          {&IControlRoot::handleLeftButtonDown, &IControlRoot::handleMouseScroll}) {
         prepare();
         send(handler, 5, 5);
-        EXPECT_FALSE(isDestroyed);  // it still has the keys
+        EXPECT_FALSE(*isDestroyed);  // it still has the keys
         add(root, "d", CRect(0, 0, 50, 50));
         move(5, 5);
-        EXPECT_TRUE(isDestroyed);
+        EXPECT_TRUE(*isDestroyed);
         root.clearControls();
     }
     CSpyControl *control = prepare();
@@ -200,30 +200,30 @@ TEST_F(CControlRootReentry, ClearsAllControlsInAnyHandler) {
     control->onMouse = nullptr;
     move(5, 5);
     EXPECT_TRUE(typeKey());
-    EXPECT_FALSE(isDestroyed);
+    EXPECT_FALSE(*isDestroyed);
     useMouseKeysAndDrops(5, 5);
 }
 
 TEST_F(CControlRootReentry, LetsANestedMessageRemoveTheControlThatIsBeingCalled) {
-    bool isDestroyed = false;
+    const auto isDestroyed = std::make_shared<bool>(false);
     CControlPanel *panel = addPanel(root, CRect(10, 10, 50, 50));
     CSpyControl *outer = add(*panel, "outer", CRect(0, 0, 20, 20));
     CSpyControl *inner = add(root, "inner", CRect(100, 100, 20, 20));
-    outer->isDestroyed = &isDestroyed;
+    outer->isDestroyed = isDestroyed;
     inner->onMouse = [&](CMouseEvent &) {
         panel->removeControl(outer);
         root.removeControl(panel);
     };
     outer->onMouse = [&](CMouseEvent &received) {
         move(101, 102);
-        EXPECT_FALSE(isDestroyed);
+        EXPECT_FALSE(*isDestroyed);
         EXPECT_EQ(textOf(received.getMousePosition()), "101,102");
     };
     press(15, 15);
     EXPECT_EQ(takeLog(), (EventLog{"outer: left down 5,5", "inner: move 1,2"}));
     EXPECT_EQ(textOf(mouse.getPosition()), "101,102");
     move(105, 105);
-    EXPECT_TRUE(isDestroyed);
+    EXPECT_TRUE(*isDestroyed);
 }
 
 }  // namespace

@@ -35,18 +35,18 @@ TEST_F(CControlRootLists, NeedsAWindow) {
 }
 
 TEST_F(CControlRootLists, HoldsAReferenceToEachControlOnce) {
-    bool isDestroyed = false;
+    const auto isDestroyed = std::make_shared<bool>(false);
     {
         CControlRoot other(&window);
         CSpyControl *control = add(other, "a", CRect());
-        control->isDestroyed = &isDestroyed;
+        control->isDestroyed = isDestroyed;
         other.addControl(control);
         other.addControl(nullptr);
         EXPECT_EQ(other.getNumberOfInsertedControls(), 1);
         EXPECT_EQ(control->getReferenceCount(), 1);
         EXPECT_EQ(control->getParentControl(), nullptr);
     }
-    EXPECT_TRUE(isDestroyed);
+    EXPECT_TRUE(*isDestroyed);
 }
 
 TEST_F(CControlRootLists, KeepsTheHoleOfARemovedControl) {
@@ -69,10 +69,10 @@ TEST_F(CControlRootLists, KeepsTheHoleOfARemovedControl) {
 }
 
 TEST_F(CControlRootLists, ClearsAllControls) {
-    bool isDestroyed = false;
-    add(root, "a", CRect(0, 0, 10, 10))->isDestroyed = &isDestroyed;
+    const auto isDestroyed = std::make_shared<bool>(false);
+    add(root, "a", CRect(0, 0, 10, 10))->isDestroyed = isDestroyed;
     root.clearControls();
-    EXPECT_TRUE(isDestroyed);
+    EXPECT_TRUE(*isDestroyed);
     EXPECT_EQ(root.getNumberOfControls(), 0);
     EXPECT_EQ(root.getNumberOfInsertedControls(), 0);
     EXPECT_EQ(root.getControlAtPoint({5, 5}), nullptr);
@@ -98,9 +98,9 @@ TEST_F(CControlRootLists, FindsControlsByPlaceOrId) {
 }
 
 TEST_F(CControlRootLists, KeepsExtraControlsApart) {
-    bool isDestroyed = false;
+    const auto isDestroyed = std::make_shared<bool>(false);
     auto *extra = new CSpyControl(&root, "extra", CRect(0, 0, 10, 10), log);
-    extra->isDestroyed = &isDestroyed;
+    extra->isDestroyed = isDestroyed;
     root.addExtraControl(extra);
     root.addExtraControl(extra);
     root.addExtraControl(nullptr);
@@ -111,9 +111,9 @@ TEST_F(CControlRootLists, KeepsExtraControlsApart) {
     press(5, 5);
     EXPECT_THAT(takeLog(), IsEmpty());
     root.removeExtraControl(nullptr);
-    EXPECT_FALSE(isDestroyed);
+    EXPECT_FALSE(*isDestroyed);
     root.removeExtraControl(extra);
-    EXPECT_TRUE(isDestroyed);
+    EXPECT_TRUE(*isDestroyed);
     EXPECT_EQ(root.getExtraControl(extra), nullptr);
 }
 
@@ -161,31 +161,31 @@ TEST_F(CControlRootLists, TellsWhereAControlIsInTheWindowAndOnTheScreen) {
 }
 
 TEST_F(CControlRootLists, RedrawsWhereAModalControlComesAndGoes) {
-    bool isDestroyed = false;
+    const auto isDestroyed = std::make_shared<bool>(false);
     auto *first = new CSpyControl(&root, "first", CRect(1, 1, 1, 1), log);
     auto *second = new CSpyControl(&root, "second", CRect(2, 2, 2, 2), log);
-    first->isDestroyed = &isDestroyed;
+    first->isDestroyed = isDestroyed;
     root.clearModalControl();
     root.setModalControl(first);
     EXPECT_EQ(root.getModalControl(), first);
     root.setModalControl(second);
-    EXPECT_TRUE(isDestroyed);
+    EXPECT_TRUE(*isDestroyed);
     root.setModalControl(nullptr);
     EXPECT_EQ(root.getModalControl(), nullptr);
     EXPECT_THAT(takeRedrawnAreas(), ElementsAre("1,1,1,1", "1,1,1,1", "2,2,2,2", "2,2,2,2"));
 }
 
 TEST_F(CControlRootLists, KeepsAModalControlThatIsSetAgain) {
-    bool isDestroyed = false;
+    const auto isDestroyed = std::make_shared<bool>(false);
     auto *modal = new CSpyControl(&root, "modal", CRect(), log);
-    modal->isDestroyed = &isDestroyed;
+    modal->isDestroyed = isDestroyed;
     root.setModalControl(modal);
     root.setModalControl(modal);
     EXPECT_EQ(root.getModalControl(), modal);
-    EXPECT_FALSE(isDestroyed);
+    EXPECT_FALSE(*isDestroyed);
     EXPECT_EQ(modal->getReferenceCount(), 1);
     root.clearModalControl();
-    EXPECT_TRUE(isDestroyed);
+    EXPECT_TRUE(*isDestroyed);
 }
 
 TEST_F(CControlRootLists, ConnectsAControlOfTheRightClass) {

@@ -6,6 +6,7 @@
 #include "toolkit/graphics/CGraphics.h"
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -29,7 +30,7 @@ public:
         setDescription(name);
     }
     ~CSpyControl() override {
-        if (isDestroyed != nullptr)
+        if (isDestroyed)
             *isDestroyed = true;
     }
 
@@ -37,7 +38,7 @@ public:
     std::function<bool()> onKey = [] { return true; };
     std::function<void()> onDrop;
     std::function<void(Tessitor::GUI::Graphics::CGraphics &)> onDraw;
-    bool *isDestroyed = nullptr;  // set by the destructor
+    std::shared_ptr<bool> isDestroyed;  // set by the destructor; may outlive a test's body
 
     using CControl::sendActionEvent;
 

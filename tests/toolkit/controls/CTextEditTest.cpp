@@ -198,21 +198,21 @@ TEST_F(CTextEditTest, LetsItsListenerRemoveIt) {
 }
 
 TEST_F(CTextEditTest, LetsItsListenerRemoveThePanelAroundIt) {
-    bool isDestroyed = false;
+    const auto isDestroyed = std::make_shared<bool>(false);
     CActionSpy remover;
     CControlPanel *panel = addPanel(root, CRect(50, 50, 40, 40));
     auto *inner = new CTextEdit(panel, 4, CRect(0, 0, 20, 10), "", &remover);
     panel->addControl(inner);
-    add(*panel, "beside", CRect(30, 30, 5, 5))->isDestroyed = &isDestroyed;
+    add(*panel, "beside", CRect(30, 30, 5, 5))->isDestroyed = isDestroyed;
     press(55, 55);
     move(56, 56);  // the text has the mouse, so only the root still holds the panel
     takeRedrawnAreas();
     remover.onAction = [&](const auto &) {
         root.removeControl(panel);
-        EXPECT_FALSE(isDestroyed);
+        EXPECT_FALSE(*isDestroyed);
     };
     field.end(ReturnKey);
-    EXPECT_TRUE(isDestroyed);
+    EXPECT_TRUE(*isDestroyed);
     EXPECT_FALSE(field.isOpen);
     EXPECT_FALSE(root.controlIsLocked());
     EXPECT_THAT(takeRedrawnAreas(), testing::ElementsAre("50,50,20,10", "50,50,20,10"));

@@ -129,15 +129,15 @@ TEST_F(CWindowPainting, DrawsTheControlsThatAreDirty) {
 
 TEST_F(CWindowPainting, MayDeleteTheWindow) {
     CSpyControl *control = addControl(CRect(50, 0, 30, 50));
-    bool isDestroyed = false;
-    control->isDestroyed = &isDestroyed;
+    const auto isDestroyed = std::make_shared<bool>(false);
+    control->isDestroyed = isDestroyed;
     control->onDraw = [&](CGraphics &graphics) {
         deleteWindow();
-        EXPECT_FALSE(isDestroyed);
+        EXPECT_FALSE(*isDestroyed);
         graphics.fillRectangle(CRect(0, 0, 100, 100));
     };
     EXPECT_EQ(send(NativePaint), 0);
-    EXPECT_TRUE(isDestroyed);
+    EXPECT_TRUE(*isDestroyed);
 }
 
 // Mouse
@@ -402,23 +402,23 @@ protected:
     CWindowRoot() {
         create();
         control = addControl(CRect(20, 10, 30, 30));
-        control->isDestroyed = &isDestroyed;
+        control->isDestroyed = isDestroyed;
     }
 
     CSpyControl *control;
-    bool isDestroyed = false;
+    std::shared_ptr<bool> isDestroyed = std::make_shared<bool>(false);
 };
 
 TEST_F(CWindowRoot, OutlivesItsOwnDispatch) {
     control->onMouse = [this](CMouseEvent &event) {
         deleteWindow();
-        EXPECT_FALSE(isDestroyed);
+        EXPECT_FALSE(*isDestroyed);
         EXPECT_EQ(event.getMousePosition(), CPoint(5, 2));
         control->update();
         control->getControlRoot()->getParentWindow()->stopTimer(1);
     };
     EXPECT_EQ(send(NativeLeftDown, 0, packed(25, 12)), 0);
-    EXPECT_TRUE(isDestroyed);
+    EXPECT_TRUE(*isDestroyed);
     EXPECT_THAT(fakeNatives().windows, IsEmpty());
 }
 
@@ -431,10 +431,10 @@ TEST_F(CWindowRoot, OutlivesTheDispatchOfAPanel) {
     inner->onMouse = [&](CMouseEvent &) {
         deleteWindow();
         inner->update();
-        EXPECT_FALSE(isDestroyed);
+        EXPECT_FALSE(*isDestroyed);
     };
     EXPECT_EQ(send(NativeLeftUp, 0, packed(65, 5)), 0);
-    EXPECT_TRUE(isDestroyed);
+    EXPECT_TRUE(*isDestroyed);
 }
 
 TEST_F(CWindowRoot, OutlivesTheDispatchOfAModalPanel) {
@@ -456,11 +456,11 @@ TEST_F(CWindowRoot, OutlivesItsOwnDispatchOfKeysAndDrops) {
     send(NativeMouseMove, 0, packed(25, 12));
     control->onKey = [this] {
         deleteWindow();
-        EXPECT_FALSE(isDestroyed);
+        EXPECT_FALSE(*isDestroyed);
         return true;
     };
     EXPECT_EQ(send(NativeKeyDown, 65), 0);
-    EXPECT_TRUE(isDestroyed);
+    EXPECT_TRUE(*isDestroyed);
 }
 
 TEST_F(CWindowRoot, IsGoneAfterTheOutermostOfNestedMessages) {
@@ -469,14 +469,14 @@ TEST_F(CWindowRoot, IsGoneAfterTheOutermostOfNestedMessages) {
     control->onMouse = [&](CMouseEvent &) {
         if (depth++ == 0) {
             EXPECT_EQ(nativeWindow->listener.handleMessage(NativeLeftUp, 0, packed(30, 15)), 0);
-            EXPECT_FALSE(isDestroyed);
+            EXPECT_FALSE(*isDestroyed);
         } else {
             deleteWindow();
         }
     };
     EXPECT_EQ(send(NativeLeftDown, 0, packed(25, 12)), 0);
     EXPECT_EQ(depth, 2);
-    EXPECT_TRUE(isDestroyed);
+    EXPECT_TRUE(*isDestroyed);
 }
 
 TEST_F(CWindowRoot, OutlivesTheLastReferenceToItsWindow) {
@@ -485,10 +485,10 @@ TEST_F(CWindowRoot, OutlivesTheLastReferenceToItsWindow) {
     control->onMouse = [this](CMouseEvent &) {
         window->dereference();
         EXPECT_TRUE(isDeleted);
-        EXPECT_FALSE(isDestroyed);
+        EXPECT_FALSE(*isDestroyed);
     };
     send(NativeLeftDown, 0, packed(25, 12));
-    EXPECT_TRUE(isDestroyed);
+    EXPECT_TRUE(*isDestroyed);
 }
 
 TEST_F(CWindowRoot, ANestedMessageKeepsItsOwnPosition) {
@@ -511,7 +511,7 @@ TEST_F(CWindowRoot, TheEndOfTheNativeWindowReportsMayDeleteTheWindow) {
         reported.handleMessage(NativeDestroy, 0, 0);
     };
     window->destroyWindow();
-    EXPECT_TRUE(isDestroyed);
+    EXPECT_TRUE(*isDestroyed);
 }
 
 }  // namespace
