@@ -1,6 +1,6 @@
 // What opening and closing leaves behind.
 #include "DrivenEditor.h"
-#include "abi/HeapInUse.h"
+#include "MemoryInUse.h"
 
 namespace {
 
@@ -26,9 +26,9 @@ TEST_F(DrivenManyOpenings, LeaveNothingBehind) {
     constexpr int times = 200;
     openAndClose(times / 4);  // the first ones also create what the process keeps
     const CDesktop::Resources resources = desktop->countResources();
-    const std::size_t heap = heapInUse();
+    const std::size_t heap = memoryInUse();
     openAndClose(times);
-    EXPECT_LT(heapInUse(), heap + times * std::size_t{16});  // not the smallest piece for each
+    EXPECT_LT(memoryInUse(), heap + times * std::size_t{16});  // not the smallest piece for each
     EXPECT_TRUE(desktop->willHave(resources))
         << testing::PrintToString(desktop->countResources()) << " instead of "
         << testing::PrintToString(resources);

@@ -1,5 +1,5 @@
 #include "CEditorStress.h"
-#include "abi/HeapInUse.h"
+#include "MemoryInUse.h"
 
 #include <chrono>
 #include <cstdlib>
@@ -41,9 +41,9 @@ TEST_F(DrivenStress, KeepsWhatTheUserAndTheHostHaveMade) {
     SCOPED_TRACE("CORVEL_STRESS_SEED=" + std::to_string(seed));
     const auto start = Clock::now();
     ASSERT_NO_FATAL_FAILURE(actUntil(start + time / 2));
-    const std::size_t halfway = heapInUse();
+    const std::size_t halfway = memoryInUse();
     ASSERT_NO_FATAL_FAILURE(actUntil(start + time));
-    const std::size_t atEnd = heapInUse();
+    const std::size_t atEnd = memoryInUse();
     std::cout << actions << " actions; " << halfway << " bytes in use halfway, " << atEnd
               << " at the end\n";
     // Glyphs that are drawn for the first time, buffers that grow
