@@ -123,3 +123,90 @@ TEST(CAudioReader, MoreThanTwoChannelsAreRefused) {
     EXPECT_THAT(refusal(folder / "three.wav"),
                 HasSubstr("has 3 channels; only mono and stereo can be rendered"));
 }
+
+TEST(CAudioReader, AnOggFileOfSeveralLinksIsReadToItsEnd) {
+    const CTemporaryFolder folder;
+    SSound first = voice(3, 30000), second = voice(4, 20000);
+    first.format = second.format = SF_FORMAT_OGG | SF_FORMAT_VORBIS;
+    writeSound(folder / "first", first);
+    writeSound(folder / "second", second);
+    writeFile(folder / "chain", readFile(folder / "first") + readFile(folder / "second"));
+
+    CAudioReader whole(folder / "chain"), head(folder / "first"), tail(folder / "second");
+    EXPECT_EQ(whole.frames(), 50000);
+    std::vector<float> expected = readAll(head, 999);
+    const std::vector<float> rest = readAll(tail, 999);
+    expected.insert(expected.end(), rest.begin(), rest.end());
+    EXPECT_EQ(readAll(whole, 1000), expected);
+
+    copyHead(folder / "chain", folder / "cut", std::filesystem::file_size(folder / "chain") - 1);
+    EXPECT_THAT(refusal(folder / "cut"), HasSubstr("truncated"));
+}
+
+TEST(CAudioReader, LinksOfDifferentRatesAreRefused) {
+    const CTemporaryFolder folder;
+    SSound first = voice(3, 3000), second = voice(4, 2000);
+    first.format = second.format = SF_FORMAT_OGG | SF_FORMAT_VORBIS;
+    second.sampleRate = 48000;
+    writeSound(folder / "first", first);
+    writeSound(folder / "second", second);
+    writeFile(folder / "chain", readFile(folder / "first") + readFile(folder / "second"));
+    EXPECT_THAT(refusal(folder / "chain"), HasSubstr("changes its sample rate"));
+}
+
+TEST(CAudioReader, AnOggFileCutBetweenTwoPagesIsRefused) {
+    const CTemporaryFolder folder;
+    SSound sound = voice(3, 200000);
+    sound.format = SF_FORMAT_OGG | SF_FORMAT_VORBIS;
+    writeSound(folder / "whole", sound);
+    copyHead(folder / "whole", folder / "cut", readFile(folder / "whole").rfind("OggS"));
+    EXPECT_THAT(refusal(folder / "cut"), HasSubstr("truncated, the end of the audio is missing"));
+}
+
+namespace {
+
+// Overwrites the length of the sound: in an RF64 file the 64-bit one, otherwise that of the chunk.
+void overwriteLength(const std::filesystem::path &file, char byte) {
+    std::string bytes = readFile(file);
+    if (bytes.starts_with("RF64"))
+        bytes.replace(28, 8, std::string(8, byte));
+    else
+        bytes.replace(bytes.find("data") + 4, 4, std::string(4, byte));
+    writeFile(file, bytes);
+}
+
+}  // namespace
+
+TEST(CAudioReader, AWavFileWithoutALengthIsReadToItsEnd) {
+    const CTemporaryFolder folder;
+    for (const int format :
+         {SF_FORMAT_WAV | SF_FORMAT_FLOAT, SF_FORMAT_WAVEX | SF_FORMAT_PCM_16,
+          SF_FORMAT_WAV | SF_FORMAT_PCM_16 | SF_ENDIAN_BIG, SF_FORMAT_RF64 | SF_FORMAT_PCM_24}) {
+        for (const char byte : {'\0', '\xFF'}) {
+            SSound sound = voice(3, 5000);
+            sound.format = format;
+            writeSound(folder / "piped", sound);
+            overwriteLength(folder / "piped", byte);
+            CAudioReader reader(folder / "piped");
+            EXPECT_EQ(reader.frames(), 5000) << std::hex << format;
+            EXPECT_EQ(readAll(reader, 1000),
+                      std::vector<float>(sound.samples.begin(), sound.samples.end()));
+        }
+    }
+}
+
+TEST(CAudioReader, HalfAnRf64FileIsRefused) {
+    const CTemporaryFolder folder;
+    SSound sound = voice(3, 5000);
+    sound.format = SF_FORMAT_RF64 | SF_FORMAT_PCM_16;
+    writeSound(folder / "whole", sound);
+    copyHead(folder / "whole", folder / "half", std::filesystem::file_size(folder / "whole") / 2);
+    EXPECT_THAT(refusal(folder / "half"), HasSubstr("half: truncated, "));
+}
+
+TEST(CAudioReader, NoTextOfTheLibraryIsShown) {
+    const CTemporaryFolder folder;
+    writeFile(folder / "text.wav", std::string(5000, 'x'));
+    EXPECT_EQ(refusal(folder / "text.wav"),
+              (folder / "text.wav").string() + ": not a readable audio file");
+}

@@ -13,7 +13,7 @@ class CAudioWriterFormats : public testing::TestWithParam<int> {};
 TEST_P(CAudioWriterFormats, EverySampleIsWritten) {
     const CTemporaryFolder folder;
     const SSound sound = voice(5, 3000);
-    CAudioWriter writer(folder / "out", GetParam(), 48000, 2);
+    CAudioWriter writer(folder / "out", EExisting::Replaced, GetParam(), 48000, 2);
     writer.write(sound.samples.data(), 1000);
     const std::vector<float> floats(sound.samples.begin() + 2000, sound.samples.end());
     writer.write(floats.data(), 2000);
@@ -39,7 +39,8 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(CAudioWriter, FloatingPointSamplesAreNotClipped) {
     const CTemporaryFolder folder;
     const std::vector<float> loud = {2.5f, -3.0f, 1.0f, -1.0f};
-    CAudioWriter writer(folder / "out", SF_FORMAT_WAV | SF_FORMAT_FLOAT, 44100, 2);
+    CAudioWriter writer(folder / "out", EExisting::Replaced, SF_FORMAT_WAV | SF_FORMAT_FLOAT, 44100,
+                        2);
     writer.write(loud.data(), 2);
     writer.finish();
     EXPECT_EQ(writer.clippedSamples(), 0u);
@@ -49,7 +50,8 @@ TEST(CAudioWriter, FloatingPointSamplesAreNotClipped) {
 TEST(CAudioWriter, IntegersAreClippedAndCounted) {
     const CTemporaryFolder folder;
     const std::vector<float> loud = {2.5f, -3.0f, 0.5f, -1.0f};
-    CAudioWriter writer(folder / "out", SF_FORMAT_FLAC | SF_FORMAT_PCM_16, 44100, 2);
+    CAudioWriter writer(folder / "out", EExisting::Replaced, SF_FORMAT_FLAC | SF_FORMAT_PCM_16,
+                        44100, 2);
     writer.write(loud.data(), 2);
     writer.finish();
     EXPECT_EQ(writer.clippedSamples(), 2u);
@@ -61,7 +63,8 @@ TEST(CAudioWriter, TheSameSoundGivesTheSameBytes) {
     const CTemporaryFolder folder;
     const SSound sound = voice(5, 100);
     for (const char *name : {"first", "second"}) {
-        CAudioWriter writer(folder / name, SF_FORMAT_WAV | SF_FORMAT_FLOAT, 44100, 2);
+        CAudioWriter writer(folder / name, EExisting::Replaced, SF_FORMAT_WAV | SF_FORMAT_FLOAT,
+                            44100, 2);
         writer.write(sound.samples.data(), 100);
         writer.finish();
     }
@@ -73,7 +76,8 @@ TEST(CAudioWriter, TheSameSoundGivesTheSameBytes) {
 TEST(CAudioWriter, AnUnfinishedFileDoesNotAppear) {
     const CTemporaryFolder folder;
     {
-        CAudioWriter writer(folder / "out", SF_FORMAT_WAV | SF_FORMAT_FLOAT, 44100, 2);
+        CAudioWriter writer(folder / "out", EExisting::Replaced, SF_FORMAT_WAV | SF_FORMAT_FLOAT,
+                            44100, 2);
         writer.write(voice(5, 100).samples.data(), 100);
     }
     EXPECT_TRUE(folder.names().empty());
@@ -81,6 +85,8 @@ TEST(CAudioWriter, AnUnfinishedFileDoesNotAppear) {
 
 TEST(CAudioWriter, AFormatThatCannotBeWrittenLeavesNoFile) {
     const CTemporaryFolder folder;
-    EXPECT_THROW(CAudioWriter(folder / "out", SF_FORMAT_OGG | SF_FORMAT_OPUS, 44100, 2), CJobError);
+    EXPECT_THROW(
+        CAudioWriter(folder / "out", EExisting::Replaced, SF_FORMAT_OGG | SF_FORMAT_OPUS, 44100, 2),
+        CJobError);
     EXPECT_TRUE(folder.names().empty());
 }

@@ -17,7 +17,8 @@ class ChannelStrip : public testing::Test {
 protected:
     SSound render(const SSound &sound, std::vector<std::string> options) {
         writeSound(folder / "in.wav", sound);
-        options.insert(options.begin(), {"render", folder / "in.wav", folder / "out.wav"});
+        options.insert(options.begin(),
+                       {"render", folder / "in.wav", folder / "out.wav", "--force"});
         const SProgramRun run = corvel(options);
         EXPECT_EQ(run.status, 0) << run.errors;
         return readSound(folder / "out.wav");
@@ -163,7 +164,7 @@ TEST_F(ChannelStrip, ABatchGivesTheSameSoundAsSingleRuns) {
         arguments.push_back(folder / (std::to_string(i) + ".wav"));
         writeSound(arguments.back(), voice(i, 20000 + 1000 * i));
     }
-    arguments.insert(arguments.end(), {folder / "batch", "--program", "Pop Vocal"});
+    arguments.insert(arguments.end(), {folder / "batch/", "--program", "Pop Vocal"});
     ASSERT_EQ(corvel(arguments).status, 0);
     for (unsigned i = 0; i < 5; ++i) {
         const SSound alone = render(voice(i, 20000 + 1000 * i), {"--program", "Pop Vocal"});

@@ -48,12 +48,18 @@ TEST(CommandLine, HelpListsEveryCommandAndOption) {
 
 TEST(CommandLine, WrongCommandsAreRefusedInOneLine) {
     expectWrongCall({}, "no command");
-    expectWrongCall({"play"}, "play");
-    expectWrongCall({"render"}, "required");
-    expectWrongCall({"render", "in.wav"}, "2 required");
-    expectWrongCall({"render", "in.wav", "out.wav", "--loud"}, "--loud");
-    expectWrongCall({"render", "in.wav", "out.wav", "--program"}, "--program");
-    expectWrongCall({"info", "a.so", "b.so"}, "b.so");
+    expectWrongCall({"play"}, "there is no command \"play\"");
+    expectWrongCall({"--loud"}, "corvel has no option --loud");
+    expectWrongCall({"render"}, "corvel render needs an input and an output");
+    expectWrongCall({"render", "in.wav"}, "corvel render needs an input and an output");
+    expectWrongCall({"render", "in.wav", "out.wav", "--loud"},
+                    "corvel render has no option --loud");
+    expectWrongCall({"render", "in.wav", "out.wav", "--program"}, "--program: needs a value");
+    expectWrongCall({"render", "in.wav", "out.wav", "--tempo", "99", "--tempo", "98"},
+                    "--tempo: may be given only once");
+    expectWrongCall({"render", "in.wav", "out.wav", "--block", "1.5"},
+                    "--block: 1.5 is not a whole number");
+    expectWrongCall({"info", "a.so", "b.so"}, "corvel info does not expect \"b.so\"");
     expectWrongCall({"params", "--program", "7", "--plugin", testEffect("Whole")},
                     "no program \"7\"");
 }

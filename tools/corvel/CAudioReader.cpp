@@ -1,64 +1,133 @@
 #include "corvel/CAudioReader.h"
 
-#include "corvel/BytesMissing.h"
 #include "corvel/Errors.h"
+#include "corvel/FileFacts.h"
+#include "corvel/OggLinks.h"
 #include "corvel/OutputFormat.h"
+#include "corvel/SoundChunk.h"
 
 #include <string>
+#include <type_traits>
 
 namespace fs = std::filesystem;
 
 namespace Tessitor::Tool {
 
-namespace {
-
-SNDFILE *openForReading(const fs::path &file, SF_INFO &info) {
-    if (!fs::exists(file))
-        throw CJobError(file.string() + ": no such file");
-    if (!fs::is_regular_file(file))
-        throw CJobError(file.string() + ": not a file");
-    SNDFILE *opened = sf_open(file.c_str(), SFM_READ, &info);
-    if (opened == nullptr)
-        throw CJobError(file.string() + ": not a readable audio file (" + sf_strerror(nullptr) +
-                        ")");
-    return opened;
+CAudioReader::CAudioReader(const fs::path &file) : m_path(file) {
+    const std::string problem = whyNoFile(file);
+    if (!problem.empty())
+        fail(problem);
+    open();
+    requireReadable();
+    if ((m_info.format & SF_FORMAT_TYPEMASK) == SF_FORMAT_OGG)
+        findLinks();
+    else
+        readPastUnknownLength();
 }
 
-}  // namespace
+void CAudioReader::open() {
+    m_file.reset(sf_open(m_path.c_str(), SFM_READ, &m_info));
+    if (m_file != nullptr)
+        return;
+    // libsndfile refuses an RF64 file without a length.
+    readPastUnknownLength();
+    if (m_file == nullptr)
+        fail("not a readable audio file");
+}
 
-CAudioReader::CAudioReader(const fs::path &file)
-    : m_path(file), m_file(openForReading(file, m_info)) {
+void CAudioReader::requireReadable() const {
     if (!isKnownContainer(m_info.format))
-        throw CJobError(file.string() + ": not a WAV, AIFF, FLAC or Ogg file");
+        fail("not a WAV, AIFF, FLAC or Ogg file");
     if (m_info.channels > 2)
-        throw CJobError(file.string() + ": has " + std::to_string(m_info.channels) +
-                        " channels; only mono and stereo can be rendered");
-    if (const auto missing = bytesMissing(file))
-        throw CJobError(file.string() + ": truncated, " + std::to_string(missing) +
-                        " bytes of audio are missing");
-    // The length of an Ogg file is in its last page.
-    if (!knowsLength() && (m_info.format & SF_FORMAT_TYPEMASK) == SF_FORMAT_OGG)
-        throw CJobError(file.string() + ": truncated, the end of the audio is missing");
+        fail("has " + std::to_string(m_info.channels) +
+             " channels; only mono and stereo can be rendered");
+}
+
+void CAudioReader::readPastUnknownLength() {
+    const auto chunk = findSoundChunk(m_path);
+    if (!chunk)
+        return;
+    if (const std::uint64_t missing = bytesMissing(*chunk))
+        fail("truncated, " + std::to_string(missing) + " bytes of audio are missing");
+    if (chunk->promised || m_openPart != nullptr)
+        return;
+    const auto length = correctedField(*chunk);
+    if (!length)
+        fail("longer than 4 GiB, but its header does not say how long");
+    m_info = openPart({0, chunk->sound + chunk->bytesThere, chunk->field, *length});
+}
+
+void CAudioReader::findLinks() {
+    const SOggLinks found = findOggLinks(m_path);
+    if (!found.complete)
+        fail("truncated, the end of the audio is missing");
+    if (found.links.size() < 2)
+        return;
+    std::int64_t frames = 0;
+    for (auto link = found.links.rbegin(); link != found.links.rend(); ++link) {
+        m_partsLeft.push_back({link->begin, link->end});
+        const SF_INFO info = openPart(m_partsLeft.back());
+        if (info.samplerate != m_info.samplerate || info.channels != m_info.channels)
+            fail("changes its sample rate or its channels in the middle");
+        frames += info.frames;
+    }
+    m_partsLeft.pop_back();
+    m_info.frames = frames;
+}
+
+SF_INFO CAudioReader::openPart(const SFilePart &part) {
+    SF_INFO info{};
+    m_file.reset();
+    m_openPart = std::make_unique<CPartOfFile>(m_path, part);
+    m_file.reset(m_openPart->open(info));
+    if (m_file == nullptr)
+        fail("damaged");
+    return info;
 }
 
 std::int64_t CAudioReader::read(float *samples, std::int64_t frames) {
-    return handleRead(sf_readf_float(m_file.get(), samples, frames), frames);
+    return readParts(samples, frames);
 }
 
 std::int64_t CAudioReader::read(double *samples, std::int64_t frames) {
-    return handleRead(sf_readf_double(m_file.get(), samples, frames), frames);
+    return readParts(samples, frames);
 }
 
-std::int64_t CAudioReader::handleRead(std::int64_t frames, std::int64_t asked) {
-    m_framesRead += frames;
-    if (frames < asked && knowsLength() && m_framesRead < m_info.frames) {
-        throw CJobError(m_path.string() + ": truncated or damaged, it ends after " +
-                        std::to_string(m_framesRead) + " of " + std::to_string(m_info.frames) +
-                        " frames");
+template <typename Sample>
+std::int64_t CAudioReader::readParts(Sample *samples, std::int64_t frames) {
+    std::int64_t done = 0;
+    for (;;) {
+        Sample *const next = samples + done * channels();
+        if constexpr (std::is_same_v<Sample, float>)
+            done += sf_readf_float(m_file.get(), next, frames - done);
+        else
+            done += sf_readf_double(m_file.get(), next, frames - done);
+        if (done == frames || m_partsLeft.empty())
+            break;
+        requireNoError();
+        openPart(m_partsLeft.back());
+        m_partsLeft.pop_back();
     }
+    m_framesRead += done;
+    if (done < frames)
+        requireAllFrames();
+    requireNoError();
+    return done;
+}
+
+void CAudioReader::requireAllFrames() const {
+    if (knowsLength() && m_framesRead < m_info.frames)
+        fail("truncated or damaged, it ends after " + std::to_string(m_framesRead) + " of " +
+             std::to_string(m_info.frames) + " frames");
+}
+
+void CAudioReader::requireNoError() const {
     if (sf_error(m_file.get()) != SF_ERR_NO_ERROR)
-        throw CJobError(m_path.string() + ": damaged (" + sf_strerror(m_file.get()) + ")");
-    return frames;
+        fail("damaged after " + std::to_string(m_framesRead) + " frames");
+}
+
+void CAudioReader::fail(const std::string &reason) const {
+    throw CJobError(m_path.string() + ": " + reason);
 }
 
 }  // namespace Tessitor::Tool

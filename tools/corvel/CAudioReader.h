@@ -1,9 +1,12 @@
 #pragma once
 
+#include "corvel/CPartOfFile.h"
+
 #include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <sndfile.h>
+#include <vector>
 
 namespace Tessitor::Tool {
 
@@ -11,7 +14,8 @@ struct SSoundFileCloser {
     void operator()(SNDFILE *file) const { sf_close(file); }
 };
 
-/// Reads an audio file: WAV, AIFF, FLAC or Ogg with one or two channels.
+/// Reads an audio file: WAV, AIFF, FLAC or Ogg with one or two channels. A file whose header lacks
+/// the length is read to its end, and so is an Ogg file of several links.
 class CAudioReader {
 public:
     /// @throws CJobError if the file is missing, cut short, in another format, or has more than two
@@ -32,11 +36,22 @@ public:
     std::int64_t read(double *samples, std::int64_t frames);
 
 private:
-    std::int64_t handleRead(std::int64_t frames, std::int64_t asked);
+    void open();
+    void requireReadable() const;
+    void readPastUnknownLength();
+    void findLinks();
+    SF_INFO openPart(const SFilePart &part);
+    template <typename Sample>
+    std::int64_t readParts(Sample *samples, std::int64_t frames);
+    void requireAllFrames() const;
+    void requireNoError() const;
+    [[noreturn]] void fail(const std::string &reason) const;
 
     std::filesystem::path m_path;
-    SF_INFO m_info{};
+    SF_INFO m_info{};                         // of the whole file
+    std::unique_ptr<CPartOfFile> m_openPart;  // must outlive m_file
     std::unique_ptr<SNDFILE, SSoundFileCloser> m_file;
+    std::vector<SFilePart> m_partsLeft;  // the next one last
     std::int64_t m_framesRead = 0;
 };
 

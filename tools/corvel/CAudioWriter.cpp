@@ -29,16 +29,16 @@ std::int64_t framesIn(const std::filesystem::path &file) {
 
 }  // namespace
 
-CAudioWriter::CAudioWriter(const std::filesystem::path &file, int format, int sampleRate,
-                           int channels)
-    : m_place(file), m_channels(channels), m_bits(integerBits(format)), m_pending(file) {
+CAudioWriter::CAudioWriter(const std::filesystem::path &file, EExisting existing, int format,
+                           int sampleRate, int channels)
+    : m_place(file), m_channels(channels), m_bits(integerBits(format)), m_pending(file, existing) {
     SF_INFO info{};
     info.format = format;
     info.samplerate = sampleRate;
     info.channels = channels;
     m_file.reset(sf_open(m_pending.path().c_str(), SFM_WRITE, &info));
     if (m_file == nullptr)
-        fail(sf_strerror(nullptr));
+        fail(describeFormat(format) + ", does not support " + std::to_string(sampleRate) + " Hz");
     // The peak chunk contains the time of day. With it, each run would write a different file.
     sf_command(m_file.get(), SFC_SET_ADD_PEAK_CHUNK, nullptr, SF_FALSE);
 }
@@ -64,7 +64,7 @@ void CAudioWriter::writeAll(const Sample *samples, std::int64_t frames) {
         written = sf_writef_int(m_file.get(), m_integers.data(), frames);
     }
     if (written != frames)
-        fail(errno != 0 ? std::system_category().message(errno) : sf_strerror(m_file.get()));
+        failWith(errno);
     m_frames += frames;
 }
 
@@ -74,9 +74,13 @@ void CAudioWriter::finish() {
     const int systemError = errno;
     // libsndfile does not report every error at the end of encoding.
     if (framesIn(m_pending.path()) < m_frames)
-        fail(systemError != 0 ? std::system_category().message(systemError)
-                              : "the file could not be completed");
+        failWith(systemError);
     m_pending.commit();
+}
+
+void CAudioWriter::failWith(int systemError) const {
+    fail(systemError != 0 ? std::system_category().message(systemError)
+                          : "the file could not be completed");
 }
 
 void CAudioWriter::fail(const std::string &reason) const {

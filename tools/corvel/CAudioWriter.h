@@ -16,7 +16,8 @@ class CAudioWriter {
 public:
     /// @param format  libsndfile's format code.
     /// @throws CJobError if the file cannot be created.
-    CAudioWriter(const std::filesystem::path &file, int format, int sampleRate, int channels);
+    CAudioWriter(const std::filesystem::path &file, EExisting existing, int format, int sampleRate,
+                 int channels);
 
     int channels() const { return m_channels; }
 
@@ -35,6 +36,7 @@ public:
 private:
     template <typename Sample>
     void writeAll(const Sample *samples, std::int64_t frames);
+    [[noreturn]] void failWith(int systemError) const;
     [[noreturn]] void fail(const std::string &reason) const;
 
     std::filesystem::path m_place;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "corvel/CEffectSettings.h"
+#include "corvel/Jobs.h"
 #include "corvel/Render.h"
 
 #include <optional>
@@ -14,9 +15,10 @@ namespace Tessitor::Tool {
 
 struct SRenderCall {
     std::optional<std::string> plugin;  // the effect file; by default the one next to the program
-    std::vector<std::string> files;     // the last one is the output
+    SFileRequest files;
     SSettingsRequest settings;
     SRenderOptions options;
+    bool skipExisting = false;  // outputs that are newer than their inputs
     bool json = false;
 };
 int runRender(const SRenderCall &call);

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <exception>
 #include <stdexcept>
+#include <string>
 
 namespace Tessitor::Tool {
 
@@ -15,5 +17,8 @@ class CJobError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
 };
+
+/// @return the reason for the user: the text of our own errors, and never that of a library.
+std::string reasonOf(const std::exception &error);
 
 }  // namespace Tessitor::Tool

@@ -1,8 +1,11 @@
 #include "corvel/Jobs.h"
 
 #include "corvel/Errors.h"
+#include "corvel/FileFacts.h"
 
+#include <algorithm>
 #include <set>
+#include <system_error>
 
 namespace fs = std::filesystem;
 
@@ -17,29 +20,54 @@ fs::path nameInFolder(const fs::path &folder, const fs::path &in, const SFormatR
     return out;
 }
 
-}  // namespace
+bool isFolder(const fs::path &target) {
+    std::error_code ignored;
+    return !target.has_filename() || fs::is_directory(target, ignored);
+}
 
-std::vector<SRenderJob> jobsFromFiles(const std::vector<std::string> &files,
-                                      const SFormatRequest &format) {
-    const fs::path target = files.back();
-    const bool several = files.size() > 2;
-    if (several && fs::exists(target) && !fs::is_directory(target))
-        throw CCallError(target.string() + ": several inputs need a folder as output");
-    const bool intoFolder = several || fs::is_directory(target);
+void requireNames(const SFileRequest &request) {
+    if (request.files.empty() || (request.files.size() == 1 && !request.folder))
+        throw CCallError("corvel render needs an input and an output; see corvel render --help");
+    const auto isEmpty = [](const std::string &name) { return name.empty(); };
+    if (std::any_of(request.files.begin(), request.files.end(), isEmpty) || request.folder == "")
+        throw CCallError("a file name is empty");
+}
 
-    std::vector<SRenderJob> jobs;
+void requireInputsToSurvive(const std::vector<SRenderJob> &jobs) {
     std::set<fs::path> inputs, outputs;
-    for (auto in = files.begin(); in != files.end() - 1; ++in) {
-        jobs.push_back({*in, intoFolder ? nameInFolder(target, *in, format) : target});
-        inputs.insert(fs::weakly_canonical(*in));
-        if (!outputs.insert(fs::weakly_canonical(jobs.back().out)).second)
-            throw CCallError(jobs.back().out.string() +
-                             ": two inputs would be written to this file");
+    for (const SRenderJob &job : jobs) {
+        inputs.insert(placeOf(job.in));
+        if (!outputs.insert(placeOf(job.out)).second)
+            throw CCallError(job.out.string() + ": two inputs would be written to this file");
     }
     for (const SRenderJob &job : jobs)
-        if (inputs.contains(fs::weakly_canonical(job.out)))
+        if (inputs.contains(placeOf(job.out)) || isSameFile(job.in, job.out))
             throw CCallError(job.out.string() + ": is also an input and would be overwritten");
-    return jobs;
+}
+
+}  // namespace
+
+SJobs jobsFromFiles(const SFileRequest &request, const SFormatRequest &format) {
+    requireNames(request);
+    std::vector<std::string> inputs = request.files;
+    SJobs result;
+    fs::path target;
+    if (request.folder) {
+        result.folder = *request.folder;
+    } else {
+        target = inputs.back();
+        inputs.pop_back();
+        if (isFolder(target))
+            result.folder = target;
+        else if (inputs.size() > 1)
+            throw CCallError(target.string() + ": several inputs need a folder for their outputs; "
+                                               "name it with --out-dir or end it in a slash");
+    }
+    for (const fs::path in : inputs)
+        result.jobs.push_back(
+            {in, result.folder ? nameInFolder(*result.folder, in, format) : target});
+    requireInputsToSurvive(result.jobs);
+    return result;
 }
 
 }  // namespace Tessitor::Tool

@@ -63,7 +63,8 @@ SRenderResult render(const SRenderJob &job, const CEffectLibrary &library,
         reader.knowsLength() ? reader.frames() + tailFrames(options, reader.sampleRate()) : 0;
     result.formatOut = formatForLength(outputFormat(reader.format(), options.format, job.out),
                                        framesExpected, result.channelsOut, job.out);
-    CAudioWriter writer(job.out, result.formatOut, result.sampleRate, result.channelsOut);
+    CAudioWriter writer(job.out, options.existing, result.formatOut, result.sampleRate,
+                        result.channelsOut);
 
     CEffectInstance effect(library);
     settings.applyTo(effect);

@@ -2,6 +2,7 @@
 
 #include "corvel/CEffectSettings.h"
 #include "corvel/CLevels.h"
+#include "corvel/CPendingFile.h"
 #include "corvel/OutputFormat.h"
 
 #include <cstdint>
@@ -22,6 +23,8 @@ struct SRenderOptions {
     bool doublePrecision = false;
     bool resample = false;  // to stripRate and back
     bool mono = false;      // the strip's mono sum; for mono files only
+    bool keepNan = false;   // otherwise samples that are not finite are rendered as 0
+    EExisting existing = EExisting::Kept;  // output files
 };
 
 std::int64_t tailFrames(const SRenderOptions &options, int sampleRate);
@@ -38,7 +41,8 @@ struct SRenderResult {
     std::int64_t framesIn = 0, framesOut = 0;
     CLevels levelsIn, levelsOut;
     std::uint64_t clippedSamples = 0;
-    double renderSeconds = 0.0;  // wall clock
+    std::uint64_t nonFiniteSamples = 0;  // in the input
+    double renderSeconds = 0.0;          // wall clock
 
     double seconds() const { return static_cast<double>(framesOut) / sampleRate; }
     double timesRealTime() const { return renderSeconds > 0.0 ? seconds() / renderSeconds : 0.0; }
@@ -53,7 +57,7 @@ void requireRenderable(const CEffectInstance &effect, const SRenderOptions &opti
 
 /// Renders one file with a new instance, so that earlier files leave no trace.
 /// @param library  must pass requireRenderable().
-/// @throws CJobError if it fails. The output file is then unchanged.
+/// @throws CJobError if it fails, or CInterruption. The output file is then unchanged.
 /// [any thread] May run several times in parallel.
 SRenderResult render(const SRenderJob &job, const CEffectLibrary &library,
                      const CEffectSettings &settings, const SRenderOptions &options,

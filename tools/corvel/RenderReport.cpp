@@ -2,6 +2,7 @@
 
 #include "corvel/Text.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace Tessitor::Tool {
@@ -21,6 +22,10 @@ std::string describeDuration(double seconds) {
     const double beyondMinute = static_cast<double>(milliseconds % 60000) / 1000.0;
     return std::to_string(milliseconds / 60000) + (beyondMinute < 10.0 ? ":0" : ":") +
            decimal(beyondMinute, 3);
+}
+
+std::string counted(std::uint64_t number, const std::string &thing) {
+    return std::to_string(number) + " " + thing + (number == 1 ? "" : "s");
 }
 
 std::string describeLevels(const CLevels &levels) {
@@ -46,9 +51,18 @@ Json toJson(const CLevels &levels) {
 
 Json toJson(const SRenderOutcome &outcome) {
     Json json = {{"in", outcome.job.in.string()}, {"out", outcome.job.out.string()}};
-    if (!outcome.error.empty()) {
+    switch (outcome.kind) {
+    case EOutcome::Interrupted:
+        json["error"] = "interrupted";
+        return json;
+    case EOutcome::Failed:
         json["error"] = outcome.error;
         return json;
+    case EOutcome::Skipped:
+        json["skipped"] = true;
+        return json;
+    case EOutcome::Rendered:
+        break;
     }
     const SRenderResult &result = outcome.result;
     json["sampleRate"] = result.sampleRate;
@@ -62,6 +76,7 @@ Json toJson(const SRenderOutcome &outcome) {
     json["levelIn"] = toJson(result.levelsIn);
     json["levelOut"] = toJson(result.levelsOut);
     json["clippedSamples"] = result.clippedSamples;
+    json["nonFiniteSamples"] = result.nonFiniteSamples;
     json["renderSeconds"] = result.renderSeconds;
     json["timesRealTime"] = result.timesRealTime();
     return json;
@@ -86,18 +101,48 @@ std::string describe(const SRenderOutcome &outcome, const CEffectSettings &setti
     return inColumns(rows);
 }
 
-std::vector<std::string> remarks(const SRenderOutcome &outcome, const SRenderOptions &options) {
+std::vector<std::string> warnings(const SRenderOutcome &outcome, const SRenderOptions &options) {
     const SRenderResult &result = outcome.result;
     std::vector<std::string> lines;
-    if (result.sampleRate != stripRate && !options.resample) {
-        lines.push_back("note: " + outcome.job.in.string() + ": " +
-                        std::to_string(result.sampleRate) +
-                        " Hz, but the strip is tuned for 44100 Hz; --resample converts");
-    }
+    if (result.nonFiniteSamples > 0)
+        lines.push_back("warning: " + outcome.job.in.string() + ": " +
+                        counted(result.nonFiniteSamples, "sample") + " infinite or not a number, " +
+                        (options.keepNan ? "kept" : "rendered as 0; --keep-nan keeps them"));
     if (result.clippedSamples > 0)
         lines.push_back("warning: " + outcome.job.out.string() + ": " +
-                        std::to_string(result.clippedSamples) + " samples clipped");
+                        counted(result.clippedSamples, "sample") + " clipped");
     return lines;
+}
+
+std::vector<std::string> notes(const std::vector<SRenderOutcome> &outcomes,
+                               const SRenderOptions &options) {
+    std::vector<const SRenderOutcome *> others;
+    for (const SRenderOutcome &outcome : outcomes)
+        if (outcome.kind == EOutcome::Rendered && outcome.result.sampleRate != stripRate)
+            others.push_back(&outcome);
+    if (others.empty() || options.resample)
+        return {};
+    const std::string reason = ", but the strip is tuned for 44100 Hz; --resample converts";
+    if (others.size() == 1)
+        return {"note: " + others.front()->job.in.string() + ": " +
+                std::to_string(others.front()->result.sampleRate) + " Hz" + reason};
+    return {"note: " + std::to_string(others.size()) + " files have another sample rate" + reason};
+}
+
+std::size_t count(const std::vector<SRenderOutcome> &outcomes, EOutcome kind) {
+    return static_cast<std::size_t>(
+        std::count_if(outcomes.begin(), outcomes.end(),
+                      [&](const SRenderOutcome &outcome) { return outcome.kind == kind; }));
+}
+
+std::string summary(const std::vector<SRenderOutcome> &outcomes) {
+    std::string text = std::to_string(count(outcomes, EOutcome::Rendered)) + " of " +
+                       std::to_string(outcomes.size()) + " files rendered";
+    if (const std::size_t skipped = count(outcomes, EOutcome::Skipped))
+        text += ", " + std::to_string(skipped) + " skipped";
+    if (const std::size_t failed = count(outcomes, EOutcome::Failed))
+        text += ", " + std::to_string(failed) + " failed";
+    return text;
 }
 
 Json toJson(const std::vector<SRenderOutcome> &outcomes, const CEffectSettings &settings,

@@ -9,6 +9,7 @@
 #include "corvel/Render.h"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 #include <optional>
 #include <span>
@@ -42,15 +43,16 @@ private:
     void process(Samples samples);
     void processBlock(Samples samples, Sample *out);
     void deliver(Samples samples);
-    void stopIfInterrupted() const;
+    std::uint64_t countNonFinite(std::span<Sample> samples) const;
+    static void stopIfInterrupted();
 
-    const SRenderJob &m_job;
     CAudioReader &m_reader;
     CEffectInstance &m_effect;
     CAudioWriter &m_writer;
     const std::size_t m_channelsIn, m_channelsOut;
     const std::size_t m_blockFrames, m_chunkFrames;
     const std::int64_t m_tailFrames;
+    const bool m_keepNan;
     std::optional<CResampler> m_toStrip, m_fromStrip;
 
     std::vector<Sample> m_chunk;      // one read from the file
@@ -69,15 +71,15 @@ template <typename Sample>
 TRenderLoop<Sample>::TRenderLoop(const SRenderJob &job, const SRenderOptions &options,
                                  CAudioReader &reader, CEffectInstance &effect,
                                  CAudioWriter &writer)
-    : m_job(job), m_reader(reader), m_effect(effect), m_writer(writer),
+    : m_reader(reader), m_effect(effect), m_writer(writer),
       m_channelsIn(static_cast<std::size_t>(reader.channels())),
       m_channelsOut(static_cast<std::size_t>(writer.channels())),
       m_blockFrames(static_cast<std::size_t>(options.blockSize)),
       // Whole blocks, so that only the last block of a file is shorter.
       m_chunkFrames(m_blockFrames * std::max<std::size_t>(1, chunkFrames / m_blockFrames)),
-      m_tailFrames(tailFrames(options, reader.sampleRate())), m_chunk(m_chunkFrames * m_channelsIn),
-      m_inLeft(m_blockFrames), m_inRight(m_blockFrames), m_outLeft(m_blockFrames),
-      m_outRight(m_blockFrames),
+      m_tailFrames(tailFrames(options, reader.sampleRate())), m_keepNan(options.keepNan),
+      m_chunk(m_chunkFrames * m_channelsIn), m_inLeft(m_blockFrames), m_inRight(m_blockFrames),
+      m_outLeft(m_blockFrames), m_outRight(m_blockFrames),
       m_latencyLeft(static_cast<std::size_t>(std::max(0, effect.record().initialDelay))) {
     if (options.resample && reader.sampleRate() != stripRate) {
         m_toStrip.emplace(job.in.string(), reader.sampleRate(), stripRate, reader.channels());
@@ -89,7 +91,8 @@ template <typename Sample>
 void TRenderLoop<Sample>::run(SRenderResult &result, const RenderListener &listener) {
     while (const auto frames = static_cast<std::size_t>(
                m_reader.read(m_chunk.data(), static_cast<std::int64_t>(m_chunkFrames)))) {
-        const Samples samples(m_chunk.data(), frames * m_channelsIn);
+        const std::span<Sample> samples(m_chunk.data(), frames * m_channelsIn);
+        result.nonFiniteSamples += countNonFinite(samples);
         result.levelsIn.add(samples.data(), samples.size());
         result.framesIn += static_cast<std::int64_t>(frames);
         feed(samples);
@@ -156,10 +159,24 @@ void TRenderLoop<Sample>::deliver(Samples samples) {
     m_framesDelivered += frames;
 }
 
+/// Also replaces them with 0, unless they are to be kept: one of them would spoil the rest of the
+/// file.
 template <typename Sample>
-void TRenderLoop<Sample>::stopIfInterrupted() const {
+std::uint64_t TRenderLoop<Sample>::countNonFinite(std::span<Sample> samples) const {
+    std::uint64_t count = 0;
+    for (Sample &sample : samples) {
+        const bool finite = std::isfinite(sample);
+        count += finite ? 0 : 1;
+        if (!m_keepNan)
+            sample = finite ? sample : Sample(0);
+    }
+    return count;
+}
+
+template <typename Sample>
+void TRenderLoop<Sample>::stopIfInterrupted() {
     if (isInterrupted())
-        throw CJobError(m_job.in.string() + ": interrupted");
+        throw CInterruption();
 }
 
 }  // namespace Tessitor::Tool

@@ -1,5 +1,7 @@
 #include "corvel/Text.h"
 
+#include "corvel/Printable.h"
+
 #include <algorithm>
 #include <array>
 #include <cctype>
@@ -45,9 +47,11 @@ bool equalInAnyCapitals(std::string_view a, std::string_view b) {
                       [&](char x, char y) { return small(x) == small(y); });
 }
 
-std::string inColumns(const std::vector<std::vector<std::string>> &rows) {
+std::string inColumns(std::vector<std::vector<std::string>> rows) {
     std::vector<std::size_t> widths;
-    for (const auto &row : rows) {
+    for (auto &row : rows) {
+        for (std::string &cell : row)
+            cell = printable(cell);
         widths.resize(std::max(widths.size(), row.size()));
         for (std::size_t column = 0; column < row.size(); ++column)
             widths[column] = std::max(widths[column], row[column].size());

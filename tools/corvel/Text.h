@@ -20,7 +20,8 @@ std::string shortest(float number);
 
 bool equalInAnyCapitals(std::string_view a, std::string_view b);
 
-/// @return a table with one line per row, each column as wide as its widest cell.
-std::string inColumns(const std::vector<std::vector<std::string>> &rows);
+/// @return a table with one line per row, each column as wide as its widest cell. Cells are made
+///         printable.
+std::string inColumns(std::vector<std::vector<std::string>> rows);
 
 }  // namespace Tessitor::Tool

@@ -1,12 +1,15 @@
+#include "corvel/CallErrors.h"
 #include "corvel/Commands.h"
 #include "corvel/Errors.h"
 #include "corvel/Print.h"
 #include "corvel/Text.h"
 
 #include <CLI/CLI.hpp>
+#include <cstdio>
 #include <exception>
 #include <functional>
 #include <string>
+#include <utility>
 
 using namespace Tessitor::Tool;
 
@@ -16,21 +19,31 @@ constexpr const char *generalHelp = R"(
 The effect is the file named with --plugin. By default it is ../plugin/Corvel.so, seen from
 this program's folder, or Corvel.so in the same folder.
 
-Exit status: 0 on success, 1 if a job failed, 2 if the command line was wrong.
+Exit status: 0 on success, 1 if a job failed, 2 if the command line was wrong, 130 if it was
+interrupted.
 
 See corvel COMMAND --help for the options of a command.
 )";
 
 constexpr const char *renderHelp = R"(
 Files
-  OUT is a file or a folder. With a folder, outputs are named after their inputs. Several
-  inputs always need a folder, which is created if necessary; they are rendered on all
-  cores, each through its own instance of the effect. An output replaces an existing file
-  only when it is complete; after a failure the existing file is unchanged.
+  OUT is a file, or a folder if it exists as one or ends in a slash. --out-dir names a folder
+  instead, and then all FILES are inputs. In a folder, which is created if necessary, outputs
+  are named after their inputs. Several inputs always need a folder; they are rendered on all
+  cores, each through its own instance of the effect. If one fails, the others are still
+  rendered.
+
+  An existing file is only replaced with --force, and only when the output is complete: after
+  a failure it is unchanged. It passes on its mode; a write-protected file is not replaced.
+  --skip-existing passes over outputs that are newer than their inputs, so the same command
+  continues a batch that was interrupted. A name that starts with a dash follows after "--".
 
   Inputs are WAV, AIFF, FLAC and Ogg files with one or two channels at any sample rate. The
   output keeps the rate of its input. A mono file is processed as if the host had connected
   only the left input. Its output is stereo, or with --mono the strip's mono sum.
+
+  Samples that are infinite or not a number are rendered as 0, and a warning says how many.
+  --keep-nan leaves them alone; they usually silence the rest of the file.
 
   The container is taken from --format, else from OUT's extension, else from the input. The
   sample type is taken from --format, else from the input, else it is the closest that the
@@ -57,7 +70,7 @@ Settings
 
 Examples
   corvel render voice.wav out.wav --program "Lead Vocal" --set CmpThresh=-24dB
-  corvel render *.flac mixed --chain "Rumble Filter,Compressor" --format wav:24
+  corvel render *.flac mixed/ --chain "Rumble Filter,Compressor" --format wav:24
   corvel render phone.wav out.wav --resample --json
 )";
 
@@ -79,6 +92,16 @@ CLI::Validator between(double low, double high) {
             ""};
 }
 
+CLI::Validator wholeNumber() {
+    return {[](std::string &text) -> std::string {
+                int number = 0;
+                if (CLI::detail::lexical_cast(text, number))
+                    return {};
+                return text + " is not a whole number";
+            },
+            ""};
+}
+
 void addPlugin(CLI::App &app, std::optional<std::string> &plugin) {
     app.add_option("--plugin", plugin, "The effect's file")->type_name("FILE");
 }
@@ -90,10 +113,15 @@ void addJson(CLI::App &app, bool &json) {
 SCommand addRender(CLI::App &app, SRenderCall &call) {
     CLI::App &render = *app.add_subcommand("render", "Render audio files through the effect");
     SRenderOptions &options = call.options;
-    render.add_option("FILES", call.files, "IN ... OUT: one or more inputs and the output")
-        ->required()
-        ->expected(2, CLI::detail::expected_max_vector_size)
+    render.add_option("FILES", call.files.files, "IN ... OUT: one or more inputs and the output")
         ->type_name("");
+    render.add_option("--out-dir", call.files.folder, "Folder for the outputs; FILES are inputs")
+        ->type_name("DIR");
+    render.add_flag_callback(
+        "--force", [&options] { options.existing = EExisting::Replaced; },
+        "Replace existing outputs");
+    render.add_flag("--skip-existing", call.skipExisting,
+                    "Skip outputs that are newer than their inputs");
     render.add_option("--program", call.settings.program, "Program to start from")
         ->type_name("N|NAME");
     render.add_option("--set", call.settings.set, "Set a parameter")
@@ -107,6 +135,7 @@ SCommand addRender(CLI::App &app, SRenderCall &call) {
         ->capture_default_str();
     render.add_option("--block", options.blockSize, "Frames per block, up to 1048576")
         ->type_name("N")
+        ->check(wholeNumber())
         ->check(between(1, 1 << 20))
         ->capture_default_str();
     render
@@ -125,10 +154,15 @@ SCommand addRender(CLI::App &app, SRenderCall &call) {
                     "Process at 44100 Hz, which the strip is tuned for, and convert back");
     render.add_flag("--mono", options.mono,
                     "Write a mono file as the mono sum of the strip's output");
+    render.add_flag("--keep-nan", options.keepNan,
+                    "Keep samples that are infinite or not a number");
     addPlugin(render, call.plugin);
     addJson(render, call.json);
     render.footer(renderHelp);
-    return {&render, [&call] { return runRender(call); }};
+    return {&render, [&call] {
+                call.files.files = namesAsTyped(std::move(call.files.files));
+                return runRender(call);
+            }};
 }
 
 SCommand addPrograms(CLI::App &app, SProgramsCall &call) {
@@ -168,11 +202,11 @@ int parseAndRun(int argc, char **argv) {
     const SCommand commands[] = {addRender(app, render), addPrograms(app, programs),
                                  addParams(app, params), addInfo(app, info)};
     try {
-        app.parse(argc, argv);
+        app.parse(argumentsForParser(argc, argv));
     } catch (const CLI::Success &help) {
         return app.exit(help);
     } catch (const CLI::ParseError &error) {
-        throw CCallError(error.what());
+        throw CCallError(describe(error));
     }
     for (const SCommand &command : commands)
         if (command.app->parsed())
@@ -180,16 +214,32 @@ int parseAndRun(int argc, char **argv) {
     throw CCallError("no command; use render, programs, params or info (see corvel --help)");
 }
 
-}  // namespace
+// If standard output is closed, the next file that is opened would take its place, and our report
+// would be written into it.
+void reserveStandardStreams() {
+    for (int stream = 0; stream < 3; ++stream)
+        std::fopen("/dev/null", "rb");
+}
 
-int main(int argc, char **argv) {
+int runAndReport(int argc, char **argv) {
     try {
         return parseAndRun(argc, argv);
     } catch (const CCallError &error) {
         printRemark(error.what());
         return 2;
     } catch (const std::exception &error) {
-        printRemark(error.what());
+        printRemark(reasonOf(error));
         return 1;
     }
+}
+
+}  // namespace
+
+int main(int argc, char **argv) {
+    reserveStandardStreams();
+    const int status = runAndReport(argc, argv);
+    if (isAllPrinted() || status != 0)
+        return status;
+    printRemark("the result cannot be printed: standard output does not accept it");
+    return 1;
 }
