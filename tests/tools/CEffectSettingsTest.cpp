@@ -39,7 +39,7 @@ TEST_F(CEffectSettingsTest, AnEmptyRequestChangesNothing) {
 }
 
 TEST_F(CEffectSettingsTest, AProgramIsFoundByNumberAndByName) {
-    for (const char *text : {"1", "Loud", "LOUD", " loud "}) {
+    for (const char *text : {"1", "Loud", "LOUD", " loud ", "lo", "L"}) {
         const CEffectSettings settings = settingsFor({text, {}, {}});
         EXPECT_EQ(settings.programName(), "Loud") << text;
         EXPECT_EQ(settings.chain(), (Chain{6, 11}));
@@ -81,10 +81,23 @@ TEST_F(CEffectSettingsTest, ReportsTheValuesAsTheEffectDisplaysThem) {
 }
 
 TEST_F(CEffectSettingsTest, TheLastOfTwoValuesWins) {
-    const CEffectSettings settings = settingsFor({{}, {}, {"Gain=0.25", "Gain=0.75"}});
+    const CEffectSettings settings = settingsFor({{}, {}, {"Gain=@0.25", "Gain=@0.75"}});
     CEffectInstance effect(library);
     settings.applyTo(effect);
     EXPECT_EQ(effect.parameter(0), 0.75f);
+    ASSERT_EQ(settings.assignments().size(), 1u);
+    EXPECT_EQ(
+        settings.notes(),
+        std::vector<std::string>{"note: --set Gain: given more than once; the last value counts"});
+}
+
+TEST_F(CEffectSettingsTest, BothMeaningsOfAPlainNumberAreNoted) {
+    EXPECT_EQ(
+        settingsFor({{}, {}, {"gain=0"}}).notes(),
+        std::vector<std::string>{"note: --set gain=0: taken as a normalised value, which is "
+                                 "-6.00 dB; write Gain=@0 for this, or \"Gain=0 dB\" for 0 dB"});
+    EXPECT_TRUE(
+        settingsFor({{}, {}, {"Gain=@0", "Freq=0.5", "Link=1", "Ratio=3:1"}}).notes().empty());
 }
 
 TEST_F(CEffectSettingsTest, AWrongAssignmentIsRefused) {
@@ -92,7 +105,7 @@ TEST_F(CEffectSettingsTest, AWrongAssignmentIsRefused) {
     EXPECT_THAT(refusal({{}, {}, {"Gian=0"}}), HasSubstr("no parameter \"Gian\""));
     EXPECT_THAT(refusal({{}, {}, {"=0"}}), HasSubstr("no parameter \"\""));
     EXPECT_THAT(refusal({{}, {}, {"Gain=30dB"}}),
-                HasSubstr("--set Gain: \"30dB\" is not possible"));
+                HasSubstr("--set Gain: 30dB is outside -6.00 to 6.00 dB"));
 }
 
 TEST_F(CEffectSettingsTest, OnlyTheChannelStripHasAChain) {

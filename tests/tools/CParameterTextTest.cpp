@@ -199,8 +199,14 @@ TEST(CParameterText, ANumberWithoutItsUnitIsRefusedWithAHint) {
 
 TEST(CParameterText, ANumberOutOfRangeIsRefused) {
     const CParameterText parameter("Hz", frequency);
-    EXPECT_EQ(refusal(parameter, "7000Hz"),
-              "\"7000Hz\" is not possible; the effect shows \"100Hz\" to \"6000Hz\"");
+    EXPECT_EQ(refusal(parameter, "7000Hz"), "7000Hz is outside 100 to 6000 Hz");
+    EXPECT_EQ(refusal(parameter, " 7 kHz "), "7 kHz is outside 100 to 6000 Hz");
+    EXPECT_EQ(refusal(CParameterText("dB", threshold), "1 dB"),
+              "1 dB is outside -60.00 to 0.00 dB or -oo");
+    EXPECT_EQ(refusal(CParameterText("", ratio), "9:1"), "9:1 is outside 1.0:1 to 8.0:1");
+    EXPECT_EQ(refusal(CParameterText("", ratio), "0:1"), "0:1 is outside 1.0:1 to 8.0:1");
+    EXPECT_EQ(refusal(CParameterText("", ratio), "3:2"),
+              "\"3:2\" is not possible; the effect shows 1.0:1 to 8.0:1");
     EXPECT_NE(refusal(CParameterText("dB", threshold), "-70dB"), "");
     EXPECT_NE(refusal(CParameterText("dB", threshold), "0.5dB"), "");
 }
@@ -211,11 +217,9 @@ TEST(CParameterText, ANumberWithAnotherUnitIsRefused) {
 
 TEST(CParameterText, AnUnknownTextIsRefusedWithAListOfTheKnownOnes) {
     EXPECT_EQ(refusal(CParameterText("", linkage), "Linkd"),
-              "\"Linkd\" is not possible; the effect shows \"Separate\" and \"Linked\"");
-    EXPECT_EQ(
-        refusal(CParameterText("", route), "Mono"),
-        "\"Mono\" is not possible; the effect shows \"Combine\", \"AllLeft\", \"AllRight\" and "
-        "\"Stereo\"");
+              "\"Linkd\" is not possible; the effect shows Separate, Linked");
+    EXPECT_EQ(refusal(CParameterText("", route), "Mono"),
+              "\"Mono\" is not possible; the effect shows Combine, AllLeft, AllRight, Stereo");
 }
 
 TEST(CParameterText, AnEmptyTextAndANaNAreRefused) {
@@ -234,4 +238,58 @@ TEST(CParameterText, AFallingLawIsInverted) {
     const CParameterText parameter("ms",
                                    [](float v) { return printed("%.1f", 500.0 - 499.0 * v); });
     EXPECT_NEAR(parameter.valueOf("100.5ms"), 399.5f / 499.0f, 1e-4f);
+}
+
+TEST(CParameterText, OtherUnitsOfTheSameKindAreConverted) {
+    const CParameterText hertz("Hz", frequency);
+    EXPECT_EQ(hertz.valueOf("1.2 kHz"), hertz.valueOf("1200Hz"));
+    EXPECT_EQ(hertz.valueOf("0.12KHZ"), hertz.valueOf("120Hz"));
+    const auto time = [](float v) { return printed("%.0f", 99.0 * v + 1.0); };
+    const CParameterText milliseconds("ms", time), seconds("s", time);
+    EXPECT_EQ(milliseconds.valueOf("0.03 s"), milliseconds.valueOf("30ms"));
+    EXPECT_EQ(seconds.valueOf("30000 ms"), seconds.valueOf("30s"));
+    EXPECT_NE(refusal(milliseconds, "1 Hz"), "");
+}
+
+TEST(CParameterText, ACommaSeparatesDecimalsToo) {
+    const CParameterText parameter("dB", threshold);
+    EXPECT_EQ(parameter.valueOf("-1,5 dB"), parameter.valueOf("-1.5dB"));
+    EXPECT_EQ(parameter.valueOf("0,25"), 0.25f);
+}
+
+TEST(CParameterText, AnAtSignMarksANormalisedValue) {
+    const CParameterText parameter("dB", threshold);
+    EXPECT_EQ(parameter.valueOf("@0.37"), 0.37f);
+    EXPECT_EQ(parameter.valueOf(" @1 "), 1.0f);
+    EXPECT_EQ(parameter.otherMeaningOf("@0.37"), "");
+    for (const char *text : {"@", "@2", "@-0.1", "@nan", "@0.5dB", "@0.5:1", "@x"})
+        EXPECT_THAT(refusal(parameter, text), testing::HasSubstr("from 0 to 1 after @")) << text;
+}
+
+TEST(CParameterText, APlainNumberMayHaveAnotherMeaning) {
+    const CParameterText gainOrNot("dB", gain);
+    EXPECT_EQ(gainOrNot.otherMeaningOf("0"), "0 dB");
+    EXPECT_EQ(gainOrNot.otherMeaningOf("0.5"), "0.5 dB");
+    EXPECT_EQ(gainOrNot.otherMeaningOf("0.5dB"), "");
+    const CParameterText share("%", [](float v) { return printed("%.0f", 100.0 * v); });
+    EXPECT_EQ(share.otherMeaningOf("0"), "");  // the same in both
+    EXPECT_EQ(share.otherMeaningOf("1"), "1 %");
+    EXPECT_EQ(CParameterText("Hz", frequency).otherMeaningOf("0.5"), "");
+    EXPECT_EQ(CParameterText("", linkage).otherMeaningOf("1"), "");
+    EXPECT_EQ(CParameterText("", ratio).otherMeaningOf("1"), "");
+    EXPECT_EQ(CParameterText("", [](float v) { return printed("%.0f", 100.0 - 100.0 * v); })
+                  .otherMeaningOf("1"),
+              "1");
+}
+
+TEST(CParameterText, TheRangeShowsNumbersOrAllTexts) {
+    EXPECT_EQ(CParameterText("Hz", frequency).range(), "100 to 6000 Hz");
+    EXPECT_EQ(CParameterText("dB", threshold).range(), "-60.00 to 0.00 dB or -oo");
+    EXPECT_EQ(CParameterText("", ratio).range(), "1.0:1 to 8.0:1");
+    EXPECT_EQ(CParameterText("", balance).range(), "100:0 to 0:100");
+    EXPECT_EQ(CParameterText("", linkage).range(), "Separate, Linked");
+    EXPECT_EQ(
+        CParameterText("", [](float v) { return printed("%.0f", 100.0 - 100.0 * v); }).range(),
+        "0 to 100");
+    EXPECT_EQ(CParameterText("", [](float) { return std::string(); }).range(), "");
 }

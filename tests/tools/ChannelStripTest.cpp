@@ -1,9 +1,11 @@
 #include "corvel/CEffectInstance.h"
+#include "corvel/CEffectSettings.h"
 #include "corvel/CParameterText.h"
 #include "tools/support/AudioFiles.h"
 #include "tools/support/CTemporaryFolder.h"
 #include "tools/support/Program.h"
 
+#include <algorithm>
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
 
@@ -21,10 +23,12 @@ protected:
                        {"render", folder / "in.wav", folder / "out.wav", "--force"});
         const SProgramRun run = corvel(options);
         EXPECT_EQ(run.status, 0) << run.errors;
+        notes = run.errors;
         return readSound(folder / "out.wav");
     }
 
     CTemporaryFolder folder;
+    std::string notes;
 };
 
 }  // namespace
@@ -57,7 +61,10 @@ TEST_F(ChannelStrip, ListsTheParametersOfAProgram) {
                                               {"name", "GateThrsh"},
                                               {"value", 0.485},
                                               {"display", "-30.90"},
-                                              {"unit", "dB"}}));
+                                              {"unit", "dB"},
+                                              {"default", 0.5},
+                                              {"defaultDisplay", "-30.00"},
+                                              {"range", "-60.00 to 0.00 dB or -oo"}}));
 }
 
 TEST_F(ChannelStrip, EveryDisplayedTextCanBeSet) {
@@ -171,4 +178,120 @@ TEST_F(ChannelStrip, ABatchGivesTheSameSoundAsSingleRuns) {
         EXPECT_EQ(readSound(folder / ("batch/" + std::to_string(i) + ".wav")).samples,
                   alone.samples);
     }
+}
+
+TEST_F(ChannelStrip, EveryProgramIsDescribed) {
+    const auto programs = nlohmann::json::parse(corvel({"programs", "--describe", "--json"}).out);
+    for (const auto &program : programs)
+        EXPECT_NE(program["description"], "") << program["name"];
+    EXPECT_THAT(
+        corvel({"programs", "--describe"}).out,
+        testing::HasSubstr("11  Choir                Makes a few voices sound like a choir"));
+}
+
+TEST_F(ChannelStrip, AHardPanIsHeard) {
+    const SSound sound = voice(31, 2000);
+    const auto panned = [&](const char *pan) {
+        return render(sound,
+                      {"--program", "Empty", "--chain", "Pan", "--set", std::string("Pan=") + pan});
+    };
+    const SSound left = panned("100:0"), right = panned("0:100");
+    for (std::size_t i = 0; i < sound.frames(); ++i) {
+        const float l = static_cast<float>(sound.samples[2 * i]),
+                    r = static_cast<float>(sound.samples[2 * i + 1]);
+        ASSERT_EQ(left.samples[2 * i], l + r);
+        ASSERT_EQ(left.samples[2 * i + 1], 0.0);
+        ASSERT_EQ(right.samples[2 * i], 0.0);
+        ASSERT_EQ(right.samples[2 * i + 1], l + r);
+    }
+    EXPECT_EQ(panned("100:100").samples, sound.samples);
+}
+
+TEST_F(ChannelStrip, ASynchronisedDelayIsHeardInAnyOrder) {
+    const SSound sound = voice(31, 60000);
+    const auto delayed = [&](const std::vector<std::string> &values, const char *tempo) {
+        std::vector<std::string> options = {"--program", "Empty",   "--chain",
+                                            "Delay",     "--tempo", tempo};
+        for (const std::string &value : values)
+            options.insert(options.end(), {"--set", value});
+        return render(sound, options).samples;
+    };
+    for (const char *const tempo : {"120", "150"}) {
+        const std::vector<double> expected = delayed({"DlySync=Crotchet"}, tempo);
+        EXPECT_EQ(delayed({"DlySync=Crotchet", "DlyTime=300ms"}, tempo), expected);
+        EXPECT_EQ(notes,
+                  "corvel: note: --set DlyTime: has no effect, since DlySync makes the delay "
+                  "follow the tempo\n");
+        EXPECT_EQ(delayed({"DlyTime=300ms", "DlySync=Crotchet"}, tempo), expected);
+        const std::vector<double> free = delayed({"DlyTime=300ms"}, tempo);
+        EXPECT_NE(free, expected);
+        EXPECT_EQ(delayed({"DlySync=ms", "DlyTime=300ms"}, tempo), free);
+        EXPECT_EQ(delayed({"DlyTime=300ms", "DlySync=ms"}, tempo), free);
+    }
+}
+
+TEST_F(ChannelStrip, ATimeIsHeardInAProgramThatFollowsTheTempo) {
+    const SSound sound = voice(31, 40000);
+    const auto delayed = [&](const char *tempo) {
+        return render(sound, {"--program", "BV (Pop)", "--chain", "Delay", "--set", "DlyTime=300ms",
+                              "--tempo", tempo})
+            .samples;
+    };
+    EXPECT_EQ(delayed("120"), delayed("150"));
+    EXPECT_EQ(notes, "corvel: note: --set DlyTime: DlySync is set to ms, since in this program the "
+                     "delay follows the tempo\n");
+}
+
+TEST_F(ChannelStrip, EveryParameterIsHeardAsItWasAskedFor) {
+    const CEffectLibrary library(CORVEL_EFFECT);
+    for (std::int32_t index = 0; index < 62; ++index) {
+        for (const char *const value : {"0", "0.25", "0.5", "0.75", "1"}) {
+            CEffectInstance trial(library), effect(library), other(library);
+            const std::string name = effect.text(effGetParamName, index);
+            const CEffectSettings settings({{}, {}, {name + "=@" + value}}, trial);
+            settings.applyTo(effect);
+            other.setParameter(index, 0.1f);
+            other.setParameter(index, std::stof(value));
+            std::string expected = other.text(effGetParamDisplay, index);
+            if (expected == "-0.00")
+                expected = "0.00";
+            EXPECT_EQ(effect.text(effGetParamDisplay, index), expected) << name << value;
+            EXPECT_EQ(effect.parameter(index), std::stof(value));
+        }
+    }
+}
+
+TEST_F(ChannelStrip, TheOrderOfTheParametersDoesNotMatter) {
+    const SSound sound = voice(31, 20000);
+    std::vector<std::string> values = {"RvSpread=80%",   "RvRmSize=200m2",   "Pan=60:100",
+                                       "DlySync=Quaver", "CmpLink=Separate", "CmpRatio=4:1"};
+    const auto rendered = [&] {
+        std::vector<std::string> options = {"--chain", "Compressor,Pan,Delay,Reverb"};
+        for (const std::string &value : values)
+            options.insert(options.end(), {"--set", value});
+        return render(sound, options).samples;
+    };
+    const std::vector<double> expected = rendered();
+    std::reverse(values.begin(), values.end());
+    EXPECT_EQ(rendered(), expected);
+}
+
+TEST_F(ChannelStrip, NotesSayWhatOptionsDoNotDo) {
+    const SSound sound = voice(31, 100);
+    render(sound, {"--double"});
+    EXPECT_EQ(notes, "corvel: note: --double: in double precision the compressor and the de-esser "
+                     "stay at rest\n");
+    render(sound, {"--program", "Empty", "--double"});
+    EXPECT_EQ(notes, "");
+    render(sound, {"--block", "64"});
+    EXPECT_EQ(notes, "");
+    render(sound, {"--block", "64", "--set", "CmpLink=Separate"});
+    EXPECT_EQ(notes, "corvel: note: --block: the length of the blocks changes the sound, since the "
+                     "compressor is set to separate\n");
+}
+
+TEST_F(ChannelStrip, TheChainTakesNamesInAnyCapitals) {
+    const SSound sound = voice(31, 1000);
+    EXPECT_EQ(render(sound, {"--chain", "RUMBLE FILTER,deesser"}).samples,
+              render(sound, {"--chain", "Rumble Filter,DeEsser"}).samples);
 }

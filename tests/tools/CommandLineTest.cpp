@@ -115,20 +115,45 @@ TEST(CommandLine, ProgramsOfOtherEffectsHaveNoChain) {
 TEST(CommandLine, ParametersAreListed) {
     const SProgramRun run = corvelWith({"params", "--program", "loud"});
     EXPECT_EQ(run.status, 0);
-    EXPECT_EQ(run.out, "#  Name   Value  Display   Unit\n"
-                       "0  Gain   1      6.00      dB\n"
-                       "1  Freq   0.25   200       Hz\n"
-                       "2  Link   0      Separate\n"
-                       "3  Ratio  0      1.0:1\n"
-                       "4  Route  0      Combine\n"
+    EXPECT_EQ(run.out, "#  Name   Value  Display   Unit  Default   Range\n"
+                       "0  Gain   1      6.00      dB    0.00      -6.00 to 6.00 dB\n"
+                       "1  Freq   0.25   200       Hz    200       100 to 1600 Hz\n"
+                       "2  Link   0      Separate        Separate  Separate, Linked\n"
+                       "3  Ratio  0      1.0:1           1.0:1     1.0:1 to 8.0:1\n"
+                       "4  Route  0      Combine         Combine   Combine, AllLeft, AllRight, "
+                       "Stereo\n"
                        "5         0\n");
-    const nlohmann::json json = nlohmann::json::parse(corvelWith({"params", "--json"}).out);
+    const nlohmann::json json =
+        nlohmann::json::parse(corvelWith({"params", "--program", "1", "--json"}).out);
     ASSERT_EQ(json.size(), 6u);
-    EXPECT_EQ(json[1], (nlohmann::json{{"parameter", 1},
-                                       {"name", "Freq"},
-                                       {"value", 0.25},
-                                       {"display", "200"},
-                                       {"unit", "Hz"}}));
+    EXPECT_EQ(json[0], (nlohmann::json{{"parameter", 0},
+                                       {"name", "Gain"},
+                                       {"value", 1.0},
+                                       {"display", "6.00"},
+                                       {"unit", "dB"},
+                                       {"default", 0.5},
+                                       {"defaultDisplay", "0.00"},
+                                       {"range", "-6.00 to 6.00 dB"}}));
+}
+
+TEST(CommandLine, HelpIsHelp) {
+    EXPECT_EQ(corvel({"help"}).out, corvel({"--help"}).out);
+    EXPECT_EQ(corvel({"help"}).status, 0);
+    EXPECT_EQ(corvel({"help", "render"}).out, corvel({"render", "--help"}).out);
+    EXPECT_THAT(corvel({"help", "render"}).out, HasSubstr("compressor and de-esser stay at rest"));
+}
+
+TEST(CommandLine, InfoTakesTheEffectByOptionToo) {
+    EXPECT_EQ(corvel({"info", "--plugin", testEffect("Late")}).out,
+              corvel({"info", testEffect("Late")}).out);
+    expectWrongCall({"info", "--plugin", "a", "b"}, "--plugin");
+}
+
+TEST(CommandLine, ANameThatFitsSeveralProgramsIsRefused) {
+    expectWrongCall({"params", "--program", "rock"},
+                    "--program: \"rock\" may be \"Rock Vocal (Insert)\", \"Rock Vocal (Send)\"");
+    EXPECT_EQ(corvel({"params", "--program", "rock vocal (s"}).out,
+              corvel({"params", "--program", "Rock Vocal (Send)"}).out);
 }
 
 TEST(CommandLine, InfoShowsWhatAHostSees) {

@@ -104,3 +104,14 @@ TEST(OutputFormat, OtherContainersAreUnknown) {
     EXPECT_TRUE(isKnownContainer(SF_FORMAT_RF64 | SF_FORMAT_FLOAT));
     EXPECT_FALSE(isKnownContainer(SF_FORMAT_AU | SF_FORMAT_PCM_16));
 }
+
+TEST(OutputFormat, TheNameOfAnOutputMustNotMislead) {
+    const SFormatRequest none, flac = formatFromText("flac");
+    for (const char *const name : {"a.wav", "a.WAV", "a.flac", "a", "a.b/c", ".hidden", "x.oga"})
+        EXPECT_EQ(problemOfName(name, none), "") << name;
+    for (const char *const name : {"a.mp3", "a.", "a.wav.tmp", "take.1"})
+        EXPECT_NE(problemOfName(name, none), "") << name;
+    for (const char *const name : {"a.flac", "a", "a.mp3"})
+        EXPECT_EQ(problemOfName(name, flac), "") << name;
+    EXPECT_EQ(problemOfName("a.wav", flac), "its ending means WAV, but --format asks for FLAC");
+}

@@ -134,7 +134,8 @@ INSTANTIATE_TEST_SUITE_P(Formats, RenderToFullDisk,
                          testing::Values("wav:float", "wav:16", "aiff:24", "flac:16", "ogg"));
 
 TEST_F(RenderErrors, AFormatThatDoesNotSupportTheRate) {
-    expectFailure(1, "out.wav: cannot be written", renderTo("out.wav", {"--format", "ogg:opus"}));
+    expectFailure(1, "new.ogg: cannot be written (Ogg, Opus, does not support 44100 Hz)",
+                  renderTo("new.ogg", {"--format", "ogg:opus"}));
 }
 
 TEST_F(RenderErrors, AMissingEffect) {
@@ -168,7 +169,7 @@ TEST_F(RenderErrors, WrongSettings) {
     expectFailure(2, "--program: no program \"3\"", renderTo("out.wav", {"--program", "3"}));
     expectFailure(2, "--set: no parameter \"Gian\"", renderTo("out.wav", {"--set", "Gian=1"}));
     expectFailure(2, "--set: \"Gain\" is not NAME=VALUE", renderTo("out.wav", {"--set", "Gain"}));
-    expectFailure(2, "--set Gain: \"9dB\" is not possible",
+    expectFailure(2, "--set Gain: 9dB is outside -6.00 to 6.00 dB",
                   renderTo("out.wav", {"--set", "Gain=9dB"}));
     expectFailure(2, "--set Gain: \"-6\" needs a unit", renderTo("out.wav", {"--set", "Gain=-6"}));
     expectFailure(2, "--chain: no module \"Flanger\"",
@@ -191,6 +192,22 @@ TEST_F(RenderErrors, WrongFormat) {
     expectFailure(2, "--format: no container \"mp3\"", renderTo("out.wav", {"--format", "mp3"}));
     expectFailure(2, "--format: flac has no sample type \"float\"",
                   renderTo("out.wav", {"--format", "flac:float"}));
+}
+
+TEST_F(RenderErrors, AnEndingThatMeansNoFormat) {
+    const std::string endings =
+        "; use --format or one of .wav .wave .aiff .aif .aifc .flac .ogg .oga";
+    expectFailure(2, "out.mp3: corvel does not write .mp3" + endings, renderTo("out.mp3"));
+    expectFailure(2, "take.1: corvel does not write .1" + endings, renderTo("take.1"));
+    std::filesystem::rename(folder / "in.wav", folder / "in.dat");
+    std::filesystem::create_directory(folder / "to");
+    expectFailure(1, "to/in.dat: corvel does not write .dat" + endings,
+                  {"render", folder / "in.dat", folder / "to", "--plugin", testEffect("Whole")});
+}
+
+TEST_F(RenderErrors, AnEndingThatContradictsTheFormat) {
+    expectFailure(2, "out.flac: its ending means FLAC, but --format asks for WAV",
+                  renderTo("out.flac", {"--format", "wav"}));
 }
 
 TEST_F(RenderErrors, AnInputAsOutput) {

@@ -266,7 +266,9 @@ TEST_F(Render, TheExtensionAndTheOptionChooseTheFormat) {
 TEST_F(Render, ALongVorbisFileIsWritten) {
     SSound sound = voice(11, 200000);
     sound.format = SF_FORMAT_OGG | SF_FORMAT_VORBIS;
-    const SSound out = render(sound, {"--format", "ogg"});
+    writeSound(folder / "in.ogg", sound);
+    EXPECT_EQ(corvelWithEffect({"render", folder / "in.ogg", folder / "out.ogg"}).status, 0);
+    const SSound out = readSound(folder / "out.ogg");
     EXPECT_EQ(out.frames(), 200000u);
     EXPECT_EQ(out.format, SF_FORMAT_OGG | SF_FORMAT_VORBIS);
 }
@@ -277,7 +279,7 @@ TEST_F(Render, ClippedIntegersAreCountedInAWarning) {
         sample = 0.25;
     sound.samples[10] = sound.samples[20] = 0.75;
     sound.format = SF_FORMAT_WAV | SF_FORMAT_PCM_16;
-    const SSound out = render(sound, {"--set", "Gain=1"});
+    const SSound out = render(sound, {"--set", "Gain=@1"});
     EXPECT_EQ(run.errors,
               "corvel: warning: " + (folder / "out.wav").string() + ": 2 samples clipped\n");
     EXPECT_EQ(out.samples[10], 32767.0 / 32768.0);
@@ -286,14 +288,14 @@ TEST_F(Render, ClippedIntegersAreCountedInAWarning) {
 TEST_F(Render, FloatingPointSamplesAreNotClipped) {
     SSound sound = voice(11, 100, 2);
     sound.samples[10] = 0.75;
-    EXPECT_GT(render(sound, {"--set", "Gain=1"}).samples[10], 1.4);
+    EXPECT_GT(render(sound, {"--set", "Gain=@1"}).samples[10], 1.4);
     EXPECT_EQ(run.errors, "");
 }
 
 TEST_F(Render, TheResultIsPrintedAsText) {
     SSound sound;
     sound.samples.assign(2 * 44100, 0.5);
-    render(sound, {"--set", "gain=0.25", "--chain", "Gate,Reverb"});
+    render(sound, {"--set", "gain=@0.25", "--chain", "Gate,Reverb"});
     const std::string in = folder / "in.wav", out = folder / "out.wav";
     EXPECT_THAT(run.out,
                 HasSubstr("in         " + in + " (44100 Hz, stereo, WAV, 32-bit float)\n"));
@@ -390,4 +392,15 @@ TEST_F(Render, AProgressBarIsDrawnOnATerminal) {
     EXPECT_THAT(shown, HasSubstr("[##"));
     EXPECT_THAT(shown, HasSubstr("%"));
     EXPECT_THAT(shown, HasSubstr("\r\x1b[K"));  // and is removed again
+}
+
+TEST_F(Render, ALongDurationIsPrintedInHours) {
+    SSound sound = voice(11, 10, 1);
+    sound.sampleRate = 8;
+    sound.samples.resize(8 * 49886, 0.0);  // 13 hours, 51 minutes and 26 seconds
+    render(sound);
+    EXPECT_THAT(run.out, HasSubstr("duration   13:51:26\n"));
+    sound.samples.resize(8 * 3599);
+    render(sound);
+    EXPECT_THAT(run.out, HasSubstr("duration   59:59.000\n"));
 }

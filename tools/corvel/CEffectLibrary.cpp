@@ -20,7 +20,10 @@ void *openLibrary(const fs::path &file) {
     if (isLibraryCutShort(file))
         throw CJobError(file.string() + ": truncated, it cannot be loaded as an effect");
     std::string reason;
-    void *library = openNativeLibrary(fs::absolute(file).string(), reason);
+    const std::string place = fs::absolute(file).string();
+    void *library = openNativeLibrary(place, reason);
+    if (reason.starts_with(place + ": "))
+        reason.erase(0, place.size() + 2);
     if (library == nullptr)
         throw CJobError(file.string() + ": cannot be loaded as an effect (" + reason + ")");
     return library;

@@ -4,6 +4,7 @@
 #include "corvel/Errors.h"
 #include "corvel/Text.h"
 
+#include <algorithm>
 #include <charconv>
 
 namespace Tessitor::Tool {
@@ -35,11 +36,23 @@ std::int32_t programFromText(CEffectInstance &effect, const std::string &text) {
     const auto [end, error] = std::from_chars(text.data(), last, number);
     if (end == last && error == std::errc() && number >= 0 && number < programs)
         return number;
-    for (std::int32_t program = 0; program < programs; ++program)
-        if (equalInAnyCapitals(programName(effect, program), trimmed(text)))
+    std::vector<std::int32_t> begun;
+    std::string names;
+    for (std::int32_t program = 0; program < programs; ++program) {
+        const std::string name = programName(effect, program);
+        if (equalInAnyCapitals(name, trimmed(text)))
             return program;
-    throw CCallError("--program: no program \"" + text +
-                     "\"; expected a name from corvel programs or a number from 0 to " +
+        if (trimmed(text).empty() || !beginsInAnyCapitals(name, trimmed(text)))
+            continue;
+        names += (begun.empty() ? "" : ", ") + inQuotes(name);
+        begun.push_back(program);
+    }
+    if (begun.size() == 1)
+        return begun.front();
+    if (begun.size() > 1)
+        throw CCallError("--program: " + inQuotes(text) + " may be " + names);
+    throw CCallError("--program: no program " + inQuotes(text) +
+                     "; expected a name from corvel programs or a number from 0 to " +
                      std::to_string(programs - 1));
 }
 
@@ -52,8 +65,12 @@ CEffectSettings::CEffectSettings(const SSettingsRequest &request, CEffectInstanc
                              " is not a Corvel effect and has no chain");
         m_newChain = chainFromText(*request.chain);
     }
+    if (m_program)
+        trial.dispatch(effSetProgram, 0, *m_program);
+    const bool isStrip = hasChain(trial), isSynchronised = isStrip && isDelaySynchronised(trial);
     for (const std::string &text : request.set)
-        m_assignments.push_back(assignmentFromText(text, trial));
+        assign(text, trial);
+    findSteps(isStrip, isSynchronised);
 
     applyTo(trial);
     m_programName = trial.text(effGetProgramName);
@@ -63,23 +80,58 @@ CEffectSettings::CEffectSettings(const SSettingsRequest &request, CEffectInstanc
         assignment.display = displayWithUnit(trial, assignment.index);
 }
 
-CEffectSettings::SAssignment CEffectSettings::assignmentFromText(const std::string &text,
-                                                                 CEffectInstance &trial) const {
+void CEffectSettings::assign(const std::string &text, CEffectInstance &trial) {
     const std::size_t equals = text.find('=');
     if (equals == std::string::npos)
-        throw CCallError("--set: \"" + text + "\" is not NAME=VALUE");
+        throw CCallError("--set: " + inQuotes(text) + " is not NAME=VALUE");
     const std::int32_t index =
         parameterFromName(trial, trimmed(std::string_view(text).substr(0, equals)));
+    const std::string_view value = trimmed(std::string_view(text).substr(equals + 1));
     const std::string name = trial.text(effGetParamName, index);
-    const CParameterText parameter(trial.text(effGetParamLabel, index), [&](float value) {
-        trial.setParameter(index, value);
+    const CParameterText parameter(trial.text(effGetParamLabel, index), [&](float tried) {
+        trial.setParameter(index, tried);
         return trial.text(effGetParamDisplay, index);
     });
     try {
-        return {index, parameter.valueOf(std::string_view(text).substr(equals + 1)), name, {}};
+        dropEarlier(index);
+        m_assignments.push_back({index, parameter.valueOf(value), name, {}});
     } catch (const CCallError &error) {
         throw CCallError("--set " + name + ": " + error.what());
     }
+    const std::string other = parameter.otherMeaningOf(value);
+    if (other.empty())
+        return;
+    trial.setParameter(index, m_assignments.back().value);
+    m_notes.push_back(
+        "note: --set " + text + ": taken as a normalised value, which is " +
+        displayWithUnit(trial, index) + "; write " + name + "=@" + std::string(value) +
+        " for this" +
+        (other == value ? "" : ", or " + inQuotes(name + "=" + other) + " for " + other));
+}
+
+void CEffectSettings::dropEarlier(std::int32_t index) {
+    const auto earlier =
+        std::find_if(m_assignments.begin(), m_assignments.end(),
+                     [&](const SAssignment &assignment) { return assignment.index == index; });
+    if (earlier == m_assignments.end())
+        return;
+    m_notes.push_back("note: --set " + earlier->name +
+                      ": given more than once; the last value counts");
+    m_assignments.erase(earlier);
+}
+
+void CEffectSettings::findSteps(bool isStrip, bool isSynchronised) {
+    std::vector<SStep> asked;
+    for (const SAssignment &assignment : m_assignments)
+        asked.push_back({assignment.index, assignment.value});
+    if (!isStrip) {
+        m_steps = asked;
+        return;
+    }
+    m_steps = stepsToHear(asked, isSynchronised);
+    const std::string note = noteOnDelay(asked, isSynchronised);
+    if (!note.empty())
+        m_notes.push_back(note);
 }
 
 void CEffectSettings::applyTo(CEffectInstance &effect) const {
@@ -87,8 +139,8 @@ void CEffectSettings::applyTo(CEffectInstance &effect) const {
         effect.dispatch(effSetProgram, 0, *m_program);
     if (m_newChain)
         setChain(effect, *m_newChain);
-    for (const SAssignment &assignment : m_assignments)
-        effect.setParameter(assignment.index, assignment.value);
+    for (const SStep &step : m_steps)
+        effect.setParameter(step.index, step.value);
 }
 
 }  // namespace Tessitor::Tool

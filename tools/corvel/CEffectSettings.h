@@ -2,6 +2,7 @@
 
 #include "corvel/CEffectInstance.h"
 #include "corvel/Chain.h"
+#include "corvel/StripSteps.h"
 
 #include <optional>
 #include <string>
@@ -20,8 +21,10 @@ struct SSettingsRequest {
 /// @return the name of a program; empty if the effect has none for it.
 std::string programName(CEffectInstance &effect, std::int32_t program);
 
-/// @param text  a number from 0, or a name in upper or lower case.
-/// @throws CCallError if the effect has no such program.
+/// @param text  a number from 0, or a name in upper or lower case, which may be shortened as long
+/// as
+///              only one program begins with it.
+/// @throws CCallError if the effect has no such program, or several.
 std::int32_t programFromText(CEffectInstance &effect, const std::string &text);
 
 /// A request, resolved once and then applied to any number of instances.
@@ -47,13 +50,18 @@ public:
     const std::string &programName() const { return m_programName; }
     const std::optional<Chain> &chain() const { return m_chain; }  ///< none for other effects
     const std::vector<SAssignment> &assignments() const { return m_assignments; }
+    const std::vector<std::string> &notes() const { return m_notes; }  ///< one line each
 
 private:
-    SAssignment assignmentFromText(const std::string &text, CEffectInstance &trial) const;
+    void assign(const std::string &text, CEffectInstance &trial);
+    void dropEarlier(std::int32_t index);
+    void findSteps(bool isStrip, bool isSynchronised);
 
     std::optional<std::int32_t> m_program;
     std::optional<Chain> m_newChain;
     std::vector<SAssignment> m_assignments;
+    std::vector<SStep> m_steps;  // that lead to the assigned values
+    std::vector<std::string> m_notes;
     std::string m_programName;
     std::optional<Chain> m_chain;
 };

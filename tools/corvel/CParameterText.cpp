@@ -1,12 +1,10 @@
 #include "corvel/CParameterText.h"
 
 #include "corvel/Errors.h"
+#include "corvel/Text.h"
 
 #include <algorithm>
-#include <cctype>
-#include <charconv>
 #include <cmath>
-#include <limits>
 #include <utility>
 
 namespace Tessitor::Tool {
@@ -18,85 +16,47 @@ namespace {
 // one of these.
 constexpr int gridSteps = 1000;
 
-constexpr double infinity = std::numeric_limits<double>::infinity();
-
-std::string smallAndTight(std::string_view text) {
-    std::string result;
-    for (const char letter : text)
-        if (std::isspace(static_cast<unsigned char>(letter)) == 0)
-            result += static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));
-    return result;
+bool isNormalised(double number) {
+    return number >= 0.0 && number <= 1.0;
 }
 
-bool beginsNumber(std::string_view text) {
-    const std::size_t sign = text.starts_with('-') ? 1 : 0;
-    return text.size() > sign &&
-           (std::isdigit(static_cast<unsigned char>(text[sign])) != 0 || text[sign] == '.');
-}
-
-// Removes the number at the start of the text and returns it.
-std::optional<double> takeNumber(std::string_view &text) {
-    for (const std::string_view silence : {"-oo", "-inf"}) {
-        if (text.starts_with(silence)) {
-            text.remove_prefix(silence.size());
-            return -infinity;
-        }
-    }
-    const std::size_t plus = text.starts_with('+') ? 1 : 0;
-    if (!beginsNumber(text.substr(plus)))
-        return std::nullopt;
-    double number = 0.0;
-    const auto [end, error] =
-        std::from_chars(text.data() + plus, text.data() + text.size(), number);
-    if (error != std::errc())
-        return std::nullopt;
-    text.remove_prefix(static_cast<std::size_t>(end - text.data()));
-    return number;
-}
-
-std::string quoted(std::string_view text) {
-    return std::string("\"").append(text).append("\"");
+float normalisedOf(std::string_view text) {
+    const SReading asked = readingOf(text);
+    if (!asked.number || asked.second || !asked.rest.empty() || !isNormalised(*asked.number))
+        throw CCallError(inQuotes("@" + std::string(text)) +
+                         " is not a number from 0 to 1 after @");
+    return static_cast<float>(*asked.number);
 }
 
 }  // namespace
 
 CParameterText::CParameterText(std::string unit, Display display)
-    : m_unit(std::move(unit)), m_display(std::move(display)), m_unitAsRead(smallAndTight(m_unit)) {
+    : m_unit(std::move(unit)), m_display(std::move(display)) {
     m_grid.reserve(gridSteps + 1);
     for (int step = 0; step <= gridSteps; ++step)
         m_grid.push_back(pointAt(static_cast<float>(step) / gridSteps));
 }
 
-CParameterText::SReading CParameterText::take(std::string_view text) {
-    const std::string tight = smallAndTight(text);
-    std::string_view left = tight;
-    SReading reading;
-    reading.number = takeNumber(left);
-    if (reading.number && left.starts_with(':')) {
-        std::string_view behind = left.substr(1);
-        reading.second = takeNumber(behind);
-        if (reading.second)
-            left = behind;
-    }
-    reading.rest = left;
-    return reading;
+CParameterText::SPoint CParameterText::pointAt(float value) const {
+    return {value, readingOf(m_display(value))};
 }
 
-CParameterText::SPoint CParameterText::pointAt(float value) const {
-    return {value, take(m_display(value))};
+bool CParameterText::isPlain(const SReading &asked) {
+    return asked.number && !asked.second && asked.rest.empty() && std::isfinite(*asked.number);
 }
 
 float CParameterText::valueOf(std::string_view text) const {
-    SReading asked = take(text);
-    if (asked.number && !m_unit.empty() && asked.rest == m_unitAsRead) {
-        asked.rest.clear();
-    } else if (asked.number && !asked.second && asked.rest.empty() &&
-               std::isfinite(*asked.number)) {
-        if (*asked.number >= 0.0 && *asked.number <= 1.0)
+    if (trimmed(text).starts_with('@'))
+        return normalisedOf(trimmed(text).substr(1));
+    SReading asked = readingOf(text);
+    if (const auto converted = inUnit(asked, m_unit)) {
+        asked = *converted;
+    } else if (isPlain(asked)) {
+        if (isNormalised(*asked.number))
             return static_cast<float>(*asked.number);
         if (!m_unit.empty()) {
-            throw CCallError(quoted(text) + " needs a unit, as in " +
-                             quoted(std::string(text) + m_unit) +
+            throw CCallError(inQuotes(text) + " needs a unit, as in " +
+                             inQuotes(std::string(text) + m_unit) +
                              "; without one, a value is from 0 to 1");
         }
     }
@@ -105,7 +65,7 @@ float CParameterText::valueOf(std::string_view text) const {
     if (showing.empty()) {
         const std::vector<SPoint> beside = pointsBeside(asked);
         if (beside.empty())
-            refuse(text);
+            refuse(text, asked);
         showing.push_back(
             *std::min_element(beside.begin(), beside.end(), [&](const SPoint &a, const SPoint &b) {
                 return distance(a.shown, asked) < distance(b.shown, asked);
@@ -145,10 +105,11 @@ std::vector<CParameterText::SPoint> CParameterText::pointsShowing(const SReading
 /// @return the points nearest to what is asked. Used if no value is displayed as asked.
 std::vector<CParameterText::SPoint> CParameterText::pointsBeside(const SReading &asked) const {
     constexpr double oneDigit = 1.0;  // both numbers of a pair are truncated and may not add up
+    const bool fixedSecond = hasFixedSecond();
     std::vector<SPoint> points;
     for (std::size_t step = 0; step <= gridSteps; ++step) {
         const SPoint &point = m_grid[step];
-        if (asked.second && isComparable(point.shown, asked) &&
+        if (asked.second && !fixedSecond && isComparable(point.shown, asked) &&
             distance(point.shown, asked) <= oneDigit)
             points.push_back(point);
         if (step == gridSteps || !between(point, m_grid[step + 1], asked))
@@ -228,22 +189,15 @@ float CParameterText::valueIn(const SSpan &span, const SPoint &within) const {
     return pointAt(middle).shown == within.shown ? middle : within.value;
 }
 
-void CParameterText::refuse(std::string_view text) const {
-    std::vector<std::string> texts;
-    for (const SPoint &point : m_grid) {
-        std::string shown = m_display(point.value);
-        if (std::find(texts.begin(), texts.end(), shown) == texts.end())
-            texts.push_back(std::move(shown));
-    }
-    constexpr std::size_t fewEnoughToList = 8;
-    std::string reason = quoted(text) + " is not possible; the effect shows ";
-    if (texts.size() <= fewEnoughToList) {
-        for (std::size_t i = 0; i < texts.size(); ++i)
-            reason += (i == 0 ? "" : i + 1 == texts.size() ? " and " : ", ") + quoted(texts[i]);
-    } else {
-        reason += quoted(texts.front() + m_unit) + " to " + quoted(texts.back() + m_unit);
-    }
-    throw CCallError(reason);
+std::string CParameterText::otherMeaningOf(std::string_view text) const {
+    const SReading asked = readingOf(text);
+    if (!isPlain(asked) || !isNormalised(*asked.number))
+        return "";
+    const auto value = static_cast<float>(*asked.number);
+    const bool isDisplayed = !pointsShowing(asked).empty() || !pointsBeside(asked).empty();
+    if (!isDisplayed || readingOf(m_display(value)) == asked)
+        return "";
+    return withUnit(std::string(trimmed(text)));
 }
 
 }  // namespace Tessitor::Tool

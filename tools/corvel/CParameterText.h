@@ -1,7 +1,8 @@
 #pragma once
 
+#include "corvel/SReading.h"
+
 #include <functional>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -19,23 +20,24 @@ public:
     /// @param unit  empty for none.
     CParameterText(std::string unit, Display display);
 
-    /// @param text  a plain number from 0 to 1 is the normalised value itself. Anything else is
-    ///              compared with the display and the unit; spaces, case and trailing zeros do not
-    ///              matter.
+    /// @param text  a plain number from 0 to 1 is the normalised value itself, and "@0.5" as well.
+    ///              Anything else is compared with the display and the unit; spaces, case and
+    ///              trailing zeros do not matter. kHz, s and ms are converted to the unit.
     /// @return the middle of the range of values that are displayed as the text, or 0, 1 or 0.5 if
     ///         the range contains one of these. If no value is displayed as the text, a value with
     ///         the nearest number.
     /// @throws CCallError if the effect displays neither the text nor numbers on both sides of it.
     float valueOf(std::string_view text) const;
 
+    /// @return the other value that a plain number could mean, with the unit, such as "0.5 dB" for
+    ///         "0.5"; empty if there is none.
+    std::string otherMeaningOf(std::string_view text) const;
+
+    /// @return the lowest and the highest number that are displayed: "100 to 800 Hz", or all texts
+    ///         if they are not numbers: "Separate, Linked". Empty if nothing is displayed.
+    std::string range() const;
+
 private:
-    /// A parsed text: "3.0:1" is 3 and 1, "Linked" has no number.
-    struct SReading {
-        std::optional<double> number;
-        std::optional<double> second;
-        std::string rest;  // after the numbers; lower case, no spaces
-        bool operator==(const SReading &) const = default;
-    };
     struct SPoint {
         float value;
         SReading shown;
@@ -45,7 +47,6 @@ private:
         float last;
     };
 
-    static SReading take(std::string_view text);
     static bool isComparable(const SReading &shown, const SReading &asked);
     static double distance(const SReading &shown, const SReading &asked);
     static bool between(const SPoint &low, const SPoint &high, const SReading &asked);
@@ -55,11 +56,15 @@ private:
     std::pair<SPoint, SPoint> narrow(SPoint low, SPoint high, const SReading &asked) const;
     SSpan spanAround(const SPoint &point) const;
     float valueIn(const SSpan &span, const SPoint &within) const;
-    [[noreturn]] void refuse(std::string_view text) const;
+    static bool isPlain(const SReading &asked);
+    bool hasFixedSecond() const;
+    std::pair<SPoint, SPoint> ends() const;
+    std::vector<std::string> texts() const;
+    std::string withUnit(std::string text) const;
+    [[noreturn]] void refuse(std::string_view text, const SReading &asked) const;
 
     std::string m_unit;
     Display m_display;
-    std::string m_unitAsRead;
     std::vector<SPoint> m_grid;
 };
 

@@ -25,6 +25,7 @@ int runRender(const SRenderCall &call);
 
 struct SProgramsCall {
     std::optional<std::string> plugin;
+    bool describe = false;  // say what each program is for
     bool json = false;
 };
 int runPrograms(const SProgramsCall &call);
@@ -37,7 +38,7 @@ struct SParamsCall {
 int runParams(const SParamsCall &call);
 
 struct SInfoCall {
-    std::optional<std::string> file;
+    std::optional<std::string> plugin;
     bool json = false;
 };
 int runInfo(const SInfoCall &call);

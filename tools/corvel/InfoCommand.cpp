@@ -208,7 +208,7 @@ std::string describe(const Json &info) {
 }  // namespace
 
 int runInfo(const SInfoCall &call) {
-    const CEffectLibrary library(CEffectLibrary::choose(call.file));
+    const CEffectLibrary library(CEffectLibrary::choose(call.plugin));
     CEffectInstance effect(library);
     const Json info = infoOf(library, effect);
     call.json ? printJson(info) : print(describe(info));

@@ -63,6 +63,9 @@ SJobs jobsFromFiles(const SFileRequest &request, const SFormatRequest &format) {
             throw CCallError(target.string() + ": several inputs need a folder for their outputs; "
                                                "name it with --out-dir or end it in a slash");
     }
+    const std::string problem = result.folder ? "" : problemOfName(target, format);
+    if (!problem.empty())
+        throw CCallError(target.string() + ": " + problem);
     for (const fs::path in : inputs)
         result.jobs.push_back(
             {in, result.folder ? nameInFolder(*result.folder, in, format) : target});

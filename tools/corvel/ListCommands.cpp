@@ -1,5 +1,7 @@
+#include "corvel/CParameterText.h"
 #include "corvel/Commands.h"
 #include "corvel/Print.h"
+#include "corvel/ProgramDescriptions.h"
 #include "corvel/Text.h"
 
 namespace Tessitor::Tool {
@@ -21,6 +23,27 @@ std::string joined(const std::vector<std::string> &parts) {
     return text;
 }
 
+struct SValue {
+    float value;
+    std::string display;
+};
+
+std::vector<SValue> valuesOf(CEffectInstance &effect) {
+    std::vector<SValue> values;
+    for (std::int32_t index = 0; index < effect.record().numParams; ++index)
+        values.push_back({effect.parameter(index), effect.text(effGetParamDisplay, index)});
+    return values;
+}
+
+// Leaves the parameter at another value.
+std::string rangeOf(CEffectInstance &effect, std::int32_t index) {
+    const CParameterText parameter(effect.text(effGetParamLabel, index), [&](float value) {
+        effect.setParameter(index, value);
+        return effect.text(effGetParamDisplay, index);
+    });
+    return parameter.range();
+}
+
 std::vector<std::string> labelsOf(const Chain &chain) {
     std::vector<std::string> labels;
     for (const int slot : chain)
@@ -36,12 +59,19 @@ int runPrograms(const SProgramsCall &call) {
     const bool chained = hasChain(effect);
     Json json = Json::array();
     Rows rows = {{"#", "Name"}};
+    if (call.describe)
+        rows.front().emplace_back("For");
     if (chained)
         rows.front().emplace_back("Chain");
     for (std::int32_t program = 0; program < effect.record().numPrograms; ++program) {
         const std::string name = programName(effect, program);
         json.push_back({{"program", program}, {"name", name}});
         rows.push_back({std::to_string(program), name});
+        if (call.describe) {
+            const std::string_view description = chained ? programDescription(name) : "";
+            json.back()["description"] = description;
+            rows.back().emplace_back(description);
+        }
         if (!chained)
             continue;
         effect.dispatch(effSetProgram, 0, program);
@@ -56,21 +86,28 @@ int runPrograms(const SProgramsCall &call) {
 int runParams(const SParamsCall &call) {
     const CEffectLibrary library(CEffectLibrary::choose(call.plugin));
     CEffectInstance effect(library);
+    const std::vector<SValue> defaults = valuesOf(effect);
     if (call.program)
         effect.dispatch(effSetProgram, 0, programFromText(effect, *call.program));
+    const std::vector<SValue> values = valuesOf(effect);
     Json json = Json::array();
-    Rows rows = {{"#", "Name", "Value", "Display", "Unit"}};
+    Rows rows = {{"#", "Name", "Value", "Display", "Unit", "Default", "Range"}};
     for (std::int32_t index = 0; index < effect.record().numParams; ++index) {
         const std::string name = effect.text(effGetParamName, index);
-        const float value = effect.parameter(index);
-        const std::string display = effect.text(effGetParamDisplay, index);
         const std::string unit = effect.text(effGetParamLabel, index);
+        const std::string range = rangeOf(effect, index);
+        const auto [value, display] = values[static_cast<std::size_t>(index)];
+        const auto &[usual, usualDisplay] = defaults[static_cast<std::size_t>(index)];
         json.push_back({{"parameter", index},
                         {"name", name},
                         {"value", asWritten(value)},
                         {"display", display},
-                        {"unit", unit}});
-        rows.push_back({std::to_string(index), name, shortest(value), display, unit});
+                        {"unit", unit},
+                        {"default", asWritten(usual)},
+                        {"defaultDisplay", usualDisplay},
+                        {"range", range}});
+        rows.push_back(
+            {std::to_string(index), name, shortest(value), display, unit, usualDisplay, range});
     }
     call.json ? printJson(json) : print(inColumns(rows));
     return 0;

@@ -164,6 +164,22 @@ bool isExtensionOf(int container, const std::filesystem::path &file) {
     return containerOfExtension(file) == findContainer(container);
 }
 
+std::string problemOfName(const std::filesystem::path &out, const SFormatRequest &request) {
+    const SContainer *const ending = containerOfExtension(out);
+    if (ending == nullptr && request.container == 0 && out.has_extension()) {
+        std::string endings;
+        for (const SContainer &container : containers)
+            for (const std::string_view extension : container.extensions)
+                endings.append(endings.empty() ? "" : " ").append(extension);
+        return "corvel does not write " + out.extension().string() + "; use --format or one of " +
+               endings;
+    }
+    if (ending != nullptr && request.container != 0 && ending != findContainer(request.container))
+        return std::string("its ending means ").append(ending->title) + ", but --format asks for " +
+               findContainer(request.container)->title;
+    return "";
+}
+
 int formatForLength(int format, std::int64_t frames, int channels,
                     const std::filesystem::path &out) {
     // Rounded up to whole bytes, with room for the header.

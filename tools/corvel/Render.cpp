@@ -51,6 +51,9 @@ SRenderResult render(const SRenderJob &job, const CEffectLibrary &library,
                      const RenderListener &listener) {
     const auto begin = std::chrono::steady_clock::now();
     CAudioReader reader(job.in);
+    const std::string problem = problemOfName(job.out, options.format);
+    if (!problem.empty())
+        throw CJobError(job.out.string() + ": " + problem);
     if (options.mono && reader.channels() != 1)
         throw CJobError(job.in.string() + ": is stereo; --mono is for mono files");
 

@@ -2,6 +2,8 @@
 #include "corvel/Errors.h"
 #include "corvel/FileFacts.h"
 #include "corvel/Interrupt.h"
+#include "corvel/Print.h"
+#include "corvel/StripNotes.h"
 #include "corvel/Workers.h"
 #include "platform/IsErrorStreamTerminal.h"
 
@@ -10,6 +12,11 @@
 namespace Tessitor::Tool {
 
 namespace {
+
+void printNotes(const std::vector<std::string> &notes) {
+    for (const std::string &note : notes)
+        printRemark(note);
+}
 
 void makeFolder(const std::filesystem::path &folder) {
     std::error_code error;
@@ -45,6 +52,8 @@ int runRender(const SRenderCall &call) {
     CEffectInstance trial(library);
     requireRenderable(trial, call.options);
     const CEffectSettings settings(call.settings, trial);
+    printNotes(settings.notes());
+    printNotes(notesOnStrip(trial, call.options));
 
     if (jobs.folder)
         makeFolder(*jobs.folder);

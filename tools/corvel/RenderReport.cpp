@@ -17,7 +17,18 @@ std::string describeFile(const std::filesystem::path &file, const SRenderResult 
            (channels == 1 ? "mono" : "stereo") + ", " + describeFormat(format) + ")";
 }
 
+std::string twoDigits(std::int64_t number) {
+    std::string text = std::to_string(number);
+    return text.insert(0, number < 10 ? 1 : 0, '0');
+}
+
+// Minutes, seconds and milliseconds; from an hour up, hours, minutes and seconds
 std::string describeDuration(double seconds) {
+    constexpr std::int64_t minute = 60, hour = 60 * minute;
+    const std::int64_t whole = std::llround(seconds);
+    if (whole >= hour)
+        return std::to_string(whole / hour) + ":" + twoDigits(whole / minute % minute) + ":" +
+               twoDigits(whole % minute);
     const auto milliseconds = std::llround(seconds * 1000.0);
     const double beyondMinute = static_cast<double>(milliseconds % 60000) / 1000.0;
     return std::to_string(milliseconds / 60000) + (beyondMinute < 10.0 ? ":0" : ":") +

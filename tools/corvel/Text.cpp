@@ -41,10 +41,18 @@ std::string shortest(float number) {
     return {buffer.data(), end};
 }
 
+std::string inQuotes(std::string_view text) {
+    return std::string("\"").append(text).append("\"");
+}
+
 bool equalInAnyCapitals(std::string_view a, std::string_view b) {
     const auto small = [](char letter) { return std::tolower(static_cast<unsigned char>(letter)); };
     return std::equal(a.begin(), a.end(), b.begin(), b.end(),
                       [&](char x, char y) { return small(x) == small(y); });
+}
+
+bool beginsInAnyCapitals(std::string_view text, std::string_view beginning) {
+    return equalInAnyCapitals(text.substr(0, beginning.size()), beginning);
 }
 
 std::string inColumns(std::vector<std::vector<std::string>> rows) {

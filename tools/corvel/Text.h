@@ -18,7 +18,10 @@ std::string decimal(double number, int places);
 /// @return the shortest text that reads back as the same number.
 std::string shortest(float number);
 
+std::string inQuotes(std::string_view text);
+
 bool equalInAnyCapitals(std::string_view a, std::string_view b);
+bool beginsInAnyCapitals(std::string_view text, std::string_view beginning);
 
 /// @return a table with one line per row, each column as wide as its widest cell. Cells are made
 ///         printable.

@@ -54,19 +54,29 @@ Files
     ogg         vorbis, opus
 
 Settings
-  --set NAME=VALUE sets a parameter and may be repeated. corvel params lists the names;
-  case does not matter. A plain VALUE from 0 to 1 is the normalised value that hosts
-  store. Any other VALUE is a text as the effect displays it, with its unit:
-  -18dB, "120 Hz", 3:1, Linked, 100:80. If several values display that text, the middle
-  one is used, or 0, 1 or 0.5 if it is among them. If no value displays it, the closest
-  displayed number is used. A number outside the range is an error.
+  --set NAME=VALUE sets a parameter and may be repeated; of several values for one parameter
+  the last one counts. corvel params lists the names and ranges; case does not matter. A
+  VALUE is a text as the effect displays it, with its unit: -18dB, "120 Hz", "1.2 kHz",
+  3:1, Linked, 100:80. If several values display that text, the middle one is used, or 0, 1
+  or 0.5 if it is among them. If no value displays it, the closest displayed number is used.
+  A number outside the range is an error. @VALUE is the normalised value from 0 to 1 that
+  hosts store; so is a plain number from 0 to 1.
+
+  What is asked for is what is heard, whatever the order: a hard pan is reached through a
+  position in between, as by hand, and DlySync wins over DlyTime.
 
   --chain lists the modules in running order, separated by commas: Balance, Pan, Gain,
   3Band, Rumble Filter, HiPass, Presence, Parametric, Gate, Compressor, DeEsser,
   Modulator 1, Modulator 2, Warmer, Delay, Reverb. Each may appear only once; "none" is the
   empty chain.
 
-  The program is set first, then the chain, then the parameters in the given order.
+  A program's name may be shortened as long as only one begins with it. The program is set
+  first, then the chain, then the parameters.
+
+Precision and blocks
+  With --double the compressor and the de-esser stay at rest: the strip has them only in
+  single precision. --block changes the sound if the compressor is in use and CmpLink is
+  Separate; otherwise it does not.
 
 Examples
   corvel render voice.wav out.wav --program "Lead Vocal" --set CmpThresh=-24dB
@@ -149,7 +159,8 @@ SCommand addRender(CLI::App &app, SRenderCall &call) {
             [&options](const std::string &text) { options.format = formatFromText(text); },
             "Container and sample type of the output")
         ->type_name("CONTAINER[:TYPE]");
-    render.add_flag("--double", options.doublePrecision, "Process in double precision");
+    render.add_flag("--double", options.doublePrecision,
+                    "Process in double precision; compressor and de-esser stay at rest");
     render.add_flag("--resample", options.resample,
                     "Process at 44100 Hz, which the strip is tuned for, and convert back");
     render.add_flag("--mono", options.mono,
@@ -167,6 +178,7 @@ SCommand addRender(CLI::App &app, SRenderCall &call) {
 
 SCommand addPrograms(CLI::App &app, SProgramsCall &call) {
     CLI::App &programs = *app.add_subcommand("programs", "List the effect's programs");
+    programs.add_flag("--describe", call.describe, "Say what each program is for");
     addPlugin(programs, call.plugin);
     addJson(programs, call.json);
     return {&programs, [&call] { return runPrograms(call); }};
@@ -183,8 +195,10 @@ SCommand addParams(CLI::App &app, SParamsCall &call) {
 
 SCommand addInfo(CLI::App &app, SInfoCall &call) {
     CLI::App &info = *app.add_subcommand("info", "Show what a host sees of an effect");
-    info.add_option("FILE", call.file, "The effect's file; by default the one beside corvel")
-        ->type_name("");
+    CLI::Option *file =
+        info.add_option("FILE", call.plugin, "The effect's file; by default the one beside corvel")
+            ->type_name("");
+    info.add_option("--plugin", call.plugin, "The same")->type_name("FILE")->excludes(file);
     addJson(info, call.json);
     return {&info, [&call] { return runInfo(call); }};
 }
