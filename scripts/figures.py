@@ -118,7 +118,7 @@ def levels():
     left_only = np.column_stack([np.full(64, 0.5), np.zeros(64)])
 
     def gains(sound, module):
-        return np.array([play(sound, module, **{module: v})[-1] / 0.5 for v in knob])
+        return np.array([play(sound, module, **{module: f"@{v}"})[-1] / 0.5 for v in knob])
 
     both = gains(np.full(64, 0.5), "Balance")
     balance.plot(knob, both[:, 0], ".", label="left")

@@ -113,8 +113,9 @@ class RenderToFullDisk : public RenderErrors, public testing::WithParamInterface
 
 TEST_P(RenderToFullDisk, FailsWhereverTheDiskIsFull) {
     writeSound(folder / "long.wav", voice(21, 40000));
+    writeFile(folder / "out", "old");
     const std::vector<std::string> arguments = {
-        "render",   folder / "long.wav", folder / "out.wav", "--format",
+        "render",   folder / "long.wav", folder / "out",     "--format",
         GetParam(), "--plugin",          testEffect("Whole")};
     // The size of the whole file.
     std::vector<std::string> elsewhere = arguments;
@@ -126,8 +127,9 @@ TEST_P(RenderToFullDisk, FailsWhereverTheDiskIsFull) {
     // libsndfile leaks its encoder if the last page cannot be written.
     const std::string withoutLeaks = "LSAN_OPTIONS=detect_leaks=0";
     for (const std::uintmax_t room : {std::uintmax_t(1), kilobytes / 2, kilobytes})
-        expectFailure(1, "out.wav: cannot be written (File too large)", arguments,
+        expectFailure(1, "out: cannot be written (File too large)", arguments,
                       "ulimit -f " + std::to_string(room * blocksInKilobyte) + "; " + withoutLeaks);
+    EXPECT_EQ(readFile(folder / "out"), "old");
 }
 
 INSTANTIATE_TEST_SUITE_P(Formats, RenderToFullDisk,

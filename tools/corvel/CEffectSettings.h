@@ -21,8 +21,7 @@ struct SSettingsRequest {
 /// @return the name of a program; empty if the effect has none for it.
 std::string programName(CEffectInstance &effect, std::int32_t program);
 
-/// @param text  a number from 0, or a name in upper or lower case, which may be shortened as long
-/// as
+/// @param text  a number from 0, or a name in upper or lower case. It may be shortened as long as
 ///              only one program begins with it.
 /// @throws CCallError if the effect has no such program, or several.
 std::int32_t programFromText(CEffectInstance &effect, const std::string &text);

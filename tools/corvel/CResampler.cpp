@@ -37,8 +37,8 @@ std::span<const float> CResampler::convert(std::span<const float> samples) {
         data.data_out = m_converted.data() + made;
         data.output_frames = static_cast<long>((m_converted.size() - made) / m_channels);
         data.src_ratio = m_ratio;
-        if (const int error = src_process(m_state.get(), &data))
-            throw CJobError(m_file + ": cannot be converted (" + src_strerror(error) + ")");
+        if (src_process(m_state.get(), &data) != 0)
+            throw CJobError(m_file + ": cannot be converted to another rate");
         used += static_cast<std::size_t>(data.input_frames_used) * m_channels;
         made += static_cast<std::size_t>(data.output_frames_gen) * m_channels;
     }

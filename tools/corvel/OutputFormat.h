@@ -27,9 +27,8 @@ int outputFormat(int inputFormat, const SFormatRequest &request, const std::file
 /// @return false if the extension belongs to another container or to none.
 bool isExtensionOf(int container, const std::filesystem::path &file);
 
-/// @return what is wrong with the name of an output: an ending that belongs to no format, unless
-/// one
-///         is requested, or to another one than the requested. Empty if nothing is.
+/// @return what is wrong with the name of an output: an ending that belongs to no format, unless a
+///         format is requested, or to another one than the requested. Empty if nothing is.
 std::string problemOfName(const std::filesystem::path &out, const SFormatRequest &request);
 
 /// Changes WAV to its 64-bit form if the file would exceed 4 GiB.
