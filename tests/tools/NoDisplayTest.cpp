@@ -16,8 +16,9 @@ protected:
         usual = render("");
     }
     SSound render(const std::string &environment, const std::string &effect = CORVEL_EFFECT) {
-        const SProgramRun run = corvel(
-            {"render", folder / "in.wav", folder / "out.wav", "--plugin", effect}, environment);
+        const SProgramRun run =
+            corvel({"render", folder / "in.wav", folder / "out.wav", "--force", "--plugin", effect},
+                   environment);
         EXPECT_EQ(run.status, 0);
         EXPECT_EQ(run.errors, "");
         return readSound(folder / "out.wav");
