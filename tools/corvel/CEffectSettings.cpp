@@ -65,8 +65,7 @@ CEffectSettings::CEffectSettings(const SSettingsRequest &request, CEffectInstanc
                              " is not a Corvel effect and has no chain");
         m_newChain = chainFromText(*request.chain);
     }
-    if (m_program)
-        trial.dispatch(effSetProgram, 0, *m_program);
+    loadProgram(trial);
     const bool isStrip = hasChain(trial), isSynchronised = isStrip && isDelaySynchronised(trial);
     for (const std::string &text : request.set)
         assign(text, trial);
@@ -134,9 +133,13 @@ void CEffectSettings::findSteps(bool isStrip, bool isSynchronised) {
         m_notes.push_back(note);
 }
 
-void CEffectSettings::applyTo(CEffectInstance &effect) const {
+void CEffectSettings::loadProgram(CEffectInstance &effect) const {
     if (m_program)
         effect.dispatch(effSetProgram, 0, *m_program);
+}
+
+void CEffectSettings::applyTo(CEffectInstance &effect) const {
+    loadProgram(effect);
     if (m_newChain)
         setChain(effect, *m_newChain);
     for (const SStep &step : m_steps)

@@ -52,6 +52,7 @@ public:
     const std::vector<std::string> &notes() const { return m_notes; }  ///< one line each
 
 private:
+    void loadProgram(CEffectInstance &effect) const;
     void assign(const std::string &text, CEffectInstance &trial);
     void dropEarlier(std::int32_t index);
     void findSteps(bool isStrip, bool isSynchronised);

@@ -18,7 +18,7 @@ public:
     /// exists or not.
     /// @throws CJobError if the folder does not exist or is not writable, or if `place` exists and
     ///         is not a regular file, is write-protected or is to be kept.
-    CPendingFile(const std::filesystem::path &place, EExisting existing);
+    explicit CPendingFile(const std::filesystem::path &place, EExisting existing = EExisting::Kept);
     /// Deletes the file unless it was committed.
     ~CPendingFile();
     CPendingFile(const CPendingFile &) = delete;
