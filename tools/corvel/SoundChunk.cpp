@@ -1,5 +1,6 @@
 #include "corvel/SoundChunk.h"
 
+#include <algorithm>
 #include <array>
 #include <fstream>
 #include <string_view>
@@ -24,6 +25,12 @@ bool readHead(std::ifstream &file, SChunkHead &head) {
 
 std::string_view idOf(const SChunkHead &head) {
     return {head.id.data(), head.id.size()};
+}
+
+// Samples are not taken for chunks, least of all silence.
+bool isName(std::string_view id) {
+    return std::all_of(id.begin(), id.end(),
+                       [](char letter) { return letter >= ' ' && letter <= '~'; });
 }
 
 std::uint32_t sizeOf(const SChunkHead &head, bool bigEndian) {
@@ -61,7 +68,7 @@ bool chunksFillTheRest(std::ifstream &file, std::uint64_t position, std::uint64_
     while (position < end) {
         file.clear();
         file.seekg(static_cast<std::streamoff>(position));
-        if (!readHead(file, head))
+        if (!readHead(file, head) || !isName(idOf(head)))
             return false;
         const std::uint64_t size = sizeOf(head, bigEndian);
         position += sizeof(head) + size + size % 2;
