@@ -6,6 +6,7 @@
 #include "corvel/OutputFormat.h"
 #include "corvel/SoundChunk.h"
 
+#include <ranges>
 #include <string>
 #include <type_traits>
 
@@ -64,8 +65,8 @@ void CAudioReader::findLinks() {
     if (found.links.size() < 2)
         return;
     std::int64_t frames = 0;
-    for (auto link = found.links.rbegin(); link != found.links.rend(); ++link) {
-        m_partsLeft.push_back({link->begin, link->end});
+    for (const SOggLinks::SLink &link : std::views::reverse(found.links)) {
+        m_partsLeft.push_back({link.begin, link.end});
         const SF_INFO info = openPart(m_partsLeft.back());
         if (info.samplerate != m_info.samplerate || info.channels != m_info.channels)
             fail("changes its sample rate or its channels in the middle");

@@ -48,14 +48,15 @@ int CBatchReport::finish(const CEffectLibrary &library) {
 
 void CBatchReport::printLastLine() const {
     const std::size_t rendered = count(m_outcomes, EOutcome::Rendered);
-    if (isInterrupted())
+    if (isInterrupted()) {
         printRemark(interruptionText() + ", " +
                     std::to_string(rendered + count(m_outcomes, EOutcome::Skipped)) + " of " +
                     std::to_string(m_outcomes.size()) + " done");
-    else if (m_outcomes.size() > 1 && rendered < m_outcomes.size())
+    } else if (m_outcomes.size() > 1 && rendered < m_outcomes.size()) {
         printRemark(summary(m_outcomes));
-    else if (m_outcomes.size() > 1 && !m_call.json)
+    } else if (m_outcomes.size() > 1 && !m_call.json) {
         print(std::string("\n").append(summary(m_outcomes)).append("\n"));
+    }
 }
 
 }  // namespace Tessitor::Tool

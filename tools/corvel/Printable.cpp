@@ -68,11 +68,12 @@ std::string printable(std::string_view text) {
     while (!text.empty()) {
         const std::size_t length = characterLength(text);
         const std::string_view character = text.substr(0, length == 0 ? 1 : length);
-        if (length != 0 && isPlain(character))
+        if (length != 0 && isPlain(character)) {
             result += character;
-        else
+        } else {
             for (const char byte : character)
                 result += escaped(byte);
+        }
         text.remove_prefix(character.size());
     }
     return result;
