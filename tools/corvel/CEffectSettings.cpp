@@ -3,9 +3,11 @@
 #include "corvel/CParameterText.h"
 #include "corvel/Errors.h"
 #include "corvel/Text.h"
+#include "corvel/presets/PresetFile.h"
 
 #include <algorithm>
 #include <charconv>
+#include <span>
 
 namespace Tessitor::Tool {
 
@@ -59,6 +61,12 @@ std::int32_t programFromText(CEffectInstance &effect, const std::string &text) {
 CEffectSettings::CEffectSettings(const SSettingsRequest &request, CEffectInstance &trial) {
     if (request.program)
         m_program = programFromText(trial, *request.program);
+    if (request.preset) {
+        if (!hasChain(trial))
+            throw CCallError("--preset: " + trial.fileName() +
+                             " is not a Corvel effect; its presets cannot be loaded");
+        m_preset = readProgram(*request.preset);
+    }
     if (request.chain) {
         if (!hasChain(trial))
             throw CCallError("--chain: " + trial.fileName() +
@@ -136,6 +144,8 @@ void CEffectSettings::findSteps(bool isStrip, bool isSynchronised) {
 void CEffectSettings::loadProgram(CEffectInstance &effect) const {
     if (m_program)
         effect.dispatch(effSetProgram, 0, *m_program);
+    if (m_preset)
+        effect.setProgramChunk(std::as_bytes(std::span(&*m_preset, 1)));
 }
 
 void CEffectSettings::applyTo(CEffectInstance &effect) const {

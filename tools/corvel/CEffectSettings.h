@@ -13,9 +13,10 @@ namespace Tessitor::Tool {
 
 /// The effect settings on the command line.
 struct SSettingsRequest {
-    std::optional<std::string> program;  // number or name
-    std::optional<std::string> chain;    // module labels
-    std::vector<std::string> set;        // "NAME=VALUE"
+    std::optional<std::string> program;   // number or name
+    std::optional<std::string> chain;     // module labels
+    std::vector<std::string> set;         // "NAME=VALUE"
+    std::optional<std::string> preset{};  // FILE or FILE:N, instead of a program
 };
 
 /// @return the name of a program; empty if the effect has none for it.
@@ -39,7 +40,8 @@ public:
 
     /// @param trial  an instance to look up names and try values on. In the end the request is
     ///               applied to it, too.
-    /// @throws CCallError if the effect has no such program, module, parameter or value.
+    /// @throws CCallError if the effect has no such program, module, parameter or value; CJobError
+    ///         if the preset cannot be used.
     CEffectSettings(const SSettingsRequest &request, CEffectInstance &trial);
 
     /// @param effect  must be new: the sound of some modules depends on earlier values, such as
@@ -58,6 +60,7 @@ private:
     void findSteps(bool isStrip, bool isSynchronised);
 
     std::optional<std::int32_t> m_program;
+    std::optional<Corvel::SProgram> m_preset;
     std::optional<Chain> m_newChain;
     std::vector<SAssignment> m_assignments;
     std::vector<SStep> m_steps;  // that lead to the assigned values

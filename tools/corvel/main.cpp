@@ -2,6 +2,7 @@
 #include "corvel/Commands.h"
 #include "corvel/Errors.h"
 #include "corvel/Print.h"
+#include "corvel/SettingsOptions.h"
 #include "corvel/Text.h"
 
 #include <CLI/CLI.hpp>
@@ -70,8 +71,9 @@ Settings
   Modulator 1, Modulator 2, Warmer, Delay, Reverb. Each may appear only once; "none" is the
   empty chain.
 
-  A program's name may be shortened as long as only one begins with it. The program is set
-  first, then the chain, then the parameters.
+  A program's name may be shortened as long as only one begins with it. --preset loads a
+  program from an .fxp, .fxb or JSON file instead of --program; FILE:N is program N of a bank.
+  The program or preset is set first, then the chain, then the parameters.
 
 Precision and blocks
   With --double the compressor and the de-esser stay at rest: the strip has them only in
@@ -132,13 +134,7 @@ SCommand addRender(CLI::App &app, SRenderCall &call) {
         "Replace existing outputs");
     render.add_flag("--skip-existing", call.skipExisting,
                     "Skip outputs that are newer than their inputs");
-    render.add_option("--program", call.settings.program, "Program to start from")
-        ->type_name("N|NAME");
-    render.add_option("--set", call.settings.set, "Set a parameter")
-        ->type_name("NAME=VALUE")
-        ->allow_extra_args(false);
-    render.add_option("--chain", call.settings.chain, "Modules in running order")
-        ->type_name("LABEL,...");
+    addSettings(render, call.settings);
     render.add_option("--tempo", options.tempo, "Tempo in beats per minute, 10 to 1000")
         ->type_name("BPM")
         ->check(between(10.0, 1000.0))
