@@ -35,12 +35,13 @@ TEST(CommandLine, PrintsItsVersion) {
 TEST(CommandLine, HelpListsEveryCommandAndOption) {
     const SProgramRun general = corvel({"--help"});
     EXPECT_EQ(general.status, 0);
-    for (const char *command : {"render", "programs", "params", "info", "Exit status"})
+    for (const char *command : {"render", "programs", "params", "info", "preset", "Exit status"})
         EXPECT_THAT(general.out, HasSubstr(command));
     const SProgramRun render = corvel({"render", "--help"});
     EXPECT_EQ(render.status, 0);
-    for (const char *option : {"--program", "--set", "--chain", "--tempo", "--block", "--double",
-                               "--tail", "--format", "--resample", "--mono", "--json", "--plugin"})
+    for (const char *option :
+         {"--program", "--set", "--chain", "--tempo", "--block", "--double", "--tail", "--format",
+          "--resample", "--mono", "--json", "--plugin", "--preset"})
         EXPECT_THAT(render.out, HasSubstr(option));
     for (int slot = 2; slot < 18; ++slot)
         EXPECT_THAT(render.out, HasSubstr(std::string(Tessitor::Tool::moduleLabel(slot))));

@@ -4,6 +4,7 @@
 #include "corvel/Print.h"
 #include "corvel/SettingsOptions.h"
 #include "corvel/Text.h"
+#include "corvel/presets/PresetOptions.h"
 
 #include <CLI/CLI.hpp>
 #include <cstdio>
@@ -72,8 +73,9 @@ Settings
   empty chain.
 
   A program's name may be shortened as long as only one begins with it. --preset loads a
-  program from an .fxp, .fxb or JSON file instead of --program; FILE:N is program N of a bank.
-  The program or preset is set first, then the chain, then the parameters.
+  program from an .fxp, .fxb or JSON file instead of --program; FILE:N is program N of a bank
+  (see corvel preset --help). The program or preset is set first, then the chain, then the
+  parameters.
 
 Precision and blocks
   With --double the compressor and the de-esser stay at rest: the strip has them only in
@@ -199,6 +201,10 @@ SCommand addInfo(CLI::App &app, SInfoCall &call) {
     return {&info, [&call] { return runInfo(call); }};
 }
 
+SCommand addPreset(CPresetOptions &options) {
+    return {options.app(), [&options] { return options.run(); }};
+}
+
 int parseAndRun(int argc, char **argv) {
     CLI::App app("Runs the Corvel channel strip without a host program.", "corvel");
     app.require_subcommand(0, 1);
@@ -209,8 +215,9 @@ int parseAndRun(int argc, char **argv) {
     SProgramsCall programs;
     SParamsCall params;
     SInfoCall info;
+    CPresetOptions preset(app);
     const SCommand commands[] = {addRender(app, render), addPrograms(app, programs),
-                                 addParams(app, params), addInfo(app, info)};
+                                 addParams(app, params), addInfo(app, info), addPreset(preset)};
     try {
         app.parse(argumentsForParser(argc, argv));
     } catch (const CLI::Success &help) {
@@ -221,7 +228,8 @@ int parseAndRun(int argc, char **argv) {
     for (const SCommand &command : commands)
         if (command.app->parsed())
             return command.run();
-    throw CCallError("no command; use render, programs, params or info (see corvel --help)");
+    throw CCallError(
+        "no command; use render, programs, params, info or preset (see corvel --help)");
 }
 
 // If standard output is closed, the next file that is opened would take its place, and our report
