@@ -18,7 +18,8 @@ struct SRenderCall {
     SFileRequest files;
     SSettingsRequest settings;
     SRenderOptions options;
-    bool skipExisting = false;  // outputs that are newer than their inputs
+    bool skipExisting = false;              // outputs that are newer than their inputs
+    std::optional<std::string> savePreset;  // file to save the settings to
     bool json = false;
 };
 int runRender(const SRenderCall &call);

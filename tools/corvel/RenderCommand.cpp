@@ -5,6 +5,7 @@
 #include "corvel/Print.h"
 #include "corvel/StripNotes.h"
 #include "corvel/Workers.h"
+#include "corvel/presets/PresetCommand.h"
 #include "platform/IsErrorStreamTerminal.h"
 
 #include <system_error>
@@ -54,6 +55,9 @@ int runRender(const SRenderCall &call) {
     const CEffectSettings settings(call.settings, trial);
     printNotes(settings.notes());
     printNotes(notesOnStrip(trial, call.options));
+    if (call.savePreset)
+        savePreset(*call.savePreset, library, settings,
+                   call.options.existing == EExisting::Replaced);
 
     if (jobs.folder)
         makeFolder(*jobs.folder);

@@ -73,9 +73,9 @@ Settings
   empty chain.
 
   A program's name may be shortened as long as only one begins with it. --preset loads a
-  program from an .fxp, .fxb or JSON file instead of --program; FILE:N is program N of a bank
-  (see corvel preset --help). The program or preset is set first, then the chain, then the
-  parameters.
+  program from an .fxp, .fxb or JSON file instead of --program; FILE:N is program N of a bank.
+  --save-preset saves the settings to a new file, ready for --preset. See corvel preset --help.
+  The program or preset is set first, then the chain, then the parameters.
 
 Precision and blocks
   With --double the compressor and the de-esser stay at rest: the strip has them only in
@@ -137,6 +137,8 @@ SCommand addRender(CLI::App &app, SRenderCall &call) {
     render.add_flag("--skip-existing", call.skipExisting,
                     "Skip outputs that are newer than their inputs");
     addSettings(render, call.settings);
+    render.add_option("--save-preset", call.savePreset, "Save the settings as a new preset")
+        ->type_name("FILE");
     render.add_option("--tempo", options.tempo, "Tempo in beats per minute, 10 to 1000")
         ->type_name("BPM")
         ->check(between(10.0, 1000.0))

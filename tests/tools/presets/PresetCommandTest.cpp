@@ -67,6 +67,16 @@ TEST_F(PresetCommand, ASavedPresetSoundsLikeItsSettings) {
     }
 }
 
+TEST_F(PresetCommand, RenderSavesItsSettings) {
+    const SSound expected = render(
+        {"--program", "Choir", "--set", "DlyTime=400ms", "--save-preset", folder / "choir.json"});
+    EXPECT_EQ(render({"--preset", folder / "choir.json"}).samples, expected.samples);
+    expectFailure(
+        1, "choir.json: exists already",
+        {"render", folder / "in.wav", folder / "new.wav", "--save-preset", folder / "choir.json"});
+    EXPECT_FALSE(std::filesystem::exists(folder / "new.wav"));
+}
+
 TEST_F(PresetCommand, APresetCanBeChangedFurther) {
     preset({"save", folder / "a.fxp", "--program", "Choir"});
     preset({"save", folder / "b.fxp", "--preset", folder / "a.fxp", "--set", "Gain=-6dB"});
