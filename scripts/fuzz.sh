@@ -14,7 +14,9 @@ scripts/setup.sh fuzz
 scripts/build.sh fuzz "fuzz_$1"
 found=build/fuzz/found/$1
 mkdir -p "$found"
+max_len=9000
+[ "$1" != preset_json ] || max_len=40000  # a bank as text
 # Targets that read files write them to a memory file system.
 [ ! -d /dev/shm ] || export TMPDIR=/dev/shm
-build/fuzz/bin/fuzz_"$1" -max_total_time="$2" -artifact_prefix="$found/" -max_len=9000 -timeout=20 \
+build/fuzz/bin/fuzz_"$1" -max_total_time="$2" -artifact_prefix="$found/" -max_len="$max_len" -timeout=20 \
     -print_final_stats=1 "$found" "$corpus"
