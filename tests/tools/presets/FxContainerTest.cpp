@@ -107,7 +107,7 @@ TEST(FxContainer, APresetOfAnotherEffectIsRefused) {
     EXPECT_EQ(faultOf(with(fxFromPreset(leadVocal()), idPlace, "Abcd")),
               "a preset of another effect (id \"Abcd\", not \"kMrQ\")");
     EXPECT_EQ(faultOf(with(fxFromPreset(leadVocal()), idPlace, "\x1b\0\n\xFF"s)),
-              "a preset of another effect (id \"\\x1b\\x00\\x0a\\xff\", not \"kMrQ\")");
+              "a preset of another effect (id \"\\x1B\\x00\\n\\xFF\", not \"kMrQ\")");
 }
 
 TEST(FxContainer, OtherKindsAndVersionsAreRefused) {

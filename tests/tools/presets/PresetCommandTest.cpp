@@ -136,7 +136,7 @@ TEST_F(PresetCommand, ShowEscapesControlCharactersInNames) {
     SPreset odd{{factoryPrograms()[0]}, 0};
     odd.programs[0].name = {'\x1b', '[', '2', 'J', '\n'};
     writePreset(folder / "odd.fxp", odd, false);
-    EXPECT_THAT(preset({"show", folder / "odd.fxp"}), StartsWith("program  \"\\x1b[2J\\x0a\"\n"));
+    EXPECT_THAT(preset({"show", folder / "odd.fxp"}), StartsWith("program  \"\\x1B[2J\\n\"\n"));
 }
 
 TEST_F(PresetCommand, CheckGoesThroughAllFiles) {

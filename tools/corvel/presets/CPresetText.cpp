@@ -1,6 +1,7 @@
 #include "corvel/presets/CPresetText.h"
 
 #include "corvel/Errors.h"
+#include "corvel/Printable.h"
 #include "corvel/Text.h"
 #include "corvel/presets/Encoding.h"
 #include "corvel/presets/RecordJson.h"
@@ -32,7 +33,7 @@ int parameterFrom(const std::string &name) {
     for (int id = 0; id < kParameterCount; ++id)
         if (equalInAnyCapitals(parameterName(id), name))
             return id;
-    throw CPresetError("there is no parameter " + inQuotes(name));
+    throw CPresetError("there is no parameter " + shortQuote(name));
 }
 
 float normalisedFrom(const Json &json) {
@@ -49,7 +50,7 @@ bool isBankFormat(const Json &json) {
         throw CPresetError("not a preset (no \"format\")");
     const std::string &format = textOf(json, "format");
     if (format != programFormat && format != bankFormat)
-        throw CPresetError("not a preset (its format is " + inQuotes(format) + ")");
+        throw CPresetError("not a preset (its format is " + shortQuote(format) + ")");
     if (entryOf(json, "version") != formatVersion)
         throw CPresetError("unknown version of the file format");
     return format == bankFormat;
@@ -173,13 +174,13 @@ float CPresetText::valueFrom(int id, const Json &json) const {
         const auto &text = json.get_ref<const std::string &>();
         constexpr std::size_t longest = 40;
         if (text.size() > longest)
-            throw CPresetError(inQuotes(text) + " is too long for a value");
-        if (escaped(text) != text)
-            throw CPresetError(inQuotes(text) + " is not a value");
+            throw CPresetError(shortQuote(text) + " is too long for a value");
+        if (printable(text) != text)
+            throw CPresetError(shortQuote(text) + " is not a value");
         return m_units[static_cast<std::size_t>(id)]->valueOf(text);
     }
     if (!json.is_object())
-        throw CPresetError("expected a text like " + inQuotes(displayOf(id, 0.5f)) +
+        throw CPresetError("expected a text like " + shortQuote(displayOf(id, 0.5f)) +
                            " or {\"normalised\": 0.5}");
     requireEntries(json, "the value", {"shown", "normalised"});
     const float value = normalisedFrom(entryOf(json, "normalised"));
@@ -187,8 +188,8 @@ float CPresetText::valueFrom(int id, const Json &json) const {
         return value;
     const std::string shown = displayOf(id, value);
     if (textOf(json, "shown") != shown) {
-        throw CPresetError(inQuotes(textOf(json, "shown")) + " is not how " +
-                           entryOf(json, "normalised").dump() + " is shown, " + inQuotes(shown) +
+        throw CPresetError(shortQuote(textOf(json, "shown")) + " is not how " +
+                           entryOf(json, "normalised").dump() + " is shown, " + shortQuote(shown) +
                            "; keep only one of the two");
     }
     return value;

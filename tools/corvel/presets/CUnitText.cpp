@@ -153,8 +153,8 @@ float CUnitText::valueOf(std::string_view text) const {
     std::string asked(text);
     if (isOnlyNumber(text)) {
         if (!m_isBareNumber)
-            throw CCallError(inQuotes(asked) + " is only a number; expected a text like " +
-                             inQuotes(display(0.5f)));
+            throw CCallError(shortQuote(asked) + " is only a number; expected a text like " +
+                             shortQuote(display(0.5f)));
         asked += "%";
     }
     const int decimals = std::min(decimalsIn(text), mostDecimals);

@@ -1,5 +1,8 @@
 #include "corvel/presets/Encoding.h"
 
+#include "corvel/Printable.h"
+#include "corvel/Text.h"
+
 namespace Tessitor::Tool {
 
 namespace {
@@ -35,10 +38,6 @@ std::optional<unsigned> takeCharacter(std::string_view &text) {
     return character;
 }
 
-bool isControl(unsigned character) {
-    return character < 0x20 || (character >= 0x7F && character < 0xA0);
-}
-
 }  // namespace
 
 bool isUtf8(std::string_view bytes) {
@@ -69,29 +68,9 @@ std::optional<std::string> latin1FromUtf8(std::string_view text) {
     return bytes;
 }
 
-std::string escaped(std::string_view utf8) {
-    std::string text;
-    while (!utf8.empty()) {
-        const std::string_view before = utf8;
-        const std::optional<unsigned> character = takeCharacter(utf8);
-        if (!character || isControl(*character)) {
-            const unsigned code = character ? *character : codeOf(before.front());
-            constexpr const char *digits = "0123456789abcdef";
-            text.append("\\x").append(1, digits[code >> 4]).append(1, digits[code & 0xFu]);
-            continue;
-        }
-        if (*character == '"' || *character == '\\')
-            text += '\\';
-        text += before.substr(0, before.size() - utf8.size());
-    }
-    return text;
-}
-
-std::string inQuotes(std::string_view text) {
+std::string shortQuote(std::string_view text) {
     constexpr std::size_t longest = 40;
-    return std::string("\"")
-        .append(escaped(text.substr(0, longest)))
-        .append(text.size() > longest ? "...\"" : "\"");
+    return inQuotes(printable(text.substr(0, longest)) + (text.size() > longest ? "..." : ""));
 }
 
 }  // namespace Tessitor::Tool

@@ -11,11 +11,7 @@ std::string utf8FromLatin1(std::string_view bytes);
 /// @return nothing if a character is not in Latin-1, or the text is not UTF-8.
 std::optional<std::string> latin1FromUtf8(std::string_view text);
 
-/// @return UTF-8 text that does nothing to a terminal: quotes, backslashes and control characters
-///         are escaped.
-std::string escaped(std::string_view utf8);
-
-/// @return the escaped text in quotes for an error message, cut if it is long.
-std::string inQuotes(std::string_view text);
+/// @return the printable text in quotes for an error message, cut if it is long.
+std::string shortQuote(std::string_view text);
 
 }  // namespace Tessitor::Tool

@@ -61,7 +61,7 @@ void append(std::string &bytes, std::uint32_t number) {
 std::string letters(std::uint32_t number) {
     std::string bytes;
     append(bytes, number);
-    return inQuotes(bytes);
+    return shortQuote(bytes);
 }
 
 bool isKindOfBank(std::uint32_t kind) {

@@ -33,14 +33,15 @@ std::string describeProgram(const SProgram &program) {
         rows.push_back({std::to_string(id), parameter.name, shortest(value),
                         parameterDisplay(id, value), parameter.unit});
     }
-    return inColumns({{"program", inQuotes(nameOf(program))}, {"chain", describeChain(program)}}) +
+    return inColumns(
+               {{"program", shortQuote(nameOf(program))}, {"chain", describeChain(program)}}) +
            "\n" + inColumns(rows);
 }
 
 std::string describeBank(const SPreset &bank) {
     Rows rows = {{"#", "Name", "Chain"}};
     for (std::size_t number = 0; number < bank.programs.size(); ++number)
-        rows.push_back({std::to_string(number), inQuotes(nameOf(bank.programs[number])),
+        rows.push_back({std::to_string(number), shortQuote(nameOf(bank.programs[number])),
                         describeChain(bank.programs[number])});
     return inColumns(rows);
 }
@@ -90,7 +91,7 @@ int runPresetCheck(const SPresetCheckCall &call) {
             print(file + ": " +
                   (preset.isBank()
                        ? "a bank of " + std::to_string(preset.programs.size()) + " programs"
-                       : "the program " + inQuotes(nameOf(preset.programs[0]))) +
+                       : "the program " + shortQuote(nameOf(preset.programs[0]))) +
                   "\n");
         } catch (const CJobError &error) {
             printRemark(error.what());

@@ -108,7 +108,7 @@ void writePreset(const fs::path &file, const SPreset &preset, bool replace) {
     std::error_code ignored;
     if (!replace && fs::exists(file, ignored))
         throw CJobError(file.string() + ": exists already; --force replaces it");
-    CPendingFile pending(file);
+    CPendingFile pending(file, replace ? EExisting::Replaced : EExisting::Kept);
     std::ofstream stream(pending.path(), std::ios::binary);
     stream << (format == EPresetFormat::json ? CPresetText().textFrom(preset)
                                              : fxFromPreset(preset));

@@ -30,7 +30,7 @@ int slotFromJson(const Json &json) {
     for (int slot = kNoSlot; slot < kSlotCount; ++slot)
         if (equalInAnyCapitals(labelOf(slot), label))
             return slot;
-    throw CPresetError("the chain has no module " + inQuotes(label));
+    throw CPresetError("the chain has no module " + shortQuote(label));
 }
 
 Chain chainFromJson(const Json &json) {
@@ -40,9 +40,9 @@ Chain chainFromJson(const Json &json) {
     for (const Json &label : json) {
         const int slot = slotFromJson(label);
         if (slot < kFirstModuleSlot)
-            throw CPresetError("the chain cannot contain " + inQuotes(labelOf(slot)));
+            throw CPresetError("the chain cannot contain " + shortQuote(labelOf(slot)));
         if (std::find(chain.begin(), chain.end(), slot) != chain.end())
-            throw CPresetError("the chain contains " + inQuotes(labelOf(slot)) + " twice");
+            throw CPresetError("the chain contains " + shortQuote(labelOf(slot)) + " twice");
         chain.push_back(slot);
     }
     return chain;
@@ -54,7 +54,7 @@ void readLinks(const Json &links, SProgram &program) {
     for (const auto &[label, link] : links.items()) {
         const int slot = slotFromJson(label);
         if (slot == kNoSlot || !link.is_array() || link.size() != 2)
-            throw CPresetError("the links have an entry " + inQuotes(label) +
+            throw CPresetError("the links have an entry " + shortQuote(label) +
                                " that is not a slot with its previous and next one");
         program.order[static_cast<std::size_t>(slot)] = {slotFromJson(link[0]),
                                                          slotFromJson(link[1])};

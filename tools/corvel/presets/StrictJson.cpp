@@ -28,7 +28,7 @@ public:
         else if (event == Event::object_end)
             m_names.pop_back();
         else if (event == Event::key && !m_names.back().insert(json.get<std::string>()).second)
-            throw CPresetError("has the entry " + inQuotes(json.get<std::string>()) + " twice");
+            throw CPresetError("has the entry " + shortQuote(json.get<std::string>()) + " twice");
         return true;
     }
 
@@ -97,20 +97,20 @@ void requireEntries(const Json &json, const std::string &what,
         throw CPresetError(what + " is not a JSON object");
     for (const auto &[name, value] : json.items())
         if (std::find(known.begin(), known.end(), name) == known.end())
-            throw CPresetError(what + " has an unknown entry " + inQuotes(name));
+            throw CPresetError(what + " has an unknown entry " + shortQuote(name));
 }
 
 const Json &entryOf(const Json &object, const char *name) {
     const auto found = object.find(name);
     if (found == object.end())
-        throw CPresetError("the entry " + inQuotes(name) + " is missing");
+        throw CPresetError("the entry " + shortQuote(name) + " is missing");
     return *found;
 }
 
 const std::string &textOf(const Json &object, const char *name) {
     const Json &entry = entryOf(object, name);
     if (!entry.is_string())
-        throw CPresetError("the entry " + inQuotes(name) + " is not a text");
+        throw CPresetError("the entry " + shortQuote(name) + " is not a text");
     return entry.get_ref<const std::string &>();
 }
 
