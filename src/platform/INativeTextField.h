@@ -39,7 +39,8 @@ public:
     /// Copies the text.
     /// @param buffer  of size bytes; a longer text is cut. Always terminated.
     virtual void getText(char *buffer, std::int32_t size) const = 0;
-    /// The answer to NativeColourEdit, with which Windows asks for the field's colours.
+    /// The answer to NativeColourEdit, with which Windows asks for the field's colours. It asks the
+    /// top level window around the field, so a field inside a host's window has the system's.
     /// @param deviceContext  receives the colours.
     /// @return the handle of the brush for the background, which the field owns.
     virtual std::intptr_t colour(void *deviceContext) = 0;

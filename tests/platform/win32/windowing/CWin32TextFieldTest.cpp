@@ -101,7 +101,11 @@ TEST_F(CWin32TextField, SetsItsColours) {
     ReleaseDC(handle(), context);
 }
 
-TEST_F(CWin32TextField, AsksItsWindowForTheColours) {
+// An edit control asks the top level window around it.
+TEST_F(CWin32TextField, AsksATopLevelWindowForTheColours) {
+    window.options.parent = nullptr;
+    window.options.style = WS_POPUP | WS_VISIBLE;
+    window.create();
     HWND asking = nullptr;
     window.onMessage = [&](const CWindowSpy::SMessage &message) -> CWindowSpy::Result {
         if (message.number != NativeColourEdit)
