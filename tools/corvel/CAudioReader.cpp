@@ -6,7 +6,7 @@
 #include "corvel/OutputFormat.h"
 #include "corvel/SoundChunk.h"
 
-#include <ranges>
+#include <algorithm>
 #include <string>
 #include <type_traits>
 
@@ -59,13 +59,14 @@ void CAudioReader::readPastUnknownLength() {
 }
 
 void CAudioReader::findLinks() {
-    const SOggLinks found = findOggLinks(m_path);
+    SOggLinks found = findOggLinks(m_path);
     if (!found.complete)
         fail("truncated, the end of the audio is missing");
     if (found.links.size() < 2)
         return;
+    std::reverse(found.links.begin(), found.links.end());
     std::int64_t frames = 0;
-    for (const SOggLinks::SLink &link : std::views::reverse(found.links)) {
+    for (const SOggLinks::SLink &link : found.links) {
         m_partsLeft.push_back({link.begin, link.end});
         const SF_INFO info = openPart(m_partsLeft.back());
         if (info.samplerate != m_info.samplerate || info.channels != m_info.channels)

@@ -60,7 +60,7 @@ private:
     bool hasFixedSecond() const;
     std::pair<SPoint, SPoint> ends() const;
     std::vector<std::string> texts() const;
-    std::string withUnit(std::string text) const;
+    std::string withUnit(const std::string &text) const;
     [[noreturn]] void refuse(std::string_view text, const SReading &asked) const;
 
     std::string m_unit;

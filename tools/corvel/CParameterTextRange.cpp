@@ -49,7 +49,7 @@ std::vector<std::string> CParameterText::texts() const {
     return result;
 }
 
-std::string CParameterText::withUnit(std::string text) const {
+std::string CParameterText::withUnit(const std::string &text) const {
     return m_unit.empty() ? text : text + " " + m_unit;
 }
 

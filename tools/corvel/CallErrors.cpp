@@ -60,7 +60,8 @@ std::vector<std::string> namesAsTyped(std::vector<std::string> names) {
 }
 
 std::string describe(const CLI::ParseError &error) {
-    const std::string text = error.what(), option = optionIn(text);
+    std::string text = error.what();
+    const std::string option = optionIn(text);
     if (dynamic_cast<const CLI::ExtrasError *>(&error) != nullptr)
         return describeExtra(error.get_name(), text.substr(text.find(": ") + 2));
     if (dynamic_cast<const CLI::ValidationError *>(&error) != nullptr)

@@ -30,6 +30,7 @@ struct SValue {
 
 std::vector<SValue> valuesOf(CEffectInstance &effect) {
     std::vector<SValue> values;
+    values.reserve(static_cast<std::size_t>(effect.record().numParams));
     for (std::int32_t index = 0; index < effect.record().numParams; ++index)
         values.push_back({effect.parameter(index), effect.text(effGetParamDisplay, index)});
     return values;

@@ -115,10 +115,11 @@ std::string describe(const SRenderOutcome &outcome, const CEffectSettings &setti
 std::vector<std::string> warnings(const SRenderOutcome &outcome, const SRenderOptions &options) {
     const SRenderResult &result = outcome.result;
     std::vector<std::string> lines;
-    if (result.nonFiniteSamples > 0)
+    if (result.nonFiniteSamples > 0) {
         lines.push_back("warning: " + outcome.job.in.string() + ": " +
                         counted(result.nonFiniteSamples, "sample") + " infinite or not a number, " +
                         (options.keepNan ? "kept" : "rendered as 0; --keep-nan keeps them"));
+    }
     if (result.clippedSamples > 0)
         lines.push_back("warning: " + outcome.job.out.string() + ": " +
                         counted(result.clippedSamples, "sample") + " clipped");

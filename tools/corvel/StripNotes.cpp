@@ -15,10 +15,10 @@ std::vector<std::string> notesOnStrip(CEffectInstance &effect, const SRenderOpti
         return std::find(chain.begin(), chain.end(), slot) != chain.end();
     };
     std::vector<std::string> notes;
-    if (options.doublePrecision && (runs(kCompressorSlot) || runs(kDeEsserSlot)))
+    if (options.doublePrecision && (runs(kCompressorSlot) || runs(kDeEsserSlot))) {
         notes.emplace_back(
-            "note: --double: in double precision the compressor and the de-esser stay "
-            "at rest");
+            "note: --double: in double precision the compressor and the de-esser stay at rest");
+    }
     constexpr float linked = 0.5f;
     if (options.blockSize != SRenderOptions().blockSize && runs(kCompressorSlot) &&
         effect.parameter(kCmpLink) < linked)
