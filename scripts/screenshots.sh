@@ -17,6 +17,7 @@ if [ $# -gt 0 ]; then
     program=(xvfb-run -a -s "-screen 0 1024x900x24" cmake/wine.sh "$PWD/build/windows/wineprefix"
         build/windows/bin/editor_screenshot.exe)
     folder=$2
+    mkdir -p "$folder"
 fi
 
 scripts/setup.sh test
