@@ -204,7 +204,7 @@ TEST_F(DrivenControls, TheWheelOpensTheMenuOfAMenuKnob) {
 TEST_F(DrivenControls, TheWheelDoesNotOpenASecondMenu) {
     showChain({2, 3, 4, 5, 13});
     const SControl &input = Layout::topRow[1];
-    const SControl &modulation = Layout::controlsIn(4, 13)[0];
+    const SControl modulation = Layout::controlsIn(4, 13)[0];
     driven.clickAt(centreOf(input.area));
     ASSERT_EQ(desktop->countMenus(), 1);
     driven.turnWheelAt(centreOf(modulation.area), 1);
