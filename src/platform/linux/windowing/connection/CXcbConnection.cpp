@@ -96,7 +96,7 @@ std::vector<std::shared_ptr<CXcbConnection>> CXcbConnection::getAll() {
 }
 
 std::shared_ptr<CXcbConnection> CXcbConnection::find(xcb_window_t window) {
-    // A host may pump on another thread than the one that has opened the window.
+    // The host may pump on a thread other than the one that opened the window.
     if (pumped != nullptr && pumped->windowOf(window) != nullptr)
         return pumped->shared_from_this();
     for (const auto &connection : getAll())

@@ -48,8 +48,8 @@ public:
     void removeWindow(xcb_window_t id);
     CXcbWindow *windowOf(xcb_window_t id) const;  ///< null for a window of somebody else
 
-    /// @return what floats above a child really floats above: the window that it lies in and that
-    ///         is no child, as far as it is ours.
+    /// @return the outermost window of ours that a window lies in. What is to float above a child
+    ///         has to float above that one.
     xcb_window_t ownerOf(xcb_window_t window) const;
     /// Destroys the windows that lie in a window or float above it.
     void endWindowsOf(xcb_window_t parent);

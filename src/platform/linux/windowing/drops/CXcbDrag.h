@@ -13,7 +13,7 @@ public:
     CXcbDrag(CXcbConnection &connection, const xcb_client_message_event_t &enter);
 
     const SXdndPartners &getPartners() const { return m_partners; }
-    /// The source is told whether the window takes it, once that is known.
+    /// The source gets its answer once the window has decided whether it takes the files.
     /// @param point  on the screen.
     void moveTo(SNativePoint point);
     void drop(xcb_timestamp_t time) { m_dropTime = time; }

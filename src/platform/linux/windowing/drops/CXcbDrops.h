@@ -27,7 +27,7 @@ public:
     void finish(std::uintptr_t wParam);  ///< tells the source
 
 private:
-    /// Files that a window is being told of.
+    /// Files that are being handed to a window.
     struct SArrival {
         SXdndPartners partners;
         SNativeDrop drop;

@@ -19,8 +19,8 @@ public:
     CXcbKeyboard(const CXcbKeyboard &) = delete;
     CXcbKeyboard &operator=(const CXcbKeyboard &) = delete;
 
-    /// Keys, the keyboard focus, changes of the layout. Any window that has the focus gets keys, a
-    /// popup as well, which is told by NativeKillFocus when it loses them.
+    /// Handles keys, the keyboard focus and changes of the layout. Whichever window has the focus
+    /// gets the keys, even a popup. NativeKillFocus reports the loss.
     bool handleEvent(const xcb_generic_event_t &event) override;
     void forgetWindow(xcb_window_t window) override;
 

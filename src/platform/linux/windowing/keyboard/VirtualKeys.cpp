@@ -11,7 +11,7 @@ struct SKeyRange {
     std::uint8_t virtualKey;  // of the first
 };
 
-// Left and right modifiers are told apart by their scan codes only, as on Windows.
+// Left and right modifiers differ only in their scan codes, as on Windows.
 constexpr SKeyRange keyRanges[] = {
     {XKB_KEY_0, XKB_KEY_9, '0'},
     {XKB_KEY_a, XKB_KEY_z, 'A'},

@@ -7,9 +7,9 @@
 
 class CXcbConnection;
 
-/// A grab of the pointer that we ask for, unlike the one that the server makes by itself while a
-/// button is pressed. There is one at a time; it replaces that of the server. Nothing here waits
-/// for the server. [gui thread]
+/// A grab of the pointer that we ask for. The server makes another one by itself while a button is
+/// pressed; ours replaces it. There is one at a time. Nothing here waits for the server.
+/// [gui thread]
 class CXcbGrab {
 public:
     explicit CXcbGrab(CXcbConnection &connection) : m_connection(connection) {}

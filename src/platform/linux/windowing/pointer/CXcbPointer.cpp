@@ -164,8 +164,8 @@ void CXcbPointer::handleWheel(const xcb_button_press_event_t &event) {
 
 // Messages
 
-// The server told somebody else of the release if the window was unmapped during the drag, or if
-// the grab was taken from us.
+// If the window was unmapped during the drag, or the grab was taken from us, the release went to
+// another client.
 void CXcbPointer::sendLostReleases(const xcb_motion_notify_event_t &event) {
     for (const auto &[button, down, up] : buttons) {
         const std::uint16_t bit = bitOf(button);

@@ -64,7 +64,7 @@ private:
     SNativePoint m_position;            // on the screen
     std::uint16_t m_state = 0;          // as in the last event
     std::uint16_t m_down = 0;           // the buttons that are pressed, as in a state
-    std::uint16_t m_downSent = 0;       // those of them that a message has told of
+    std::uint16_t m_downSent = 0;       // those of them that a message has reported
     bool m_isPressGrabbed = false;      // whether the server has grabbed for the pressed button
     xcb_window_t m_capture = XCB_NONE;  // has all messages
     xcb_window_t m_tracked = XCB_NONE;  // is to hear when the mouse leaves

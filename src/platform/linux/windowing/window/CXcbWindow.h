@@ -48,7 +48,7 @@ public:
     bool isPopup() const { return m_kind == EKind::Popup; }
     bool isShown() const { return m_isShown; }
     bool isEnabled() const { return m_isEnabled; }
-    /// Where its origin is on the screen, as the last event told; saves asking the server.
+    /// Where its origin is on the screen, from the last event; saves asking the server.
     void setScreenOrigin(SNativePoint origin) { m_origin = origin; }
     /// Asks the server for further events, or for those no more.
     /// @param mask  of XCB_EVENT_MASK_KEY_PRESS and the like.
