@@ -19,7 +19,7 @@ test_packages=(
     git                                                 # for scripts/golden.sh and scripts/check-fresh.sh
     g++-mingw-w64-x86-64-posix gcc-mingw-w64-x86-64-posix  # the Windows build
     wine wine64 xvfb xauth                              # run the Windows tests
-    fonts-liberation                                    # the face of the text in the tests
+    fonts-liberation fonts-liberation2                  # the face of the text in the tests
     openbox libxcb-cursor0                              # a window manager and cursor themes for them
     python3-cairo                                       # draws the pictures of the editor, to compare
 )
