@@ -152,7 +152,7 @@ TEST_F(CCorvelEditorThreads, MayChangeEverythingWhileTheEditorIsUsed) {
     }
 }
 
-// Ardour 7.3 shows editors on another thread than the one that creates and closes effects.
+// Ardour 7.3 creates and closes effects on one thread, and shows editors on another.
 TEST_F(CCorvelEditorThreads, MayCreateAndCloseEffectsWhileAnEditorIsUsed) {
     CCorvel effect(FakeHost::callback);
     CGuiThread gui(effect);

@@ -38,7 +38,7 @@ bool isTakenForNormalised(std::int32_t index) {
 }
 
 // A synchronised delay takes a new time until the tempo changes, and leaving the synchronisation
-// restores the earlier time. So the one that is to be heard comes last.
+// restores the earlier time. So the setting that should be heard comes last.
 void addDelay(std::vector<SStep> &steps, std::optional<float> time, std::optional<float> sync,
               bool isSynchronised) {
     const bool synchronise = sync ? isSynchronising(*sync) : !time && isSynchronised;

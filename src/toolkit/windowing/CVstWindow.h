@@ -22,7 +22,7 @@ class CVstWindow : public AEffEditor,
                    public GUI::Listeners::IKeyboardListener {
 public:
     /// @param owner  becomes the owner of the editor; null for none.
-    /// @param area   its size is the one that the host gets.
+    /// @param area   its size is the size of the editor.
     CVstWindow(AudioEffect *owner, const MathTools::CRect &area,
                const GUI::Windowing::CWindowAttributes &attributes);
     ~CVstWindow() override;

@@ -33,7 +33,7 @@ protected:
     static void SetUpTestSuite() { desktop = std::make_unique<CDesktop>(); }
     static void TearDownTestSuite() { desktop.reset(); }
 
-    /// @return what editors have told the host since the last call.
+    /// @return the automation that editors have sent to the host since the last call.
     std::vector<SAutomation> takeAutomation() {
         std::vector<SAutomation> taken;
         for (const SHostCall &call : host.calls(audioMasterAutomate))

@@ -143,7 +143,7 @@ TEST_F(CPresetTextTest, TheBytesOfAnOlderNameAreKept) {
     program.name[4] = '\0';  // "Lead", then "Vocal"
     const std::string text = textFrom(program);
     EXPECT_EQ(programFrom(text), program);
-    // A new name is written over it, like the effect does.
+    // A new name overwrites only as many bytes as it has, as in the effect.
     Json json = Json::parse(text);
     json["name"] = "New";
     EXPECT_EQ(std::string(programFrom(json.dump()).name.data(), 10), "New\0\0Vocal"s);

@@ -31,7 +31,8 @@ SPreset readPreset(const std::filesystem::path &file);
 /// @throws CJobError also if there is no such program.
 SPreset readPreset(const SPresetPlace &place);
 
-/// Reads one program: of a bank, the one that the text names or else the bank's current one.
+/// Reads one program. Of a bank, that is the program that the text names, or the current program if
+/// it names none.
 Corvel::SProgram readProgram(const std::string &text);
 
 /// Writes in the format of the ending. The file appears when it is complete.

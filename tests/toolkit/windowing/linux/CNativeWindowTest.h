@@ -21,7 +21,7 @@ protected:
     using CWindow = Tessitor::GUI::Windowing::CWindow;
     using CWindowAttributes = Tessitor::GUI::Windowing::CWindowAttributes;
 
-    /// The window that a host's window stands for.
+    /// Stands for a window of the host.
     class CParent : public CWindow {
     public:
         explicit CParent(xcb_window_t window) : CWindow(CRect(0, 0, 10, 10)) {

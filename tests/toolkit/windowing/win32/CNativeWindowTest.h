@@ -18,7 +18,7 @@ protected:
     using CWindow = Tessitor::GUI::Windowing::CWindow;
     using CWindowAttributes = Tessitor::GUI::Windowing::CWindowAttributes;
 
-    /// The window that a host's window handle stands for.
+    /// Stands for a window of the host.
     class CParent : public CWindow {
     public:
         explicit CParent(HWND handle) : CWindow(CRect(0, 0, 10, 10)) {

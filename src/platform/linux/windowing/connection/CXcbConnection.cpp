@@ -96,7 +96,7 @@ std::vector<std::shared_ptr<CXcbConnection>> CXcbConnection::getAll() {
 }
 
 std::shared_ptr<CXcbConnection> CXcbConnection::find(xcb_window_t window) {
-    // The host may pump on a thread other than the one that opened the window.
+    // The host may open a window on one thread and pump on another.
     if (pumped != nullptr && pumped->windowOf(window) != nullptr)
         return pumped->shared_from_this();
     for (const auto &connection : getAll())
