@@ -1,25 +1,16 @@
 // What the editor of the built effect costs, from the call of the host to the pixels on the screen.
 #include "CSeenEditor.h"
+#include "TimedRun.h"
 #include "abi/HeapInUse.h"
 #include "toolkit/windowing/CBareWindow.h"
 
 #include <benchmark/benchmark.h>
-#include <chrono>
 #include <deque>
 #include <optional>
 
 namespace {
 
 CDesktop *desktop = nullptr;
-
-/// Takes the time of run() alone.
-template <typename Run>
-void time(benchmark::State &state, Run run) {
-    const auto start = std::chrono::steady_clock::now();
-    run();
-    state.SetIterationTime(
-        std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
-}
 
 /// @return the picture of an editor that has just been opened.
 CPicture pictureWhenOpen() {

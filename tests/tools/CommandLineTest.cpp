@@ -1,7 +1,7 @@
 #include "corvel/Chain.h"
 #include "tools/support/AudioFiles.h"
 #include "tools/support/CTemporaryFolder.h"
-#include "tools/support/Program.h"
+#include "tools/support/ExpectOneError.h"
 
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
@@ -11,12 +11,7 @@ using testing::HasSubstr;
 namespace {
 
 void expectWrongCall(const std::vector<std::string> &arguments, const std::string &words) {
-    const SProgramRun run = corvel(arguments);
-    EXPECT_EQ(run.status, 2);
-    EXPECT_THAT(run.errors, testing::StartsWith("corvel: "));
-    EXPECT_THAT(run.errors, HasSubstr(words));
-    EXPECT_EQ(std::count(run.errors.begin(), run.errors.end(), '\n'), 1) << run.errors;
-    EXPECT_EQ(run.out, "");
+    expectOneError(corvel(arguments), 2, words);
 }
 
 SProgramRun corvelWith(std::vector<std::string> arguments, const std::string &effect = "Whole") {

@@ -1,14 +1,11 @@
 #include "tools/support/AudioFiles.h"
 #include "tools/support/CTemporaryFolder.h"
-#include "tools/support/Program.h"
+#include "tools/support/ExpectOneError.h"
 
 #include <gmock/gmock.h>
 
 // Each error of `corvel render` prints one line with the file and the reason, and sets the exit
 // status. An existing output file is not changed.
-
-using testing::HasSubstr;
-using testing::StartsWith;
 
 namespace {
 
@@ -26,12 +23,7 @@ protected:
                        const std::string &environment = "") {
         const std::vector<std::string> before = folder.names();
         arguments.emplace_back("--force");
-        const SProgramRun run = corvel(arguments, environment);
-        EXPECT_EQ(run.status, status);
-        EXPECT_THAT(run.errors, StartsWith("corvel: "));
-        EXPECT_THAT(run.errors, HasSubstr(words));
-        EXPECT_EQ(std::count(run.errors.begin(), run.errors.end(), '\n'), 1) << run.errors;
-        EXPECT_EQ(run.out, "");
+        expectOneError(corvel(arguments, environment), status, words);
         EXPECT_TRUE(readFile(folder / "out.wav") == "old");
         EXPECT_EQ(folder.names(), before);
     }

@@ -1,11 +1,11 @@
 // What a window costs on Linux, beside the requests to the X server alone.
 #include "CBareWindow.h"
+#include "TimedRun.h"
 #include "toolkit/controls/CKnob.h"
 #include "toolkit/graphics/TestImage.h"
 #include "toolkit/windowing/CWindow.h"
 
 #include <benchmark/benchmark.h>
-#include <chrono>
 #include <poll.h>
 
 using Tessitor::GUI::Controls::CKnob;
@@ -72,15 +72,6 @@ private:
     xcb_connection_t *m_connection;
     xcb_timestamp_t m_time = 1000;
 };
-
-/// Takes the time of run() alone.
-template <typename Run>
-void time(benchmark::State &state, Run run) {
-    const auto start = std::chrono::steady_clock::now();
-    run();
-    state.SetIterationTime(
-        std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
-}
 
 void settle(CKnobWindow &window) {
     for (int i = 0; i < 50; ++i) {

@@ -1,7 +1,7 @@
 #include "corvel/presets/CPresetText.h"
 
 #include "corvel/Chain.h"
-#include "tools/support/Programs.h"
+#include "tools/support/StoredPrograms.h"
 
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>

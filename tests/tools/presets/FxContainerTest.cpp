@@ -1,6 +1,6 @@
 #include "corvel/presets/FxContainer.h"
 
-#include "tools/support/Programs.h"
+#include "tools/support/StoredPrograms.h"
 
 #include <gmock/gmock.h>
 

@@ -1,8 +1,8 @@
 #include "corvel/presets/PresetFile.h"
 #include "tools/support/AudioFiles.h"
 #include "tools/support/CTemporaryFolder.h"
-#include "tools/support/Program.h"
-#include "tools/support/Programs.h"
+#include "tools/support/ExpectOneError.h"
+#include "tools/support/StoredPrograms.h"
 
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
@@ -31,12 +31,7 @@ protected:
     static void expectFailure(int status, const std::string &words,
                               const std::vector<std::string> &arguments,
                               const std::string &environment = "") {
-        const SProgramRun run = corvel(arguments, environment);
-        EXPECT_EQ(run.status, status);
-        EXPECT_THAT(run.errors, StartsWith("corvel: "));
-        EXPECT_THAT(run.errors, HasSubstr(words));
-        EXPECT_EQ(std::count(run.errors.begin(), run.errors.end(), '\n'), 1) << run.errors;
-        EXPECT_EQ(run.out, "");
+        expectOneError(corvel(arguments, environment), status, words);
     }
 
     SSound render(const std::vector<std::string> &options) {

@@ -2,7 +2,7 @@
 
 #include "corvel/Errors.h"
 #include "tools/support/CTemporaryFolder.h"
-#include "tools/support/Programs.h"
+#include "tools/support/StoredPrograms.h"
 
 #include <gmock/gmock.h>
 

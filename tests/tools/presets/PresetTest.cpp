@@ -1,6 +1,6 @@
 #include "corvel/presets/Preset.h"
 
-#include "tools/support/Programs.h"
+#include "tools/support/StoredPrograms.h"
 
 #include <cmath>
 #include <gmock/gmock.h>

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "platform/linux/CVirtualDisplay.h"
-#include "platform/linux/windowing/CTestClient.h"
+#include "platform/linux/windowing/CDisplayFixture.h"
 #include "platform/linux/windowing/WindowIds.h"
 #include "platform/linux/windowing/connection/CXcbConnection.h"
 #include "platform/windowing/CWindowSpy.h"
@@ -14,17 +13,8 @@ constexpr SNativeRect hostArea = {50, 60, 350, 260};
 
 /// An editor of 100 by 50 at 60, 80 of the screen, in a host's window. The pointer starts outside
 /// of both, at 500, 400.
-class CHostFixture : public testing::Test {
+class CHostFixture : public CDisplayFixture {
 protected:
-    static void SetUpTestSuite() {
-        display = std::make_unique<CVirtualDisplay>("640x480x24");
-        client = std::make_unique<CTestClient>();
-    }
-    static void TearDownTestSuite() {
-        client.reset();
-        display.reset();
-    }
-
     CHostFixture() {
         client->movePointer(500, 400);
         editor.options.parent = handleOf(host);
@@ -55,8 +45,6 @@ protected:
     }
     CXcbConnection &connection() { return *CXcbConnection::find(idOf(*editor.window)); }
 
-    static inline std::unique_ptr<CVirtualDisplay> display;
-    static inline std::unique_ptr<CTestClient> client;
     xcb_window_t host = client->createWindow(hostArea);
     CWindowSpy editor;
 };

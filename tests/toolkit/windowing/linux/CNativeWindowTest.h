@@ -1,44 +1,17 @@
 #pragma once
 
 #include "platform/NativeMouse.h"
-#include "platform/linux/CVirtualDisplay.h"
-#include "platform/linux/windowing/CTestClient.h"
+#include "platform/linux/windowing/CDisplayFixture.h"
 #include "platform/linux/windowing/WindowIds.h"
 #include "platform/linux/windowing/connection/CXcbConnection.h"
-#include "toolkit/windowing/CListener.h"
-#include "toolkit/windowing/CWindow.h"
+#include "toolkit/windowing/CHeardWindow.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
-#include <memory>
-#include <utility>
 
 /// A window of 100 by 50 at 10, 20 in a host's window of 300 by 200 at 50, 60 on the screen, and
 /// what listens to it. The host has the keyboard.
-class CNativeWindowTest : public testing::Test {
+class CNativeWindowTest : public CDisplayFixture, public CHeardWindow {
 protected:
-    using CRect = Tessitor::MathTools::CRect;
-    using CWindow = Tessitor::GUI::Windowing::CWindow;
-    using CWindowAttributes = Tessitor::GUI::Windowing::CWindowAttributes;
-
-    /// Stands for a window of the host.
-    class CParent : public CWindow {
-    public:
-        explicit CParent(xcb_window_t window) : CWindow(CRect(0, 0, 10, 10)) {
-            getMutableWindowHandle()->native = ::handleOf(window);
-        }
-        ~CParent() override { getMutableWindowHandle()->native = nullptr; }
-    };
-
-    static void SetUpTestSuite() {
-        display = std::make_unique<CVirtualDisplay>("640x480x24");
-        client = std::make_unique<CTestClient>();
-    }
-    static void TearDownTestSuite() {
-        client.reset();
-        display.reset();
-    }
-
     CNativeWindowTest() {
         client->movePointer(outside.x, outside.y);
         client->focus(host);
@@ -51,12 +24,7 @@ protected:
 
     /// Opens a window in a host's window.
     static void openIn(CWindow &opened, xcb_window_t parent) {
-        CWindowAttributes attributes;
-        attributes.setWindowStyles(0x50000000, 16);
-        CParent parentWindow(parent);
-        opened.setParentWindow(&parentWindow);
-        opened.setWindowAttributes(&attributes, true);
-        opened.setParentWindow(nullptr);
+        openInNative(opened, ::handleOf(parent));
     }
     /// Opens a window above that of the test.
     void openPopup(CWindow &popup) {
@@ -79,13 +47,6 @@ protected:
         handleMessages();
         log.clear();
     }
-    void listenTo(CWindow &heard) {
-        heard.setWindowChangeListener(&listener);
-        heard.setFocusListener(&listener);
-        heard.setMouseListener(&listener);
-        heard.setKeyboardListener(&listener);
-        heard.setDropFileListener(&listener);
-    }
     static void *handleOf(const CWindow &window) { return window.getWindowHandle()->native; }
     std::shared_ptr<CXcbConnection> connection() const {
         return CXcbConnection::find(idOf(handleOf(*window)));
@@ -97,17 +58,7 @@ protected:
         pumpAll(*client);
         pumpAll(*client);
     }
-    /// @return what has been heard since the last call.
-    EventLog take() {
-        handleMessages();
-        return std::exchange(log, {});
-    }
-    /// Likewise, without the movements, which changes of the pointer's window bring as well.
-    EventLog takeWithoutMovements() {
-        EventLog events = take();
-        std::erase_if(events, [](const auto &event) { return event.starts_with("movement"); });
-        return events;
-    }
+    void deliverMessages() override { handleMessages(); }
 
     static xcb_window_t focus() {
         return ownReply(xcb_get_input_focus_reply(client->get(), xcb_get_input_focus(client->get()),
@@ -129,11 +80,6 @@ protected:
 
     static constexpr SNativePoint outside = {500, 400}, inside = {65, 87};  // 5, 7 in the window
     static constexpr int leftButton = 1, rightButton = 3;
-    static inline std::unique_ptr<CVirtualDisplay> display;
-    static inline std::unique_ptr<CTestClient> client;
 
     xcb_window_t host = client->createWindow({50, 60, 350, 260});
-    EventLog log;
-    CListener listener{log};
-    std::unique_ptr<CWindow> window;
 };

@@ -1,31 +1,16 @@
 #pragma once
 
 #include "platform/win32/windowing/Input.h"
-#include "toolkit/windowing/CListener.h"
-#include "toolkit/windowing/CWindow.h"
+#include "toolkit/windowing/CHeardWindow.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <memory>
-#include <utility>
 
 /// A window of 100 by 50 at 10, 20 in a host's window of 300 by 200 at 50, 60 on the screen, and
 /// what listens to it. The tests share the host: without a window manager, Wine takes two seconds
 /// to end a window that the screen shows.
-class CNativeWindowTest : public testing::Test {
+class CNativeWindowTest : public testing::Test, public CHeardWindow {
 protected:
-    using CRect = Tessitor::MathTools::CRect;
-    using CWindow = Tessitor::GUI::Windowing::CWindow;
-    using CWindowAttributes = Tessitor::GUI::Windowing::CWindowAttributes;
-
-    /// Stands for a window of the host.
-    class CParent : public CWindow {
-    public:
-        explicit CParent(HWND handle) : CWindow(CRect(0, 0, 10, 10)) {
-            getMutableWindowHandle()->native = handle;
-        }
-    };
-
     static void SetUpTestSuite() {
         host = createHost(nullptr, WS_POPUP | WS_VISIBLE);
         SetForegroundWindow(host);
@@ -48,17 +33,8 @@ protected:
     /// Opens a window in a host's window.
     static std::unique_ptr<CWindow> open(const CRect &area, HWND parent = host) {
         auto window = std::make_unique<CWindow>(area);
-        openIn(*window, parent);
+        openInNative(*window, parent);
         return window;
-    }
-    static void openIn(CWindow &window, HWND parent) {
-        CWindowAttributes attributes;
-        attributes.setWindowStyles(0x50000000, 16);
-        CParent parentWindow(parent);
-        window.setParentWindow(&parentWindow);
-        window.setWindowAttributes(&attributes, true);
-        window.setParentWindow(nullptr);
-        parentWindow.getMutableWindowHandle()->native = nullptr;
     }
     /// Opens the window of the test and begins to listen.
     void open() {
@@ -67,28 +43,11 @@ protected:
         handleMessages();
         log.clear();
     }
-    void listenTo(CWindow &heard) {
-        heard.setWindowChangeListener(&listener);
-        heard.setFocusListener(&listener);
-        heard.setMouseListener(&listener);
-        heard.setKeyboardListener(&listener);
-        heard.setDropFileListener(&listener);
-    }
     static HWND handleOf(const CWindow &window) {
         return static_cast<HWND>(window.getWindowHandle()->native);
     }
 
-    /// @return what has been heard since the last call.
-    EventLog take() {
-        handleMessages();
-        return std::exchange(log, {});
-    }
-    /// Likewise, without the movements, which the system repeats as it likes.
-    EventLog takeWithoutMovements() {
-        EventLog events = take();
-        std::erase_if(events, [](const auto &event) { return event.starts_with("movement"); });
-        return events;
-    }
+    void deliverMessages() override { handleMessages(); }
     /// Repeats an action and handles messages until an event is heard.
     /// @return whether that happened within ten seconds.
     template <typename Action>
@@ -109,8 +68,4 @@ protected:
 
     static constexpr SNativePoint outside = {55, 65}, inside = {65, 87};  // 5, 7 in the window
     static inline HWND host = nullptr;
-
-    EventLog log;
-    CListener listener{log};
-    std::unique_ptr<CWindow> window;
 };

@@ -35,7 +35,7 @@ TEST_F(CWindowEnd, ItsParentIsDestroyedFirst) {
     EXPECT_FALSE(IsWindow(old));
     EXPECT_EQ(handleOf(*window), nullptr);
     expectNothingLeft();
-    openIn(*window, host);
+    openInNative(*window, host);
     listenTo(*window);
     moveMouse(inside);
     EXPECT_THAT(take(), Contains("movement 512 at 5,7"));
@@ -45,7 +45,7 @@ TEST_F(CWindowEnd, ItOpensAgain) {
     open();
     window->destroyWindow();
     expectNothingLeft();
-    openIn(*window, host);
+    openInNative(*window, host);
     log.clear();
     moveMouse(inside);
     EXPECT_THAT(take(), Contains("movement 512 at 5,7"));

@@ -31,7 +31,7 @@ protected:
         for (int i = 0; i < times; ++i) {
             CWindow filled(CRect(10, 20, 200, 100));
             fill(filled);
-            openIn(filled, host);
+            openInNative(filled, host);
             filled.destroyWindow();
         }
     }

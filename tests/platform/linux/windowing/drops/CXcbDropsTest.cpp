@@ -1,6 +1,6 @@
 #include "platform/linux/windowing/drops/CXcbDrops.h"
 
-#include "platform/linux/CVirtualDisplay.h"
+#include "platform/linux/windowing/CDisplayFixture.h"
 #include "platform/linux/windowing/WindowIds.h"
 #include "platform/linux/windowing/drops/CTestDragSource.h"
 #include "platform/windowing/CWindowSpy.h"
@@ -17,17 +17,8 @@ using testing::IsEmpty;
 constexpr std::uint32_t accepts = 1;
 
 /// A child window that takes files, at 60, 80 on the screen.
-class CXcbDrops : public testing::Test {
+class CXcbDrops : public CDisplayFixture {
 protected:
-    static void SetUpTestSuite() {
-        display = std::make_unique<CVirtualDisplay>("640x480x24");
-        client = std::make_unique<CTestClient>();
-    }
-    static void TearDownTestSuite() {
-        client.reset();
-        display.reset();
-    }
-
     CXcbDrops() {
         spy.options.parent = handleOf(host);
         spy.onMessage = [this](const CWindowSpy::SMessage &message) {
@@ -79,8 +70,6 @@ protected:
         return source.statuses.empty() ? 99 : source.statuses[0].flags & accepts;
     }
 
-    static inline std::unique_ptr<CVirtualDisplay> display;
-    static inline std::unique_ptr<CTestClient> client;
     xcb_window_t host = client->createWindow({50, 60, 350, 260});
     xcb_window_t target = 0;
     CTestDragSource source;

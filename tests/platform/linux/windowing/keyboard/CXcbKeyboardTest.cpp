@@ -1,7 +1,6 @@
 #include "platform/linux/windowing/keyboard/CXcbKeyboard.h"
 
-#include "platform/linux/CVirtualDisplay.h"
-#include "platform/linux/windowing/CTestClient.h"
+#include "platform/linux/windowing/CDisplayFixture.h"
 #include "platform/linux/windowing/WindowIds.h"
 #include "platform/linux/windowing/connection/XcbReply.h"
 #include "platform/windowing/CWindowSpy.h"
@@ -27,25 +26,16 @@ struct SKeyReport {
 };
 
 /// A child window that has the keyboard, in a host's window that lies at 50, 60.
-class CXcbKeyboard : public testing::Test {
+class CXcbKeyboard : public CDisplayFixture {
 protected:
-    static void SetUpTestSuite() {
-        display = std::make_unique<CVirtualDisplay>("640x480x24");
-        keeper = std::make_unique<CTestClient>();
-    }
-    static void TearDownTestSuite() {
-        keeper.reset();
-        display.reset();
-    }
-
     CXcbKeyboard() {
         setLayout("us");
-        client->movePointer(600, 400);
+        user->movePointer(600, 400);
         spy.options.parent = handleOf(host);
         spy.onMessage = [this](const CWindowSpy::SMessage &message) { return remember(message); };
     }
     ~CXcbKeyboard() override {
-        client->destroyWindow(host);
+        user->destroyWindow(host);
         for (const auto &connection : CXcbConnection::getAll())
             connection->pump();
     }
@@ -59,14 +49,14 @@ protected:
     }
     void createFocused() {
         spy.create();
-        pumpAll(*client);  // it must be on the screen
-        client->focus(idOf(*spy.window));
-        pumpAll(*client);
+        pumpAll(*user);  // it must be on the screen
+        user->focus(idOf(*spy.window));
+        pumpAll(*user);
         ASSERT_EQ(spy.all(NativeSetFocus).size(), 1u);
     }
     void type(xcb_keysym_t key) {
-        client->typeKey(key);
-        pumpAll(*client);
+        user->typeKey(key);
+        pumpAll(*user);
     }
     /// @return the last key that went down.
     SKeyReport typed(xcb_keysym_t key) {
@@ -88,11 +78,9 @@ protected:
         ASSERT_EQ(std::system(("setxkbmap " + arguments).c_str()), 0);
     }
 
-    static inline std::unique_ptr<CVirtualDisplay> display;
-    static inline std::unique_ptr<CTestClient> keeper;  // the server restarts after the last client
     // Each test has its own, which releases the keys that it has pressed.
-    std::unique_ptr<CTestClient> client = std::make_unique<CTestClient>();
-    xcb_window_t host = client->createWindow({50, 60, 350, 260});
+    std::unique_ptr<CTestClient> user = std::make_unique<CTestClient>();
+    xcb_window_t host = user->createWindow({50, 60, 350, 260});
     CWindowSpy spy;
     std::vector<SKeyReport> keys;
 };
@@ -102,27 +90,27 @@ protected:
 TEST_F(CXcbKeyboard, ReportsTheFocus) {
     createFocused();
     EXPECT_THAT(spy.all(NativeKillFocus), IsEmpty());
-    client->focus(host);
-    pumpAll(*client);
+    user->focus(host);
+    pumpAll(*user);
     EXPECT_EQ(spy.all(NativeSetFocus).size(), 1u);
     EXPECT_EQ(spy.all(NativeKillFocus).size(), 1u);
 }
 
 TEST_F(CXcbKeyboard, TheFocusOfTheHostIsNotOurs) {
     spy.create();
-    client->movePointer(50 + 10 + 5, 60 + 20 + 5);
-    client->focus(host);
-    pumpAll(*client);
-    client->focus(XCB_INPUT_FOCUS_POINTER_ROOT);
-    pumpAll(*client);
+    user->movePointer(50 + 10 + 5, 60 + 20 + 5);
+    user->focus(host);
+    pumpAll(*user);
+    user->focus(XCB_INPUT_FOCUS_POINTER_ROOT);
+    pumpAll(*user);
     EXPECT_THAT(spy.all(NativeSetFocus), IsEmpty());
     EXPECT_THAT(spy.all(NativeKillFocus), IsEmpty());
 }
 
 TEST_F(CXcbKeyboard, AGrabDoesNotTakeTheFocus) {
     createFocused();
-    EXPECT_TRUE(client->canGrabKeyboard());
-    pumpAll(*client);
+    EXPECT_TRUE(user->canGrabKeyboard());
+    pumpAll(*user);
     EXPECT_EQ(spy.all(NativeSetFocus).size(), 1u);
     EXPECT_THAT(spy.all(NativeKillFocus), IsEmpty());
     type(XKB_KEY_a);
@@ -133,26 +121,26 @@ TEST_F(CXcbKeyboard, TheHostHasItsKeysWhileThePointerIsOverOurWindow) {
     const auto hostGetsKey = [&] {
         type(XKB_KEY_a);
         int presses = 0;
-        while (const auto event = ownReply(xcb_poll_for_event(client->get())))
+        while (const auto event = ownReply(xcb_poll_for_event(user->get())))
             presses += typeOf(*event) == XCB_KEY_PRESS ? 1 : 0;
         return presses == 1;
     };
     const std::uint32_t keyPresses = XCB_EVENT_MASK_KEY_PRESS;
-    xcb_change_window_attributes(client->get(), host, XCB_CW_EVENT_MASK, &keyPresses);
+    xcb_change_window_attributes(user->get(), host, XCB_CW_EVENT_MASK, &keyPresses);
     spy.create();
-    client->movePointer(50 + 10 + 5, 60 + 20 + 5);
-    client->focus(host);
+    user->movePointer(50 + 10 + 5, 60 + 20 + 5);
+    user->focus(host);
     EXPECT_TRUE(hostGetsKey());
     EXPECT_THAT(keys, IsEmpty());
 
-    client->focus(idOf(*spy.window));
-    pumpAll(*client);
+    user->focus(idOf(*spy.window));
+    pumpAll(*user);
     EXPECT_FALSE(hostGetsKey());
     EXPECT_THAT(downs(), ElementsAre('A'));
 
     keys.clear();
-    client->focus(host);
-    pumpAll(*client);
+    user->focus(host);
+    pumpAll(*user);
     EXPECT_TRUE(hostGetsKey());
     EXPECT_THAT(keys, IsEmpty());
 }
@@ -170,10 +158,10 @@ TEST_F(CXcbKeyboard, APopupThatWasGivenTheFocusHasKeysButReportsNoFocus) {
     spy.options.bounds = {200, 200, 300, 250};
     spy.create();
     spy.window->show();
-    pumpAll(*client);
+    pumpAll(*user);
     spy.messages.clear();
     spy.window->bringToFront();
-    pumpAll(*client);
+    pumpAll(*user);
     EXPECT_THAT(spy.all(NativeSetFocus), IsEmpty());
     type(XKB_KEY_a);
     EXPECT_THAT(downs(), ElementsAre('A'));
@@ -188,11 +176,11 @@ TEST_F(CXcbKeyboard, ADisabledWindowHasNoKeys) {
 
 TEST_F(CXcbKeyboard, AsksForNothingWithoutTheFocus) {
     spy.create();
-    client->focus(host);
-    pumpAll(*client);
+    user->focus(host);
+    pumpAll(*user);
     EXPECT_EQ(nativeCharacterOf('A', (38 - 8) << 16).number, 0);
-    client->focus(idOf(*spy.window));
-    pumpAll(*client);
+    user->focus(idOf(*spy.window));
+    pumpAll(*user);
     type(XKB_KEY_Shift_L);  // the answer comes before the first key
     EXPECT_EQ(nativeCharacterOf('A', (38 - 8) << 16).number, 1);
 }
@@ -204,7 +192,7 @@ TEST_F(CXcbKeyboard, AWindowMayGoInAKeyMessage) {
             spy.window.reset();
         return std::nullopt;
     };
-    client->typeKey(XKB_KEY_a);
+    user->typeKey(XKB_KEY_a);
     const auto isGone = [&] { return spy.window == nullptr; };
     EXPECT_TRUE(pumpUntil(isGone));
     EXPECT_THAT(spy.all(NativeKeyUp), IsEmpty());
@@ -217,8 +205,8 @@ TEST_F(CXcbKeyboard, AWindowMayGoInAFocusMessage) {
         return std::nullopt;
     };
     spy.create();
-    pumpAll(*client);
-    client->focus(idOf(*spy.window));
+    pumpAll(*user);
+    user->focus(idOf(*spy.window));
     const auto isGone = [&] { return spy.window == nullptr; };
     EXPECT_TRUE(pumpUntil(isGone));
 }
@@ -246,7 +234,7 @@ TEST_F(CXcbKeyboard, ReportsAKeyAsWindowsDoes) {
 
 TEST_F(CXcbKeyboard, ShiftMakesCapitals) {
     createFocused();
-    client->pressKey(XKB_KEY_Shift_R);
+    user->pressKey(XKB_KEY_Shift_R);
     const SKeyReport key = typed(XKB_KEY_a);
     EXPECT_EQ(key.virtualKey, unsigned{'A'});
     EXPECT_EQ(key.character.character, 'A');
@@ -275,11 +263,11 @@ TEST_F(CXcbKeyboard, AModifierIsDownInItsOwnMessage) {
     createFocused();
     for (const auto &[left, right, virtualKey, isDown] : modifiers) {
         keys.clear();
-        client->pressKey(left);
-        client->pressKey(right);
-        client->releaseKey(left);
-        client->releaseKey(right);
-        pumpAll(*client);
+        user->pressKey(left);
+        user->pressKey(right);
+        user->releaseKey(left);
+        user->releaseKey(right);
+        pumpAll(*user);
         ASSERT_EQ(keys.size(), 4u);
         for (const SKeyReport &key : keys)
             EXPECT_EQ(key.virtualKey, virtualKey);
@@ -293,7 +281,7 @@ TEST_F(CXcbKeyboard, AModifierIsDownInItsOwnMessage) {
 
 TEST_F(CXcbKeyboard, ControlTypesControlCharacters) {
     createFocused();
-    client->pressKey(XKB_KEY_Control_L);
+    user->pressKey(XKB_KEY_Control_L);
     const SKeyReport key = typed(XKB_KEY_a);
     EXPECT_EQ(key.virtualKey, unsigned{'A'});
     EXPECT_EQ(key.character.number, 1);
@@ -304,7 +292,7 @@ TEST_F(CXcbKeyboard, ControlTypesControlCharacters) {
 
 TEST_F(CXcbKeyboard, AltIsReported) {
     createFocused();
-    client->pressKey(XKB_KEY_Alt_L);
+    user->pressKey(XKB_KEY_Alt_L);
     const SKeyReport key = typed(XKB_KEY_a);
     EXPECT_EQ(key.virtualKey, unsigned{'A'});
     EXPECT_EQ(key.character.character, 'a');
@@ -316,9 +304,9 @@ TEST_F(CXcbKeyboard, CapsLockTurnsTheCaseOfLetters) {
     createFocused();
     type(XKB_KEY_Caps_Lock);
     const SKeyReport letter = typed(XKB_KEY_a), digit = typed(XKB_KEY_2);
-    client->pressKey(XKB_KEY_Shift_L);
+    user->pressKey(XKB_KEY_Shift_L);
     const SKeyReport shifted = typed(XKB_KEY_a);
-    client->releaseKey(XKB_KEY_Shift_L);
+    user->releaseKey(XKB_KEY_Shift_L);
     type(XKB_KEY_Caps_Lock);
     EXPECT_EQ(letter.text, "A");
     EXPECT_FALSE(letter.modifiers.isShiftDown);
@@ -344,10 +332,10 @@ TEST_F(CXcbKeyboard, TheNumberLockTurnsTheKeypad) {
 
 TEST_F(CXcbKeyboard, AKeyGoesUpAsWhatItWentDown) {
     createFocused();
-    client->pressKey(XKB_KEY_KP_Home);
-    client->typeKey(XKB_KEY_Num_Lock);
-    client->releaseKey(XKB_KEY_KP_Home);
-    client->typeKey(XKB_KEY_Num_Lock);
+    user->pressKey(XKB_KEY_KP_Home);
+    user->typeKey(XKB_KEY_Num_Lock);
+    user->releaseKey(XKB_KEY_KP_Home);
+    user->typeKey(XKB_KEY_Num_Lock);
     const auto isUp = [&] { return keys.size() == 6; };
     ASSERT_TRUE(pumpUntil(isUp));
     EXPECT_EQ(keys[0].virtualKey, 36u);
@@ -357,11 +345,11 @@ TEST_F(CXcbKeyboard, AKeyGoesUpAsWhatItWentDown) {
 
 TEST_F(CXcbKeyboard, AKeyThatRepeatsItselfDoesNotGoUp) {
     createFocused();
-    client->pressKey(XKB_KEY_a);
+    user->pressKey(XKB_KEY_a);
     const auto isRepeated = [&] { return keys.size() >= 4; };
     ASSERT_TRUE(pumpUntil(isRepeated));
-    client->releaseKey(XKB_KEY_a);
-    pumpAll(*client);
+    user->releaseKey(XKB_KEY_a);
+    pumpAll(*user);
     EXPECT_EQ(keys[0].lParam, 0x001E0001);
     for (std::size_t i = 1; i + 1 < keys.size(); ++i) {
         EXPECT_TRUE(keys[i].isDown) << i;
@@ -373,12 +361,12 @@ TEST_F(CXcbKeyboard, AKeyThatRepeatsItselfDoesNotGoUp) {
 
 TEST_F(CXcbKeyboard, AKeyThatWentUpElsewhereDoesNotRepeatItself) {
     createFocused();
-    client->pressKey(XKB_KEY_a);
-    client->focus(host);
-    client->releaseKey(XKB_KEY_a);
-    pumpAll(*client);
-    client->focus(idOf(*spy.window));
-    pumpAll(*client);
+    user->pressKey(XKB_KEY_a);
+    user->focus(host);
+    user->releaseKey(XKB_KEY_a);
+    pumpAll(*user);
+    user->focus(idOf(*spy.window));
+    pumpAll(*user);
     EXPECT_EQ(typed(XKB_KEY_a).lParam, 0x001E0001);
 }
 
@@ -388,7 +376,7 @@ TEST_F(CXcbKeyboard, FollowsAChangeOfTheLayout) {
     createFocused();
     EXPECT_EQ(typed(XKB_KEY_y).text, "y");
     setLayout("de");
-    pumpAll(*client);
+    pumpAll(*user);
     const SKeyReport key = typed(XKB_KEY_y);  // where z is in America
     EXPECT_EQ(key.text, "y");
     EXPECT_EQ(key.virtualKey, unsigned{'Y'});
@@ -402,19 +390,19 @@ TEST_F(CXcbKeyboard, FollowsAChangeOfTheLayout) {
 TEST_F(CXcbKeyboard, FollowsAChangeOfTheLayoutWhileTheFocusIsElsewhere) {
     createFocused();
     type(XKB_KEY_y);
-    client->focus(host);
-    pumpAll(*client);
+    user->focus(host);
+    pumpAll(*user);
     setLayout("de");
-    pumpAll(*client);
-    client->focus(idOf(*spy.window));
-    pumpAll(*client);
+    pumpAll(*user);
+    user->focus(idOf(*spy.window));
+    pumpAll(*user);
     EXPECT_EQ(typed(XKB_KEY_udiaeresis).text, "\xC3\xBC");
 }
 
 TEST_F(CXcbKeyboard, AThirdLevelIsNeitherControlNorAlt) {
     setLayout("de");
     createFocused();
-    client->pressKey(XKB_KEY_ISO_Level3_Shift);
+    user->pressKey(XKB_KEY_ISO_Level3_Shift);
     const SKeyReport key = typed(XKB_KEY_q);
     EXPECT_EQ(key.text, "@");
     EXPECT_EQ(key.character.character, '@');
@@ -436,7 +424,7 @@ TEST_F(CXcbKeyboard, AnotherAlphabetHasTheKeysOfAmerica) {
     const SKeyReport key = typed(XKB_KEY_Cyrillic_ef);
     EXPECT_EQ(key.virtualKey, unsigned{'A'});
     EXPECT_EQ(key.text, "\xD1\x84");
-    client->pressKey(XKB_KEY_Control_L);
+    user->pressKey(XKB_KEY_Control_L);
     EXPECT_EQ(typed(XKB_KEY_Cyrillic_ef).character.character, 1);
 }
 
@@ -444,9 +432,9 @@ TEST_F(CXcbKeyboard, FollowsTheGroup) {
     setLayout("us,ru -option grp:menu_toggle");
     createFocused();
     EXPECT_EQ(typed(XKB_KEY_a).text, "a");
-    client->typeKey(XKB_KEY_ISO_Next_Group);
+    user->typeKey(XKB_KEY_ISO_Next_Group);
     const SKeyReport key = typed(XKB_KEY_a);
-    client->typeKey(XKB_KEY_ISO_Next_Group);
+    user->typeKey(XKB_KEY_ISO_Next_Group);
     setLayout("us -option");
     EXPECT_EQ(key.text, "\xD1\x84");
     EXPECT_EQ(key.virtualKey, unsigned{'A'});
@@ -479,10 +467,10 @@ TEST_F(CXcbKeyboard, AnAccentIsForgottenWithTheFocus) {
     setLayout("fr");
     createFocused();
     type(XKB_KEY_dead_circumflex);
-    client->focus(host);
-    pumpAll(*client);
-    client->focus(idOf(*spy.window));
-    pumpAll(*client);
+    user->focus(host);
+    pumpAll(*user);
+    user->focus(idOf(*spy.window));
+    pumpAll(*user);
     EXPECT_EQ(typed(XKB_KEY_e).text, "e");
 }
 

@@ -1,7 +1,6 @@
 #include "platform/linux/windowing/text/CXcbSelections.h"
 
-#include "platform/linux/CVirtualDisplay.h"
-#include "platform/linux/windowing/CTestClient.h"
+#include "platform/linux/windowing/CDisplayFixture.h"
 #include "platform/linux/windowing/connection/XcbReply.h"
 
 #include <gtest/gtest.h>
@@ -194,17 +193,8 @@ private:
     std::size_t m_sent = 0;
 };
 
-class CXcbSelectionsTest : public testing::Test {
+class CXcbSelectionsTest : public CDisplayFixture {
 protected:
-    static void SetUpTestSuite() {
-        display = std::make_unique<CVirtualDisplay>("640x480x24");
-        host = std::make_unique<CTestClient>();  // keeps the server from starting anew
-    }
-    static void TearDownTestSuite() {
-        host.reset();
-        display.reset();
-    }
-
     void offer(const std::string &text) {
         selections.offer(1, atoms.clipboard, text);
         pumpAll(peer.client);
@@ -226,9 +216,6 @@ protected:
             pumpAll(peer.client);
         }
     }
-
-    static inline std::unique_ptr<CVirtualDisplay> display;
-    static inline std::unique_ptr<CTestClient> host;
 
     std::string reason;
     std::shared_ptr<CXcbConnection> connection = CXcbConnection::open(reason);

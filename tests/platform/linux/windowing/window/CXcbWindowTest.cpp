@@ -1,7 +1,6 @@
 #include "platform/linux/windowing/window/CXcbWindow.h"
 
-#include "platform/linux/CVirtualDisplay.h"
-#include "platform/linux/windowing/CTestClient.h"
+#include "platform/linux/windowing/CDisplayFixture.h"
 #include "platform/linux/windowing/WindowIds.h"
 #include "platform/linux/windowing/WindowProperty.h"
 #include "platform/linux/windowing/connection/CXcbConnection.h"
@@ -17,17 +16,8 @@ using testing::IsEmpty;
 constexpr std::uint32_t black = 0;
 
 /// The windows of a host's window of 300 by 200, which lies at 50, 60.
-class CXcbWindows : public testing::Test {
+class CXcbWindows : public CDisplayFixture {
 protected:
-    static void SetUpTestSuite() {
-        display = std::make_unique<CVirtualDisplay>("640x480x24");
-        client = std::make_unique<CTestClient>();
-    }
-    static void TearDownTestSuite() {
-        client.reset();
-        display.reset();
-    }
-
     CXcbWindows() { spy.options.parent = handleOf(parent); }
     ~CXcbWindows() override { client->destroyWindow(parent); }
 
@@ -51,8 +41,6 @@ protected:
         return reply && reply->map_state != XCB_MAP_STATE_UNMAPPED;
     }
 
-    static inline std::unique_ptr<CVirtualDisplay> display;
-    static inline std::unique_ptr<CTestClient> client;
     xcb_window_t parent = client->createWindow({50, 60, 350, 260});
     CWindowSpy spy;
 };

@@ -1,4 +1,4 @@
-#include "tools/support/Programs.h"
+#include "tools/support/StoredPrograms.h"
 
 #include "corvel/CEffectInstance.h"
 #include "dspclasses/strip/CChainOrder.h"
