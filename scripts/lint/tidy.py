@@ -86,7 +86,7 @@ def main(arguments):
     if not commands:
         sys.exit("tidy.py: no sources there")
     with ThreadPoolExecutor(os.cpu_count()) as pool:
-        # Backwards: tools/corvel/main.cpp takes longest, and must not be left to one processor.
+        # Backwards: tools/corvel/commandline takes longest, and must not be left to one processor.
         sources = sorted(commands, reverse=True)
         outputs = pool.map(lambda source: tidy(source, commands[source]), sources)
         findings = {finding for output in outputs for finding in findings_in(output) if finding}

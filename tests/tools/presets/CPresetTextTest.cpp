@@ -1,6 +1,6 @@
 #include "corvel/presets/CPresetText.h"
 
-#include "corvel/Chain.h"
+#include "corvel/settings/Chain.h"
 #include "tools/support/StoredPrograms.h"
 
 #include <gmock/gmock.h>

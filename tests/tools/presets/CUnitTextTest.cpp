@@ -1,7 +1,7 @@
 #include "corvel/presets/CUnitText.h"
 
-#include "corvel/CEffectInstance.h"
-#include "corvel/Errors.h"
+#include "corvel/console/Errors.h"
+#include "corvel/effect/CEffectInstance.h"
 #include "dspclasses/parameters/ParameterIds.h"
 
 #include <gmock/gmock.h>

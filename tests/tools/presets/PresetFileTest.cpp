@@ -1,6 +1,6 @@
 #include "corvel/presets/PresetFile.h"
 
-#include "corvel/Errors.h"
+#include "corvel/console/Errors.h"
 #include "tools/support/CTemporaryFolder.h"
 #include "tools/support/StoredPrograms.h"
 

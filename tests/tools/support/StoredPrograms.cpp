@@ -1,6 +1,6 @@
 #include "tools/support/StoredPrograms.h"
 
-#include "corvel/CEffectInstance.h"
+#include "corvel/effect/CEffectInstance.h"
 #include "dspclasses/strip/CChainOrder.h"
 
 #include <cstring>

@@ -1,8 +1,8 @@
 #include "corvel/presets/CPresetText.h"
 
-#include "corvel/Errors.h"
-#include "corvel/Printable.h"
-#include "corvel/Text.h"
+#include "corvel/console/Errors.h"
+#include "corvel/console/Printable.h"
+#include "corvel/console/Text.h"
 #include "corvel/presets/Encoding.h"
 #include "corvel/presets/RecordJson.h"
 #include "corvel/presets/StrictJson.h"

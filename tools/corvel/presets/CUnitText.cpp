@@ -1,7 +1,7 @@
 #include "corvel/presets/CUnitText.h"
 
-#include "corvel/Errors.h"
-#include "corvel/Text.h"
+#include "corvel/console/Errors.h"
+#include "corvel/console/Text.h"
 #include "corvel/presets/Encoding.h"
 #include "dspclasses/parameters/ParameterTable.h"
 #include "dspclasses/parameters/ParameterTexts.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "corvel/CParameterText.h"
+#include "corvel/settings/CParameterText.h"
 
 #include <array>
 #include <memory>

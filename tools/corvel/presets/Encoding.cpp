@@ -1,7 +1,7 @@
 #include "corvel/presets/Encoding.h"
 
-#include "corvel/Printable.h"
-#include "corvel/Text.h"
+#include "corvel/console/Printable.h"
+#include "corvel/console/Text.h"
 
 namespace Tessitor::Tool {
 

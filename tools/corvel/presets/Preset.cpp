@@ -1,6 +1,6 @@
 #include "corvel/presets/Preset.h"
 
-#include "corvel/Text.h"
+#include "corvel/console/Text.h"
 #include "corvel/presets/Encoding.h"
 #include "dspclasses/parameters/ParameterTable.h"
 

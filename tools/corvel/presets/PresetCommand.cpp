@@ -1,8 +1,8 @@
 #include "corvel/presets/PresetCommand.h"
 
-#include "corvel/Errors.h"
-#include "corvel/Print.h"
-#include "corvel/Text.h"
+#include "corvel/console/Errors.h"
+#include "corvel/console/Print.h"
+#include "corvel/console/Text.h"
 #include "corvel/presets/CPresetText.h"
 #include "corvel/presets/CUnitText.h"
 #include "corvel/presets/Encoding.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "corvel/CEffectSettings.h"
+#include "corvel/settings/CEffectSettings.h"
 
 #include <optional>
 #include <string>

@@ -1,8 +1,8 @@
 #include "corvel/presets/PresetFile.h"
 
-#include "corvel/CPendingFile.h"
-#include "corvel/Errors.h"
-#include "corvel/Text.h"
+#include "corvel/console/Errors.h"
+#include "corvel/console/Text.h"
+#include "corvel/files/CPendingFile.h"
 #include "corvel/presets/CPresetText.h"
 #include "corvel/presets/FxContainer.h"
 

@@ -1,9 +1,9 @@
 #include "corvel/presets/RecordJson.h"
 
-#include "corvel/Chain.h"
-#include "corvel/Text.h"
+#include "corvel/console/Text.h"
 #include "corvel/presets/Encoding.h"
 #include "corvel/presets/StrictJson.h"
+#include "corvel/settings/Chain.h"
 
 #include <algorithm>
 #include <charconv>

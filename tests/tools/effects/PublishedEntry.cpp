@@ -1,5 +1,0 @@
-#include "tools/effects/TestEffect.h"
-
-extern "C" [[gnu::visibility("default")]] AEffect *VSTPluginMain(audioMasterCallback host) {
-    return enterTestEffect(host);
-}

@@ -1,0 +1,5 @@
+#include "tools/support/effects/TestEffect.h"
+
+extern "C" [[gnu::visibility("default")]] AEffect *VSTPluginMain(audioMasterCallback /*host*/) {
+    return nullptr;
+}

@@ -1,0 +1,90 @@
+#include "corvel/audio/CAudioWriter.h"
+
+#include "corvel/audio/OutputFormat.h"
+#include "corvel/audio/Quantise.h"
+#include "corvel/console/Errors.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <system_error>
+
+namespace Tessitor::Tool {
+
+namespace {
+
+std::int64_t writeFrames(SNDFILE *file, const float *samples, std::int64_t frames) {
+    return sf_writef_float(file, samples, frames);
+}
+
+std::int64_t writeFrames(SNDFILE *file, const double *samples, std::int64_t frames) {
+    return sf_writef_double(file, samples, frames);
+}
+
+// @return -1 if the file is not audio or its length is unknown.
+std::int64_t framesIn(const std::filesystem::path &file) {
+    SF_INFO info{};
+    const std::unique_ptr<SNDFILE, SSoundFileCloser> opened(sf_open(file.c_str(), SFM_READ, &info));
+    return opened != nullptr && info.frames != SF_COUNT_MAX ? info.frames : -1;
+}
+
+}  // namespace
+
+CAudioWriter::CAudioWriter(const std::filesystem::path &file, EExisting existing, int format,
+                           int sampleRate, int channels)
+    : m_place(file), m_channels(channels), m_bits(integerBits(format)), m_pending(file, existing) {
+    SF_INFO info{};
+    info.format = format;
+    info.samplerate = sampleRate;
+    info.channels = channels;
+    m_file.reset(sf_open(m_pending.path().c_str(), SFM_WRITE, &info));
+    if (m_file == nullptr)
+        fail(describeFormat(format) + ", does not support " + std::to_string(sampleRate) + " Hz");
+    // The peak chunk contains the time of day. With it, each run would write a different file.
+    sf_command(m_file.get(), SFC_SET_ADD_PEAK_CHUNK, nullptr, SF_FALSE);
+}
+
+void CAudioWriter::write(const float *samples, std::int64_t frames) {
+    writeAll(samples, frames);
+}
+
+void CAudioWriter::write(const double *samples, std::int64_t frames) {
+    writeAll(samples, frames);
+}
+
+template <typename Sample>
+void CAudioWriter::writeAll(const Sample *samples, std::int64_t frames) {
+    std::int64_t written = 0;
+    errno = 0;
+    if (m_bits == 0) {
+        written = writeFrames(m_file.get(), samples, frames);
+    } else {
+        const auto count = static_cast<std::size_t>(frames * m_channels);
+        m_integers.resize(std::max(m_integers.size(), count));
+        m_clipped += quantise(samples, count, m_bits, m_integers.data());
+        written = sf_writef_int(m_file.get(), m_integers.data(), frames);
+    }
+    if (written != frames)
+        failWith(errno);
+    m_frames += frames;
+}
+
+void CAudioWriter::finish() {
+    errno = 0;
+    sf_close(m_file.release());
+    const int systemError = errno;
+    // libsndfile does not report every error at the end of encoding.
+    if (framesIn(m_pending.path()) < m_frames)
+        failWith(systemError);
+    m_pending.commit();
+}
+
+void CAudioWriter::failWith(int systemError) const {
+    fail(systemError != 0 ? std::system_category().message(systemError)
+                          : "the file could not be completed");
+}
+
+void CAudioWriter::fail(const std::string &reason) const {
+    throw CJobError(m_place.string() + ": cannot be written (" + reason + ")");
+}
+
+}  // namespace Tessitor::Tool

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "corvel/audio/CAudioReader.h"
+#include "corvel/files/CPendingFile.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace Tessitor::Tool {
+
+/// Writes an audio file. It appears only when finish() succeeds, so it is never incomplete.
+class CAudioWriter {
+public:
+    /// @param format  libsndfile's format code.
+    /// @throws CJobError if the file cannot be created.
+    CAudioWriter(const std::filesystem::path &file, EExisting existing, int format, int sampleRate,
+                 int channels);
+
+    int channels() const { return m_channels; }
+
+    /// Appends interleaved samples. Integer formats round and clip them; floating-point formats do
+    /// not change them.
+    /// @throws CJobError if the file cannot be written.
+    void write(const float *samples, std::int64_t frames);
+    void write(const double *samples, std::int64_t frames);
+
+    /// Completes the file and gives it its final name.
+    /// @throws CJobError if that fails.
+    void finish();
+
+    std::uint64_t clippedSamples() const { return m_clipped; }
+
+private:
+    template <typename Sample>
+    void writeAll(const Sample *samples, std::int64_t frames);
+    [[noreturn]] void failWith(int systemError) const;
+    [[noreturn]] void fail(const std::string &reason) const;
+
+    std::filesystem::path m_place;
+    int m_channels;
+    int m_bits;                 // per integer sample; 0 for floating point
+    std::int64_t m_frames = 0;  // written
+    std::uint64_t m_clipped = 0;
+    std::vector<std::int32_t> m_integers;
+    CPendingFile m_pending;  // must outlive m_file
+    std::unique_ptr<SNDFILE, SSoundFileCloser> m_file;
+};
+
+}  // namespace Tessitor::Tool

@@ -1,0 +1,214 @@
+#include "corvel/audio/OutputFormat.h"
+
+#include "corvel/console/Errors.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <limits>
+#include <sndfile.h>
+#include <vector>
+
+namespace Tessitor::Tool {
+
+namespace {
+
+struct SContainer {
+    const char *name;      // in --format
+    const char *title;     // in messages
+    int format;            // to write
+    std::vector<int> kin;  // variants: read, and kept in the output
+    std::vector<std::string_view> extensions;
+    std::vector<int> sampleTypes;  // the least lossy first
+};
+
+const std::array<SContainer, 4> containers = {{
+    {"wav",
+     "WAV",
+     SF_FORMAT_WAV,
+     {SF_FORMAT_WAVEX, SF_FORMAT_RF64},
+     {".wav", ".wave"},
+     {SF_FORMAT_DOUBLE, SF_FORMAT_FLOAT, SF_FORMAT_PCM_32, SF_FORMAT_PCM_24, SF_FORMAT_PCM_16,
+      SF_FORMAT_PCM_U8}},
+    {"aiff",
+     "AIFF",
+     SF_FORMAT_AIFF,
+     {},
+     {".aiff", ".aif", ".aifc"},
+     {SF_FORMAT_DOUBLE, SF_FORMAT_FLOAT, SF_FORMAT_PCM_32, SF_FORMAT_PCM_24, SF_FORMAT_PCM_16,
+      SF_FORMAT_PCM_S8}},
+    {"flac",
+     "FLAC",
+     SF_FORMAT_FLAC,
+     {},
+     {".flac"},
+     {SF_FORMAT_PCM_24, SF_FORMAT_PCM_16, SF_FORMAT_PCM_S8}},
+    {"ogg", "Ogg", SF_FORMAT_OGG, {}, {".ogg", ".oga"}, {SF_FORMAT_VORBIS, SF_FORMAT_OPUS}},
+}};
+
+struct SSampleType {
+    const char *name;   // in --format
+    const char *title;  // in messages
+    int format;
+    int bits;  // per integer sample; 0 for floating point
+};
+
+constexpr SSampleType sampleTypes[] = {
+    {"8", "8-bit", SF_FORMAT_PCM_U8, 8},
+    {"8", "8-bit", SF_FORMAT_PCM_S8, 8},
+    {"16", "16-bit", SF_FORMAT_PCM_16, 16},
+    {"24", "24-bit", SF_FORMAT_PCM_24, 24},
+    {"32", "32-bit", SF_FORMAT_PCM_32, 32},
+    {"float", "32-bit float", SF_FORMAT_FLOAT, 0},
+    {"double", "64-bit float", SF_FORMAT_DOUBLE, 0},
+    {"vorbis", "Vorbis", SF_FORMAT_VORBIS, 0},
+    {"opus", "Opus", SF_FORMAT_OPUS, 0},
+};
+
+// Companded and adaptive sample types are encoded from 16-bit integers.
+constexpr SSampleType companded = {"", "compressed", 0, 16};
+
+int containerOf(int format) {
+    return format & SF_FORMAT_TYPEMASK;
+}
+
+int sampleTypeOf(int format) {
+    return format & SF_FORMAT_SUBMASK;
+}
+
+template <typename Value>
+bool contains(const std::vector<Value> &values, const std::type_identity_t<Value> &value) {
+    return std::find(values.begin(), values.end(), value) != values.end();
+}
+
+const SContainer *findContainer(int format) {
+    const int wanted = containerOf(format);
+    for (const SContainer &container : containers)
+        if (container.format == wanted || contains(container.kin, wanted))
+            return &container;
+    return nullptr;
+}
+
+const SSampleType &findSampleType(int format) {
+    for (const SSampleType &type : sampleTypes)
+        if (type.format == sampleTypeOf(format))
+            return type;
+    return companded;
+}
+
+std::string inSmallLetters(std::string text) {
+    std::transform(text.begin(), text.end(), text.begin(),
+                   [](unsigned char letter) { return static_cast<char>(std::tolower(letter)); });
+    return text;
+}
+
+// @return null if the extension belongs to no container.
+const SContainer *containerOfExtension(const std::filesystem::path &file) {
+    const std::string extension = inSmallLetters(file.extension().string());
+    for (const SContainer &container : containers)
+        if (contains(container.extensions, std::string_view(extension)))
+            return &container;
+    return nullptr;
+}
+
+// Integers stay integers if the container supports them, since players expect them.
+int nearestSampleType(const SContainer &container, int inputFormat) {
+    const int sampleType = sampleTypeOf(inputFormat);
+    if (contains(container.sampleTypes, sampleType))
+        return sampleType;
+    const int bits = integerBits(inputFormat);
+    if (bits == 0 && contains(container.sampleTypes, SF_FORMAT_FLOAT))
+        return SF_FORMAT_FLOAT;
+    for (const int candidate : container.sampleTypes)
+        if (bits != 0 && integerBits(candidate) == bits)
+            return candidate;
+    return container.sampleTypes.front();
+}
+
+}  // namespace
+
+SFormatRequest formatFromText(std::string_view text) {
+    const std::size_t colon = text.find(':');
+    const std::string name = inSmallLetters(std::string(text.substr(0, colon)));
+    const auto container =
+        std::find_if(containers.begin(), containers.end(),
+                     [&](const SContainer &candidate) { return candidate.name == name; });
+    if (container == containers.end())
+        throw CCallError("--format: no container \"" + name + "\"; use wav, aiff, flac or ogg");
+    if (colon == std::string_view::npos)
+        return {container->format, 0};
+
+    const std::string type = inSmallLetters(std::string(text.substr(colon + 1)));
+    std::string known;
+    for (const int candidate : container->sampleTypes) {
+        if (findSampleType(candidate).name == type)
+            return {container->format, candidate};
+        known += (known.empty() ? "" : ", ") + std::string(findSampleType(candidate).name);
+    }
+    throw CCallError("--format: " + name + " has no sample type \"" + type + "\"; use " + known);
+}
+
+int outputFormat(int inputFormat, const SFormatRequest &request, const std::filesystem::path &out) {
+    const SContainer *input = findContainer(inputFormat);
+    const SContainer *asked =
+        request.container != 0 ? findContainer(request.container) : containerOfExtension(out);
+    const SContainer &container = asked != nullptr ? *asked : *input;
+    if (request.sampleType != 0)
+        return container.format | request.sampleType;
+    if (&container == input)
+        return inputFormat;
+    return container.format | nearestSampleType(container, inputFormat);
+}
+
+bool isExtensionOf(int container, const std::filesystem::path &file) {
+    return containerOfExtension(file) == findContainer(container);
+}
+
+std::string problemOfName(const std::filesystem::path &out, const SFormatRequest &request) {
+    const SContainer *const ending = containerOfExtension(out);
+    if (ending == nullptr && request.container == 0 && out.has_extension()) {
+        std::string endings;
+        for (const SContainer &container : containers)
+            for (const std::string_view extension : container.extensions)
+                endings.append(endings.empty() ? "" : " ").append(extension);
+        return "corvel does not write " + out.extension().string() + "; use --format or one of " +
+               endings;
+    }
+    if (ending != nullptr && request.container != 0 && ending != findContainer(request.container))
+        return std::string("its ending means ").append(ending->title) + ", but --format asks for " +
+               findContainer(request.container)->title;
+    return "";
+}
+
+int formatForLength(int format, std::int64_t frames, int channels,
+                    const std::filesystem::path &out) {
+    // Rounded up to whole bytes, with room for the header.
+    const int bits = integerBits(format);
+    const int bytes = bits != 0 ? bits / 8 : sampleTypeOf(format) == SF_FORMAT_DOUBLE ? 8 : 4;
+    constexpr std::int64_t limit = std::numeric_limits<std::uint32_t>::max() - 4096;
+    if (frames <= limit / bytes / channels)
+        return format;
+    if (containerOf(format) == SF_FORMAT_AIFF)
+        throw CJobError(out.string() + ": too long for AIFF, which cannot exceed 4 GiB");
+    if (containerOf(format) == SF_FORMAT_WAV || containerOf(format) == SF_FORMAT_WAVEX)
+        return SF_FORMAT_RF64 | sampleTypeOf(format);
+    return format;
+}
+
+bool isKnownContainer(int format) {
+    return findContainer(format) != nullptr;
+}
+
+std::string extensionOf(int format) {
+    return std::string(findContainer(format)->extensions.front());
+}
+
+std::string describeFormat(int format) {
+    return std::string(findContainer(format)->title) + ", " + findSampleType(format).title;
+}
+
+int integerBits(int format) {
+    return findSampleType(format).bits;
+}
+
+}  // namespace Tessitor::Tool

@@ -1,0 +1,177 @@
+#include "corvel/batch/RenderReport.h"
+
+#include "corvel/console/Text.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace Tessitor::Tool {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+std::string describeFile(const std::filesystem::path &file, const SRenderResult &result,
+                         int channels, int format) {
+    return file.string() + " (" + std::to_string(result.sampleRate) + " Hz, " +
+           (channels == 1 ? "mono" : "stereo") + ", " + describeFormat(format) + ")";
+}
+
+std::string twoDigits(std::int64_t number) {
+    std::string text = std::to_string(number);
+    return text.insert(0, number < 10 ? 1 : 0, '0');
+}
+
+// Minutes, seconds and milliseconds; from an hour up, hours, minutes and seconds
+std::string describeDuration(double seconds) {
+    constexpr std::int64_t minute = 60, hour = 60 * minute;
+    const std::int64_t whole = std::llround(seconds);
+    if (whole >= hour)
+        return std::to_string(whole / hour) + ":" + twoDigits(whole / minute % minute) + ":" +
+               twoDigits(whole % minute);
+    const auto milliseconds = std::llround(seconds * 1000.0);
+    const double beyondMinute = static_cast<double>(milliseconds % 60000) / 1000.0;
+    return std::to_string(milliseconds / 60000) + (beyondMinute < 10.0 ? ":0" : ":") +
+           decimal(beyondMinute, 3);
+}
+
+std::string counted(std::uint64_t number, const std::string &thing) {
+    return std::to_string(number) + " " + thing + (number == 1 ? "" : "s");
+}
+
+std::string describeLevels(const CLevels &levels) {
+    return "peak " + decimal(decibels(levels.peak()), 2) + " dBFS, RMS " +
+           decimal(decibels(levels.rms()), 2) + " dBFS";
+}
+
+std::string describeChain(const Chain &chain) {
+    std::string text;
+    for (const int slot : chain)
+        text += (text.empty() ? "" : ", ") + std::string(moduleLabel(slot));
+    return text.empty() ? "none" : text;
+}
+
+Json numberOrNull(double number) {
+    return std::isfinite(number) ? Json(number) : Json();
+}
+
+Json toJson(const CLevels &levels) {
+    return {{"peak", numberOrNull(decibels(levels.peak()))},
+            {"rms", numberOrNull(decibels(levels.rms()))}};
+}
+
+Json toJson(const SRenderOutcome &outcome) {
+    Json json = {{"in", outcome.job.in.string()}, {"out", outcome.job.out.string()}};
+    switch (outcome.kind) {
+    case EOutcome::Interrupted:
+        json["error"] = "interrupted";
+        return json;
+    case EOutcome::Failed:
+        json["error"] = outcome.error;
+        return json;
+    case EOutcome::Skipped:
+        json["skipped"] = true;
+        return json;
+    case EOutcome::Rendered:
+        break;
+    }
+    const SRenderResult &result = outcome.result;
+    json["sampleRate"] = result.sampleRate;
+    json["channelsIn"] = result.channelsIn;
+    json["channelsOut"] = result.channelsOut;
+    json["formatIn"] = describeFormat(result.formatIn);
+    json["formatOut"] = describeFormat(result.formatOut);
+    json["framesIn"] = result.framesIn;
+    json["framesOut"] = result.framesOut;
+    json["seconds"] = result.seconds();
+    json["levelIn"] = toJson(result.levelsIn);
+    json["levelOut"] = toJson(result.levelsOut);
+    json["clippedSamples"] = result.clippedSamples;
+    json["nonFiniteSamples"] = result.nonFiniteSamples;
+    json["renderSeconds"] = result.renderSeconds;
+    json["timesRealTime"] = result.timesRealTime();
+    return json;
+}
+
+}  // namespace
+
+std::string describe(const SRenderOutcome &outcome, const CEffectSettings &settings) {
+    const SRenderResult &result = outcome.result;
+    std::vector<std::vector<std::string>> rows = {
+        {"in", describeFile(outcome.job.in, result, result.channelsIn, result.formatIn)},
+        {"out", describeFile(outcome.job.out, result, result.channelsOut, result.formatOut)},
+        {"duration", describeDuration(result.seconds())},
+        {"program", settings.programName()}};
+    if (settings.chain())
+        rows.push_back({"chain", describeChain(*settings.chain())});
+    for (const auto &assignment : settings.assignments())
+        rows.push_back({"set", assignment.name + " = " + assignment.display});
+    rows.push_back({"level in", describeLevels(result.levelsIn)});
+    rows.push_back({"level out", describeLevels(result.levelsOut)});
+    rows.push_back({"speed", decimal(result.timesRealTime(), 1) + " times real time"});
+    return inColumns(rows);
+}
+
+std::vector<std::string> warnings(const SRenderOutcome &outcome, const SRenderOptions &options) {
+    const SRenderResult &result = outcome.result;
+    std::vector<std::string> lines;
+    if (result.nonFiniteSamples > 0) {
+        lines.push_back("warning: " + outcome.job.in.string() + ": " +
+                        counted(result.nonFiniteSamples, "sample") + " infinite or not a number, " +
+                        (options.keepNan ? "kept" : "rendered as 0; --keep-nan keeps them"));
+    }
+    if (result.clippedSamples > 0)
+        lines.push_back("warning: " + outcome.job.out.string() + ": " +
+                        counted(result.clippedSamples, "sample") + " clipped");
+    return lines;
+}
+
+std::vector<std::string> notes(const std::vector<SRenderOutcome> &outcomes,
+                               const SRenderOptions &options) {
+    std::vector<const SRenderOutcome *> others;
+    for (const SRenderOutcome &outcome : outcomes)
+        if (outcome.kind == EOutcome::Rendered && outcome.result.sampleRate != stripRate)
+            others.push_back(&outcome);
+    if (others.empty() || options.resample)
+        return {};
+    const std::string reason = ", but the strip is tuned for 44100 Hz; --resample converts";
+    if (others.size() == 1)
+        return {"note: " + others.front()->job.in.string() + ": " +
+                std::to_string(others.front()->result.sampleRate) + " Hz" + reason};
+    return {"note: " + std::to_string(others.size()) + " files have another sample rate" + reason};
+}
+
+std::size_t count(const std::vector<SRenderOutcome> &outcomes, EOutcome kind) {
+    return static_cast<std::size_t>(
+        std::count_if(outcomes.begin(), outcomes.end(),
+                      [&](const SRenderOutcome &outcome) { return outcome.kind == kind; }));
+}
+
+std::string summary(const std::vector<SRenderOutcome> &outcomes) {
+    std::string text = std::to_string(count(outcomes, EOutcome::Rendered)) + " of " +
+                       std::to_string(outcomes.size()) + " files rendered";
+    if (const std::size_t skipped = count(outcomes, EOutcome::Skipped))
+        text += ", " + std::to_string(skipped) + " skipped";
+    if (const std::size_t failed = count(outcomes, EOutcome::Failed))
+        text += ", " + std::to_string(failed) + " failed";
+    return text;
+}
+
+Json toJson(const std::vector<SRenderOutcome> &outcomes, const CEffectSettings &settings,
+            const CEffectLibrary &library) {
+    Json json = {{"effect", library.file().string()}, {"program", settings.programName()}};
+    if (settings.chain()) {
+        json["chain"] = Json::array();
+        for (const int slot : *settings.chain())
+            json["chain"].push_back(moduleLabel(slot));
+    }
+    json["set"] = Json::object();
+    for (const auto &assignment : settings.assignments())
+        json["set"][assignment.name] = assignment.display;
+    json["files"] = Json::array();
+    for (const SRenderOutcome &outcome : outcomes)
+        json["files"].push_back(toJson(outcome));
+    return json;
+}
+
+}  // namespace Tessitor::Tool

@@ -1,0 +1,80 @@
+#include "corvel/commandline/CallErrors.h"
+
+#include <algorithm>
+#include <string_view>
+
+namespace Tessitor::Tool {
+
+namespace {
+
+constexpr std::string_view prefix = "./";
+
+bool isOption(const std::string &argument) {
+    return argument.size() > 1 && argument.starts_with('-');
+}
+
+// "++" ends a command, and brackets around a name would be removed.
+bool isMisread(const std::string &name) {
+    return isOption(name) || name == "++" || (name.starts_with('[') && name.ends_with(']'));
+}
+
+// The parser's texts name the option, but each in another place.
+std::string optionIn(const std::string &text) {
+    const std::size_t begin = text.find("--");
+    if (begin == std::string::npos)
+        return "";
+    return text.substr(begin, text.find_first_of(" :,", begin) - begin);
+}
+
+std::string describeExtra(const std::string &command, const std::string &extra) {
+    if (extra.starts_with('-'))
+        return "corvel" + (command == "corvel" ? "" : " " + command) + " has no option " + extra;
+    if (command == "corvel")
+        return "there is no command \"" + extra + "\"; corvel --help lists them";
+    return "corvel " + command + " does not expect \"" + extra + "\"";
+}
+
+}  // namespace
+
+std::vector<std::string> argumentsForParser(int argc, char **argv) {
+    std::vector<std::string> arguments(argv + 1, argv + argc);
+    if (!arguments.empty() && arguments.front() == "help") {
+        arguments.erase(arguments.begin());
+        arguments.emplace_back("--help");
+    }
+    const auto mark = std::find(arguments.begin(), arguments.end(), "--");
+    for (auto argument = arguments.begin(); argument != arguments.end(); ++argument)
+        if (isMisread(*argument) && (argument > mark || !isOption(*argument)))
+            argument->insert(0, prefix);
+    if (mark != arguments.end())
+        arguments.erase(mark);
+    std::reverse(arguments.begin(), arguments.end());
+    return arguments;
+}
+
+std::vector<std::string> namesAsTyped(std::vector<std::string> names) {
+    for (std::string &name : names)
+        if (name.starts_with(prefix) && isMisread(name.substr(prefix.size())))
+            name.erase(0, prefix.size());
+    return names;
+}
+
+std::string describe(const CLI::ParseError &error) {
+    std::string text = error.what();
+    const std::string option = optionIn(text);
+    if (dynamic_cast<const CLI::ExtrasError *>(&error) != nullptr)
+        return describeExtra(error.get_name(), text.substr(text.find(": ") + 2));
+    if (dynamic_cast<const CLI::ValidationError *>(&error) != nullptr)
+        return text;  // written by our own validators
+    if (option.empty())
+        return "the command line cannot be understood; see corvel --help";
+    if (dynamic_cast<const CLI::ConversionError *>(&error) != nullptr)
+        return option + ": the value is not possible; see corvel --help";
+    if (text.find("missing") != std::string::npos)
+        return option + ": needs a value";
+    if (text.find("override") != std::string::npos)
+        return option + ": takes no value";
+    return option + ": may be given only once";
+}
+
+}  // namespace Tessitor::Tool

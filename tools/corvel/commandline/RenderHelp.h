@@ -1,0 +1,66 @@
+#pragma once
+
+namespace Tessitor::Tool {
+
+inline constexpr const char *renderHelp = R"(
+Files
+  OUT is a file, or a folder if it exists as one or ends in a slash. --out-dir names a folder
+  instead, and then all FILES are inputs. In a folder, which is created if necessary, outputs
+  are named after their inputs. Several inputs always need a folder; they are rendered on all
+  cores, each through its own instance of the effect. If one fails, the others are still
+  rendered.
+
+  An existing file is only replaced with --force, and only when the output is complete: after
+  a failure it is unchanged. It passes on its mode; a write-protected file is not replaced.
+  --skip-existing passes over outputs that are newer than their inputs, so the same command
+  continues a batch that was interrupted. A name that starts with a dash follows after "--".
+
+  Inputs are WAV, AIFF, FLAC and Ogg files with one or two channels at any sample rate. The
+  output keeps the rate of its input. A mono file is processed as if the host had connected
+  only the left input. Its output is stereo, or with --mono the strip's mono sum.
+
+  Samples that are infinite or not a number are rendered as 0, and a warning says how many.
+  --keep-nan leaves them alone; they usually silence the rest of the file.
+
+  The container is taken from --format, else from OUT's extension, else from the input. The
+  sample type is taken from --format, else from the input, else it is the closest that the
+  container supports. Integer formats clip samples beyond full scale, and a warning says how
+  many; floating-point formats keep them.
+    wav, aiff   8, 16, 24, 32, float, double
+    flac        8, 16, 24
+    ogg         vorbis, opus
+
+Settings
+  --set NAME=VALUE sets a parameter and may be repeated; of several values for one parameter
+  the last one counts. corvel params lists the names and ranges; case does not matter. A
+  VALUE is a text as the effect displays it, with its unit: -18dB, "120 Hz", "1.2 kHz",
+  3:1, Linked, 100:80. If several values display that text, the middle one is used, or 0, 1
+  or 0.5 if it is among them. If no value displays it, the closest displayed number is used.
+  A number outside the range is an error. @VALUE is the normalised value from 0 to 1 that
+  hosts store; so is a plain number from 0 to 1.
+
+  What is asked for is what is heard, whatever the order: a hard pan is reached through a
+  position in between, as by hand, and DlySync wins over DlyTime.
+
+  --chain lists the modules in running order, separated by commas: Balance, Pan, Gain,
+  3Band, Rumble Filter, HiPass, Presence, Parametric, Gate, Compressor, DeEsser,
+  Modulator 1, Modulator 2, Warmer, Delay, Reverb. Each may appear only once; "none" is the
+  empty chain.
+
+  A program's name may be shortened as long as only one begins with it. --preset loads a
+  program from an .fxp, .fxb or JSON file instead of --program; FILE:N is program N of a bank.
+  --save-preset saves the settings to a new file, ready for --preset. See corvel preset --help.
+  The program or preset is set first, then the chain, then the parameters.
+
+Precision and blocks
+  With --double the compressor and the de-esser stay at rest: the strip has them only in
+  single precision. --block changes the sound if the compressor is in use and CmpLink is
+  Separate; otherwise it does not.
+
+Examples
+  corvel render voice.wav out.wav --program "Lead Vocal" --set CmpThresh=-24dB
+  corvel render *.flac mixed/ --chain "Rumble Filter,Compressor" --format wav:24
+  corvel render phone.wav out.wav --resample --json
+)";
+
+}  // namespace Tessitor::Tool

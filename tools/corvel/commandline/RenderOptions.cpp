@@ -1,0 +1,80 @@
+#include "corvel/commandline/RenderOptions.h"
+
+#include "corvel/commandline/CallErrors.h"
+#include "corvel/commandline/CommonOptions.h"
+#include "corvel/commandline/RenderHelp.h"
+#include "corvel/commandline/SettingsOptions.h"
+#include "corvel/commandline/Validators.h"
+
+#include <utility>
+
+namespace Tessitor::Tool {
+
+namespace {
+
+void addFiles(CLI::App &render, SRenderCall &call) {
+    render.add_option("FILES", call.files.files, "IN ... OUT: one or more inputs and the output")
+        ->type_name("");
+    render.add_option("--out-dir", call.files.folder, "Folder for the outputs; FILES are inputs")
+        ->type_name("DIR");
+    render.add_flag_callback(
+        "--force", [&call] { call.options.existing = EExisting::Replaced; },
+        "Replace existing outputs");
+    render.add_flag("--skip-existing", call.skipExisting,
+                    "Skip outputs that are newer than their inputs");
+}
+
+void addProcessing(CLI::App &render, SRenderOptions &options) {
+    render.add_option("--tempo", options.tempo, "Tempo in beats per minute, 10 to 1000")
+        ->type_name("BPM")
+        ->check(between(10.0, 1000.0))
+        ->capture_default_str();
+    render.add_option("--block", options.blockSize, "Frames per block, up to 1048576")
+        ->type_name("N")
+        ->check(wholeNumber())
+        ->check(between(1, 1 << 20))
+        ->capture_default_str();
+    render
+        .add_option("--tail", options.tailSeconds,
+                    "Keep rendering past the end of the input, up to an hour")
+        ->type_name("SECONDS")
+        ->check(between(0.0, 3600.0));
+    render.add_flag("--double", options.doublePrecision,
+                    "Process in double precision; compressor and de-esser stay at rest");
+    render.add_flag("--resample", options.resample,
+                    "Process at 44100 Hz, which the strip is tuned for, and convert back");
+    render.add_flag("--keep-nan", options.keepNan,
+                    "Keep samples that are infinite or not a number");
+}
+
+void addOutput(CLI::App &render, SRenderOptions &options) {
+    render
+        .add_option_function<std::string>(
+            "--format",
+            [&options](const std::string &text) { options.format = formatFromText(text); },
+            "Container and sample type of the output")
+        ->type_name("CONTAINER[:TYPE]");
+    render.add_flag("--mono", options.mono,
+                    "Write a mono file as the mono sum of the strip's output");
+}
+
+}  // namespace
+
+SCommand addRender(CLI::App &app, SRenderCall &call) {
+    CLI::App &render = *app.add_subcommand("render", "Render audio files through the effect");
+    addFiles(render, call);
+    addSettings(render, call.settings);
+    render.add_option("--save-preset", call.savePreset, "Save the settings as a new preset")
+        ->type_name("FILE");
+    addProcessing(render, call.options);
+    addOutput(render, call.options);
+    addPlugin(render, call.plugin);
+    addJson(render, call.json);
+    render.footer(renderHelp);
+    return {&render, [&call] {
+                call.files.files = namesAsTyped(std::move(call.files.files));
+                return runRender(call);
+            }};
+}
+
+}  // namespace Tessitor::Tool

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "corvel/audio/CLevels.h"
+#include "corvel/audio/OutputFormat.h"
+#include "corvel/files/CPendingFile.h"
+#include "corvel/settings/CEffectSettings.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+
+namespace Tessitor::Tool {
+
+/// The sample rate that the strip is tuned for, Hz.
+inline constexpr int stripRate = 44100;
+
+/// Settings for all files of a command.
+struct SRenderOptions {
+    SFormatRequest format;
+    double tempo = 120.0;           // beats per minute
+    double tailSeconds = 0.0;       // of silence after the input
+    std::int32_t blockSize = 1024;  // frames
+    bool doublePrecision = false;
+    bool resample = false;  // to stripRate and back
+    bool mono = false;      // the strip's mono sum; for mono files only
+    bool keepNan = false;   // otherwise samples that are not finite are rendered as 0
+    EExisting existing = EExisting::Kept;  // output files
+};
+
+std::int64_t tailFrames(const SRenderOptions &options, int sampleRate);
+
+struct SRenderJob {
+    std::filesystem::path in;
+    std::filesystem::path out;
+};
+
+struct SRenderResult {
+    int sampleRate = 0;  // Hz, the same for both files
+    int channelsIn = 0, channelsOut = 0;
+    int formatIn = 0, formatOut = 0;  // of libsndfile
+    std::int64_t framesIn = 0, framesOut = 0;
+    CLevels levelsIn, levelsOut;
+    std::uint64_t clippedSamples = 0;
+    std::uint64_t nonFiniteSamples = 0;  // in the input
+    double renderSeconds = 0.0;          // wall clock
+
+    double seconds() const { return static_cast<double>(framesOut) / sampleRate; }
+    double timesRealTime() const { return renderSeconds > 0.0 ? seconds() / renderSeconds : 0.0; }
+};
+
+/// Receives the progress, from 0 to 1.
+using RenderListener = std::function<void(double done)>;
+
+/// @throws CJobError if the effect is not stereo, or cannot process in the precision of the
+///         options.
+void requireRenderable(const CEffectInstance &effect, const SRenderOptions &options);
+
+/// Renders one file with a new instance, so that earlier files leave no trace.
+/// @param library  must pass requireRenderable().
+/// @throws CJobError if it fails, or CInterruption. The output file is then unchanged.
+/// [any thread] May run several times in parallel.
+SRenderResult render(const SRenderJob &job, const CEffectLibrary &library,
+                     const CEffectSettings &settings, const SRenderOptions &options,
+                     const RenderListener &listener);
+
+}  // namespace Tessitor::Tool
