@@ -23,6 +23,15 @@ public:
     /// The same in double precision. [audio thread] The base does nothing.
     virtual void processDoubleReplacing(double **in, double **out, int frames);
 
+    /// What a block does with its output.
+    enum class EEffect {
+        Sound,  ///< writes it
+        Copy,   ///< writes the input to it
+        None,   ///< leaves it alone
+    };
+    /// [audio thread] EEffect::Sound from the base.
+    virtual EEffect getEffect() const { return EEffect::Sound; }
+
     /// Clears the running state, now or when the next block begins, and keeps the parameters. The
     /// base does nothing. [any thread]
     virtual void reset();

@@ -13,6 +13,13 @@ float CDSPMono::getParameter(int /*index*/) {
     return static_cast<float>(mode.load()) / 3.0f;
 }
 
+CDSPBase::EEffect CDSPMono::getEffect() const {
+    const std::int32_t present = mode;
+    if (present == kStereo)
+        return EEffect::Copy;
+    return present >= kCombine && present < kStereo ? EEffect::Sound : EEffect::None;
+}
+
 template <typename Sample>
 static void combine(const Sample *__restrict inL, const Sample *__restrict inR,
                     Sample *__restrict outL, Sample *__restrict outR, int frames) {

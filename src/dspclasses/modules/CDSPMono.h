@@ -25,6 +25,8 @@ public:
     void processReplacing(float **in, float **out, int frames) override;
     void processDoubleReplacing(double **in, double **out, int frames) override;
 
+    EEffect getEffect() const override;
+
     std::int32_t getMode() const { return mode; }  ///< an EMode or any other number
 
 private:

@@ -18,6 +18,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <functional>
 #include <string_view>
 #include <utility>
 
@@ -91,20 +92,49 @@ static void halveSum(const Sample *left, const Sample *right, Sample *out, int f
         out[i] = (left[i] + right[i]) * Sample(0.5);
 }
 
+/// @return whether a module may write to both: a host may pass one buffer twice, or no right one.
+template <typename Sample>
+static bool areSeparate(const Sample *left, const Sample *right, int frames) {
+    const std::less_equal<const Sample *> isUpTo;
+    return left != nullptr && right != nullptr &&
+           (isUpTo(left + frames, right) || isUpTo(right + frames, left));
+}
+
+/// The first stage reads the host's buffers and the last one writes to them, without a copy. That
+/// is safe since the second stage runs only when all input has been read.
 template <typename Sample>
 void CDSPMultiFX::run(Sample **in, Sample **out, int frames, TStripBuffers<Sample> &buffers) {
     if (in == nullptr || out == nullptr)
         return;
     const bool isMono = monoInput;
-    std::copy_n(in[0], frames, buffers.DryBuf[0]);
-    std::copy_n(in[isMono ? 0 : 1], frames, buffers.DryBuf[1]);
-
+    Sample *source[] = {in[0], in[isMono ? 0 : 1]};
     Sample **cur = buffers.DryBuf, **alt = buffers.WetBuf;
-    for (int slot = kInGainSlot; slot != kNoSlot; slot = order.nextOf(slot)) {
-        process(moduleIn(slot), cur, alt, frames);
+    // After a routing that writes nothing, one hears what its output holds from the stages before.
+    // So all of them must then write to the buffers.
+    const bool mayTakeShortcuts =
+        moduleIn(kInMonoSlot).getEffect() != EEffect::None && outMono->getEffect() != EEffect::None;
+    if (!mayTakeShortcuts) {
+        std::copy_n(source[0], frames, cur[0]);
+        std::copy_n(source[1], frames, cur[1]);
+    }
+    process(moduleIn(kInGainSlot), source, alt, frames);
+    std::swap(cur, alt);
+
+    const bool isRouted = outMono->getMode() != CDSPMono::kStereo;
+    const bool mayEndInOut = mayTakeShortcuts && !isRouted && areSeparate(out[0], out[1], frames);
+    for (int slot = order.nextOf(kInGainSlot); slot != kNoSlot;) {
+        CDSPBase &module = moduleIn(slot);
+        slot = order.nextOf(slot);
+        if (mayEndInOut && slot == kNoSlot) {
+            process(module, cur, out, frames);
+            return;
+        }
+        if (mayTakeShortcuts && module.getEffect() == EEffect::Copy)
+            continue;
+        process(module, cur, alt, frames);
         std::swap(cur, alt);
     }
-    if (outMono->getMode() != CDSPMono::kStereo) {
+    if (isRouted) {
         process(*outMono, cur, alt, frames);
         cur = alt;
     }

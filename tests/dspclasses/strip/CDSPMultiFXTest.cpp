@@ -4,8 +4,12 @@
 #include "dspclasses/support/CWitness.h"
 #include "dspclasses/support/Oracle.h"
 
+#include <array>
 #include <cstring>
 #include <gmock/gmock.h>
+#include <limits>
+#include <utility>
+#include <vector>
 
 using Calls = std::vector<std::string>;
 
@@ -179,20 +183,44 @@ TEST(CDSPMultiFX, RunsAllSixteenModules) {
     EXPECT_EQ(slotsOfARun(strip, log).size(), 18u);
 }
 
-TEST(CDSPMultiFX, SwapsTheBufferPairsBetweenModules) {
+/// The two channels that a module read, or wrote, in one run of the strip.
+static std::array<const void *, 2> pairOf(const SWitnessLog &log, std::size_t run, bool written) {
+    const std::size_t first = 4 * run + (written ? 2 : 0);
+    return {log.buffers[first], log.buffers[first + 1]};
+}
+
+TEST(CDSPMultiFX, PassesTheSignalOnWithoutCopies) {
     SWitnessLog log;
     CDSPMultiFX strip(makeWitnesses(log));
-    for (const int slot : {kRumbleFilterSlot, kCompressorSlot})
+    strip.setStripParameter(kOutMono, stereo);
+    for (const int slot : {kRumbleFilterSlot, kCompressorSlot, kGateSlot})
         strip.appendFX(slot);
-    slotsOfARun(strip, log);
-    ASSERT_EQ(log.buffers.size(), 16u);
-    const Calls::size_type in = 0, out = 2;
-    for (Calls::size_type run = 0; run < 4; ++run) {
-        for (Calls::size_type channel = 0; channel < 2; ++channel) {
-            EXPECT_EQ(log.buffers[4 * run + in + channel],
-                      log.buffers[(run % 2 == 0 ? in : out) + channel]);
-            EXPECT_EQ(log.buffers[4 * run + out + channel],
-                      log.buffers[(run % 2 == 0 ? out : in) + channel]);
+    TStereo<float> input(8), output(8);
+    process(strip, input.pointers().data(), output.pointers().data(), 8);
+    ASSERT_EQ(log.buffers.size(), 20u);
+    EXPECT_EQ(pairOf(log, 0, false)[0], input.channels[0].data());
+    EXPECT_EQ(pairOf(log, 0, false)[1], input.channels[1].data());
+    for (std::size_t run = 1; run < 5; ++run)
+        EXPECT_EQ(pairOf(log, run, false), pairOf(log, run - 1, true)) << run;
+    EXPECT_EQ(pairOf(log, 4, true)[0], output.channels[0].data());
+    EXPECT_EQ(pairOf(log, 4, true)[1], output.channels[1].data());
+}
+
+TEST(CDSPMultiFX, NeverRunsAModuleInPlace) {
+    for (const bool isRouted : {false, true}) {
+        SWitnessLog log;
+        CDSPMultiFX strip(makeWitnesses(log));
+        strip.setStripParameter(kOutMono, isRouted ? 0.0f : stereo);
+        TStereo<float> both(8);
+        for (const int slot : {kRumbleFilterSlot, kCompressorSlot, kGateSlot}) {
+            log.buffers.clear();
+            process(strip, both.pointers().data(), both.pointers().data(), 8);
+            ASSERT_EQ(log.buffers.size() % 4, 0u);
+            for (std::size_t run = 0; run < log.buffers.size() / 4; ++run)
+                for (const void *read : pairOf(log, run, false))
+                    for (const void *written : pairOf(log, run, true))
+                        EXPECT_NE(read, written) << run;
+            strip.appendFX(slot);
         }
     }
 }
@@ -325,6 +353,68 @@ TYPED_TEST(CDSPMultiFXRun, WorksInPlace) {
     std::array<TypeParam *, 2> both = this->input.pointers();
     process(this->strip, both.data(), both.data(), 64);
     EXPECT_EQ(this->input, expected);
+}
+
+TYPED_TEST(CDSPMultiFXRun, WorksInPlaceWithTheChannelsSwapped) {
+    this->strip.appendFX(kGainSlot);
+    this->strip.setStripParameter(kGain, 1.0f);
+    TStereo<TypeParam> expected = render(this->strip, this->input, 64);
+    std::array<TypeParam *, 2> in = this->input.pointers();
+    TypeParam *out[] = {in[1], in[0]};
+    process(this->strip, in.data(), out, 64);
+    EXPECT_EQ(this->input.channels[0], expected.channels[1]);
+    EXPECT_EQ(this->input.channels[1], expected.channels[0]);
+}
+
+TYPED_TEST(CDSPMultiFXRun, LeavesTheRightChannelInABufferThatIsBothOutputs) {
+    this->strip.appendFX(kReverbSlot);
+    this->strip.appendFX(kWarmerSlot);
+    CDSPMultiFX same;
+    same.setStripParameter(kInMono, stereo);
+    same.setStripParameter(kOutMono, stereo);
+    same.appendFX(kReverbSlot);
+    same.appendFX(kWarmerSlot);
+    TStereo<TypeParam> expected = render(this->strip, this->input, 64);
+    TStereo<TypeParam> output(64);
+    TypeParam *out[] = {output.channels[0].data(), output.channels[0].data()};
+    process(same, this->input.pointers().data(), out, 64);
+    EXPECT_EQ(output.channels[0], expected.channels[1]);
+}
+
+TYPED_TEST(CDSPMultiFXRun, DoesNotWriteToTheInput) {
+    this->strip.appendFX(kCompressorSlot);
+    std::fill_n(this->input.channels[0].begin() + 5, 9,
+                std::numeric_limits<TypeParam>::denorm_min());
+    const TStereo<TypeParam> before = this->input;
+    TStereo<TypeParam> output(64);
+    process(this->strip, this->input.pointers().data(), output.pointers().data(), 64);
+    EXPECT_EQ(this->input, before);
+}
+
+TYPED_TEST(CDSPMultiFXRun, SoundsLikeThePlainVersionIfARoutingIsInvalid) {
+    constexpr float invalid = 2.0f;
+    for (const std::vector<int> &chain :
+         {std::vector<int>{}, std::vector<int>{kGainSlot}, std::vector<int>{kGainSlot, kPanSlot}}) {
+        for (const float inMono : {0.0f, stereo, invalid}) {
+            for (const float outMono : {0.0f, stereo, invalid}) {
+                SCOPED_TRACE(testing::Message() << chain.size() << ' ' << inMono << ' ' << outMono);
+                CDSPMultiFX fresh;
+                CPlainStrip plain(makePlainModules());
+                for (const auto &[id, value] : {std::pair{kInMono, inMono},
+                                                {kOutMono, outMono},
+                                                {kInGain, 0.9f},
+                                                {kGain, 0.8f},
+                                                {kPan, 0.3f}}) {
+                    fresh.setStripParameter(id, value);
+                    plain.setParameter(id, value);
+                }
+                for (const int slot : chain)
+                    fresh.appendFX(slot);
+                plain.setChain(chain);
+                EXPECT_EQ(render(fresh, this->input, 16), render(plain, this->input, 16));
+            }
+        }
+    }
 }
 
 TYPED_TEST(CDSPMultiFXRun, RunsTheOutputRoutingUnlessItIsStereo) {
