@@ -19,6 +19,13 @@ else()
     list(TRANSFORM exports REPLACE " .*" "")
     set(addresses ${lines})
     list(TRANSFORM addresses REPLACE "^[^ ]+ [^ ]+ ([0-9a-f]+).*" "\\1")
+    # A loop compiled for fused multiply-add has the instruction. A call would mean that a part of
+    # the loop was left out of it.
+    execute_process(COMMAND ${NM} -D --undefined-only --format=posix ${FILE}
+        OUTPUT_VARIABLE imports COMMAND_ERROR_IS_FATAL ANY)
+    if(imports MATCHES "(^|\n)fma[ @]")
+        message(FATAL_ERROR "calls fma()")
+    endif()
     string(REGEX MATCHALL "NEEDED +[^\n]+" needed "${headers}")
     set(drawing "libfontconfig\\.so\\.1|libfreetype\\.so\\.6|libjpeg\\.so\\.62|libpng16\\.so\\.16")
     set(windows "libxcb\\.so\\.1|libxcb-xkb\\.so\\.1|libxkbcommon\\.so\\.0")

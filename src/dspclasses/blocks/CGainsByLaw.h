@@ -1,23 +1,19 @@
 #pragma once
 
+#include "dspclasses/blocks/DetectorState.h"
 #include "dspclasses/blocks/GainLaw.h"
 #include "dspclasses/kernels/SingleMathLanes.h"
 
-/// The result of a detector for four frames.
-struct SDetected {
-    Mask4 areActive;  // above the threshold, or the excess has not yet died away
-    Floats4 smoothedExcessesDb;
-};
-
 /// SGainLaw for four frames, as two stages of a staged loop. The exponential is skipped if no frame
 /// is active.
+template <typename Processor>
 class CGainsByLaw {
 public:
     [[gnu::always_inline]] void start(const SGainLaw &law, const SDetected &detected) {
         m_areActive = detected.areActive;
         if (isAnySet(m_areActive)) {
             const Floats4 decibels = law.slope * detected.smoothedExcessesDb + law.offsetDb;
-            m_parts = startExp(clampedExponents({decibels * exponentPerDecibel}));
+            m_parts = startExp<Processor>(clampedExponents({decibels * exponentPerDecibel}));
         }
     }
     /// @return linear gains.
@@ -25,7 +21,7 @@ public:
         const Floats4 offset = splat(law.offsetLinear);
         if (!isAnySet(m_areActive))
             return offset;
-        return m_areActive ? narrowed(finishExp(m_parts)).values : offset;
+        return m_areActive ? narrowed(finishExp<Processor>(m_parts)).values : offset;
     }
 
 private:

@@ -1,18 +1,20 @@
 #pragma once
 
+#include "dspclasses/blocks/DetectorState.h"
 #include "dspclasses/blocks/DynamicsMath.h"
 #include "dspclasses/blocks/ExcessSmoothing.h"
 #include "dspclasses/blocks/Followers.h"
 #include "dspclasses/kernels/Denormals.h"
 #include "dspclasses/kernels/SingleMathLanes.h"
 
+#include <array>
 #include <limits>
 #include <type_traits>
 
 /// The arithmetic of a detector up to the excess over the threshold, four frames at a time.
 /// TDetector runs it as the first stages of its loop. Each structure is the result that one stage
 /// passes to the next.
-template <typename Sample>
+template <typename Sample, typename Processor>
 struct TDetectorStages {
     using Four = TFour<Sample>;
     static constexpr bool isSingle = std::is_same_v<Sample, float>;
@@ -32,10 +34,19 @@ struct TDetectorStages {
 
     // Peaks
 
+    // Four frames of release keep more than nine tenths of a peak, so one of this size cannot
+    // become a denormal.
+    static constexpr float leastNormalPeak = 2.0f * std::numeric_limits<float>::min();
+
+    /// followPeaks for two channels, side by side if that is possible.
+    [[gnu::always_inline]] static std::array<Floats4, 2>
+    followPeaksTwice(const std::array<SFloats4, 2> &levels, std::array<float, 2> &peaks) {
+        if (peaks[0] >= leastNormalPeak && peaks[1] >= leastNormalPeak) [[likely]]
+            return followFourTwice(peakFollower, peaks, levels);
+        return {followPeaks(levels[0], peaks[0]), followPeaks(levels[1], peaks[1])};
+    }
+
     [[gnu::always_inline]] static Floats4 followPeaks(const Four &levels, float &peak) {
-        // Four frames of release keep more than nine tenths of a peak, so one of this size cannot
-        // become a denormal.
-        constexpr float leastNormalPeak = 2.0f * std::numeric_limits<float>::min();
         if (isSingle && peak < leastNormalPeak) [[unlikely]] {
             const Floats4 flushed = followPeaksAndFlush(levels, peak);
             peak = flushed[3];
@@ -66,7 +77,12 @@ struct TDetectorStages {
         const Mask4 &areAbove = logarithm.areAbove;
         if (!isAnySet(areAbove))
             return {areAbove, Four{}};
-        return {areAbove, excessWhere(areAbove, finishLog(logarithm.parts), thresholdDb)};
+        return {areAbove, excessWhere(areAbove, logarithm.parts, thresholdDb)};
+    }
+
+    [[gnu::always_inline]] static SDetected detected(const SMeasured &measured,
+                                                     const Floats4 &smoothedExcessesDb) {
+        return {measured.areAbove | (smoothedExcessesDb > leastActiveExcessDb), smoothedExcessesDb};
     }
 
 private:
@@ -82,13 +98,14 @@ private:
     /// Kept: exponentPerDecibel turns decibels into a natural logarithm; to turn a logarithm into
     /// decibels, its reciprocal would be needed. So the excess of any signal above the threshold is
     /// close to -thresholdDb, however loud the signal is.
-    [[gnu::always_inline]] static Four excessWhere(const Mask4 &areAbove,
-                                                   const TDoubleSums<4> &logs, float thresholdDb) {
+    [[gnu::always_inline]] static Four excessWhere(const Mask4 &areAbove, const TLogParts<4> &parts,
+                                                   float thresholdDb) {
         constexpr Sample scale{exponentPerDecibel};
         if constexpr (isSingle) {
-            const Floats4 excesses = nearestFloats(logs).values * scale - thresholdDb;
+            const Floats4 excesses = nearestLogs<Processor>(parts).values * scale - thresholdDb;
             return {areAbove ? excesses : splat(0.0f)};
         } else {
+            const TDoubleSums<4> logs = finishLog(parts);
             const auto excesses = (logs.high + logs.low) * scale - double{thresholdDb};
             const auto wideMask = __builtin_convertvector(areAbove, decltype(excesses > excesses));
             return {wideMask ? excesses : typename Four::Values{}};

@@ -19,3 +19,9 @@ struct SDetectorState {
 /// A detector is active while it is above the threshold, and then until the smoothed excess has
 /// fallen to this, in dB.
 inline constexpr float leastActiveExcessDb = 0.01f;
+
+/// The result of a detector for four frames.
+struct SDetected {
+    Mask4 areActive;  // above the threshold, or the excess has not yet died away
+    Floats4 smoothedExcessesDb;
+};

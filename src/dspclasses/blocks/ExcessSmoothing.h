@@ -10,6 +10,9 @@
 /// -1e-20 and never becomes a denormal.
 inline constexpr float smoothingBias = 1e-20f;
 
+/// From this magnitude up, adding or subtracting the bias changes no bit of a float.
+inline constexpr float leastUnbiased = 0x1p-40f;
+
 /// @return the smoothed excess one frame later.
 template <typename Sample>
 float smoothExcess(const SFollower &smoother, float smoothedDb, Sample excessDb) {
@@ -44,8 +47,6 @@ template <typename Sample>
             return decayExcess(smoother, decaying);
         });
     }
-    // From this magnitude up, adding or subtracting the bias changes no bit of a float.
-    constexpr float leastUnbiased = 0x1p-40f;
     if (std::abs(before) >= leastUnbiased) [[likely]] {
         const Floats4 smoothed = followFour(smoother, smoothedDb, excessesDb);
         const Floats4 magnitudes = magnitude(SFloats4{smoothed}).values;
@@ -55,4 +56,22 @@ template <typename Sample>
     const Floats4 smoothed = smoothFourWithBias(smoother, before, excessesDb);
     smoothedDb = smoothed[3];
     return smoothed;
+}
+
+/// smoothFour for two channels, side by side if that is possible.
+[[gnu::always_inline]] inline std::array<Floats4, 2>
+smoothFourTwice(const SFollower &smoother, std::array<float, 2> &smoothedDb,
+                const std::array<SFloats4, 2> &excessesDb, const std::array<Mask4, 2> &areAbove) {
+    if (std::abs(smoothedDb[0]) >= leastUnbiased && std::abs(smoothedDb[1]) >= leastUnbiased) {
+        std::array<float, 2> states = smoothedDb;
+        const std::array<Floats4, 2> smoothed = followFourTwice(smoother, states, excessesDb);
+        const SFloats4 smallest =
+            smaller(magnitude(SFloats4{smoothed[0]}), magnitude(SFloats4{smoothed[1]}));
+        if (!isAnySet(smallest.values < leastUnbiased)) [[likely]] {
+            smoothedDb = states;
+            return smoothed;
+        }
+    }
+    return {smoothFour(smoother, smoothedDb[0], excessesDb[0], areAbove[0]),
+            smoothFour(smoother, smoothedDb[1], excessesDb[1], areAbove[1])};
 }

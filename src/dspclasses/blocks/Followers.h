@@ -4,6 +4,7 @@
 #include "dspclasses/kernels/Lanes.h"
 
 #include <algorithm>
+#include <array>
 
 /// One-pole smoother with one coefficient for a rising input and one for a falling input:
 ///
@@ -65,4 +66,27 @@ template <typename Sample>
         const Sample distance = Sample{before} - level;
         return static_cast<float>(std::min(distance * release, distance * attack) + level);
     });
+}
+
+/// The same for two followers with the same coefficients, side by side in the lanes of a register.
+[[gnu::always_inline]] inline std::array<Floats4, 2>
+followFourTwice(const SFollower &follower, std::array<float, 2> &states,
+                const std::array<SFloats4, 2> &inputs) {
+    const SFloats4 attack{splat(follower.attackCoef)}, release{splat(follower.releaseCoef)};
+    const bool takesLarger = follower.attackCoef < follower.releaseCoef;
+    // Lanes 2 and 3 of the states are not used.
+    const auto next = [&](const SFloats4 &before, const SFloats4 &levels) {
+        const SFloats4 distance = before - levels;
+        const SFloats4 attacked = distance * attack, released = distance * release;
+        return (takesLarger ? larger(attacked, released) : smaller(attacked, released)) + levels;
+    };
+    const SFloats4 early = interleavedLow(inputs[0], inputs[1]);
+    const SFloats4 late = interleavedHigh(inputs[0], inputs[1]);
+    const SFloats4 before{Floats4{states[0], states[1], states[0], states[1]}};
+    const SFloats4 first = next(before, early), second = next(first, upperHalves(early, early));
+    const SFloats4 third = next(second, late), fourth = next(third, upperHalves(late, late));
+    states = {fourth.values[0], fourth.values[1]};
+    const SFloats4 firstTwo = interleavedLow(first, second),
+                   lastTwo = interleavedLow(third, fourth);
+    return {lowerHalves(firstTwo, lastTwo).values, upperHalves(firstTwo, lastTwo).values};
 }

@@ -20,7 +20,7 @@
 /// It runs as a staged loop (StagedLoop.h) with these stages:
 ///
 ///     read | follow | start log | finish log | smooth | start exp | finish exp, apply
-template <typename Sample>
+template <typename Sample, typename Processor>
 class TDetector {
 public:
     using Four = TFour<Sample>;
@@ -57,17 +57,18 @@ public:
             [&](const SStep &) {
                 logarithm = Stages::startLogarithm(followed, now.thresholdLinear);
             },
-            [&](const SStep &) { measured = Stages::measure(logarithm, now.thresholdDb); },
-            [&](const SStep &) {
-                detected.smoothedExcessesDb =
-                    isExcessFlushed ? flush(smoothedExcessDb)
-                                    : smoothFour(now.smoother, smoothedExcessDb,
-                                                 measured.excessesDb, measured.areAbove);
-                detected.areActive =
-                    measured.areAbove | (detected.smoothedExcessesDb > leastActiveExcessDb);
+            [&](const SStep &) __attribute__((always_inline)) {
+                measured = Stages::measure(logarithm, now.thresholdDb);
             },
-            [&](const SStep &) { gains.start(now.law, detected); },
-            [&](const SStep &step) { apply(step, gains.finish(now.law)); });
+            [&](const SStep &) {
+                detected = Stages::detected(
+                    measured, isExcessFlushed ? flush(smoothedExcessDb)
+                                              : smoothFour(now.smoother, smoothedExcessDb,
+                                                           measured.excessesDb, measured.areAbove));
+            },
+            [&](const SStep &) __attribute__((always_inline)) { gains.start(now.law, detected); },
+            [&](const SStep &step)
+                __attribute__((always_inline)) { apply(step, gains.finish(now.law)); });
 
         const SStep last = SStep::last(frames);
         state.peak = last.lastOf(followed.peaks);
@@ -76,7 +77,7 @@ public:
     }
 
 private:
-    using Stages = TDetectorStages<Sample>;
+    using Stages = TDetectorStages<Sample, Processor>;
 
     static Floats4 flush(float &field) {
         field = 0.0f;

@@ -103,6 +103,15 @@ inline SDoubles2 interleavedHigh(SDoubles2 a, SDoubles2 b) {
     return {__builtin_shufflevector(a.values, b.values, 1, 3)};
 }
 
+/// @return a0 a1 b0 b1.
+inline SFloats4 lowerHalves(SFloats4 a, SFloats4 b) {
+    return {__builtin_shufflevector(a.values, b.values, 0, 1, 4, 5)};
+}
+/// @return a2 a3 b2 b3.
+inline SFloats4 upperHalves(SFloats4 a, SFloats4 b) {
+    return {__builtin_shufflevector(a.values, b.values, 2, 3, 6, 7)};
+}
+
 /// @return a0 a2 b0 b2.
 inline SFloats4 evenLanes(SFloats4 a, SFloats4 b) {
     return {__builtin_shufflevector(a.values, b.values, 0, 2, 4, 6)};

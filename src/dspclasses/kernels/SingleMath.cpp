@@ -8,7 +8,7 @@
 
 static double expClamped(double x) {
     const double clamped = std::clamp<double>(x, lowestExponent, highestExponent);
-    return expDoubles(TDoubles<1>{{clamped}}).values[0];
+    return expDoubles<SNarrowLanes>(TDoubles<1>{{clamped}}).values[0];
 }
 
 float expSingle(float x) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dspclasses/kernels/Lanes.h"
+#include "dspclasses/kernels/WideLoop.h"
 
 /// SingleMath for one or four lanes. Four doubles fill one register of AVX2 or two of SSE2, so call
 /// the four-lane forms inside runWide. Everything is inlined.
@@ -8,6 +9,9 @@
 /// Each function is computed in double precision and then rounded to float. The result is the
 /// nearest float unless the small error of the double crosses the midpoint between two floats.
 /// docs/kernels.md explains how the midpoints are handled and how every float was checked.
+///
+/// With SWideLanes as the processor, the polynomials use fused multiply-add. Their doubles then
+/// differ in the last bits; the floats do not.
 
 template <int lanes>
 using TDoubles = TLanes<double, lanes>;
@@ -23,6 +27,35 @@ struct TDoubleSums {
 inline constexpr double ln2High = 0x1.62e42fefap-1;
 inline constexpr double ln2Low = 0x1.cf79abc9e3b3ap-40;
 
+/// @return a * b + c, rounded once if the processor can.
+template <typename Processor, int lanes>
+[[gnu::always_inline]] inline TDoubles<lanes>
+multiplyAdd(const TDoubles<lanes> &a, const TDoubles<lanes> &b, const TDoubles<lanes> &c) {
+    if constexpr (Processor::fusesMultiplyAdd) {
+        static_assert(lanes == 4);
+        // Written lane by lane; the compiler makes one instruction of it.
+        const auto lane = [&](int i) {
+            return __builtin_fma(a.values[i], b.values[i], c.values[i]);
+        };
+        return {typename TDoubles<lanes>::Values{lane(0), lane(1), lane(2), lane(3)}};
+    } else {
+        return {a.values * b.values + c.values};
+    }
+}
+
+/// The same constant in every lane.
+template <int lanes>
+[[gnu::always_inline]] inline TDoubles<lanes> inEveryLane(double value) {
+    return {typename TDoubles<lanes>::Values{} + value};
+}
+
+/// c0 + c1 x, c2 + c3 x and so on are formed first, since they do not wait for each other.
+template <typename Processor, int lanes>
+[[gnu::always_inline]] inline TDoubles<lanes> linear(const TDoubles<lanes> &x, double c0,
+                                                     double c1) {
+    return multiplyAdd<Processor>(x, inEveryLane<lanes>(c1), inEveryLane<lanes>(c0));
+}
+
 // Each function also comes in two halves, so that a staged loop can do other work between them.
 
 /// e to the power x as 2^k e^r, |r| up to ln(2) / 2.
@@ -33,42 +66,43 @@ struct TExpParts {
 };
 
 /// @param exponent  from -700 to 700.
-template <int lanes>
+template <typename Processor, int lanes>
 [[gnu::always_inline]] inline TExpParts<lanes> startExp(const TDoubles<lanes> &exponent) {
-    using Values = typename TDoubles<lanes>::Values;
-    using Bits = typename TDoubles<lanes>::Bits;
-    const Values x = exponent.values;
-
     // Adding 1.5 * 2^52 rounds to an integer k and leaves it in the low bits. With 1023 added as
     // well, the low bits are the exponent bits of 2^k.
-    constexpr double rounding = 0x1.8p52 + 1023.0;
-    const Values shifted = x * 0x1.71547652b82fep+0 + rounding;
-    const Values k = shifted - rounding;
-    return {(x - k * ln2High) - k * ln2Low, reinterpret_cast<Bits>(shifted) << 52};
+    const auto rounding = inEveryLane<lanes>(0x1.8p52 + 1023.0);
+    const auto shifted =
+        multiplyAdd<Processor>(exponent, inEveryLane<lanes>(0x1.71547652b82fep+0), rounding);
+    const auto k = shifted - rounding;
+    const auto rough = multiplyAdd<Processor>(k, inEveryLane<lanes>(-ln2High), exponent);
+    const auto r = multiplyAdd<Processor>(k, inEveryLane<lanes>(-ln2Low), rough);
+    return {r.values, reinterpret_cast<typename TDoubles<lanes>::Bits>(shifted.values) << 52};
 }
 
 /// e to the power x, within one unit in the last place.
-template <int lanes>
+template <typename Processor, int lanes>
 [[gnu::always_inline]] inline TDoubles<lanes> finishExp(const TExpParts<lanes> &parts) {
     using Values = typename TDoubles<lanes>::Values;
-    const Values r = parts.r;
 
     // e^r = 1 + r + r^2 q(r), where q is the minimax polynomial for |r| up to ln(2) / 2; its
     // relative error is 2^-57.9.
-    const Values r2 = r * r, r4 = r2 * r2;
-    const Values q01 = 0x1.000000000000ap-1 + r * 0x1.55555555554fap-3;
-    const Values q23 = 0x1.555555555087dp-5 + r * 0x1.1111111127be6p-7;
-    const Values q45 = 0x1.6c16c1842a09fp-10 + r * 0x1.a01a012a57064p-13;
-    const Values q67 = 0x1.a0199a0c78972p-16 + r * 0x1.71df255430ed3p-19;
-    const Values q89 = 0x1.28ad72bf7e407p-22 + r * 0x1.ad7f6b5dc2ef6p-26;
-    const Values q = (q01 + r2 * q23) + r4 * ((q45 + r2 * q67) + r4 * q89);
-    return {(1.0 + (r + r2 * q)) * reinterpret_cast<Values>(parts.twoToK)};
+    const TDoubles<lanes> r{parts.r}, r2 = r * r, r4 = r2 * r2;
+    const auto q01 = linear<Processor>(r, 0x1.000000000000ap-1, 0x1.55555555554fap-3);
+    const auto q23 = linear<Processor>(r, 0x1.555555555087dp-5, 0x1.1111111127be6p-7);
+    const auto q45 = linear<Processor>(r, 0x1.6c16c1842a09fp-10, 0x1.a01a012a57064p-13);
+    const auto q67 = linear<Processor>(r, 0x1.a0199a0c78972p-16, 0x1.71df255430ed3p-19);
+    const auto q89 = linear<Processor>(r, 0x1.28ad72bf7e407p-22, 0x1.ad7f6b5dc2ef6p-26);
+    const auto q0to3 = multiplyAdd<Processor>(r2, q23, q01);
+    const auto q4to7 = multiplyAdd<Processor>(r2, q67, q45);
+    const auto q = multiplyAdd<Processor>(r4, multiplyAdd<Processor>(r4, q89, q4to7), q0to3);
+    const auto result = inEveryLane<lanes>(1.0) + multiplyAdd<Processor>(r2, q, r);
+    return {result.values * reinterpret_cast<Values>(parts.twoToK)};
 }
 
 /// e to the power x, for x from -700 to 700, within one unit in the last place.
-template <int lanes>
+template <typename Processor, int lanes>
 [[gnu::always_inline]] inline TDoubles<lanes> expDoubles(const TDoubles<lanes> &exponent) {
-    return finishExp(startExp(exponent));
+    return finishExp<Processor>(startExp<Processor>(exponent));
 }
 
 /// The natural logarithm of x = 2^k (1 + f), with 1 + f from sqrt(1/2) to sqrt(2).
@@ -142,15 +176,28 @@ template <int lanes>
     return {__builtin_convertvector(x.values, Floats4)};
 }
 
-/// The float nearest to each exact sum. The sum as a double is off by less than one unit in the
-/// last place. If the doubles on both sides of it convert to the same float, so does the exact sum.
-/// If not, which happens about once in 2^26 calls, all lanes are rounded to odd first.
-[[gnu::always_inline]] inline SFloats4 nearestFloats(const TDoubleSums<4> &sum) {
-    const TDoubles<4>::Values total = sum.high + sum.low;
-    const SFloats4 inner = narrowed({total * (1.0 - 0x1p-52)});
-    const SFloats4 outer = narrowed({total * (1.0 + 0x1p-52)});
+/// The float nearest to each logarithm. A short polynomial comes first. If the doubles on both
+/// sides of its result, at the bounds of the error, convert to the same float, so does the exact
+/// logarithm. If not, which happens to about one in 2^18 values, all lanes take the long way.
+template <typename Processor>
+[[gnu::always_inline]] inline SFloats4 nearestLogs(const TLogParts<4> &parts) {
+    using SFour = TDoubles<4>;
+
+    // ln(1 + f) = 2 atanh(s) = s (2 + z p(z)) with z = s^2. p is a minimax polynomial; the relative
+    // error of the sum is 2^-44.1.
+    const SFour s{parts.s}, k{parts.k}, z = s * s, z2 = z * z;
+    const SFour p01 = linear<Processor>(z, 0x1.55555555f33a0p-1, 0x1.999996d25f45cp-2);
+    const SFour p23 = linear<Processor>(z, 0x1.2494154752006p-2, 0x1.c6255a329300fp-3);
+    const SFour p4 = inEveryLane<4>(0x1.9197e22a80712p-3);
+    const SFour p = multiplyAdd<Processor>(z2, multiplyAdd<Processor>(z2, p4, p23), p01);
+    const SFour quotient = multiplyAdd<Processor>(z, p, inEveryLane<4>(2.0));
+    const SFour log = multiplyAdd<Processor>(s, quotient, k * inEveryLane<4>(0x1.62e42fefa39efp-1));
+
+    constexpr double error = 0x1p-43;
+    const SFloats4 inner = narrowed(log * inEveryLane<4>(1.0 - error));
+    const SFloats4 outer = narrowed(log * inEveryLane<4>(1.0 + error));
     if (isAnySet(inner.values != outer.values)) [[unlikely]]
-        return narrowed(roundedToOdd(sum));
+        return narrowed(roundedToOdd(finishLog(parts)));
     return inner;
 }
 
@@ -166,11 +213,13 @@ inline constexpr float lowestExponent = -110.0f, highestExponent = 100.0f;
 
 /// expSingle in every lane. A plain conversion is enough: the sweep finds no float whose result
 /// lies on the wrong side of a midpoint.
+template <typename Processor>
 [[gnu::always_inline]] inline SFloats4 expSingle(const SFloats4 &x) {
-    return narrowed(expDoubles(clampedExponents(x)));
+    return narrowed(expDoubles<Processor>(clampedExponents(x)));
 }
 
 /// logSingle in every lane.
+template <typename Processor>
 [[gnu::always_inline]] inline SFloats4 logSingle(const SFloats4 &x) {
-    return nearestFloats(logDoubles(widened(x)));
+    return nearestLogs<Processor>(startLog(widened(x)));
 }

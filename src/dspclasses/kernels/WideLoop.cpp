@@ -1,5 +1,5 @@
 #include "dspclasses/kernels/WideLoop.h"
 
 bool processorHasWideLanes() {
-    return __builtin_cpu_supports("avx2");
+    return __builtin_cpu_supports("avx2") && __builtin_cpu_supports("fma");
 }

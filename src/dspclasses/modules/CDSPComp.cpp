@@ -2,7 +2,10 @@
 
 #include "dspclasses/blocks/DynamicsMath.h"
 #include "dspclasses/blocks/TDetector.h"
+#include "dspclasses/blocks/TDetectorPair.h"
 #include "dspclasses/kernels/WideLoop.h"
+
+#include <array>
 
 void CDSPComp::setParameter(int index, float value) {
     if (index == kThreshold && thresholdDb.storeIfNew(value)) {
@@ -68,8 +71,10 @@ template <typename Sample>
     step.store(out, TFour<Sample>{step.load(in).values * factors});
 }
 
-/// Kept: the gain of the right channel does not follow its own detector. That detector only chooses
-/// between the last gain of the left channel, held for the whole block, and the make-up.
+// Kept: the gain of the right channel does not follow its own detector. That detector only chooses
+// between the last gain of the left channel, held for the whole block, and the make-up.
+
+/// For the right channel of a block whose left channel has already run.
 class CHeldGain {
 public:
     explicit CHeldGain(float gain) : m_gain(splat(gain)) {}
@@ -85,6 +90,15 @@ private:
     Floats4 m_gain;
     Mask4 m_areActive{};
 };
+
+/// Stands for the held gain while it is not yet known. Gains are not negative.
+constexpr float gainToHold = -1.0f;
+
+/// @param out  the gains of the frames, some of them gainToHold; replaced by the output.
+void applyHeldGain(const float *in, float *out, int frames, float gain) {
+    for (int i = 0; i < frames; ++i)
+        out[i] = in[i] * (out[i] == gainToHold ? gain : out[i]);
+}
 
 }  // namespace
 
@@ -103,50 +117,74 @@ void CDSPComp::run(Sample *const *in, Sample *const *out, int frames) {
         return;
     Sample *inL = in[0], *inR = in[1], *outL = out[0], *outR = out[1];
     if (linked) {
-        runWide([=, this] { runLinked(inL, inR, outL, outR, frames); });
+        runWide([=, this](auto processor) {
+            runLinked<decltype(processor)>(inL, inR, outL, outR, frames);
+        });
     } else {
-        runWide([=, this] {
-            runLeft(inL, outL, frames);
-            runRight(inR, outR, frames);
+        runWide([=, this](auto processor) {
+            runSeparate<decltype(processor)>(inL, inR, outL, outR, frames);
         });
     }
 }
 
-template <typename Sample>
+template <typename Processor, typename Sample>
 void CDSPComp::runLinked(Sample *inL, Sample *inR, Sample *outL, Sample *outR, int frames) {
     const auto levels = [=](const SStep &step) {
         return larger(magnitude(read(step, inL)), magnitude(read(step, inR)));
     };
-    detectLeft<Sample>(frames, levels, [=](const SStep &step, const Floats4 &gains) {
+    detectLeft<Processor, Sample>(frames, levels, [=](const SStep &step, const Floats4 &gains) {
         apply(step, gains, inL, outL);
         apply(step, gains, inR, outR);
     });
 }
 
-template <typename Sample>
-void CDSPComp::runLeft(Sample *in, Sample *out, int frames) {
-    const auto levels = [=](const SStep &step) { return magnitude(read(step, in)); };
-    detectLeft<Sample>(frames, levels, [=](const SStep &step, const Floats4 &gains) {
-        apply(step, gains, in, out);
-    });
+/// Both channels in one loop.
+template <typename Processor>
+void CDSPComp::runSeparate(float *inL, float *inR, float *outL, float *outR, int frames) {
+    const auto levels = [=](const SStep &step) {
+        return std::array{magnitude(read(step, inL)), magnitude(read(step, inR))};
+    };
+    const auto applyGains = [=](const SStep &step, const SGainLaw &law, const Floats4 &leftGains,
+                                const Mask4 &isRightActive) {
+        apply(step, leftGains, inL, outL);
+        step.store(outR, SFloats4{isRightActive ? splat(gainToHold) : splat(law.offsetLinear)});
+    };
+    std::array<SDetectorState, 2> states{left, right};
+    const bool isActive = TDetectorPair<Processor>::run(
+        states, frames, [this] { return settings(); }, levels, applyGains);
+    left = states[0];
+    right = states[1];
+    leftGain = settings().law.gain(isActive, left.smoothedExcessDb);
+    applyHeldGain(inR, outR, frames, leftGain.linear);
 }
 
-template <typename Sample, typename Levels, typename Apply>
+/// One channel after the other: how the right one is flushed depends on the result of the left.
+template <typename Processor>
+void CDSPComp::runSeparate(double *inL, double *inR, double *outL, double *outR, int frames) {
+    const auto levels = [=](const SStep &step) { return magnitude(read(step, inL)); };
+    detectLeft<Processor, double>(frames, levels, [=](const SStep &step, const Floats4 &gains) {
+        apply(step, gains, inL, outL);
+    });
+    detectRight<Processor>(inR, outR, frames);
+}
+
+template <typename Processor, typename Sample, typename Levels, typename Apply>
 void CDSPComp::detectLeft(int frames, Levels levels, Apply applyGains) {
     const SFlushedFields flushed{.peak = isFlushedByNeighbour<Sample>(right.peak),
                                  .smoothedExcess =
                                      isFlushedByNeighbour<Sample>(right.smoothedExcessDb)};
-    const bool isActive = TDetector<Sample>::run(
-        left, flushed, frames, [this] { return settings(); }, levels, CGainsByLaw(), applyGains);
+    const bool isActive = TDetector<Sample, Processor>::run(
+        left, flushed, frames, [this] { return settings(); }, levels, CGainsByLaw<Processor>(),
+        applyGains);
     leftGain = settings().law.gain(isActive, left.smoothedExcessDb);
 }
 
-template <typename Sample>
-void CDSPComp::runRight(Sample *in, Sample *out, int frames) {
-    const SFlushedFields flushed{.peak = isFlushedByNeighbour<Sample>(leftGain.decibels),
-                                 .smoothedExcess = isFlushedByNeighbour<Sample>(thresholdDb)};
+template <typename Processor>
+void CDSPComp::detectRight(const double *in, double *out, int frames) {
+    const SFlushedFields flushed{.peak = isFlushedByNeighbour<double>(leftGain.decibels),
+                                 .smoothedExcess = isFlushedByNeighbour<double>(thresholdDb)};
     const auto levels = [=](const SStep &step) { return magnitude(read(step, in)); };
-    TDetector<Sample>::run(
+    TDetector<double, Processor>::run(
         right, flushed, frames, [this] { return settings(); }, levels, CHeldGain(leftGain.linear),
         [=](const SStep &step, const Floats4 &gains) { apply(step, gains, in, out); });
 }

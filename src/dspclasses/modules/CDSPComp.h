@@ -35,14 +35,16 @@ private:
 
     template <typename Sample>
     void run(Sample *const *in, Sample *const *out, int frames);
-    template <typename Sample>
+    template <typename Processor, typename Sample>
     void runLinked(Sample *inL, Sample *inR, Sample *outL, Sample *outR, int frames);
-    template <typename Sample>
-    void runLeft(Sample *in, Sample *out, int frames);
-    template <typename Sample>
-    void runRight(Sample *in, Sample *out, int frames);
-    template <typename Sample, typename Levels, typename Apply>
+    template <typename Processor>
+    void runSeparate(float *inL, float *inR, float *outL, float *outR, int frames);
+    template <typename Processor>
+    void runSeparate(double *inL, double *inR, double *outL, double *outR, int frames);
+    template <typename Processor, typename Sample, typename Levels, typename Apply>
     void detectLeft(int frames, Levels levels, Apply applyGains);
+    template <typename Processor>
+    void detectRight(const double *in, double *out, int frames);
 
     TRelaxed<float> attackMs = 10.0f;
     TRelaxed<float> releaseMs = 100.0f;

@@ -118,7 +118,8 @@ void CDSPDeEsser::attenuate(float **in, float **out, int frames) {
     const bool isNarrow = narrow;
     bool isActive = false;
     SDetectorState state = detector;
-    runWide([=, this, &state, &isActive] {
+    runWide([=, this, &state, &isActive](auto processor) {
+        using Processor = decltype(processor);
         SBiquadLanes lanes = filter.takeOut();
         const auto refresh = [this, &lanes] {
             filter.refresh(lanes);
@@ -137,8 +138,8 @@ void CDSPDeEsser::attenuate(float **in, float **out, int frames) {
             step.store(outL, attenuated(step.load(inL), step.load(sideL), gains, isNarrow));
             step.store(outR, attenuated(step.load(inR), step.load(sideR), gains, isNarrow));
         };
-        isActive = TDetector<float>::run(state, SFlushedFields{}, frames, refresh, levels,
-                                         CGainsByLaw(), apply);
+        isActive = TDetector<float, Processor>::run(state, SFlushedFields{}, frames, refresh,
+                                                    levels, CGainsByLaw<Processor>(), apply);
         filter.putBack(lanes);
     });
     detector = state;

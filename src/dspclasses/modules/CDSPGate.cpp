@@ -43,11 +43,12 @@ void CDSPGate::reset() {
 
 namespace {
 
+template <typename Processor>
 [[gnu::always_inline]] inline Floats4 gainsFromExponents(const Floats4 &exponents) {
     const Mask4 areOne = exponents == TGateGain<float>::exponentOfOne;
     if (areAllSet(areOne | (exponents == TGateGain<float>::exponentOfZero)))
         return areOne ? splat(1.0f) : splat(0.0f);
-    return expSingle(SFloats4{exponents}).values;
+    return expSingle<Processor>(SFloats4{exponents}).values;
 }
 
 /// Kept: the peak is not flushed. In silence it decays to a denormal so small that rounding keeps
@@ -70,10 +71,12 @@ void CDSPGate::run(const Sample *const *in, Sample *const *out, int frames) {
         gain = closed;
     }
     if (frames > 0)
-        runWide([=, this] { runSteps(in[0], in[1], out[0], out[1], frames); });
+        runWide([=, this](auto processor) {
+            runSteps<decltype(processor)>(in[0], in[1], out[0], out[1], frames);
+        });
 }
 
-template <typename Sample>
+template <typename Processor, typename Sample>
 void CDSPGate::runSteps(const Sample *inL, const Sample *inR, Sample *outL, Sample *outR,
                         int frames) {
     Floats4 peaks{};
@@ -103,8 +106,8 @@ void CDSPGate::runSteps(const Sample *inL, const Sample *inR, Sample *outL, Samp
     };
 
     const auto applyGain = [&](const SStep &step) {
-        const auto gains =
-            __builtin_convertvector(gainsFromExponents(exponents), typename TFour<Sample>::Values);
+        const auto gains = __builtin_convertvector(gainsFromExponents<Processor>(exponents),
+                                                   typename TFour<Sample>::Values);
         step.store(outL, TFour<Sample>{step.load(inL).values * gains});
         step.store(outR, TFour<Sample>{step.load(inR).values * gains});
     };

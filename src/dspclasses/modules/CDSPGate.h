@@ -29,7 +29,7 @@ public:
 private:
     template <typename Sample>
     void run(const Sample *const *in, Sample *const *out, int frames);
-    template <typename Sample>
+    template <typename Processor, typename Sample>
     void runSteps(const Sample *inL, const Sample *inR, Sample *outL, Sample *outR, int frames);
 
     static constexpr SGain closed{TGateGain<float>::closedDb, 0.0f};

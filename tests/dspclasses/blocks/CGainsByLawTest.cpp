@@ -24,7 +24,7 @@ TEST(CGainsByLaw, ReturnsTheGainOfTheLawForEachFrame) {
     for (int i = 0; i < 10000; ++i) {
         const SGainLaw law{draw(-1.0, 1.0), draw(-12.0, 12.0), draw(0.0, 4.0)};
         const SDetected detected{drawFour(-1.0, 1.0) > 0.0f, drawFour(-1.0, 60.0)};
-        CGainsByLaw gains;
+        CGainsByLaw<SNarrowLanes> gains;
         gains.start(law, detected);
         const Floats4 linear = gains.finish(law);
         for (int lane = 0; lane < 4; ++lane) {

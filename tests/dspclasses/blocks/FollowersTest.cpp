@@ -2,6 +2,7 @@
 
 #include "dspclasses/support/Signals.h"
 
+#include <array>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
@@ -13,20 +14,22 @@ TYPED_TEST_SUITE(SFollowerPrecision, Precisions);
 
 namespace {
 
+bool sameOrBothNan(float a, float b) {
+    return sameBits(a, b) || (std::isnan(a) && std::isnan(b));
+}
+
 /// Compares one call for four frames with four calls. All NaNs count as equal.
 template <typename Sample>
 void expectFourLikeSingleFrames(const SFollower &follower, float state,
                                 const TFour<Sample> &input) {
-    const auto same = [](float a, float b) {
-        return sameBits(a, b) || (std::isnan(a) && std::isnan(b));
-    };
     float fourState = state;
     const Floats4 four = followFour(follower, fourState, input);
     for (int i = 0; i < 4; ++i) {
         state = follower.next(state, input.values[i]);
-        ASSERT_TRUE(same(four[i], state)) << "frame " << i << ": " << four[i] << ' ' << state;
+        ASSERT_TRUE(sameOrBothNan(four[i], state))
+            << "frame " << i << ": " << four[i] << ' ' << state;
     }
-    ASSERT_TRUE(same(fourState, state));
+    ASSERT_TRUE(sameOrBothNan(fourState, state));
 }
 
 }  // namespace
@@ -60,6 +63,30 @@ TYPED_TEST(SFollowerPrecision, FourFramesEqualFourSingleOnesForAnyCoefficients) 
             input.values[i] = static_cast<TypeParam>(level());
         expectFourLikeSingleFrames(follower, static_cast<float>(level()), input);
         ASSERT_FALSE(this->HasFailure());
+    }
+}
+
+TEST(SFollower, TwoSideBySideEqualTwoAloneForAnyCoefficients) {
+    for (std::uint64_t seed = 1; seed < 20000; ++seed) {
+        SCOPED_TRACE(seed);
+        CRandom random(seed);
+        const auto draw = [&random](double low, double high) {
+            return static_cast<float>(random.real(low, high));
+        };
+        const SFollower follower{draw(-2.0, 1.5), draw(-2.0, 1.5)};
+        std::array<float, 2> states{draw(0.0, 1.5), draw(0.0, 1.5)};
+        std::array<SFloats4, 2> inputs{};
+        for (SFloats4 &input : inputs)
+            for (int i = 0; i < 4; ++i)
+                input.values[i] = random.chance(0.2) ? states[0] : draw(0.0, 1.5);
+        std::array<float, 2> alone = states;
+        const std::array<Floats4, 2> twice = followFourTwice(follower, states, inputs);
+        for (std::size_t channel = 0; channel < 2; ++channel) {
+            const Floats4 expected = followFour(follower, alone[channel], inputs[channel]);
+            for (int i = 0; i < 4; ++i)
+                ASSERT_TRUE(sameOrBothNan(twice[channel][i], expected[i])) << "frame " << i;
+            ASSERT_TRUE(sameOrBothNan(states[channel], alone[channel]));
+        }
     }
 }
 

@@ -32,7 +32,7 @@ void expectSameState(const SPlainDetector &plain, SDetectorState &state,
             plain.smooth(smoothedExcessDb, neighbour, isAbove, level);
     }
 
-    const bool isActive = TDetector<Sample>::run(
+    const bool isActive = TDetector<Sample, SNarrowLanes>::run(
         state, SFlushedFields{}, static_cast<int>(levels.size()),
         [&plain] {
             return SDetectorSettings{plain.thresholdDb,
@@ -40,8 +40,8 @@ void expectSameState(const SPlainDetector &plain, SDetectorState &state,
                                      {plain.attackCoef, plain.releaseCoef},
                                      anyLaw};
         },
-        [&levels](const SStep &step) { return step.load(levels.data()); }, CGainsByLaw(),
-        [](const SStep &, const Floats4 &) {});
+        [&levels](const SStep &step) { return step.load(levels.data()); },
+        CGainsByLaw<SNarrowLanes>(), [](const SStep &, const Floats4 &) {});
     EXPECT_TRUE(sameBits(state.peak, peak)) << state.peak << ' ' << peak;
     EXPECT_TRUE(sameBits(state.smoothedExcessDb, smoothedExcessDb))
         << state.smoothedExcessDb << ' ' << smoothedExcessDb;

@@ -42,9 +42,9 @@ std::function<void(const Chunk &, Chunk &)> fourByFour(FourLanes onFourLanes) {
     return [onFourLanes](const Chunk &x, Chunk &y) {
         const float *from = x.data();
         float *to = y.data();
-        runWide([=] {
+        runWide([=](auto processor) {
             for (std::size_t i = 0; i < std::tuple_size_v<Chunk>; i += 4)
-                storeFour(to + i, onFourLanes(loadFour(from + i)));
+                storeFour(to + i, onFourLanes(processor, loadFour(from + i)));
         });
     };
 }
@@ -106,10 +106,10 @@ int main(int argc, char **argv) {
     const SFunction functions[] = {
         {"exp", anyFloat, SingleReference::exponential,
          oneByOne([](float x) { return expSingle(x); }),
-         fourByFour([](SFloats4 x) { return expSingle(x); })},
+         fourByFour([](auto processor, SFloats4 x) { return expSingle<decltype(processor)>(x); })},
         {"log", positiveFinite, SingleReference::logarithm,
          oneByOne([](float x) { return logSingle(x); }),
-         fourByFour([](SFloats4 x) { return logSingle(x); })},
+         fourByFour([](auto processor, SFloats4 x) { return logSingle<decltype(processor)>(x); })},
         powersOf("pow2", 2.0f),
         powersOf("pow5", 5.0f),
     };

@@ -53,11 +53,11 @@ void expectLanesLikeScalars(std::vector<float> arguments, FourLanes onFourLanes,
         }
     };
     const auto loop = [from = arguments.data(), to = results.data(), count = arguments.size(),
-                       onFourLanes] {
+                       onFourLanes](auto processor) {
         for (std::size_t i = 0; i < count; i += 4)
-            storeFour(to + i, onFourLanes(loadFour(from + i)));
+            storeFour(to + i, onFourLanes(processor, loadFour(from + i)));
     };
-    loop();
+    loop(SNarrowLanes());
     compare("SSE2");
     runWide(loop);
     compare("as wide as the processor allows");
@@ -69,10 +69,12 @@ TEST(SingleMath, LanesReturnTheBitsOfTheScalarForm) {
     std::vector<float> exponents = ofBothSigns(spread(0.0f, infinity));
     exponents.insert(exponents.end(), {infinity, -infinity, NAN, 0.0f, -0.0f});
     expectLanesLikeScalars(
-        exponents, [](SFloats4 x) { return expSingle(x); }, [](float x) { return expSingle(x); });
+        exponents, [](auto processor, SFloats4 x) { return expSingle<decltype(processor)>(x); },
+        [](float x) { return expSingle(x); });
     expectLanesLikeScalars(
         spread(std::numeric_limits<float>::denorm_min(), std::numeric_limits<float>::max()),
-        [](SFloats4 x) { return logSingle(x); }, [](float x) { return logSingle(x); });
+        [](auto processor, SFloats4 x) { return logSingle<decltype(processor)>(x); },
+        [](float x) { return logSingle(x); });
 }
 
 // The digests were computed on Linux with GCC, where the tests against the reference also run.
@@ -123,7 +125,7 @@ TEST(SingleMath, LogarithmIsRoundedOnce) {
         for (std::size_t lane = 0; lane < 4; ++lane) {
             SFloats4 among{splat(3.0f)};
             among.values[lane] = x;
-            EXPECT_EQ(logSingle(among).values[lane], logarithm) << "lane " << lane;
+            EXPECT_EQ(logSingle<SNarrowLanes>(among).values[lane], logarithm) << "lane " << lane;
         }
     }
 }
