@@ -12,7 +12,7 @@ run_packages=(
     libsndfile1-dev libsamplerate0-dev libcli11-dev nlohmann-json3-dev  # the command-line host
     googletest locales libxcb-xtest0-dev libxcb-res0-dev libxcb-xfixes0-dev  # the tests, part of every whole build
     libbenchmark-dev python3       # the benchmarks and the table of their results
-    libcairo2-dev                  # what the drawing is measured against
+    libcairo2-dev                  # the pictures of corvel; what the drawing is measured against
     alsa-utils                     # contains recorded speech, for its speaker test
 )
 test_packages=(
