@@ -53,6 +53,8 @@ TEST(CommandLine, WrongCommandsAreRefusedInOneLine) {
     expectWrongCall({"render", "in.wav", "out.wav", "--program"}, "--program: needs a value");
     expectWrongCall({"render", "in.wav", "out.wav", "--tempo", "99", "--tempo", "98"},
                     "--tempo: may be given only once");
+    expectWrongCall({"preset", "save", "a.fxp", "--program", "1", "--preset", "b.fxp"},
+                    "--program and --preset exclude each other");
     expectWrongCall({"render", "in.wav", "out.wav", "--block", "1.5"},
                     "--block: 1.5 is not a whole number");
     expectWrongCall({"info", "a.so", "b.so"}, "corvel info does not expect \"b.so\"");

@@ -64,6 +64,8 @@ std::string describe(const CLI::ParseError &error) {
     const std::string option = optionIn(text);
     if (dynamic_cast<const CLI::ExtrasError *>(&error) != nullptr)
         return describeExtra(error.get_name(), text.substr(text.find(": ") + 2));
+    if (dynamic_cast<const CLI::ExcludesError *>(&error) != nullptr)
+        return text.replace(text.find(" excludes "), 10, " and ") + " exclude each other";
     if (dynamic_cast<const CLI::ValidationError *>(&error) != nullptr)
         return text;  // written by our own validators
     if (option.empty())
