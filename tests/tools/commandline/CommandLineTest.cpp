@@ -30,7 +30,8 @@ TEST(CommandLine, PrintsItsVersion) {
 TEST(CommandLine, HelpListsEveryCommandAndOption) {
     const SProgramRun general = corvel({"--help"});
     EXPECT_EQ(general.status, 0);
-    for (const char *command : {"render", "programs", "params", "info", "preset", "Exit status"})
+    for (const char *command :
+         {"render", "plot", "programs", "params", "info", "preset", "Exit status"})
         EXPECT_THAT(general.out, HasSubstr(command));
     const SProgramRun render = corvel({"render", "--help"});
     EXPECT_EQ(render.status, 0);

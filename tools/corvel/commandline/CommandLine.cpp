@@ -2,6 +2,7 @@
 
 #include "corvel/commandline/CallErrors.h"
 #include "corvel/commandline/ListOptions.h"
+#include "corvel/commandline/PlotOptions.h"
 #include "corvel/commandline/PresetOptions.h"
 #include "corvel/commandline/RenderOptions.h"
 #include "corvel/console/Errors.h"
@@ -29,15 +30,15 @@ int parseAndRun(int argc, char **argv) {
     app.footer(generalHelp);
 
     SRenderCall render;
+    SPlotCall plot;
     SProgramsCall programs;
     SParamsCall params;
     SInfoCall info;
     CPresetOptions preset(app);
-    const SCommand commands[] = {addRender(app, render),
-                                 addPrograms(app, programs),
-                                 addParams(app, params),
-                                 addInfo(app, info),
-                                 {preset.app(), [&preset] { return preset.run(); }}};
+    const SCommand commands[] = {
+        addRender(app, render),     addPlot(app, plot),
+        addPrograms(app, programs), addParams(app, params),
+        addInfo(app, info),         {preset.app(), [&preset] { return preset.run(); }}};
     try {
         app.parse(argumentsForParser(argc, argv));
     } catch (const CLI::Success &help) {
@@ -49,7 +50,7 @@ int parseAndRun(int argc, char **argv) {
         if (command.app->parsed())
             return command.run();
     throw CCallError(
-        "no command; use render, programs, params, info or preset (see corvel --help)");
+        "no command; use render, plot, programs, params, info or preset (see corvel --help)");
 }
 
 }  // namespace Tessitor::Tool

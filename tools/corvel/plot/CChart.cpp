@@ -37,6 +37,11 @@ CChart::CChart(CCanvas &canvas, const SRectangle &area, const std::string &title
     m_canvas.textUpwards({area.x + 16.0, m_plot.y + m_plot.height / 2.0}, m_y.title, axisLettering);
 }
 
+void CChart::caption(std::string_view text) {
+    m_canvas.text({m_plot.right(), m_plot.y - 14.0}, text,
+                  {EInk::Muted, 13.0, false, EAlign::Right});
+}
+
 SPoint CChart::place(SPoint value) const {
     return {m_plot.x + m_x.position(value.x) * m_plot.width,
             m_plot.bottom() - m_y.position(value.y) * m_plot.height};

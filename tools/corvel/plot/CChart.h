@@ -43,6 +43,9 @@ public:
     /// @return the place of a value, possibly outside the plot area.
     SPoint place(SPoint value) const;
 
+    /// A remark at the right end of the title's line.
+    void caption(std::string_view text);
+
     // What is drawn is cut at the plot area.
 
     void draw(const SSeries &series);

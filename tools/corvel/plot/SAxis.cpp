@@ -91,8 +91,8 @@ SAxis frequencyAxis(double low, double high) {
 }
 
 SAxis decibelAxis(const std::string &title, double low, double high, int maxTicks) {
-    static constexpr double steps[] = {0.1, 0.2,  0.5,  1.0,  2.0,  3.0,
-                                       6.0, 10.0, 20.0, 30.0, 60.0, 120.0};
+    // Six decibels are a factor of two.
+    static constexpr double steps[] = {0.1, 0.2, 0.5, 1.0, 2.0, 3.0, 6.0, 12.0, 24.0, 48.0};
     const double step = stepFor(high - low, maxTicks, steps);
     return {title + " (dB)", low, high, EScale::Linear,
             ticksEvery(step, low, high, numbersWith(step))};

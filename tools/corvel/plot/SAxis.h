@@ -29,6 +29,7 @@ struct SAxis {
 /// Logarithmic, in Hz, with labels such as "500" and "2k".
 SAxis frequencyAxis(double low, double high);
 
+/// With steps such as 3, 6 and 12 dB.
 /// @param title     what is shown, without the unit.
 /// @param maxTicks  1 or more.
 SAxis decibelAxis(const std::string &title, double low, double high, int maxTicks);
