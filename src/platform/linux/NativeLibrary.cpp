@@ -4,8 +4,11 @@
 
 void *openNativeLibrary(const std::string &path, std::string &reason) {
     // dlopen() searches only the library path for a bare name.
-    const std::string file = path.find('/') == std::string::npos ? "./" + path : path;
-    void *library = dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);
+    return openSystemLibrary(path.find('/') == std::string::npos ? "./" + path : path, reason);
+}
+
+void *openSystemLibrary(const std::string &name, std::string &reason) {
+    void *library = dlopen(name.c_str(), RTLD_NOW | RTLD_LOCAL);
     if (library == nullptr)
         reason = dlerror();
     return library;

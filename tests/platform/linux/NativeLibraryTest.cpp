@@ -11,4 +11,14 @@ TEST(NativeLibrary, ClosingNullIsIgnored) {
     EXPECT_EQ(dlerror(), nullptr);
 }
 
+TEST(NativeLibrary, OpensALibraryOfTheSystemByItsName) {
+    std::string reason;
+    void *library = openSystemLibrary("libm.so.6", reason);
+    ASSERT_NE(library, nullptr) << reason;
+    EXPECT_NE(nativeSymbol(library, "cos"), nullptr);
+    closeNativeLibrary(library);
+    EXPECT_EQ(openSystemLibrary("no such library", reason), nullptr);
+    EXPECT_NE(reason, "");
+}
+
 }  // namespace
