@@ -116,6 +116,13 @@ TEST_F(PlotCommand, AFailureLeavesNoFile) {
     EXPECT_THAT(folder.names(), IsEmpty());
 }
 
+TEST_F(PlotCommand, APictureThatDoesNotFitOnTheDiskLeavesNoFile) {
+    for (const char *name : {"a.svg", "a.png"})
+        expectOneError(corvel({"plot", file(name)}, "ulimit -f 10;"), 1,
+                       std::string(name) + ": cannot be written");
+    EXPECT_THAT(folder.names(), IsEmpty());
+}
+
 TEST_F(PlotCommand, NamesAreTakenAsTyped) {
     for (const char *name : {"[a].svg", "a=b,c.svg", "--dark.svg"}) {
         const SProgramRun run =
@@ -179,6 +186,16 @@ TEST_F(PlotCommand, OtherEffectsCanBeDrawn) {
 
 TEST_F(PlotCommand, NeedsNoDisplay) {
     EXPECT_EQ(corvel({"plot", file("a.png")}, "DISPLAY= WAYLAND_DISPLAY=").status, 0);
+}
+
+TEST_F(PlotCommand, OnlyPicturesNeedCairo) {
+    writeFile(folder / "libcairo.so.2", "no library");
+    const std::string broken = "LD_LIBRARY_PATH=" + folder.path().string();
+    EXPECT_EQ(corvel({"programs"}, broken).status, 0);
+    EXPECT_EQ(corvel({"plot", "--json"}, broken).status, 0);
+    expectOneError(corvel({"plot", file("a.svg")}, broken), 1,
+                   "libcairo.so.2: cannot be loaded; pictures are drawn with it");
+    EXPECT_THAT(folder.names(), ElementsAre("libcairo.so.2"));
 }
 
 TEST_F(PlotCommand, AnInterruptLeavesNoFile) {

@@ -29,7 +29,7 @@ TEST(PictureFile, ReplacesAFileOnlyIfAskedTo) {
     EXPECT_THAT(folder.names(), testing::ElementsAre("a.svg"));
 }
 
-TEST(PictureFile, AFullDiskLeavesNothing) {
+TEST(PictureFile, AMissingFolderIsNotMade) {
     const CTemporaryFolder folder;
     EXPECT_THROW(writePicture(folder / "none/a.svg", "bytes", EExisting::Kept), CJobError);
     EXPECT_TRUE(folder.names().empty());

@@ -2,15 +2,19 @@
 
 #include "corvel/console/Errors.h"
 #include "corvel/console/Printable.h"
+#include "corvel/plot/CCairo.h"
 #include "corvel/plot/SvgText.h"
 
-#include <cairo-svg.h>
 #include <cmath>
 #include <numbers>
 
 namespace Tessitor::Tool {
 
 namespace {
+
+const CCairo &cairo() {
+    return CCairo::get();
+}
 
 cairo_status_t append(void *bytes, const unsigned char *data, unsigned length) {
     static_cast<std::string *>(bytes)->append(reinterpret_cast<const char *>(data), length);
@@ -20,42 +24,42 @@ cairo_status_t append(void *bytes, const unsigned char *data, unsigned length) {
 cairo_surface_t *makeSurface(double width, double height, const SPictureOptions &options,
                              std::string &bytes) {
     if (options.format == EPictureFormat::Png)
-        return cairo_image_surface_create(CAIRO_FORMAT_RGB24,
+        return cairo().imageSurfaceCreate(CAIRO_FORMAT_RGB24,
                                           static_cast<int>(std::lround(width * options.scale)),
                                           static_cast<int>(std::lround(height * options.scale)));
-    cairo_surface_t *surface = cairo_svg_surface_create_for_stream(append, &bytes, width, height);
-    cairo_svg_surface_set_document_unit(surface, CAIRO_SVG_UNIT_PX);
+    cairo_surface_t *surface = cairo().svgSurfaceCreateForStream(append, &bytes, width, height);
+    cairo().svgSurfaceSetDocumentUnit(surface, CAIRO_SVG_UNIT_PX);
     return surface;
 }
 
 // Letters keep their widths whatever the size of the pixels, so nothing moves with the scale.
 void useFreeMetrics(cairo_t *context) {
-    cairo_font_options_t *options = cairo_font_options_create();
-    cairo_font_options_set_hint_metrics(options, CAIRO_HINT_METRICS_OFF);
-    cairo_font_options_set_hint_style(options, CAIRO_HINT_STYLE_NONE);
-    cairo_font_options_set_antialias(options, CAIRO_ANTIALIAS_GRAY);
-    cairo_set_font_options(context, options);
-    cairo_font_options_destroy(options);
+    cairo_font_options_t *options = cairo().fontOptionsCreate();
+    cairo().fontOptionsSetHintMetrics(options, CAIRO_HINT_METRICS_OFF);
+    cairo().fontOptionsSetHintStyle(options, CAIRO_HINT_STYLE_NONE);
+    cairo().fontOptionsSetAntialias(options, CAIRO_ANTIALIAS_GRAY);
+    cairo().setFontOptions(context, options);
+    cairo().fontOptionsDestroy(options);
 }
 
 void selectFont(cairo_t *context, const SLettering &lettering) {
-    cairo_select_font_face(context, "sans-serif", CAIRO_FONT_SLANT_NORMAL,
+    cairo().selectFontFace(context, "sans-serif", CAIRO_FONT_SLANT_NORMAL,
                            lettering.bold ? CAIRO_FONT_WEIGHT_BOLD : CAIRO_FONT_WEIGHT_NORMAL);
-    cairo_set_font_size(context, lettering.size);
+    cairo().setFontSize(context, lettering.size);
 }
 
 double advance(cairo_t *context, const std::string &text) {
     cairo_text_extents_t extents;
-    cairo_text_extents(context, text.c_str(), &extents);
+    cairo().textExtents(context, text.c_str(), &extents);
     return extents.x_advance;
 }
 
 void setDash(cairo_t *context, EDash dash) {
     static constexpr double dashed[] = {8.0, 5.0}, dotted[] = {2.0, 4.0};
     if (dash == EDash::Solid)
-        cairo_set_dash(context, nullptr, 0, 0.0);
+        cairo().setDash(context, nullptr, 0, 0.0);
     else
-        cairo_set_dash(context, dash == EDash::Dashed ? dashed : dotted, 2, 0.0);
+        cairo().setDash(context, dash == EDash::Dashed ? dashed : dotted, 2, 0.0);
 }
 
 // Removes the last character, which may have several bytes.
@@ -70,10 +74,10 @@ void dropLast(std::string &text) {
 
 struct CCanvas::SDrawing {
     SDrawing(double width, double height, const SPictureOptions &options)
-        : surface(makeSurface(width, height, options, bytes)), context(cairo_create(surface)) {}
+        : surface(makeSurface(width, height, options, bytes)), context(cairo().create(surface)) {}
     ~SDrawing() {
-        cairo_destroy(context);
-        cairo_surface_destroy(surface);
+        cairo().destroy(context);
+        cairo().surfaceDestroy(surface);
     }
     SDrawing(const SDrawing &) = delete;
     SDrawing &operator=(const SDrawing &) = delete;
@@ -87,9 +91,9 @@ CCanvas::CCanvas(double width, double height, const SPictureOptions &options)
     : m_width(width), m_height(height), m_options(options),
       m_drawing(std::make_unique<SDrawing>(width, height, options)) {
     if (options.format == EPictureFormat::Png)
-        cairo_scale(m_drawing->context, options.scale, options.scale);
+        cairo().scale(m_drawing->context, options.scale, options.scale);
     useFreeMetrics(m_drawing->context);
-    cairo_set_line_join(m_drawing->context, CAIRO_LINE_JOIN_ROUND);
+    cairo().setLineJoin(m_drawing->context, CAIRO_LINE_JOIN_ROUND);
     fill(SRectangle{0.0, 0.0, width, height}, EInk::Paper);
 }
 
@@ -97,18 +101,18 @@ CCanvas::~CCanvas() = default;
 
 void CCanvas::setInk(EInk ink, double opacity) {
     const auto [red, green, blue] = colourOf(ink, m_options.theme);
-    cairo_set_source_rgba(m_drawing->context, red / 100.0, green / 100.0, blue / 100.0, opacity);
+    cairo().setSourceRgba(m_drawing->context, red / 100.0, green / 100.0, blue / 100.0, opacity);
 }
 
 void CCanvas::fill(const SRectangle &area, EInk ink) {
     setInk(ink);
-    cairo_rectangle(m_drawing->context, area.x, area.y, area.width, area.height);
-    cairo_fill(m_drawing->context);
+    cairo().rectangle(m_drawing->context, area.x, area.y, area.width, area.height);
+    cairo().fill(m_drawing->context);
 }
 
 void CCanvas::path(const std::vector<SPoint> &points) {
     for (const auto &[x, y] : points)
-        cairo_line_to(m_drawing->context, x, y);
+        cairo().lineTo(m_drawing->context, x, y);
 }
 
 void CCanvas::fill(const std::vector<SPoint> &outline, EInk ink, double opacity) {
@@ -116,7 +120,7 @@ void CCanvas::fill(const std::vector<SPoint> &outline, EInk ink, double opacity)
         return;
     setInk(ink, opacity);
     path(outline);
-    cairo_fill(m_drawing->context);
+    cairo().fill(m_drawing->context);
 }
 
 void CCanvas::line(const std::vector<SPoint> &points, const SStroke &stroke) {
@@ -124,9 +128,9 @@ void CCanvas::line(const std::vector<SPoint> &points, const SStroke &stroke) {
         return;
     setInk(stroke.ink);
     setDash(m_drawing->context, stroke.dash);
-    cairo_set_line_width(m_drawing->context, stroke.width);
+    cairo().setLineWidth(m_drawing->context, stroke.width);
     path(points);
-    cairo_stroke(m_drawing->context);
+    cairo().stroke(m_drawing->context);
 }
 
 void CCanvas::text(SPoint place, std::string_view text, const SLettering &lettering) {
@@ -136,19 +140,19 @@ void CCanvas::text(SPoint place, std::string_view text, const SLettering &letter
     double left = place.x;
     if (lettering.align != EAlign::Left)
         left -= advance(m_drawing->context, shown) * (lettering.align == EAlign::Right ? 1.0 : 0.5);
-    cairo_move_to(m_drawing->context, left, place.y);
-    cairo_show_text(m_drawing->context, shown.c_str());
-    cairo_new_path(m_drawing->context);
+    cairo().moveTo(m_drawing->context, left, place.y);
+    cairo().showText(m_drawing->context, shown.c_str());
+    cairo().newPath(m_drawing->context);
 }
 
 void CCanvas::textUpwards(SPoint place, std::string_view text, const SLettering &lettering) {
-    cairo_save(m_drawing->context);
-    cairo_translate(m_drawing->context, place.x, place.y);
-    cairo_rotate(m_drawing->context, -std::numbers::pi / 2.0);
+    cairo().save(m_drawing->context);
+    cairo().translate(m_drawing->context, place.x, place.y);
+    cairo().rotate(m_drawing->context, -std::numbers::pi / 2.0);
     SLettering centred = lettering;
     centred.align = EAlign::Middle;
     this->text({0.0, 0.0}, text, centred);
-    cairo_restore(m_drawing->context);
+    cairo().restore(m_drawing->context);
 }
 
 double CCanvas::textWidth(std::string_view text, const SLettering &lettering) {
@@ -166,22 +170,22 @@ std::string CCanvas::shortened(std::string_view text, double width, const SLette
 }
 
 void CCanvas::clip(const SRectangle &area) {
-    cairo_save(m_drawing->context);
-    cairo_rectangle(m_drawing->context, area.x, area.y, area.width, area.height);
-    cairo_clip(m_drawing->context);
+    cairo().save(m_drawing->context);
+    cairo().rectangle(m_drawing->context, area.x, area.y, area.width, area.height);
+    cairo().clip(m_drawing->context);
 }
 
 void CCanvas::unclip() {
-    cairo_restore(m_drawing->context);
+    cairo().restore(m_drawing->context);
 }
 
 std::string CCanvas::finish(const std::string &title, const std::string &description) {
     std::string &bytes = m_drawing->bytes;
     if (m_options.format == EPictureFormat::Png)
-        cairo_surface_write_to_png_stream(m_drawing->surface, append, &bytes);
-    cairo_surface_finish(m_drawing->surface);
-    if (cairo_status(m_drawing->context) != CAIRO_STATUS_SUCCESS ||
-        cairo_surface_status(m_drawing->surface) != CAIRO_STATUS_SUCCESS)
+        cairo().surfaceWriteToPngStream(m_drawing->surface, append, &bytes);
+    cairo().surfaceFinish(m_drawing->surface);
+    if (cairo().status(m_drawing->context) != CAIRO_STATUS_SUCCESS ||
+        cairo().surfaceStatus(m_drawing->surface) != CAIRO_STATUS_SUCCESS)
         throw CJobError("the picture cannot be drawn: not enough memory");
     if (m_options.format == EPictureFormat::Png)
         return bytes;
