@@ -23,10 +23,11 @@ cairo_status_t append(void *bytes, const unsigned char *data, unsigned length) {
 
 cairo_surface_t *makeSurface(double width, double height, const SPictureOptions &options,
                              std::string &bytes) {
-    if (options.format == EPictureFormat::Png)
+    if (options.format == EPictureFormat::Png) {
         return cairo().imageSurfaceCreate(CAIRO_FORMAT_RGB24,
                                           static_cast<int>(std::lround(width * options.scale)),
                                           static_cast<int>(std::lround(height * options.scale)));
+    }
     cairo_surface_t *surface = cairo().svgSurfaceCreateForStream(append, &bytes, width, height);
     cairo().svgSurfaceSetDocumentUnit(surface, CAIRO_SVG_UNIT_PX);
     return surface;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <ranges>
 #include <utility>
 
 namespace Tessitor::Tool {
@@ -94,8 +95,8 @@ void CChart::draw(const SBand &band) {
     std::vector<SPoint> outline;
     for (const SPoint &value : band.high)
         outline.push_back(place(value));
-    for (auto value = band.low.rbegin(); value != band.low.rend(); ++value)
-        outline.push_back(place(*value));
+    for (const SPoint &value : std::ranges::reverse_view(band.low))
+        outline.push_back(place(value));
     m_canvas.clip(m_plot);
     m_canvas.fill(outline, band.ink, band.opacity);
     m_canvas.unclip();
@@ -108,14 +109,15 @@ void CChart::addToLegend(const std::string &label, EInk ink, const SStroke *stro
         return;
     constexpr double sample = 30.0;
     const double middle = m_plot.y - 19.0;
-    if (stroke != nullptr)
+    if (stroke != nullptr) {
         m_canvas.line({{m_legendX, middle}, {m_legendX + sample, middle}}, *stroke);
-    else
+    } else {
         m_canvas.fill({{m_legendX, middle - 5.0},
                        {m_legendX + sample, middle - 5.0},
                        {m_legendX + sample, middle + 5.0},
                        {m_legendX, middle + 5.0}},
                       ink, opacity);
+    }
     m_canvas.text({m_legendX + sample + 6.0, m_plot.y - 14.0}, label, legendLettering);
     m_legendX += sample + 6.0 + m_canvas.textWidth(label, legendLettering) + 22.0;
 }

@@ -13,6 +13,7 @@ namespace {
 
 constexpr std::size_t noisePeriod = 65536, burstFrames = 2 * noisePeriod;
 constexpr std::size_t fadeFrames = 256;
+constexpr std::size_t restFrames = std::size_t{longestTail} * probeRate;
 constexpr std::size_t binFrames = 441;  // 10 ms, the resolution of the curve
 constexpr std::size_t binsIn50ms = 5;
 constexpr double lowest = 100.0, highest = 15000.0;    // Hz
@@ -125,8 +126,7 @@ SDecay measureDecay(const CSubject &subject, double level) {
     const auto effect = subject.start();
     const auto latency = static_cast<std::size_t>(std::max(0, effect->record().initialDelay));
     const BothSides<float> sound = passThrough(*effect, burst(level));
-    const BothSides<float> rest =
-        passThrough(*effect, std::vector<float>(longestTail * probeRate + latency));
+    const BothSides<float> rest = passThrough(*effect, std::vector<float>(restFrames + latency));
     return decayFrom(energiesOf(sound, burstFrames - noisePeriod), energiesOf(rest, latency));
 }
 

@@ -28,8 +28,8 @@ void transform(std::vector<std::complex<double>> &values) {
         turns[k] = std::polar(1.0, -2.0 * std::numbers::pi * static_cast<double>(k) /
                                        static_cast<double>(count));
     reverseOrder(values);
-    for (std::size_t half = 1; half < count; half *= 2)
-        for (std::size_t begin = 0; begin < count; begin += 2 * half)
+    for (std::size_t half = 1; half < count; half *= 2) {
+        for (std::size_t begin = 0; begin < count; begin += 2 * half) {
             for (std::size_t k = 0; k < half; ++k) {
                 const auto &turn = turns[k * (count / 2 / half)];
                 const auto &value = values[begin + half + k];
@@ -39,6 +39,8 @@ void transform(std::vector<std::complex<double>> &values) {
                 values[begin + half + k] = values[begin + k] - turned;
                 values[begin + k] += turned;
             }
+        }
+    }
 }
 
 }  // namespace Tessitor::Tool

@@ -15,7 +15,7 @@ constexpr int quietest = -60, loudest = 0;  // dB
 
 // Long enough for the slowest gate to open and for most of a long reverb to build up. What is
 // missing of the reverb is missing at every level alike.
-constexpr std::size_t settlingFrames = 3 * probeRate, measuredFrames = probeRate;
+constexpr std::size_t settlingFrames = std::size_t{3} * probeRate, measuredFrames = probeRate;
 
 std::vector<double> sine(double tone) {
     std::vector<double> samples(settlingFrames + measuredFrames);
@@ -49,10 +49,11 @@ SLevelCurve measureLevelCurve(const CSubject &subject, double tone) {
         try {
             const auto effect = subject.start();
             const BothSides<float> out = passThrough(*effect, scaled(unit, curve.in[index]));
-            for (std::size_t side = 0; side < 2; ++side)
+            for (std::size_t side = 0; side < 2; ++side) {
+                const double power = meanPower(std::span(out[side]).subspan(settlingFrames));
                 // The mean square of a full-scale sine is a half.
-                curve.out[side][index] =
-                    decibelsOfPower(2.0 * meanPower(std::span(out[side]).subspan(settlingFrames)));
+                curve.out[side][index] = decibelsOfPower(2.0 * power);
+            }
         } catch (...) {
             const std::lock_guard guard(lock);
             failure = std::current_exception();

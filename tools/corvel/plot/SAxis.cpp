@@ -34,10 +34,10 @@ double roundStep(double span, int maxTicks) {
 std::vector<STick> ticksEvery(double step, double low, double high, const Label &label) {
     constexpr double tolerance = 1e-6;  // of a step
     std::vector<STick> ticks;
-    const double first = std::ceil(low / step - tolerance);
-    const double last = std::floor(high / step + tolerance);
-    for (double number = first; number <= last; number += 1.0) {
-        const double value = number * step + 0.0;  // no -0
+    const auto first = std::llround(std::ceil(low / step - tolerance));
+    const auto last = std::llround(std::floor(high / step + tolerance));
+    for (long long number = first; number <= last; ++number) {
+        const double value = static_cast<double>(number) * step;
         ticks.push_back({value, label(value)});
     }
     return ticks;
@@ -64,8 +64,8 @@ std::string hoursText(double seconds) {
            twoDigits(whole % 60);
 }
 
-bool isLabelled(double digit) {
-    return digit == 1.0 || digit == 2.0 || digit == 5.0;
+bool isLabelled(int digit) {
+    return digit == 1 || digit == 2 || digit == 5;
 }
 
 std::string frequencyLabel(double frequency) {
@@ -83,10 +83,14 @@ double SAxis::position(double value) const {
 
 SAxis frequencyAxis(double low, double high) {
     SAxis axis{"Frequency (Hz)", low, high, EScale::Logarithmic, {}};
-    for (double power = std::pow(10.0, std::floor(std::log10(low))); power <= high; power *= 10.0)
-        for (double digit = 1.0; digit < 10.0; digit += 1.0)
-            if (const double value = digit * power; value >= low && value <= high)
+    const int lastPower = static_cast<int>(std::floor(std::log10(high)));
+    for (int power = static_cast<int>(std::floor(std::log10(low))); power <= lastPower; ++power) {
+        for (int digit = 1; digit < 10; ++digit) {
+            const double value = digit * std::pow(10.0, power);
+            if (value >= low && value <= high)
                 axis.ticks.push_back({value, isLabelled(digit) ? frequencyLabel(value) : ""});
+        }
+    }
     return axis;
 }
 

@@ -25,12 +25,14 @@ struct SSpan {
 SSpan spanOf(const BothSides<double> &sides, SSpan least) {
     constexpr double step = 6.0, mostShown = 60.0;
     auto [low, high] = least;
-    for (const std::vector<double> &side : sides)
-        for (const double value : side)
-            if (std::isfinite(value)) {
-                low = std::min(low, value);
-                high = std::max(high, value);
-            }
+    for (const std::vector<double> &side : sides) {
+        for (const double value : side) {
+            if (!std::isfinite(value))
+                continue;
+            low = std::min(low, value);
+            high = std::max(high, value);
+        }
+    }
     high = std::ceil(high / step) * step;
     return {std::max(std::floor(low / step) * step, high - mostShown), high};
 }
