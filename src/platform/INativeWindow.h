@@ -41,6 +41,8 @@ public:
     virtual void enable(bool isEnabled) = 0;  ///< a disabled window gets neither mouse nor keys
     /// Brings the window's program to the front and gives it the keyboard, where the system allows.
     virtual void bringToFront() = 0;
+    /// @param title  in the system's narrow encoding. Children have none to be seen.
+    virtual void setTitle(const std::string &title) = 0;
     /// @param alpha  255 is opaque. Only popups and top level windows can be translucent.
     virtual void setAlpha(std::uint8_t alpha) = 0;
 

@@ -233,6 +233,7 @@ TEST_F(NativeWindow, ReportsThatItsParentTookItAway) {
     spy.window->hide();
     spy.window->enable(false);
     spy.window->bringToFront();
+    spy.window->setTitle("late");
     spy.window->setAlpha(100);
     spy.window->move({1, 1});
     spy.window->moveAndResize({1, 1, 2, 2});

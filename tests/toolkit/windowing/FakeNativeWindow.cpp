@@ -53,6 +53,10 @@ void CFakeNativeWindow::bringToFront() {
     note("bring to front");
 }
 
+void CFakeNativeWindow::setTitle(const std::string &title) {
+    note("title " + title);
+}
+
 void CFakeNativeWindow::setAlpha(std::uint8_t alpha) {
     note("alpha " + std::to_string(alpha));
 }

@@ -86,6 +86,10 @@ void CWin32Window::bringToFront() {
     SetForegroundWindow(m_handle);
 }
 
+void CWin32Window::setTitle(const std::string &title) {
+    SetWindowTextA(m_handle, title.c_str());
+}
+
 void CWin32Window::setAlpha(std::uint8_t alpha) {
     SetLayeredWindowAttributes(m_handle, 0, alpha, LWA_ALPHA);
 }

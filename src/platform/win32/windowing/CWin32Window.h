@@ -26,6 +26,7 @@ public:
     void hide() override;
     void enable(bool isEnabled) override;
     void bringToFront() override;
+    void setTitle(const std::string &title) override;
     void setAlpha(std::uint8_t alpha) override;
     void move(SNativePoint position) override;
     void moveAndResize(const SNativeRect &bounds) override;

@@ -255,6 +255,14 @@ TEST_F(CWin32Window, APopupCanBeTranslucent) {
     EXPECT_EQ(flags, 2u);
 }
 
+TEST_F(CWin32Window, CanChangeItsTitle) {
+    create();
+    window->setTitle("another");
+    char title[20] = {};
+    GetWindowTextA(handle(), title, sizeof(title));
+    EXPECT_STREQ(title, "another");
+}
+
 // Painting
 
 TEST_F(CWin32Window, PaintsWhatIsInvalid) {

@@ -113,13 +113,19 @@ void setXembedInfo(CXcbConnection &connection, xcb_window_t window, bool isShown
     CProperties(connection, window).setNumbers(atom, atom, versionAndFlags);
 }
 
+void nameWindow(CXcbConnection &connection, xcb_window_t window, const std::string &title) {
+    const CProperties properties(connection, window);
+    const SXcbAtoms &atoms = connection.getAtoms();
+    properties.setText(XCB_ATOM_WM_NAME, atoms.utf8String, title);
+    properties.setText(atoms.netWmName, atoms.utf8String, title);
+}
+
 void describeWindow(CXcbConnection &connection, xcb_window_t window,
                     const SNativeWindowOptions &options, xcb_window_t owner) {
     const CProperties properties(connection, window);
     const SXcbAtoms &atoms = connection.getAtoms();
     const bool isPopup = isPopupStyle(options.style);
-    properties.setText(XCB_ATOM_WM_NAME, atoms.utf8String, options.title);
-    properties.setText(atoms.netWmName, atoms.utf8String, options.title);
+    nameWindow(connection, window, options.title);
     properties.setNumber(atoms.netWmWindowType, XCB_ATOM_ATOM,
                          isPopup ? atoms.netWmWindowTypePopupMenu : atoms.netWmWindowTypeNormal);
     if (owner != XCB_NONE)

@@ -12,6 +12,9 @@ void setXembedInfo(CXcbConnection &connection, xcb_window_t window, bool isShown
 void describeWindow(CXcbConnection &connection, xcb_window_t window,
                     const SNativeWindowOptions &options, xcb_window_t owner);
 
+/// Tells the window manager a window's name, which it shows as the title.
+void nameWindow(CXcbConnection &connection, xcb_window_t window, const std::string &title);
+
 /// Tells the window manager where a window is to be, and that the user cannot resize it unless its
 /// style says so.
 void setSizeHints(CXcbConnection &connection, xcb_window_t window, std::uint32_t style,

@@ -223,6 +223,13 @@ void CXcbWindow::raise() {
     xcb_configure_window(m_connection->get(), m_id, XCB_CONFIG_WINDOW_STACK_MODE, &above);
 }
 
+void CXcbWindow::setTitle(const std::string &title) {
+    if (m_id == XCB_NONE)
+        return;
+    nameWindow(*m_connection, m_id, title);
+    m_connection->flush();
+}
+
 void CXcbWindow::setAlpha(std::uint8_t alpha) {
     if (m_id == XCB_NONE || isChild() || alpha == m_alpha)
         return;

@@ -163,6 +163,10 @@ TEST_P(CXcbTopLevel, TellsWhatItIs) {
     show();
     EXPECT_EQ(textOf(client, getId(), "WM_NAME"), "window");
     EXPECT_EQ(textOf(client, getId(), "_NET_WM_NAME"), "window");
+    spy.window->setTitle("Café");
+    pumpAll(client);
+    EXPECT_EQ(textOf(client, getId(), "WM_NAME"), "Café");
+    EXPECT_EQ(textOf(client, getId(), "_NET_WM_NAME"), "Café");
     const std::string name = spy.options.className;
     EXPECT_EQ(textOf(client, getId(), "WM_CLASS"), name + '\0' + name + '\0');
     EXPECT_THAT(property("_NET_WM_PID"), ElementsAre(static_cast<std::uint32_t>(getpid())));
