@@ -1,6 +1,8 @@
 #include "corvel/effect/HostCallback.h"
 
 #include <gtest/gtest.h>
+#include <thread>
+#include <utility>
 
 using namespace Tessitor::Tool;
 
@@ -64,6 +66,30 @@ TEST_F(HostCallback, ReturnsItsNamesAndCapabilities) {
     EXPECT_EQ(ask(audioMasterGetVendorString, 0, 0, text), 1);
     EXPECT_STREQ(text, "Lumatic");
     EXPECT_EQ(ask(audioMasterCanDo, 0, 0, const_cast<char *>("sendVstTimeInfo")), 1);
-    EXPECT_EQ(ask(audioMasterCanDo, 0, 0, const_cast<char *>("sizeWindow")), 0);
+    EXPECT_EQ(ask(audioMasterCanDo, 0, 0, const_cast<char *>("sizeWindow")), 1);
+    EXPECT_EQ(ask(audioMasterCanDo, 0, 0, const_cast<char *>("shellCategory")), 0);
     EXPECT_EQ(ask(audioMasterGetCurrentProcessLevel), kVstProcessLevelOffline);
+}
+
+TEST_F(HostCallback, SaysWhatTheCallingThreadWorksFor) {
+    std::thread([this] {
+        setProcessLevelOfThread(kVstProcessLevelRealtime);
+        EXPECT_EQ(ask(audioMasterGetCurrentProcessLevel), kVstProcessLevelRealtime);
+    }).join();
+    EXPECT_EQ(ask(audioMasterGetCurrentProcessLevel), kVstProcessLevelOffline);
+}
+
+TEST_F(HostCallback, ResizesTheEditorsWindowIfThereIsOne) {
+    struct CWindow : IEditorHost {
+        void resizeEditor(std::int32_t width, std::int32_t height) override {
+            size = {width, height};
+        }
+        std::pair<int, int> size;
+    } window;
+    EXPECT_EQ(ask(audioMasterSizeWindow, 300, 200), 0);
+    state.editor = &window;
+    EXPECT_EQ(ask(audioMasterSizeWindow, 300, 200), 1);
+    EXPECT_EQ(window.size, std::pair(300, 200));
+    EXPECT_EQ(ask(audioMasterSizeWindow, 0, 200), 0);
+    EXPECT_EQ(window.size, std::pair(300, 200));
 }

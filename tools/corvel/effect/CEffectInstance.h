@@ -54,6 +54,14 @@ public:
     /// Sends stop and mains off. Does nothing unless started.
     void stop();
 
+    /// What the effect is told when it asks for the time during the next block. Without this, the
+    /// transport runs on from block to block.
+    void setTime(const VstTimeInfo &time) { m_host.time = time; }
+
+    /// @param window  that shows the effect's editor, to be resized when the effect wishes it; null
+    ///                for none.
+    void setEditorHost(IEditorHost *window) { m_host.editor = window; }
+
     /// Only between start() and stop().
     /// @param in, out  two channels of `frames` samples; out[1] may be null without a right output.
     /// @param frames   at most the block size.

@@ -1,6 +1,8 @@
 #include "corvel/effect/HostCallback.h"
 
+#include <algorithm>
 #include <cstdio>
+#include <iterator>
 #include <string_view>
 
 namespace Tessitor::Tool {
@@ -9,6 +11,8 @@ namespace {
 
 constexpr std::intptr_t hostVersion = 1000;
 constexpr std::intptr_t english = 1;
+
+thread_local std::int32_t processLevel = kVstProcessLevelOffline;
 
 std::intptr_t giveText(void *ptr, const char *text) {
     if (ptr == nullptr)
@@ -20,8 +24,17 @@ std::intptr_t giveText(void *ptr, const char *text) {
 std::intptr_t canDo(const void *ptr) {
     if (ptr == nullptr)
         return 0;
+    constexpr std::string_view abilities[] = {"sendVstTimeInfo", "startStopProcess",
+                                              "sendVstEvents", "sendVstMidiEvent", "sizeWindow"};
     const std::string_view what = static_cast<const char *>(ptr);
-    return what == "sendVstTimeInfo" || what == "startStopProcess" ? 1 : 0;
+    return std::find(std::begin(abilities), std::end(abilities), what) != std::end(abilities);
+}
+
+std::intptr_t resize(IEditorHost *editor, std::int32_t width, std::int32_t height) {
+    if (editor == nullptr || width <= 0 || height <= 0)
+        return 0;
+    editor->resizeEditor(width, height);
+    return 1;
 }
 
 // Inverted in the published interface: 0 means connected, so a host without this opcode says yes.
@@ -34,6 +47,8 @@ std::intptr_t pinConnected(const SHostState &state, std::int32_t pin, bool outpu
 std::intptr_t answerOfInstance(SHostState &state, std::int32_t opcode, std::int32_t index,
                                std::intptr_t value) {
     switch (opcode) {
+    case audioMasterSizeWindow:
+        return resize(state.editor, index, static_cast<std::int32_t>(value));
     case audioMasterPinConnected:
         return pinConnected(state, index, value != 0);
     case audioMasterGetTime:
@@ -49,6 +64,10 @@ std::intptr_t answerOfInstance(SHostState &state, std::int32_t opcode, std::int3
 
 }  // namespace
 
+void setProcessLevelOfThread(std::int32_t level) {
+    processLevel = level;
+}
+
 std::intptr_t hostCallback(AEffect *effect, std::int32_t opcode, std::int32_t index,
                            std::intptr_t value, void *ptr, float /*opt*/) {
     switch (opcode) {
@@ -57,7 +76,7 @@ std::intptr_t hostCallback(AEffect *effect, std::int32_t opcode, std::int32_t in
     case audioMasterCurrentId:
         return effect != nullptr ? effect->uniqueID : 0;
     case audioMasterGetCurrentProcessLevel:
-        return kVstProcessLevelOffline;
+        return processLevel;
     case audioMasterGetAutomationState:
         return kVstAutomationOff;
     case audioMasterGetVendorString:

@@ -4,6 +4,15 @@
 
 namespace Tessitor::Tool {
 
+/// The window of an effect's editor. [gui thread]
+class IEditorHost {
+public:
+    virtual void resizeEditor(std::int32_t width, std::int32_t height) = 0;
+
+protected:
+    ~IEditorHost() = default;
+};
+
 /// What this host tells one instance of an effect. The `resvd1` of the instance, a field reserved
 /// for the host, points to it. Before that is set, the answer to any question about the instance
 /// is 0.
@@ -12,7 +21,12 @@ struct SHostState {
     std::int32_t blockSize = 0;  // frames
     bool rightInputConnected = true;
     bool rightOutputConnected = true;
+    IEditorHost *editor = nullptr;  // while it is open
 };
+
+/// What effects are told that the calling thread works for: kVstProcessLevelOffline unless this has
+/// been called, of VstProcessLevel. [any thread] Costs nothing to speak of.
+void setProcessLevelOfThread(std::int32_t level);
 
 /// The function through which effects call this host. [any thread]
 std::intptr_t hostCallback(AEffect *effect, std::int32_t opcode, std::int32_t index,
