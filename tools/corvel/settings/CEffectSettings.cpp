@@ -13,13 +13,6 @@ namespace Tessitor::Tool {
 
 namespace {
 
-std::int32_t parameterFromName(CEffectInstance &effect, std::string_view name) {
-    for (std::int32_t index = 0; index < effect.record().numParams; ++index)
-        if (!name.empty() && equalInAnyCapitals(effect.text(effGetParamName, index), name))
-            return index;
-    throw CCallError("--set: no parameter \"" + std::string(name) + "\"; corvel params lists them");
-}
-
 std::string displayWithUnit(CEffectInstance &effect, std::int32_t index) {
     const std::string unit = effect.text(effGetParamLabel, index);
     return effect.text(effGetParamDisplay, index) + (unit.empty() ? "" : " " + unit);
@@ -58,6 +51,14 @@ std::int32_t programFromText(CEffectInstance &effect, const std::string &text) {
                      std::to_string(programs - 1));
 }
 
+std::int32_t parameterFromName(CEffectInstance &effect, const std::string &option,
+                               std::string_view name) {
+    for (std::int32_t index = 0; index < effect.record().numParams; ++index)
+        if (!name.empty() && equalInAnyCapitals(effect.text(effGetParamName, index), name))
+            return index;
+    throw CCallError(option + ": no parameter " + inQuotes(name) + "; corvel params lists them");
+}
+
 CEffectSettings::CEffectSettings(const SSettingsRequest &request, CEffectInstance &trial) {
     if (request.program)
         m_program = programFromText(trial, *request.program);
@@ -92,7 +93,7 @@ void CEffectSettings::assign(const std::string &text, CEffectInstance &trial) {
     if (equals == std::string::npos)
         throw CCallError("--set: " + inQuotes(text) + " is not NAME=VALUE");
     const std::int32_t index =
-        parameterFromName(trial, trimmed(std::string_view(text).substr(0, equals)));
+        parameterFromName(trial, "--set", trimmed(std::string_view(text).substr(0, equals)));
     const std::string_view value = trimmed(std::string_view(text).substr(equals + 1));
     const std::string name = trial.text(effGetParamName, index);
     const CParameterText parameter(trial.text(effGetParamLabel, index), [&](float tried) {

@@ -27,6 +27,12 @@ std::string programName(CEffectInstance &effect, std::int32_t program);
 /// @throws CCallError if the effect has no such program, or several.
 std::int32_t programFromText(CEffectInstance &effect, const std::string &text);
 
+/// @param option  that names the parameter, for the error.
+/// @param name    in upper or lower case.
+/// @throws CCallError if the effect has no such parameter.
+std::int32_t parameterFromName(CEffectInstance &effect, const std::string &option,
+                               std::string_view name);
+
 /// A request, resolved once and then applied to any number of instances.
 class CEffectSettings {
 public:
