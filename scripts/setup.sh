@@ -10,6 +10,7 @@ run_packages=(
     libxcb1-dev libxkbcommon-dev libxcb-xkb-dev  # windows and keys
     libfontconfig-dev libfreetype-dev libjpeg62-turbo-dev libpng-dev  # fonts and pictures
     libsndfile1-dev libsamplerate0-dev libcli11-dev nlohmann-json3-dev  # the command-line host
+    libjack-jackd2-dev             # corvel live
     googletest locales libxcb-xtest0-dev libxcb-res0-dev libxcb-xfixes0-dev  # the tests, part of every whole build
     libbenchmark-dev python3       # the benchmarks and the table of their results
     libcairo2-dev                  # the pictures of corvel; what the drawing is measured against
@@ -19,6 +20,7 @@ test_packages=(
     git                                                 # for scripts/golden.sh and scripts/check-fresh.sh
     g++-mingw-w64-x86-64-posix gcc-mingw-w64-x86-64-posix  # the Windows build
     wine wine64 xvfb xauth                              # run the Windows tests
+    jackd2                                              # the audio server of the tests of corvel live
     fonts-liberation fonts-liberation2                  # the face of the text in the tests
     openbox libxcb-cursor0                              # a window manager and cursor themes for them
     python3-cairo                                       # draws the pictures of the editor, to compare

@@ -2,6 +2,7 @@
 
 #include "corvel/commandline/CallErrors.h"
 #include "corvel/commandline/ListOptions.h"
+#include "corvel/commandline/LiveOptions.h"
 #include "corvel/commandline/PlotOptions.h"
 #include "corvel/commandline/PresetOptions.h"
 #include "corvel/commandline/RenderOptions.h"
@@ -31,14 +32,20 @@ int parseAndRun(int argc, char **argv) {
 
     SRenderCall render;
     SPlotCall plot;
+    SLiveCall live;
     SProgramsCall programs;
     SParamsCall params;
     SInfoCall info;
     CPresetOptions preset(app);
     const SCommand commands[] = {
-        addRender(app, render),     addPlot(app, plot),
-        addPrograms(app, programs), addParams(app, params),
-        addInfo(app, info),         {preset.app(), [&preset] { return preset.run(); }}};
+        addRender(app, render),
+        addLive(app, live),
+        addPlot(app, plot),
+        addPrograms(app, programs),
+        addParams(app, params),
+        addInfo(app, info),
+        {preset.app(), [&preset] { return preset.run(); }},
+    };
     try {
         app.parse(argumentsForParser(argc, argv));
     } catch (const CLI::Success &help) {
@@ -49,8 +56,8 @@ int parseAndRun(int argc, char **argv) {
     for (const SCommand &command : commands)
         if (command.app->parsed())
             return command.run();
-    throw CCallError(
-        "no command; use render, plot, programs, params, info or preset (see corvel --help)");
+    throw CCallError("no command; use render, live, plot, programs, params, info or preset (see "
+                     "corvel --help)");
 }
 
 }  // namespace Tessitor::Tool

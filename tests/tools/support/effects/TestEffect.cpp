@@ -11,6 +11,7 @@
 #include <fstream>
 #include <mutex>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -29,6 +30,9 @@ using Tessitor::Corvel::SProgram;
 #endif
 #ifndef TEST_EFFECT_ID
 #define TEST_EFFECT_ID 'Q' | 'r' << 8 | 'M' << 16 | 'k' << 24
+#endif
+#ifndef TEST_EFFECT_TAKES_MIDI
+#define TEST_EFFECT_TAKES_MIDI 0
 #endif
 #ifndef TEST_EFFECT_CHUNK_BYTES
 #define TEST_EFFECT_CHUNK_BYTES sizeof(SProgram)
@@ -175,9 +179,51 @@ private:
         case effGetOutputProperties:
             return describePin(index, "output", *static_cast<VstPinProperties *>(ptr));
         case effCanDo:
+            if (std::string(text) == "receiveVstMidiEvent")
+                return TEST_EFFECT_TAKES_MIDI;
             return std::string(text) == "2in2out" ? 1 : std::string(text) == "bypass" ? -1 : 0;
+        case effProcessEvents:
+            logEvents(*static_cast<const VstEvents *>(ptr));
+            return 1;
+        case effEditGetRect:
+            *static_cast<ERect **>(ptr) = &m_editorBounds;
+            return 1;
+        case effEditOpen:
+            log("edit open");
+            m_asksForSize = true;
+            return 1;
+        case effEditIdle:
+            idle();
+            return 1;
+        case effEditClose:
+            log("edit close");
+            return 1;
         default:
             return 0;
+        }
+    }
+
+    // Once open, the editor wants to be larger.
+    void idle() {
+        if (!std::exchange(m_asksForSize, false))
+            return;
+        m_editorBounds.right = 320;
+        m_editorBounds.bottom = 240;
+        log("edit size " +
+            std::to_string(m_host(&m_record, audioMasterSizeWindow, 320, 240, nullptr, 0.0f)));
+    }
+
+    void logEvents(const VstEvents &events) const {
+        VstEvent *const *list = events.events;
+        for (std::int32_t i = 0; i < events.numEvents; ++i) {
+            const auto &event = *reinterpret_cast<const VstMidiEvent *>(list[i]);
+            const auto byte = [&](int index) {
+                return static_cast<int>(static_cast<unsigned char>(event.midiData[index]));
+            };
+            std::array<char, 64> line{};
+            std::snprintf(line.data(), line.size(), "event at %d %d %d %d", event.deltaFrames,
+                          byte(0), byte(1), byte(2));
+            log(line.data());
         }
     }
 
@@ -271,6 +317,8 @@ private:
     std::size_t m_program = 0;
     bool m_mono = false;
     double m_tempo = -1.0;
+    ERect m_editorBounds = {0, 0, 100, 200};
+    bool m_asksForSize = false;
     std::array<std::vector<double>, 2> m_held;  // the latest frames, as many as the latency
 };
 

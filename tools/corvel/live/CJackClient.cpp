@@ -1,0 +1,225 @@
+#include "corvel/live/CJackClient.h"
+
+#include "corvel/console/Errors.h"
+#include "corvel/console/Text.h"
+
+#include <algorithm>
+
+namespace Tessitor::Tool {
+
+namespace {
+
+constexpr const char *audioType = JACK_DEFAULT_AUDIO_TYPE;
+constexpr const char *midiType = JACK_DEFAULT_MIDI_TYPE;
+
+// The library would print its own errors and remarks, some of them on the audio thread.
+void silenceLibrary() {
+    jack_set_error_function([](const char *) {});
+    jack_set_info_function([](const char *) {});
+}
+
+std::string describeFailure(const SJackOptions &options, jack_status_t status) {
+    const std::string server =
+        options.server ? "JACK server " + inQuotes(*options.server) : "JACK server";
+    if ((status & (JackServerFailed | JackServerError)) != 0)
+        return "no " + server + " is running" +
+               (options.server ? "" : "; start JACK or PipeWire, or name a server with --server");
+    if ((status & JackVersionError) != 0)
+        return "the " + server + " and this computer's JACK library have different versions";
+    return "the " + server + " refuses the client";
+}
+
+}  // namespace
+
+std::string problemOfClientName(const std::string &name) {
+    const auto longest = static_cast<std::size_t>(jack_client_name_size()) - 1;
+    const auto isControl = [](char letter) { return static_cast<unsigned char>(letter) < ' '; };
+    if (name.empty())
+        return "the name is empty";
+    if (name.size() > longest)
+        return "the name is longer than " + std::to_string(longest) + " bytes";
+    if (name.find(':') != std::string::npos)
+        return "a name has no colon";
+    if (std::any_of(name.begin(), name.end(), isControl))
+        return "a name has no control characters";
+    return {};
+}
+
+std::unique_ptr<jack_client_t, CJackClient::SCloser>
+CJackClient::open(const SJackOptions &options) {
+    silenceLibrary();
+    jack_status_t status{};
+    jack_client_t *client =
+        options.server
+            ? jack_client_open(options.name.c_str(),
+                               static_cast<jack_options_t>(JackNoStartServer | JackServerName),
+                               &status, options.server->c_str())
+            : jack_client_open(options.name.c_str(), JackNoStartServer, &status);
+    if (client == nullptr)
+        throw CJobError(describeFailure(options, status));
+    return std::unique_ptr<jack_client_t, SCloser>(client);
+}
+
+CJackClient::CJackClient(const SJackOptions &options)
+    : m_latency(options.latency), m_client(open(options)),
+      m_sampleRate(jack_get_sample_rate(m_client.get())),
+      m_blockFrames(jack_get_buffer_size(m_client.get())) {
+    m_in = {addPort("in_left", audioType, JackPortIsInput),
+            addPort("in_right", audioType, JackPortIsInput)};
+    m_out = {addPort("out_left", audioType, JackPortIsOutput),
+             addPort("out_right", audioType, JackPortIsOutput)};
+    if (options.midi)
+        m_midiIn = addPort("midi_in", midiType, JackPortIsInput);
+    setCallbacks();
+}
+
+CJackClient::~CJackClient() {
+    jack_deactivate(m_client.get());
+}
+
+jack_port_t *CJackClient::addPort(const char *portName, const char *type, unsigned long flags) {
+    jack_port_t *port = jack_port_register(m_client.get(), portName, type, flags, 0);
+    if (port == nullptr)
+        throw CJobError("the JACK server has no port left for " + name());
+    return port;
+}
+
+void CJackClient::setCallbacks() {
+    jack_client_t *client = m_client.get();
+    jack_set_process_callback(
+        client, [](jack_nframes_t frames, void *object) { return self(object).process(frames); },
+        this);
+    jack_set_sample_rate_callback(
+        client,
+        [](jack_nframes_t rate, void *object) {
+            self(object).m_sampleRate = rate;
+            return 0;
+        },
+        this);
+    jack_set_buffer_size_callback(
+        client,
+        [](jack_nframes_t frames, void *object) {
+            self(object).m_blockFrames = frames;
+            return 0;
+        },
+        this);
+    jack_set_xrun_callback(
+        client,
+        [](void *object) {
+            ++self(object).m_xruns;
+            return 0;
+        },
+        this);
+    jack_on_shutdown(
+        client, [](void *object) { self(object).m_isServerGone = true; }, this);
+    jack_set_latency_callback(
+        client,
+        [](jack_latency_callback_mode_t mode, void *object) { self(object).reportLatency(mode); },
+        this);
+}
+
+void CJackClient::activate(CLiveRack &rack) {
+    m_rack = &rack;
+    if (jack_activate(m_client.get()) != 0)
+        throw CJobError("the JACK server does not start the client");
+}
+
+std::vector<std::string> CJackClient::connectToSystem() {
+    const auto sources = systemPorts(audioType, JackPortIsOutput);
+    const auto sinks = systemPorts(audioType, JackPortIsInput);
+    for (std::size_t i = 0; i < m_in.size(); ++i) {
+        if (!sources.empty())
+            connect(sources[std::min(i, sources.size() - 1)], jack_port_name(m_in[i]));
+        if (!sinks.empty())
+            connect(jack_port_name(m_out[i]), sinks[std::min(i, sinks.size() - 1)]);
+    }
+    if (m_midiIn != nullptr)
+        for (const std::string &source : systemPorts(midiType, JackPortIsOutput))
+            connect(source, jack_port_name(m_midiIn));
+    std::vector<std::string> missing;
+    if (sources.empty())
+        missing.emplace_back("inputs");
+    if (sinks.empty())
+        missing.emplace_back("outputs");
+    return missing;
+}
+
+std::vector<std::string> CJackClient::systemPorts(const char *type, unsigned long flags) const {
+    const std::unique_ptr<const char *, decltype(&jack_free)> ports(
+        jack_get_ports(m_client.get(), nullptr, type, flags | JackPortIsPhysical),
+        [](void *list) { jack_free(list); });
+    std::vector<std::string> names;
+    for (const char **port = ports.get(); port != nullptr && *port != nullptr; ++port)
+        names.emplace_back(*port);
+    return names;
+}
+
+// A connection that the server refuses, since a port has just gone, is left to the user.
+void CJackClient::connect(const std::string &from, const std::string &to) const {
+    jack_connect(m_client.get(), from.c_str(), to.c_str());
+}
+
+// The audio thread
+
+int CJackClient::process(jack_nframes_t frames) {
+    setProcessLevelOfThread(kVstProcessLevelRealtime);
+    const auto buffer = [frames](jack_port_t *port) {
+        return static_cast<float *>(jack_port_get_buffer(port, frames));
+    };
+    const std::size_t messages = readMidi(frames);
+    m_rack->process({{buffer(m_in[0]), buffer(m_in[1])},
+                     {buffer(m_out[0]), buffer(m_out[1])},
+                     static_cast<std::int32_t>(frames),
+                     {m_messages.data(), messages},
+                     readTransport()});
+    return 0;
+}
+
+std::size_t CJackClient::readMidi(jack_nframes_t frames) {
+    if (m_midiIn == nullptr)
+        return 0;
+    void *buffer = jack_port_get_buffer(m_midiIn, frames);
+    const std::uint32_t events = jack_midi_get_event_count(buffer);
+    std::size_t count = 0;
+    for (std::uint32_t i = 0; i < events && count < m_messages.size(); ++i) {
+        jack_midi_event_t event{};
+        if (jack_midi_event_get(&event, buffer, i) != 0)
+            continue;
+        if (const auto message =
+                midiMessageFrom({event.buffer, event.size}, static_cast<std::int32_t>(event.time)))
+            m_messages[count++] = *message;
+    }
+    return count;
+}
+
+STransport CJackClient::readTransport() const {
+    jack_position_t position{};
+    STransport transport;
+    transport.isRolling = jack_transport_query(m_client.get(), &position) == JackTransportRolling;
+    transport.frame = position.frame;
+    const bool isSensible = position.beats_per_minute > 0.0 && position.beats_per_bar > 0.0f &&
+                            position.beat_type > 0.0f && position.ticks_per_beat > 0.0;
+    if ((position.valid & JackPositionBBT) == 0 || !isSensible)
+        return transport;
+    // Beats count from 1, ticks from 0.
+    transport.beat = {position.beats_per_minute, position.beats_per_bar, position.beat_type,
+                      position.bar, position.beat - 1 + position.tick / position.ticks_per_beat};
+    return transport;
+}
+
+// Other threads of the library
+
+void CJackClient::reportLatency(jack_latency_callback_mode_t mode) const {
+    const auto latency = static_cast<jack_nframes_t>(m_latency);
+    const auto &from = mode == JackCaptureLatency ? m_in : m_out;
+    const auto &to = mode == JackCaptureLatency ? m_out : m_in;
+    for (std::size_t i = 0; i < from.size(); ++i) {
+        jack_latency_range_t range{};
+        jack_port_get_latency_range(from[i], mode, &range);
+        range.min += latency;
+        range.max += latency;
+        jack_port_set_latency_range(to[i], mode, &range);
+    }
+}
+
+}  // namespace Tessitor::Tool
