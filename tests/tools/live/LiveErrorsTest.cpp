@@ -61,3 +61,15 @@ TEST(LiveErrors, APresetThatIsMissingFails) {
     const CTemporaryFolder folder;
     expectOneError(corvel({"live", "--preset", folder / "no.fxp"}), 1, "no such file");
 }
+
+TEST(LiveErrors, APresetThatCannotBeSavedFailsAtOnce) {
+    const CTemporaryFolder folder;
+    writeFile(folder / "my.fxp", "old");
+    expectOneError(corvel({"live", "--save-preset", folder / "my.fxp"}), 1,
+                   "my.fxp: exists already; --force replaces it");
+    expectOneError(corvel({"live", "--save-preset", folder / "my.wav"}), 2, "my.wav");
+    expectOneError(
+        corvel({"live", "--save-preset", folder / "new.fxp", "--plugin", testEffect("Lively")}), 2,
+        "not a Corvel effect; its presets cannot be saved");
+    EXPECT_EQ(readFile(folder / "my.fxp"), "old");
+}

@@ -239,6 +239,33 @@ TEST_F(Live, TheEffectFollowsTheServersTransport) {
     live.wait();
 }
 
+// Presets
+
+TEST_F(Live, SavesInTheEndWhatMidiHasChanged) {
+    const CTemporaryFolder folder;
+    const std::string preset = folder / "my.json";
+    CLiveProgram live(with({"--save-preset", preset, "--midi", "--cc", "21=InGain"}));
+    ASSERT_TRUE(live.prints("plays"));
+    bench.sendMidi({0, 0xC0, 5, 0});
+    ASSERT_TRUE(live.prints("program 5"));
+    bench.sendMidi({0, 0xB0, 21, 127});
+    live.send(SIGTERM);
+    EXPECT_EQ(live.wait().status, 0);
+    const std::string other = folder / "other.json";
+    ASSERT_EQ(corvel({"preset", "save", other, "--program", "5", "--set", "InGain=@1"}).status, 0);
+    EXPECT_EQ(readFile(preset), readFile(other));
+}
+
+TEST_F(Live, SavesAlsoWhenTheServerIsGone) {
+    const CTemporaryFolder folder;
+    writeFile(folder / "my.fxb", "old");
+    CLiveProgram live(with({"--save-preset", folder / "my.fxb", "--force"}));
+    ASSERT_TRUE(live.prints("plays"));
+    server.end();
+    EXPECT_EQ(live.wait().status, 1);
+    EXPECT_EQ(corvel({"preset", "check", folder / "my.fxb"}).status, 0);
+}
+
 // Xruns
 
 TEST_F(Live, CountsXruns) {

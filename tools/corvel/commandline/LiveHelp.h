@@ -3,9 +3,11 @@
 namespace Tessitor::Tool {
 
 inline constexpr const char *liveHelp = R"(
-Plays the effect live, as a client of a JACK server; PipeWire is one, too. The server must be
-running. Ctrl-C, a termination signal, the end of --seconds or closing the editor ends it, with
-status 0. If the server shuts down, the status is 1.
+Plays the effect live, as a client of a JACK server. PipeWire serves JACK clients, too. The
+server must be running.
+
+The program plays until Ctrl-C or another signal, until --seconds are over, or until the
+editor is closed. Its exit status is then 0. If the server shuts down, the status is 1.
 
 Ports
   The client has the ports in_left, in_right, out_left and out_right, and with --midi or --cc
@@ -13,7 +15,8 @@ Ports
   two outputs of the system, and midi_in to all of its MIDI devices.
 
 Settings
-  --program, --preset, --chain and --set work as in corvel render.
+  --program, --preset, --chain and --set work as in corvel render. --save-preset saves the
+  settings when the program ends, with what was changed in the editor and by MIDI.
 
 MIDI
   A program change selects a program; 0 is the first. Each --cc NUMBER=PARAMETER lets a

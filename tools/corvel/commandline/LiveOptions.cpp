@@ -46,6 +46,9 @@ SCommand addLive(CLI::App &app, SLiveCall &call) {
         ->type_name("SECONDS")
         ->check(between(0.0, 1e6));
     live.add_flag("--editor", call.editor, "Open the effect's editor; closing it ends the program");
+    live.add_option("--save-preset", call.savePreset, "In the end, save the settings as a preset")
+        ->type_name("FILE");
+    live.add_flag("--force", call.force, "Replace an existing preset");
     addPlugin(live, call.plugin);
     addJson(live, call.json);
     live.footer(liveHelp);

@@ -6,6 +6,8 @@
 #include "corvel/console/Printable.h"
 #include "corvel/console/Text.h"
 #include "corvel/live/CLiveSession.h"
+#include "corvel/presets/PresetCommand.h"
+#include "corvel/presets/PresetFile.h"
 #include "corvel/render/Render.h"
 
 #include <algorithm>
@@ -14,7 +16,11 @@ namespace Tessitor::Tool {
 
 namespace {
 
-using Json = nlohmann::ordered_json;
+/// What the arguments mean for the effect.
+struct SLivePlan {
+    CEffectSettings settings;
+    SLiveMidi midi;
+};
 
 void printLine(const SLiveCall &call, const std::string &line) {
     if (!call.json)
@@ -29,7 +35,10 @@ void connect(CJackClient &client) {
                     " to connect to");
 }
 
-void noteRate(const CJackClient &client, const CEffectInstance &effect) {
+void printNotes(const CEffectSettings &settings, const CJackClient &client,
+                const CEffectInstance &effect) {
+    for (const std::string &note : settings.notes())
+        printRemark(note);
     if (hasChain(effect) && client.sampleRate() != stripRate)
         printRemark("note: the server runs at " + std::to_string(client.sampleRate()) +
                     " Hz, but the strip is tuned for 44100 Hz");
@@ -81,45 +90,64 @@ void printWarnings(const CLiveRack &rack) {
                     " lost, since too many came at once");
 }
 
+SLivePlan planOf(const SLiveCall &call, const CEffectLibrary &library) {
+    CEffectInstance trial(library);
+    requireRenderable(trial, {});
+    if (call.editor)
+        requireEditor(trial);
+    if (call.savePreset) {
+        requirePresets(trial);
+        requireWritable(*call.savePreset, call.force);
+    }
+    const CEffectSettings settings(call.settings, trial);
+    return {settings, {CControllers(call.controllers, trial), call.channel}};
+}
+
+SJackOptions jackOptionsOf(const SLiveCall &call, const CEffectInstance &effect) {
+    SJackOptions options = call.jack;
+    options.midi = call.midi || !call.controllers.empty();
+    options.latency = std::max(0, effect.record().initialDelay);
+    return options;
+}
+
+/// Plays from the start to the end of a session.
+/// @param rack  of the effect.
+ELiveEnd play(const SLiveCall &call, CEffectInstance &effect, CLiveRack &rack, CJackClient &client,
+              CEditorWindow *editor) {
+    client.activate(rack);
+    if (call.connects)
+        connect(client);
+    CLiveSession session(effect, rack, client, editor,
+                         [&](const std::string &line) { printLine(call, line); });
+    session.start();
+    printLine(call, client.name() + " plays " + inQuotes(effect.text(effGetProgramName)) + " at " +
+                        session.format() + "; Ctrl-C ends it");
+    return session.run(call.seconds);
+}
+
 }  // namespace
 
 int runLive(const SLiveCall &call) {
     setProcessLevelOfThread(kVstProcessLevelUser);
     const CEffectLibrary library(CEffectLibrary::choose(call.plugin));
-    CEffectInstance trial(library);
-    requireRenderable(trial, {});
-    if (call.editor)
-        requireEditor(trial);
-    const CEffectSettings settings(call.settings, trial);
-    const SLiveMidi midi = {CControllers(call.controllers, trial), call.channel};
+    const SLivePlan plan = planOf(call, library);
 
-    noteInterrupts();
+    // Each uses those above it, so they go in the opposite order.
     CEffectInstance effect(library);
-    settings.applyTo(effect);
-    CLiveRack rack(effect, midi, call.tempo);
-    SJackOptions options = call.jack;
-    options.midi = call.midi || !call.controllers.empty();
-    options.latency = std::max(0, effect.record().initialDelay);
-    CJackClient client(options);
+    plan.settings.applyTo(effect);
+    CLiveRack rack(effect, plan.midi, call.tempo);
+    CJackClient client(jackOptionsOf(call, effect));
     std::optional<CEditorWindow> editor;
     if (call.editor)
         editor.emplace(effect);
 
-    for (const std::string &note : settings.notes())
-        printRemark(note);
-    noteRate(client, effect);
-    client.activate(rack);
-    if (call.connects)
-        connect(client);
-    CLiveSession session(effect, rack, client, editor ? &*editor : nullptr,
-                         [&](const std::string &line) { printLine(call, line); });
-    session.start();
-    printLine(call, client.name() + " plays " + inQuotes(effect.text(effGetProgramName)) + " at " +
-                        session.format() + "; Ctrl-C ends it");
-    const ELiveEnd end = session.run(call.seconds);
-
+    printNotes(plan.settings, client, effect);
+    noteInterrupts();
+    const ELiveEnd end = play(call, effect, rack, client, editor ? &*editor : nullptr);
     printResult(call, rack, client, effect, end);
     printWarnings(rack);
+    if (call.savePreset)
+        savePreset(*call.savePreset, effect, call.force);
     if (end == ELiveEnd::ServerGone)
         throw CJobError("the JACK server has shut down");
     return 0;

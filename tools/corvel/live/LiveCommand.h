@@ -20,6 +20,8 @@ struct SLiveCall {
     double tempo = 120.0;                  // beats per minute, if nobody on the server keeps time
     std::optional<double> seconds;         // to play
     bool editor = false;
+    std::optional<std::string> savePreset;  // file to save the settings to, in the end
+    bool force = false;                     // replace that file
     bool json = false;
 };
 

@@ -103,13 +103,21 @@ int runPresetCheck(const SPresetCheckCall &call) {
 
 void savePreset(const std::string &file, const CEffectLibrary &library,
                 const CEffectSettings &settings, bool replace) {
-    const EPresetFormat format = presetFormatOf(file);
+    presetFormatOf(file);
     CEffectInstance effect(library);
+    requirePresets(effect);
+    settings.applyTo(effect);
+    savePreset(file, effect, replace);
+}
+
+void requirePresets(const CEffectInstance &effect) {
     if (!hasChain(effect))
         throw CCallError(effect.fileName() + ": not a Corvel effect; its presets cannot be saved");
-    settings.applyTo(effect);
+}
+
+void savePreset(const std::string &file, CEffectInstance &effect, bool replace) {
     SPreset preset;
-    preset.programs = programsIn(effect, format == EPresetFormat::fxb);
+    preset.programs = programsIn(effect, presetFormatOf(file) == EPresetFormat::fxb);
     if (preset.isBank())
         preset.current = static_cast<std::size_t>(effect.dispatch(effGetProgram));
     writePreset(file, preset, replace);

@@ -43,4 +43,11 @@ int runPresetCheck(const SPresetCheckCall &call);
 void savePreset(const std::string &file, const CEffectLibrary &library,
                 const CEffectSettings &settings, bool replace);
 
+/// @throws CCallError if the effect is not a channel strip.
+void requirePresets(const CEffectInstance &effect);
+
+/// Saves the current program of an effect, or for an .fxb file all its programs.
+/// @param effect  must pass requirePresets().
+void savePreset(const std::string &file, CEffectInstance &effect, bool replace);
+
 }  // namespace Tessitor::Tool

@@ -102,12 +102,17 @@ Corvel::SProgram readProgram(const std::string &text) {
     return preset.programs[preset.current];
 }
 
-void writePreset(const fs::path &file, const SPreset &preset, bool replace) {
-    const EPresetFormat format = presetFormatOf(file);
-    requireHolding(file, format, preset);
+void requireWritable(const fs::path &file, bool replace) {
+    presetFormatOf(file);
     std::error_code ignored;
     if (!replace && fs::exists(file, ignored))
         throw CJobError(file.string() + ": exists already; --force replaces it");
+}
+
+void writePreset(const fs::path &file, const SPreset &preset, bool replace) {
+    const EPresetFormat format = presetFormatOf(file);
+    requireHolding(file, format, preset);
+    requireWritable(file, replace);
     CPendingFile pending(file, replace ? EExisting::Replaced : EExisting::Kept);
     std::ofstream stream(pending.path(), std::ios::binary);
     stream << (format == EPresetFormat::json ? CPresetText().textFrom(preset)

@@ -35,6 +35,11 @@ SPreset readPreset(const SPresetPlace &place);
 /// it names none.
 Corvel::SProgram readProgram(const std::string &text);
 
+/// Finds early what would keep writePreset() from writing.
+/// @throws CCallError if the ending is unknown, CJobError if the file exists and is not to be
+///         replaced.
+void requireWritable(const std::filesystem::path &file, bool replace);
+
 /// Writes in the format of the ending. The file appears when it is complete.
 /// @param replace  whether an existing file is replaced.
 /// @throws CJobError if the file exists or cannot be written, or if the format cannot hold the
