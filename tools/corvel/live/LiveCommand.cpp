@@ -29,10 +29,10 @@ void printLine(const SLiveCall &call, const std::string &line) {
 
 void connect(CJackClient &client) {
     const std::vector<std::string> missing = client.connectToSystem();
-    if (!missing.empty())
-        printRemark("note: the system has no " +
-                    (missing.size() == 1 ? missing.front() : "inputs and no outputs") +
-                    " to connect to");
+    if (missing.empty())
+        return;
+    const std::string what = missing.size() == 1 ? missing.front() : "inputs and no outputs";
+    printRemark("note: the system has no " + what + " to connect to");
 }
 
 void printNotes(const CEffectSettings &settings, const CJackClient &client,
