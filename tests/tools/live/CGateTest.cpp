@@ -17,13 +17,17 @@ TEST(CGate, IsClosedAtFirst) {
 
 TEST(CGate, ClosesOnlyWhenTheAudioThreadIsOutside) {
     CGate gate;
-    int shared = 0;  // what the gate protects
+    std::atomic<bool> isRestarting = false;  // what the gate keeps apart from the audio thread
+    std::atomic<int> meetings = 0;
     std::atomic<bool> hasEnded = false;
     std::thread audio([&] {
         while (!hasEnded) {
             if (!gate.enter())
                 continue;
-            EXPECT_EQ(shared, 0);
+            for (int step = 0; step < 10; ++step) {
+                meetings += isRestarting ? 1 : 0;
+                std::this_thread::yield();
+            }
             gate.leave();
         }
     });
@@ -31,10 +35,11 @@ TEST(CGate, ClosesOnlyWhenTheAudioThreadIsOutside) {
         gate.open();
         std::this_thread::yield();
         gate.close();
-        shared = 1;
+        isRestarting = true;
         std::this_thread::yield();
-        shared = 0;
+        isRestarting = false;
     }
     hasEnded = true;
     audio.join();
+    EXPECT_EQ(meetings, 0);
 }
