@@ -63,18 +63,31 @@ TEST(CommandLine, WrongCommandsAreRefusedInOneLine) {
                     "no program \"7\"");
 }
 
+TEST(CommandLine, TheEffectInAFolderOfHostsIsFound) {
+    const CTemporaryFolder folder;
+    std::filesystem::create_directories(folder / "bin");
+    std::filesystem::create_directories(folder / "effects");
+    std::filesystem::copy(CORVEL_PROGRAM, folder / "bin/corvel");
+    const std::string vstPath = "VST_PATH=" + (folder / "effects").string();
+
+    const SProgramRun run = runProgram(folder / "bin/corvel", {"programs"}, vstPath);
+    expectOneError(run, 1, "Corvel.so was not found in any of these folders: ");
+    for (const char *place : {"plugin, ", "bin, ", "lib/vst, ", "effects (name the file with"})
+        EXPECT_THAT(run.errors, HasSubstr((folder / place).string()));
+
+    std::filesystem::copy(testEffect("Whole"), folder / "effects/Corvel.so");
+    EXPECT_EQ(runProgram(folder / "bin/corvel", {"programs"}, vstPath).status, 0);
+}
+
 TEST(CommandLine, TheEffectNextToTheProgramIsFound) {
     const CTemporaryFolder folder;
     std::filesystem::create_directories(folder / "bin");
     std::filesystem::copy(CORVEL_PROGRAM, folder / "bin/corvel");
     const std::string program = folder / "bin/corvel";
 
-    SProgramRun run = runProgram(program, {"programs"});
-    EXPECT_EQ(run.status, 1);
-    EXPECT_THAT(run.errors, HasSubstr("no effect found: neither "));
-
     std::filesystem::copy(testEffect("Whole"), folder / "bin/Corvel.so");
-    EXPECT_EQ(runProgram(program, {"programs"}).status, 0);
+    SProgramRun run = runProgram(program, {"programs"});
+    EXPECT_EQ(run.status, 0);
 
     // The plugin folder comes first.
     std::filesystem::create_directories(folder / "plugin");

@@ -48,6 +48,15 @@ TEST(CEffectLibrary, RefusesAFileThatIsNotAnEffect) {
                 HasSubstr("NoEntry.so: not a VST 2 effect (exports no VSTPluginMain)"));
 }
 
+TEST(CEffectLibrary, SaysWhichLibraryAnEffectLacks) {
+    const CTemporaryFolder folder;
+    std::string bytes = readFile(testEffect("Whole"));
+    bytes.replace(bytes.find("libc.so.6"), 9, "libc.so.0");
+    writeFile(folder / "lacking.so", bytes);
+    EXPECT_THAT(refusal(folder / "lacking.so"),
+                HasSubstr("lacking.so: cannot be loaded as an effect (libc.so.0: cannot open"));
+}
+
 TEST(CEffectLibrary, RefusesALibraryThatIsCutShortAnywhere) {
     const CTemporaryFolder folder;
     const std::size_t length = std::filesystem::file_size(testEffect("Whole"));

@@ -13,8 +13,9 @@ namespace Tessitor::Tool {
 namespace {
 
 constexpr const char *generalHelp = R"(
-The effect is the file named with --plugin. By default it is ../plugin/Corvel.so, seen from
-this program's folder, or Corvel.so in the same folder.
+The effect is the file named with --plugin. By default Corvel.so is looked for near this
+program (../plugin, its own folder, ../lib/vst), then in the folders listed in VST_PATH or, if
+that is not set, in ~/.vst, /usr/local/lib/vst and /usr/lib/vst.
 
 Exit status: 0 on success, 1 if a job failed, 2 if the command line was wrong, 130 if it was
 interrupted.

@@ -2,8 +2,11 @@
 
 #include "corvel/audio/IsLibraryCutShort.h"
 #include "corvel/console/Errors.h"
+#include "corvel/effect/EffectPlaces.h"
 #include "platform/NativeLibrary.h"
 #include "platform/NativeModule.h"
+
+#include <cstdlib>
 
 namespace fs = std::filesystem;
 
@@ -27,6 +30,11 @@ void *openLibrary(const fs::path &file) {
     if (library == nullptr)
         throw CJobError(file.string() + ": cannot be loaded as an effect (" + reason + ")");
     return library;
+}
+
+std::string environment(const char *name) {
+    const char *value = std::getenv(name);
+    return value != nullptr ? value : "";
 }
 
 }  // namespace
@@ -55,12 +63,15 @@ fs::path CEffectLibrary::choose(const std::optional<std::string> &named) {
     if (named)
         return *named;
     const fs::path folder = fs::path(nativeModulePath(nullptr)).parent_path();
-    const fs::path places[] = {folder.parent_path() / "plugin" / "Corvel.so", folder / "Corvel.so"};
-    for (const fs::path &place : places)
+    std::string searched;
+    for (const fs::path &place :
+         effectPlaces(folder, environment("VST_PATH"), environment("HOME"))) {
         if (fs::exists(place))
             return place;
-    throw CJobError("no effect found: neither " + places[0].string() + " nor " +
-                    places[1].string() + " exists (name it with --plugin)");
+        searched.append(searched.empty() ? "" : ", ").append(place.parent_path().string());
+    }
+    throw CJobError("Corvel.so was not found in any of these folders: " + searched +
+                    " (name the file with --plugin, or add its folder to VST_PATH)");
 }
 
 }  // namespace Tessitor::Tool

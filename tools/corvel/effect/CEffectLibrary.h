@@ -19,9 +19,8 @@ public:
     CEffectLibrary(const CEffectLibrary &) = delete;
     CEffectLibrary &operator=(const CEffectLibrary &) = delete;
 
-    /// @return the named file, otherwise the effect next to this program: ../plugin/Corvel.so, or
-    ///         Corvel.so in the program's folder.
-    /// @throws CJobError if no file is named and neither of the two exists.
+    /// @return the named file, otherwise the first of effectPlaces() that exists.
+    /// @throws CJobError if no file is named and none of them exists.
     static std::filesystem::path choose(const std::optional<std::string> &named);
 
     const std::filesystem::path &file() const { return m_file; }
