@@ -7,7 +7,6 @@
 #include <cctype>
 #include <limits>
 #include <sndfile.h>
-#include <vector>
 
 namespace Tessitor::Tool {
 
@@ -146,6 +145,16 @@ SFormatRequest formatFromText(std::string_view text) {
         known += (known.empty() ? "" : ", ") + std::string(findSampleType(candidate).name);
     }
     throw CCallError("--format: " + name + " has no sample type \"" + type + "\"; use " + known);
+}
+
+std::vector<std::string> formatTexts() {
+    std::vector<std::string> texts;
+    for (const SContainer &container : containers) {
+        texts.emplace_back(container.name);
+        for (const int type : container.sampleTypes)
+            texts.push_back(std::string(container.name) + ":" + findSampleType(type).name);
+    }
+    return texts;
 }
 
 int outputFormat(int inputFormat, const SFormatRequest &request, const std::filesystem::path &out) {

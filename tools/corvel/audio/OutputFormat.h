@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace Tessitor::Tool {
 
@@ -18,6 +19,9 @@ struct SFormatRequest {
 /// @param text  "wav", "aiff", "flac" or "ogg", optionally followed by ":" and a sample type.
 /// @throws CCallError if there is no such container, or it does not support the type.
 SFormatRequest formatFromText(std::string_view text);
+
+/// @return every text that formatFromText() accepts: "wav", "wav:16" and so on.
+std::vector<std::string> formatTexts();
 
 /// @return the format to write. The container is the requested one, otherwise that of the extension
 ///         of `out`, otherwise that of the input. The sample type is the requested one, otherwise

@@ -1,12 +1,16 @@
 #include "corvel/commandline/CommandLine.h"
 
 #include "corvel/commandline/CallErrors.h"
+#include "corvel/commandline/Completion.h"
 #include "corvel/commandline/ListOptions.h"
 #include "corvel/commandline/LiveOptions.h"
 #include "corvel/commandline/PlotOptions.h"
 #include "corvel/commandline/PresetOptions.h"
 #include "corvel/commandline/RenderOptions.h"
 #include "corvel/console/Errors.h"
+#include "corvel/console/Print.h"
+
+#include <string_view>
 
 namespace Tessitor::Tool {
 
@@ -48,6 +52,10 @@ int parseAndRun(int argc, char **argv) {
         {preset.app(), [&preset] { return preset.run(); }},
     };
     try {
+        if (argc > 1 && std::string_view(argv[1]) == "complete") {
+            print(completionsOf(app, {argv + 2, argv + argc}));
+            return 0;
+        }
         app.parse(argumentsForParser(argc, argv));
     } catch (const CLI::Success &help) {
         return app.exit(help);

@@ -33,6 +33,9 @@ public:
     ///         "0.5"; empty if there is none.
     std::string otherMeaningOf(std::string_view text) const;
 
+    /// @return all texts that are displayed if they are not numbers: Separate, Linked.
+    std::vector<std::string> choices() const;
+
     /// @return the lowest and the highest number that are displayed: "100 to 800 Hz", or all texts
     ///         if they are not numbers: "Separate, Linked". Empty if nothing is displayed.
     std::string range() const;

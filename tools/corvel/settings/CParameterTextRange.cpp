@@ -49,19 +49,25 @@ std::vector<std::string> CParameterText::texts() const {
     return result;
 }
 
+std::vector<std::string> CParameterText::choices() const {
+    const auto hasNumber = [](const SPoint &point) { return point.shown.number.has_value(); };
+    const auto isFinite = [](const SPoint &point) { return std::isfinite(*point.shown.number); };
+    const bool areNumbers = std::all_of(m_grid.begin(), m_grid.end(), hasNumber) &&
+                            std::any_of(m_grid.begin(), m_grid.end(), isFinite);
+    return areNumbers ? std::vector<std::string>() : texts();
+}
+
 std::string CParameterText::withUnit(const std::string &text) const {
     return m_unit.empty() ? text : text + " " + m_unit;
 }
 
 std::string CParameterText::range() const {
-    const auto hasNumber = [](const SPoint &point) { return point.shown.number.has_value(); };
     const auto isFinite = [](const SPoint &point) { return std::isfinite(*point.shown.number); };
-    if (!std::all_of(m_grid.begin(), m_grid.end(), hasNumber) ||
-        std::none_of(m_grid.begin(), m_grid.end(), isFinite)) {
-        std::string list;
-        for (const std::string &text : texts())
-            list += (list.empty() ? "" : ", ") + text;
-        return list;
+    if (const std::vector<std::string> list = choices(); !list.empty()) {
+        std::string text;
+        for (const std::string &choice : list)
+            text += (text.empty() ? "" : ", ") + choice;
+        return text;
     }
     if (m_grid.front().shown.second && !hasFixedSecond())
         return m_display(0.0f) + " to " + m_display(1.0f);
