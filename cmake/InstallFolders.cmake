@@ -8,6 +8,6 @@ if(WIN32)
 else()
     # Hosts search lib/vst, also where libraries are in lib64 or in a folder for each architecture.
     set(CORVEL_INSTALL_EFFECTDIR lib/vst CACHE PATH "Folder of the effect below the prefix")
-    set(CORVEL_INSTALL_DOCDIR ${CMAKE_INSTALL_DOCDIR})
+    set(CORVEL_INSTALL_DOCDIR ${CMAKE_INSTALL_DATAROOTDIR}/doc/corvel)
 endif()
 GNUInstallDirs_get_absolute_install_dir(CORVEL_INSTALL_FULL_EFFECTDIR CORVEL_INSTALL_EFFECTDIR EFFECTDIR)

@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
-# setup.sh [run|test|lint|figures|fuzz]: installs missing packages with apt. "run" is what building and
-# running need. The others add to it: "test" (the default) what the tests need, "lint" what the tests
-# and scripts/lint.sh need, "figures" what draws the pictures of the documentation and the editor,
-# "fuzz" what the fuzzers need. Prints nothing if no package is missing.
+# setup.sh [run|package|test|lint|figures|fuzz]: installs missing packages with apt. "run" is what
+# building and running need. The others add to it: "package" what scripts/package.sh needs, "test" (the
+# default) what the tests need, "lint" what the tests and scripts/lint.sh need, "figures" what draws the
+# pictures of the documentation and the editor, "fuzz" what the fuzzers need. Prints nothing if no
+# package is missing.
 set -euo pipefail
 
 run_packages=(
@@ -16,9 +17,16 @@ run_packages=(
     libcairo2-dev                  # the pictures of corvel; what the drawing is measured against
     alsa-utils                     # contains recorded speech, for its speaker test
 )
-test_packages=(
-    git                                                 # for scripts/golden.sh and scripts/check-fresh.sh
+package_packages=(
     g++-mingw-w64-x86-64-posix gcc-mingw-w64-x86-64-posix  # the Windows build
+    dpkg-dev file  # find what the .deb depends on
+    nsis           # the installer for Windows
+)
+test_packages=(
+    "${package_packages[@]}"
+    git                                                 # for scripts/golden.sh and scripts/check-fresh.sh
+    lintian mandoc groff-base man-db                    # check the .deb and the manual page
+    bash-completion zsh fish                            # complete our command lines
     wine wine64 xvfb xauth                              # run the Windows tests
     jackd2                                              # the audio server of the tests of corvel live
     fonts-liberation fonts-liberation2                  # the face of the text in the tests
@@ -33,11 +41,12 @@ fuzz_packages=(clang-14 libclang-rt-14-dev)  # libFuzzer and the sanitizers that
 packages=("${run_packages[@]}")
 case "${1:-test}" in
 run) ;;
+package) packages+=("${package_packages[@]}") ;;
 test) packages+=("${test_packages[@]}") ;;
 lint) packages+=("${test_packages[@]}" "${lint_packages[@]}") ;;
 figures) packages+=("${figures_packages[@]}") ;;
 fuzz) packages+=("${fuzz_packages[@]}") ;;
-*) echo "usage: setup.sh [run|test|lint|figures|fuzz]" >&2; exit 2 ;;
+*) echo "usage: setup.sh [run|package|test|lint|figures|fuzz]" >&2; exit 2 ;;
 esac
 
 installed=$(dpkg-query -W -f '${db:Status-Status} ${Package}\n' "${packages[@]}" 2>/dev/null || true)

@@ -23,9 +23,9 @@ SCommand addParams(CLI::App &app, SParamsCall &call) {
 
 SCommand addInfo(CLI::App &app, SInfoCall &call) {
     CLI::App &info = *app.add_subcommand("info", "Show what a host sees of an effect");
-    CLI::Option *file =
-        info.add_option("FILE", call.plugin, "The effect's file; by default the one beside corvel")
-            ->type_name("");
+    CLI::Option *file = info.add_option("FILE", call.plugin,
+                                        "The effect's file; by default the one that corvel finds")
+                            ->type_name("");
     info.add_option("--plugin", call.plugin, "The same")->type_name("FILE")->excludes(file);
     addJson(info, call.json);
     return {&info, [&call] { return runInfo(call); }};
