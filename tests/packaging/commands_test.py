@@ -5,7 +5,7 @@ import shutil
 import subprocess
 import unittest
 
-from places import MAN_PAGE, PROGRAM, SOURCE, VOICE, run, temporary_folder
+from places import MAN_PAGE, PROGRAM, README, VOICE, run, temporary_folder
 from readme_commands import readme_commands
 
 
@@ -31,8 +31,7 @@ class Commands(unittest.TestCase):
         (self.folder / "takes").mkdir()
         for name in ("voice.wav", "takes/first.wav", "takes/second.wav"):
             shutil.copy(VOICE, self.folder / name)
-        self.shown = [text for _, text in
-                      readme_commands((SOURCE / "README.md").read_text(encoding="utf-8"))]
+        self.shown = [text for _, text in readme_commands(README)]
 
     def run_all(self, commands):
         for command in commands:
@@ -50,7 +49,7 @@ class Commands(unittest.TestCase):
         self.run_all(self.shown)
 
     def test_those_of_the_manual_page_work(self):
-        text = run(["mandoc", "-Tascii", "-O", "width=200", MAN_PAGE]).stdout
+        text = run(["mandoc", "-Tascii", "-O", "width=200", MAN_PAGE])
         text = re.sub(".\b", "", text).split("\nEXAMPLES\n")[1]
         commands = re.findall(r"^ +(corvel .*)$", text, re.MULTILINE)
         self.assertEqual(len(commands), len(self.shown))

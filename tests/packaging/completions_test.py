@@ -106,9 +106,9 @@ class Fish(Completions, unittest.TestCase):
 
     def fish(self, line):
         command = f"source {SCRIPTS}/corvel.fish; complete -C $argv[1]"
-        done = run(["fish", "--no-config", "-c", command, line], cwd=self.folder,
+        text = run(["fish", "--no-config", "-c", command, line], cwd=self.folder,
                    env={**os.environ, **ENVIRONMENT, "HOME": str(self.folder)})
-        return [text.split("\t")[0] for text in done.stdout.splitlines()]
+        return [line.split("\t")[0] for line in text.splitlines()]
 
     def expect(self, line, completed):
         words = [text.split(" ")[-1] for text in self.fish(line)]

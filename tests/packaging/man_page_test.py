@@ -3,7 +3,7 @@ import subprocess
 import unittest
 
 from help_text import commands, options
-from places import MAN_PAGE, PROGRAM, SOURCE, VERSION, run
+from places import MAN_PAGE, PROGRAM, README, VERSION, run
 from readme_commands import readme_commands
 
 
@@ -16,7 +16,7 @@ class ManPage(unittest.TestCase):
         self.roff = MAN_PAGE.read_text(encoding="utf-8")
 
     def test_the_formatters_have_nothing_to_say(self):
-        self.assertEqual(run(["mandoc", "-Tlint", MAN_PAGE]).stdout, "")
+        self.assertEqual(run(["mandoc", "-Tlint", MAN_PAGE]), "")
         groff = subprocess.run(["groff", "-ww", "-man", "-Tutf8", MAN_PAGE], capture_output=True, check=True)
         self.assertEqual(groff.stderr, b"")
         man = subprocess.run(["man", "--warnings", "-l", MAN_PAGE], capture_output=True, check=True)
@@ -31,7 +31,7 @@ class ManPage(unittest.TestCase):
 
     def test_the_examples_are_those_of_the_readme(self):
         examples = plain(self.roff.split(".SH EXAMPLES\n")[1].split(".SH")[0]).replace("\\(dq", '"')
-        shown = readme_commands((SOURCE / "README.md").read_text(encoding="utf-8"))
+        shown = readme_commands(README)
         self.assertEqual(re.findall(r"^corvel .*", examples, re.MULTILINE), [text for _, text in shown])
 
     def test_the_version_is_that_of_the_program(self):
