@@ -19,24 +19,33 @@ class Help:
     remarks: list = field(default_factory=list)  # lines of the text below the lists
 
 
+COLUMN = 30  # where the parser writes what an entry means
+
+
+def read_entry(line, is_continued):
+    """A head that does not fit before the column has its text in the next line."""
+    is_short = line[COLUMN - 2:COLUMN] == "  " or not is_continued
+    return Entry(line[:COLUMN].strip(), line[COLUMN:].strip()) if is_short else Entry(line.strip(), "")
+
+
 def read_help(text):
     """The lists have a heading with a colon, and what follows them are the remarks."""
     result = Help()
     entries = None
     lines = text.rstrip().splitlines()
     for number, line in enumerate(lines):
+        following = lines[number + 1] if number + 1 < len(lines) else ""
         heading = re.fullmatch(r"(\S.*):", line)
         if line.startswith("Usage: "):
             result.usage = line.removeprefix("Usage: ")
         elif not result.usage:
             result.about = (result.about + " " + line).strip()
-        elif heading and lines[number + 1:number + 2] and lines[number + 1].startswith("  "):
+        elif heading and following.startswith("  "):
             entries = result.lists.setdefault(heading[1], [])
-        elif line.startswith(" " * 20):
+        elif line.startswith(" " * COLUMN):
             entries[-1].text = (entries[-1].text + " " + line.strip()).strip()
         elif line.startswith("  "):
-            head, _, about = line.strip().partition("  ")
-            entries.append(Entry(head, about.strip()))
+            entries.append(read_entry(line, following.startswith(" " * COLUMN)))
         elif line:
             result.remarks = lines[number:]
             break
@@ -56,9 +65,13 @@ def commands(program, start=()):
     return found
 
 
-def options(program, command):
-    """The long names of a command's options."""
+def values(program, command):
+    """The long names of a command's options, each with the name of its value, without its default."""
     lists = help_of(program, command).lists
-    return [name for entries in lists.values() for entry in entries
-            for name in re.findall(r"--[\w-]+", entry.head.split(" Excludes:")[0])
-            if entry.head.startswith("-")]
+    heads = [re.split(" (?:Excludes|Needs):", entry.head)[0] for entries in lists.values() for entry in entries]
+    return [(name, re.sub(r"=[a-z\d.-]+$", "", head.partition(" ")[2]))
+            for head in heads if head.startswith("-") for name in re.findall(r"--[\w-]+", head.split(" ")[0])]
+
+
+def options(program, command):
+    return [name for name, _ in values(program, command)]

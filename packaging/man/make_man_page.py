@@ -18,13 +18,13 @@ def indentation(line):
 
 
 def is_table(line, margin):
-    """A table or an example has columns, or is further to the right, or is a command."""
-    return indentation(line) > margin or "   " in line.strip() or line.strip().startswith("corvel ")
+    """A table or an example has columns, or is further to the right."""
+    return indentation(line) > margin or "  " in line.strip()
 
 
 def table(lines):
     """A list of terms if the lines have two columns, else what they say."""
-    margin = indentation(lines[0])
+    margin = min(indentation(line) for line in lines)
     rows = [(re.fullmatch(r"(\S.*?) {2,}(\S.*)", line[margin:]), line.strip()) for line in lines]
     if rows[0][0] is None:
         return roff.verbatim([line[margin:] for line in lines])
@@ -37,11 +37,12 @@ def table(lines):
 
 
 def paragraph(lines):
-    """A paragraph of the help, which may end in a table."""
+    """A paragraph of the help, of which parts may be tables."""
     margin = indentation(lines[0])
-    text = list(itertools.takewhile(lambda line: not is_table(line, margin), lines))
-    return roff.prose(" ".join(line.strip() for line in text)) + (
-        table(lines[len(text):]) if len(text) < len(lines) else [])
+    for is_columns, group in itertools.groupby(lines, lambda line: is_table(line, margin)):
+        part = list(group)
+        yield ".PP"
+        yield from table(part) if is_columns else roff.prose(" ".join(line.strip() for line in part))
 
 
 def remarks(lines):
@@ -50,30 +51,33 @@ def remarks(lines):
         if blank:
             continue
         lines = list(chunk)
-        yield ".PP"
+        heading = ""
         if indentation(lines[0]) == 0 and len(lines) > 1 and indentation(lines[1]) > 0:
-            yield "\\fI" + roff.marked(lines.pop(0)) + ":\\fR"
-            yield ".PP"
-        yield from paragraph(lines)
+            heading = lines.pop(0)
+            yield from (".PP", "\\fI" + roff.marked(heading) + ":\\fR")
+        if heading == "Examples":
+            yield from (".PP", *roff.verbatim([line.strip() for line in lines]))
+        else:
+            yield from paragraph(lines)
 
 
 def option(entry):
-    """The parser's list adds what an option excludes, and the default after an equals sign."""
-    head, _, excluded = entry.head.partition(" Excludes: ")
+    """The parser adds to the name what an option excludes or needs, and the default after "="."""
+    head, *conditions = re.split(" (Excludes|Needs): ", entry.head)
     names, _, value = head.partition(" ")
-    value, default = re.fullmatch(r"(.*?)(?:=(-?[\d.]+))?", value).groups()
+    value, default = re.fullmatch(r"(.*?)(?:=(-?[\d.]+|[a-z]+))?", value).groups()
     text = entry.text
     if default:
         text += f" (default: {default})"
-    if excluded:
-        text += "; not with " + excluded.replace(" ", ", ")
+    for kind, others in zip(conditions[::2], conditions[1::2]):
+        text += {"Excludes": "; not with ", "Needs": "; only with "}[kind] + others.replace(" ", ", ")
     names = ", ".join(f"\\fB{roff.escaped(name)}\\fR" for name in names.split(","))
     value = f" \\fI{roff.escaped(value)}\\fR" if value else ""
     return [".TP", names + value, *roff.prose(text + ".")]
 
 
 def argument(entry):
-    name = re.sub(" (REQUIRED|Excludes:.*)", "", entry.head)
+    name = re.sub(" (REQUIRED|Excludes:.*|Needs:.*)", "", entry.head)
     return [".TP", f"\\fI{roff.escaped(name)}\\fR", *roff.prose(entry.text + ".")]
 
 
@@ -104,7 +108,7 @@ def examples(readme):
     for purpose, text in readme_commands(readme):
         yield from roff.prose(purpose + ":")
         yield ".PP"
-        yield from roff.verbatim([text])
+        yield from roff.verbatim(text.splitlines())
         yield ".PP"
 
 

@@ -2,7 +2,7 @@ import os
 import re
 import unittest
 
-from help_text import commands, options
+from help_text import commands, options, values
 from places import PROGRAM, SOURCE, run, temporary_folder
 from shell import Shell
 
@@ -24,6 +24,13 @@ class Completions:
             offered = self.offers(" ".join(["corvel", *command, "--"]))
             for option in options(PROGRAM, command):
                 self.assertIn(option, offered, command)
+
+    def test_words_that_the_help_lists_as_values_are_offered(self):
+        for command in commands(PROGRAM):
+            for option, value in values(PROGRAM, command):
+                for word in re.findall(r"\b[a-z]{2,}\b", "" if "FILE" in value else value):
+                    line = " ".join(["corvel", *command, option, word[:1]])
+                    self.assertRegex(" ".join(self.offers(line)), rf"\b{word}\b", line)
 
     def test_every_command_is_offered(self):
         for command in commands(PROGRAM):

@@ -2,6 +2,7 @@ import re
 import subprocess
 import unittest
 
+from examples import man_page_commands
 from help_text import commands, options
 from places import MAN_PAGE, PROGRAM, README, VERSION, run
 from readme_commands import readme_commands
@@ -30,9 +31,8 @@ class ManPage(unittest.TestCase):
                     self.assertIn("\n" + option, plain(sections[" ".join(command)]), command)
 
     def test_the_examples_are_those_of_the_readme(self):
-        examples = plain(self.roff.split(".SH EXAMPLES\n")[1].split(".SH")[0]).replace("\\(dq", '"')
-        shown = readme_commands(README)
-        self.assertEqual(re.findall(r"^corvel .*", examples, re.MULTILINE), [text for _, text in shown])
+        shown = [re.sub(r"\n\s+", "\n", text) for _, text in readme_commands(README)]
+        self.assertEqual(man_page_commands(), shown)
 
     def test_the_version_is_that_of_the_program(self):
         self.assertIn(f'"corvel {VERSION}"', self.roff.splitlines()[0])
