@@ -15,7 +15,7 @@ const SFormatRequest noFormat;
 using Names = std::vector<std::string>;
 
 SJobs jobsFor(const Names &files, const SFormatRequest &format = noFormat) {
-    return jobsFromFiles({files, {}}, format);
+    return jobsFromFiles({files, {}}, format, "Plain");
 }
 
 Names outputs(const SJobs &jobs) {
@@ -52,10 +52,10 @@ TEST(Jobs, AnotherContainerChangesTheExtension) {
 }
 
 TEST(Jobs, ANamedFolderMakesAllFilesInputs) {
-    const SJobs jobs = jobsFromFiles({{"x/a.wav", "b.wav"}, "later"}, noFormat);
+    const SJobs jobs = jobsFromFiles({{"x/a.wav", "b.wav"}, "later"}, noFormat, "");
     EXPECT_EQ(jobs.folder, "later");
     EXPECT_EQ(outputs(jobs), (Names{"later/a.wav", "later/b.wav"}));
-    EXPECT_EQ(outputs(jobsFromFiles({{"a.wav"}, "later"}, noFormat)), Names{"later/a.wav"});
+    EXPECT_EQ(outputs(jobsFromFiles({{"a.wav"}, "later"}, noFormat, "")), Names{"later/a.wav"});
 }
 
 TEST(Jobs, ASlashMakesAFolderForOneInput) {
@@ -68,8 +68,8 @@ TEST(Jobs, AnIncompleteCallIsRefused) {
     EXPECT_THROW(jobsFor({"a.wav"}), CCallError);
     EXPECT_THROW(jobsFor({"a.wav", ""}), CCallError);
     EXPECT_THROW(jobsFor({"", "b.wav"}), CCallError);
-    EXPECT_THROW(jobsFromFiles({{}, "later"}, noFormat), CCallError);
-    EXPECT_THROW(jobsFromFiles({{"a.wav"}, ""}, noFormat), CCallError);
+    EXPECT_THROW(jobsFromFiles({{}, "later"}, noFormat, ""), CCallError);
+    EXPECT_THROW(jobsFromFiles({{"a.wav"}, ""}, noFormat, ""), CCallError);
 }
 
 TEST(Jobs, SeveralInputsIntoAFileAreRefused) {

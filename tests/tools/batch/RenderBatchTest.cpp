@@ -1,5 +1,6 @@
 #include "tools/support/AudioFiles.h"
 #include "tools/support/CTemporaryFolder.h"
+#include "tools/support/JsonLines.h"
 #include "tools/support/Program.h"
 
 #include <gmock/gmock.h>
@@ -75,10 +76,16 @@ TEST_F(RenderBatch, ABadFileFailsAlone) {
     EXPECT_EQ(readSound(folder / "batch/b.wav").frames(), 1000u);
     EXPECT_FALSE(fs::exists(folder / "batch/bad.wav"));
 
-    const nlohmann::json files = nlohmann::json::parse(run.out)["files"];
+    const std::vector<nlohmann::json> files = jsonLines(run.out);
     ASSERT_EQ(files.size(), 7u);
-    EXPECT_FALSE(files[0].contains("error"));
-    EXPECT_EQ(files[1]["error"], "bad.wav: not a readable audio file");
+    for (const nlohmann::json &file : files) {
+        const bool failed = file["in"] != "a.wav" && file["in"] != "b.wav";
+        EXPECT_EQ(file["status"], failed ? "failed" : "rendered");
+        EXPECT_EQ(file.contains("error"), failed);
+        if (file["in"] == "bad.wav") {
+            EXPECT_EQ(file["error"], "bad.wav: not a readable audio file");
+        }
+    }
 }
 
 TEST_F(RenderBatch, AnExistingOutputFailsAlone) {

@@ -73,7 +73,7 @@ TEST_F(RenderErrors, AnInputOfTheWrongKind) {
 
 TEST_F(RenderErrors, AFolderAsInput) {
     std::filesystem::create_directory(folder / "folder");
-    expectFailureOfInput("folder", "not a file");
+    expectFailureOfInput("folder", "is a folder; --recursive renders the files in it");
 }
 
 TEST_F(RenderErrors, AnInputWithThreeChannels) {
@@ -213,7 +213,7 @@ TEST_F(RenderErrors, SeveralInputsForOneFile) {
     expectFailure(2, "out.wav: several inputs need a folder for their outputs",
                   {"render", folder / "in.wav", folder / "in.wav", folder / "out.wav", "--plugin",
                    testEffect("Whole")});
-    expectFailure(2, "two inputs would be written to this file",
+    expectFailure(2, "would be written from two inputs",
                   {"render", folder / "in.wav", folder / "in.wav", folder / "batch/", "--plugin",
                    testEffect("Whole")});
 }

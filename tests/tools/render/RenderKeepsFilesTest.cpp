@@ -53,8 +53,8 @@ TEST_P(RenderNames, ReachTheProgramAsTyped) {
     const nlohmann::json json = nlohmann::json::parse(render({"--json", "--", out, again}).out);
     EXPECT_TRUE(fs::exists(folder / again));
     if (name.find('\xFF') == std::string::npos) {
-        EXPECT_EQ(json["files"][0]["in"], out);
-        EXPECT_EQ(json["files"][0]["out"], again);
+        EXPECT_EQ(json["in"], out);
+        EXPECT_EQ(json["out"], again);
     }
 }
 
@@ -176,7 +176,7 @@ TEST_F(RenderKeepsFiles, SamplesThatAreNoNumbersBecomeZero) {
         EXPECT_EQ(run.status, 0);
         EXPECT_EQ(run.errors, "corvel: warning: in.wav: 3 samples infinite or not a number, "
                               "rendered as 0; --keep-nan keeps them\n");
-        const nlohmann::json file = nlohmann::json::parse(run.out)["files"][0];
+        const nlohmann::json file = nlohmann::json::parse(run.out);
         EXPECT_EQ(file["nonFiniteSamples"], 3);
         EXPECT_TRUE(file["levelIn"]["rms"].is_number());
         SSound expected = broken;

@@ -8,23 +8,25 @@
 namespace Tessitor::Tool {
 
 CBatchReport::CBatchReport(const std::vector<SRenderOutcome> &outcomes, const SRenderCall &call,
-                           const CEffectSettings &settings, CProgressBar &progress)
+                           const CEffectSettings &settings, const CEffectLibrary &library,
+                           CProgressBar &progress)
     : m_finished(outcomes.size()), m_outcomes(outcomes), m_call(call), m_settings(settings),
-      m_progress(progress) {}
+      m_library(library), m_progress(progress) {}
 
 void CBatchReport::handleFinished(std::size_t job) {
     const std::lock_guard guard(m_lock);
     m_finished[job] = true;
-    for (; m_next < m_finished.size() && m_finished[m_next]; ++m_next) {
-        m_progress.hide();
+    const auto hidden = m_progress.hide();
+    if (m_call.json)
+        printJsonLine(toJson(m_outcomes[job], m_settings, m_library));
+    for (; m_next < m_finished.size() && m_finished[m_next]; ++m_next)
         printOutcome(m_outcomes[m_next]);
-    }
 }
 
 void CBatchReport::printOutcome(const SRenderOutcome &outcome) {
     if (outcome.kind == EOutcome::Failed)
         printRemark(outcome.error);
-    if (outcome.kind != EOutcome::Rendered)
+    if (outcome.kind != EOutcome::Rendered || m_call.quiet)
         return;
     for (const std::string &line : warnings(outcome, m_call.options))
         printRemark(line);
@@ -33,13 +35,14 @@ void CBatchReport::printOutcome(const SRenderOutcome &outcome) {
     if (std::exchange(m_describedOne, true))
         print("\n");
     print(describe(outcome, m_settings));
+    if (m_call.verbose)
+        print(describeProcessing(outcome.result, m_call.options, m_library));
 }
 
-int CBatchReport::finish(const CEffectLibrary &library) {
-    for (const std::string &line : notes(m_outcomes, m_call.options))
-        printRemark(line);
-    if (m_call.json)
-        printJson(toJson(m_outcomes, m_settings, library));
+int CBatchReport::finish() {
+    if (!m_call.quiet)
+        for (const std::string &line : notes(m_outcomes, m_call.options))
+            printRemark(line);
     printLastLine();
     if (isInterrupted())
         return interruptionStatus();
@@ -52,9 +55,11 @@ void CBatchReport::printLastLine() const {
         printRemark(interruptionText() + ", " +
                     std::to_string(rendered + count(m_outcomes, EOutcome::Skipped)) + " of " +
                     std::to_string(m_outcomes.size()) + " done");
-    } else if (m_outcomes.size() > 1 && rendered < m_outcomes.size()) {
+    } else if (m_outcomes.size() == 1 || m_call.quiet) {
+        return;
+    } else if (rendered < m_outcomes.size()) {
         printRemark(summary(m_outcomes));
-    } else if (m_outcomes.size() > 1 && !m_call.json) {
+    } else if (!m_call.json) {
         print(std::string("\n").append(summary(m_outcomes)).append("\n"));
     }
 }

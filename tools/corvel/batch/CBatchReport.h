@@ -10,18 +10,19 @@
 namespace Tessitor::Tool {
 
 /// Prints the outcomes of a command's jobs in their order, each as soon as all earlier ones are
-/// printed, and at last what concerns all of them.
+/// printed, and at last what concerns all of them. JSON lines come in the order of ending.
 class CBatchReport {
 public:
     CBatchReport(const std::vector<SRenderOutcome> &outcomes, const SRenderCall &call,
-                 const CEffectSettings &settings, CProgressBar &progress);
+                 const CEffectSettings &settings, const CEffectLibrary &library,
+                 CProgressBar &progress);
 
     /// [any thread]
     void handleFinished(std::size_t job);
 
-    /// Prints the notes, the JSON form and the last line.
+    /// Prints the notes and the last line.
     /// @return the exit status.
-    int finish(const CEffectLibrary &library);
+    int finish();
 
 private:
     void printOutcome(const SRenderOutcome &outcome);
@@ -34,6 +35,7 @@ private:
     const std::vector<SRenderOutcome> &m_outcomes;
     const SRenderCall &m_call;
     const CEffectSettings &m_settings;
+    const CEffectLibrary &m_library;
     CProgressBar &m_progress;
 };
 

@@ -60,22 +60,36 @@ Json toJson(const CLevels &levels) {
             {"rms", numberOrNull(decibels(levels.rms()))}};
 }
 
-Json toJson(const SRenderOutcome &outcome) {
-    Json json = {{"in", outcome.job.in.string()}, {"out", outcome.job.out.string()}};
-    switch (outcome.kind) {
-    case EOutcome::Interrupted:
-        json["error"] = "interrupted";
-        return json;
-    case EOutcome::Failed:
-        json["error"] = outcome.error;
-        return json;
-    case EOutcome::Skipped:
-        json["skipped"] = true;
-        return json;
+const char *statusOf(EOutcome kind) {
+    switch (kind) {
     case EOutcome::Rendered:
+        return "rendered";
+    case EOutcome::Skipped:
+        return "skipped";
+    case EOutcome::Failed:
+        return "failed";
+    case EOutcome::Planned:
+        return "planned";
+    case EOutcome::Interrupted:
         break;
     }
-    const SRenderResult &result = outcome.result;
+    return "interrupted";
+}
+
+void addSettings(Json &json, const CEffectSettings &settings, const CEffectLibrary &library) {
+    json["effect"] = library.file().string();
+    json["program"] = settings.programName();
+    if (settings.chain()) {
+        json["chain"] = Json::array();
+        for (const int slot : *settings.chain())
+            json["chain"].push_back(moduleLabel(slot));
+    }
+    json["set"] = Json::object();
+    for (const auto &assignment : settings.assignments())
+        json["set"][assignment.name] = assignment.display;
+}
+
+void addResult(Json &json, const SRenderResult &result) {
     json["sampleRate"] = result.sampleRate;
     json["channelsIn"] = result.channelsIn;
     json["channelsOut"] = result.channelsOut;
@@ -90,7 +104,10 @@ Json toJson(const SRenderOutcome &outcome) {
     json["nonFiniteSamples"] = result.nonFiniteSamples;
     json["renderSeconds"] = result.renderSeconds;
     json["timesRealTime"] = result.timesRealTime();
-    return json;
+    if (result.openSeconds) {
+        json["openSeconds"] = *result.openSeconds;
+        json["effectSeconds"] = *result.effectSeconds;
+    }
 }
 
 }  // namespace
@@ -110,6 +127,22 @@ std::string describe(const SRenderOutcome &outcome, const CEffectSettings &setti
     rows.push_back({"level out", describeLevels(result.levelsOut)});
     rows.push_back({"speed", decimal(result.timesRealTime(), 1) + " times real time"});
     return inColumns(rows);
+}
+
+std::string describeProcessing(const SRenderResult &result, const SRenderOptions &options,
+                               const CEffectLibrary &library) {
+    const int rate = options.resample ? stripRate : result.sampleRate;
+    const double effect = result.effectSeconds.value_or(0.0);
+    return inColumns(
+        {{"effect", library.file().string()},
+         {"processed", "at " + std::to_string(rate) + " Hz and " + decimal(options.tempo, 2) +
+                           " bpm in blocks of " + counted(options.blockSize, "frame") + ", " +
+                           (options.doublePrecision ? "double" : "single") + " precision, " +
+                           decimal(options.tailSeconds, 1) + " s tail"},
+         {"time", "effect opened in " + decimal(result.openSeconds.value_or(0.0) * 1e3, 1) +
+                      " ms, ran for " + decimal(effect, 3) + " s of " +
+                      decimal(result.renderSeconds, 3) + " s (" +
+                      decimal(100.0 * effect / result.renderSeconds, 0) + "%)"}});
 }
 
 std::vector<std::string> warnings(const SRenderOutcome &outcome, const SRenderOptions &options) {
@@ -157,20 +190,16 @@ std::string summary(const std::vector<SRenderOutcome> &outcomes) {
     return text;
 }
 
-Json toJson(const std::vector<SRenderOutcome> &outcomes, const CEffectSettings &settings,
+Json toJson(const SRenderOutcome &outcome, const CEffectSettings &settings,
             const CEffectLibrary &library) {
-    Json json = {{"effect", library.file().string()}, {"program", settings.programName()}};
-    if (settings.chain()) {
-        json["chain"] = Json::array();
-        for (const int slot : *settings.chain())
-            json["chain"].push_back(moduleLabel(slot));
-    }
-    json["set"] = Json::object();
-    for (const auto &assignment : settings.assignments())
-        json["set"][assignment.name] = assignment.display;
-    json["files"] = Json::array();
-    for (const SRenderOutcome &outcome : outcomes)
-        json["files"].push_back(toJson(outcome));
+    Json json = {{"in", outcome.job.in.string()},
+                 {"out", outcome.job.out.string()},
+                 {"status", statusOf(outcome.kind)}};
+    if (outcome.kind == EOutcome::Failed)
+        json["error"] = outcome.error;
+    addSettings(json, settings, library);
+    if (outcome.kind == EOutcome::Rendered)
+        addResult(json, outcome.result);
     return json;
 }
 

@@ -9,7 +9,7 @@
 
 namespace Tessitor::Tool {
 
-enum class EOutcome { Interrupted, Rendered, Skipped, Failed };
+enum class EOutcome { Interrupted, Rendered, Skipped, Failed, Planned };
 
 /// The outcome of one job.
 struct SRenderOutcome {
@@ -21,6 +21,10 @@ struct SRenderOutcome {
 
 /// @return a report on a successful job, in several lines.
 std::string describe(const SRenderOutcome &outcome, const CEffectSettings &settings);
+
+/// @return more lines for such a report: how the file was processed and where the time went.
+std::string describeProcessing(const SRenderResult &result, const SRenderOptions &options,
+                               const CEffectLibrary &library);
 
 /// @return warnings about one file for the user, one line each.
 std::vector<std::string> warnings(const SRenderOutcome &outcome, const SRenderOptions &options);
@@ -34,8 +38,8 @@ std::string summary(const std::vector<SRenderOutcome> &outcomes);
 
 std::size_t count(const std::vector<SRenderOutcome> &outcomes, EOutcome kind);
 
-/// @return all outcomes of a command. Levels are in dBFS, and null for silence.
-nlohmann::ordered_json toJson(const std::vector<SRenderOutcome> &outcomes,
-                              const CEffectSettings &settings, const CEffectLibrary &library);
+/// @return an outcome with the settings. Levels are in dBFS, and null for silence.
+nlohmann::ordered_json toJson(const SRenderOutcome &outcome, const CEffectSettings &settings,
+                              const CEffectLibrary &library);
 
 }  // namespace Tessitor::Tool

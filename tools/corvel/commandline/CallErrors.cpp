@@ -68,6 +68,8 @@ std::string describe(const CLI::ParseError &error) {
         return text.replace(text.find(" excludes "), 10, " and ") + " exclude each other";
     if (dynamic_cast<const CLI::ValidationError *>(&error) != nullptr)
         return text;  // written by our own validators
+    if (dynamic_cast<const CLI::ExcludesError *>(&error) != nullptr)
+        return text.replace(text.find(" excludes "), 10, " cannot be used with ");
     if (option.empty())
         return "the command line cannot be understood; see corvel --help";
     if (dynamic_cast<const CLI::ConversionError *>(&error) != nullptr)

@@ -7,8 +7,8 @@ Files
   OUT is a file, or a folder if it exists as one or ends in a slash. --out-dir names a folder
   instead, and then all FILES are inputs. In a folder, which is created if necessary, outputs
   are named after their inputs. Several inputs always need a folder; they are rendered on all
-  cores, each through its own instance of the effect. If one fails, the others are still
-  rendered.
+  cores or as many at a time as --jobs says, each through its own instance of the effect. If
+  one fails, the others are still rendered.
 
   An existing file is only replaced with --force, and only when the output is complete: after
   a failure it is unchanged. It passes on its mode; a write-protected file is not replaced.
@@ -29,6 +29,26 @@ Files
     wav, aiff   8, 16, 24, 32, float, double
     flac        8, 16, 24
     ogg         vorbis, opus
+
+Batches
+  --recursive takes folders as inputs and keeps their sub-folders in the output folder. In
+  folders, files count whose names end like audio files. Hidden files and folders are left
+  out, and so is the output folder.
+
+  --list reads the names of more inputs from a file, or with "-" from standard input. Each
+  line is a name, with all its spaces; if there are zero bytes, as from find -print0, they
+  separate the names. Empty lines are skipped.
+
+  --name is the pattern of the outputs' names, such as "{stem}-{program}". {stem} is the
+  input's name without its ending and {ext} the ending, {program} the name of the program,
+  {index} the number of the input. A slash makes a sub-folder, {{ is a brace. Unless the
+  pattern ends like an audio file or in .{ext}, the ending of --format or of the input is
+  added. Characters of a program's name that file names cannot have become "-".
+
+  --dry-run prints each input and output, what would be skipped and what would fail, and
+  writes nothing. --quiet leaves out reports, notes and warnings. --json prints one line for
+  each file as it ends, with its "status" (rendered, skipped, failed, interrupted or planned)
+  and all settings.
 
 Settings
   --set NAME=VALUE sets a parameter and may be repeated; of several values for one parameter
@@ -60,6 +80,7 @@ Precision and blocks
 Examples
   corvel render voice.wav out.wav --program "Lead Vocal" --set CmpThresh=-24dB
   corvel render *.flac mixed/ --chain "Rumble Filter,Compressor" --format wav:24
+  corvel render takes --recursive --out-dir mixed --name "{stem}-{program}" --skip-existing
   corvel render phone.wav out.wav --resample --json
 )";
 

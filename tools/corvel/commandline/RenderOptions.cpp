@@ -17,11 +17,31 @@ void addFiles(CLI::App &render, SRenderCall &call) {
         ->type_name("");
     render.add_option("--out-dir", call.files.folder, "Folder for the outputs; FILES are inputs")
         ->type_name("DIR");
+    render.add_option("--list", call.files.list, "Read more inputs from FILE, one per line")
+        ->type_name("FILE");
+    render.add_flag("--recursive", call.files.recursive,
+                    "Render the audio files in folders and their sub-folders");
+    render.add_option("--name", call.files.name, "How to name the outputs in the folder")
+        ->type_name("PATTERN");
     render.add_flag_callback(
         "--force", [&call] { call.options.existing = EExisting::Replaced; },
         "Replace existing outputs");
     render.add_flag("--skip-existing", call.skipExisting,
                     "Skip outputs that are newer than their inputs");
+}
+
+void addBatch(CLI::App &render, SRenderCall &call) {
+    render.add_option("--jobs", call.jobs, "Files to render at a time, 1 to 256 [all cores]")
+        ->type_name("N")
+        ->check(wholeNumber())
+        ->check(between(1, 256));
+    render.add_flag("--dry-run", call.dryRun, "Only print what would be written");
+    CLI::Option *quiet = render.add_flag("--quiet", call.quiet, "Print only errors");
+    render
+        .add_flag_callback(
+            "--verbose", [&call] { call.verbose = call.options.timed = true; },
+            "Also print how each file was processed")
+        ->excludes(quiet);
 }
 
 void addProcessing(CLI::App &render, SRenderOptions &options) {
@@ -68,6 +88,7 @@ SCommand addRender(CLI::App &app, SRenderCall &call) {
         ->type_name("FILE");
     addProcessing(render, call.options);
     addOutput(render, call.options);
+    addBatch(render, call);
     addPlugin(render, call.plugin);
     addJson(render, call.json);
     render.footer(renderHelp);

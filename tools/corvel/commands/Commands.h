@@ -19,6 +19,10 @@ struct SRenderCall {
     SSettingsRequest settings;
     SRenderOptions options;
     bool skipExisting = false;              // outputs that are newer than their inputs
+    std::optional<std::size_t> jobs;        // files at a time; by default one on each core
+    bool dryRun = false;                    // only print what would be done
+    bool quiet = false;                     // print only errors, and JSON if asked for
+    bool verbose = false;                   // describe also how the files were processed
     std::optional<std::string> savePreset;  // file to save the settings to
     bool json = false;
 };

@@ -14,9 +14,21 @@ bool isAllPrinted() {
     return !std::cout.flush().fail();
 }
 
-void printJson(const nlohmann::ordered_json &json) {
+namespace {
+
+void printIndented(const nlohmann::ordered_json &json, int spaces) {
     // File names may be in any encoding.
-    print(json.dump(4, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n");
+    print(json.dump(spaces, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n");
+}
+
+}  // namespace
+
+void printJson(const nlohmann::ordered_json &json) {
+    printIndented(json, 4);
+}
+
+void printJsonLine(const nlohmann::ordered_json &json) {
+    printIndented(json, -1);
 }
 
 void printRemark(const std::string &line) {

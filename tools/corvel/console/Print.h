@@ -9,6 +9,9 @@ namespace Tessitor::Tool {
 void print(const std::string &text);
 void printJson(const nlohmann::ordered_json &json);
 
+/// Prints JSON in one line.
+void printJsonLine(const nlohmann::ordered_json &json);
+
 /// @return false if standard output did not accept everything, for example on a full disk.
 bool isAllPrinted();
 

@@ -59,22 +59,36 @@ std::string randomName() {
 }  // namespace
 
 CPendingFile::CPendingFile(const fs::path &place, EExisting existing)
-    : m_name(place), m_place(withoutLinks(place)), m_existing(existing) {
-    std::error_code error;
-    const fs::file_status status = fs::status(m_place, error);
-    if (fs::exists(status)) {
-        // Renaming would replace a device or a pipe with a file.
-        if (!fs::is_regular_file(status))
-            fail(m_name, "not a file");
-        if (existing == EExisting::Kept)
-            failSinceItExists(m_name);
-        if (isWriteProtected(m_place, status.permissions()))
-            throw CJobError(m_name.string() + ": is write-protected and was not replaced");
-        m_mode = status.permissions();
-    } else if (status.type() != fs::file_type::not_found) {
-        fail(m_name, error.message());
-    }
+    : m_name(place), m_place(withoutLinks(place)), m_existing(existing),
+      m_mode(modeToReplace(m_name, m_place, existing)) {
     makeFileBeside();
+}
+
+void CPendingFile::requireWritable(const fs::path &place, EExisting existing) {
+    const fs::path target = withoutLinks(place);
+    modeToReplace(place, target, existing);
+    std::error_code error;
+    if (!fs::is_directory(target.has_parent_path() ? target.parent_path() : ".", error))
+        fail(place, (error ? error : std::make_error_code(std::errc::not_a_directory)).message());
+}
+
+// @return the mode of the file at the place; none if there is no file.
+std::optional<fs::perms> CPendingFile::modeToReplace(const fs::path &name, const fs::path &place,
+                                                     EExisting existing) {
+    std::error_code error;
+    const fs::file_status status = fs::status(place, error);
+    if (status.type() == fs::file_type::not_found)
+        return std::nullopt;
+    if (!fs::exists(status))
+        fail(name, error.message());
+    // Renaming would replace a device or a pipe with a file.
+    if (!fs::is_regular_file(status))
+        fail(name, "not a file");
+    if (existing == EExisting::Kept)
+        failSinceItExists(name);
+    if (isWriteProtected(place, status.permissions()))
+        throw CJobError(name.string() + ": is write-protected and was not replaced");
+    return status.permissions();
 }
 
 CPendingFile::~CPendingFile() {

@@ -19,6 +19,11 @@ public:
     /// @throws CJobError if the folder does not exist or is not writable, or if `place` exists and
     ///         is not a regular file, is write-protected or is to be kept.
     explicit CPendingFile(const std::filesystem::path &place, EExisting existing = EExisting::Kept);
+
+    /// Makes nothing.
+    /// @throws CJobError if there would be no use in trying, as far as that can be told.
+    static void requireWritable(const std::filesystem::path &place, EExisting existing);
+
     /// Deletes the file unless it was committed.
     ~CPendingFile();
     CPendingFile(const CPendingFile &) = delete;
@@ -31,6 +36,9 @@ public:
     void commit();
 
 private:
+    static std::optional<std::filesystem::perms> modeToReplace(const std::filesystem::path &name,
+                                                               const std::filesystem::path &place,
+                                                               EExisting existing);
     void makeFileBeside();
     void replace();
     void appear();

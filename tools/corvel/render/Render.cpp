@@ -46,16 +46,21 @@ void requireRenderable(const CEffectInstance &effect, const SRenderOptions &opti
         requireDoublePrecision(effect);
 }
 
+void requireMatching(const CAudioReader &input, const SRenderJob &job,
+                     const SRenderOptions &options) {
+    const std::string problem = problemOfName(job.out, options.format);
+    if (!problem.empty())
+        throw CJobError(job.out.string() + ": " + problem);
+    if (options.mono && input.channels() != 1)
+        throw CJobError(job.in.string() + ": is stereo; --mono is for mono files");
+}
+
 SRenderResult render(const SRenderJob &job, const CEffectLibrary &library,
                      const CEffectSettings &settings, const SRenderOptions &options,
                      const RenderListener &listener) {
     const auto begin = std::chrono::steady_clock::now();
     CAudioReader reader(job.in);
-    const std::string problem = problemOfName(job.out, options.format);
-    if (!problem.empty())
-        throw CJobError(job.out.string() + ": " + problem);
-    if (options.mono && reader.channels() != 1)
-        throw CJobError(job.in.string() + ": is stereo; --mono is for mono files");
+    requireMatching(reader, job, options);
 
     SRenderResult result;
     result.sampleRate = reader.sampleRate();
@@ -69,6 +74,7 @@ SRenderResult render(const SRenderJob &job, const CEffectLibrary &library,
     CAudioWriter writer(job.out, options.existing, result.formatOut, result.sampleRate,
                         result.channelsOut);
 
+    const auto beforeEffect = std::chrono::steady_clock::now();
     CEffectInstance effect(library);
     settings.applyTo(effect);
     SRunSettings run;
@@ -79,6 +85,11 @@ SRenderResult render(const SRenderJob &job, const CEffectLibrary &library,
     run.rightInputConnected = result.channelsIn == 2;
     run.rightOutputConnected = result.channelsOut == 2;
     effect.start(run);
+    if (options.timed) {
+        const std::chrono::duration<double> opening =
+            std::chrono::steady_clock::now() - beforeEffect;
+        result.openSeconds = opening.count();
+    }
     const auto loop = options.doublePrecision ? runLoop<double> : runLoop<float>;
     loop(job, options, reader, effect, writer, result, listener);
     effect.stop();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "corvel/audio/CAudioReader.h"
 #include "corvel/audio/CLevels.h"
 #include "corvel/audio/OutputFormat.h"
 #include "corvel/files/CPendingFile.h"
@@ -8,6 +9,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <functional>
+#include <optional>
 
 namespace Tessitor::Tool {
 
@@ -24,6 +26,7 @@ struct SRenderOptions {
     bool resample = false;  // to stripRate and back
     bool mono = false;      // the strip's mono sum; for mono files only
     bool keepNan = false;   // otherwise samples that are not finite are rendered as 0
+    bool timed = false;     // measure the effect's own time
     EExisting existing = EExisting::Kept;  // output files
 };
 
@@ -32,6 +35,7 @@ std::int64_t tailFrames(const SRenderOptions &options, int sampleRate);
 struct SRenderJob {
     std::filesystem::path in;
     std::filesystem::path out;
+    std::string problem{};  // why it cannot be rendered; empty if nothing is known
 };
 
 struct SRenderResult {
@@ -43,6 +47,8 @@ struct SRenderResult {
     std::uint64_t clippedSamples = 0;
     std::uint64_t nonFiniteSamples = 0;  // in the input
     double renderSeconds = 0.0;          // wall clock
+    // Until the effect was ready, and in its process calls; only with SRenderOptions::timed
+    std::optional<double> openSeconds{}, effectSeconds{};
 
     double seconds() const { return static_cast<double>(framesOut) / sampleRate; }
     double timesRealTime() const { return renderSeconds > 0.0 ? seconds() / renderSeconds : 0.0; }
@@ -54,6 +60,10 @@ using RenderListener = std::function<void(double done)>;
 /// @throws CJobError if the effect is not stereo, or cannot process in the precision of the
 ///         options.
 void requireRenderable(const CEffectInstance &effect, const SRenderOptions &options);
+
+/// @throws CJobError if the options do not suit the input or the name of the output.
+void requireMatching(const CAudioReader &input, const SRenderJob &job,
+                     const SRenderOptions &options);
 
 /// Renders one file with a new instance, so that earlier files leave no trace.
 /// @param library  must pass requireRenderable().

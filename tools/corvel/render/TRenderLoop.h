@@ -6,6 +6,7 @@
 #include "corvel/audio/Interleave.h"
 #include "corvel/console/Errors.h"
 #include "corvel/console/Interrupt.h"
+#include "corvel/render/CStopwatch.h"
 #include "corvel/render/Render.h"
 
 #include <algorithm>
@@ -54,6 +55,7 @@ private:
     const std::int64_t m_tailFrames;
     const bool m_keepNan;
     std::optional<CResampler> m_toStrip, m_fromStrip;
+    CStopwatch m_effectTime;
 
     std::vector<Sample> m_chunk;      // one read from the file
     std::vector<Sample> m_processed;  // the effect's output for a chunk
@@ -78,8 +80,8 @@ TRenderLoop<Sample>::TRenderLoop(const SRenderJob &job, const SRenderOptions &op
       // Whole blocks, so that only the last block of a file is shorter.
       m_chunkFrames(m_blockFrames * std::max<std::size_t>(1, chunkFrames / m_blockFrames)),
       m_tailFrames(tailFrames(options, reader.sampleRate())), m_keepNan(options.keepNan),
-      m_chunk(m_chunkFrames * m_channelsIn), m_inLeft(m_blockFrames), m_inRight(m_blockFrames),
-      m_outLeft(m_blockFrames), m_outRight(m_blockFrames),
+      m_effectTime(options.timed), m_chunk(m_chunkFrames * m_channelsIn), m_inLeft(m_blockFrames),
+      m_inRight(m_blockFrames), m_outLeft(m_blockFrames), m_outRight(m_blockFrames),
       m_latencyLeft(static_cast<std::size_t>(std::max(0, effect.record().initialDelay))) {
     if (options.resample && reader.sampleRate() != stripRate) {
         m_toStrip.emplace(job.in.string(), reader.sampleRate(), stripRate, reader.channels());
@@ -109,6 +111,8 @@ void TRenderLoop<Sample>::run(SRenderResult &result, const RenderListener &liste
     }
     result.framesOut = m_framesDelivered;
     result.levelsOut = m_levelsOut;
+    if (result.openSeconds)
+        result.effectSeconds = m_effectTime.seconds();
 }
 
 template <typename Sample>
@@ -143,7 +147,7 @@ void TRenderLoop<Sample>::processBlock(Samples samples, Sample *out) {
         std::copy(samples.begin(), samples.end(), m_inLeft.begin());
     Sample *ins[] = {m_inLeft.data(), m_inRight.data()};
     Sample *outs[] = {m_outLeft.data(), m_channelsOut == 2 ? m_outRight.data() : nullptr};
-    m_effect.process(ins, outs, static_cast<std::int32_t>(frames));
+    m_effectTime.measure([&] { m_effect.process(ins, outs, static_cast<std::int32_t>(frames)); });
     if (m_channelsOut == 2)
         interleave(m_outLeft.data(), m_outRight.data(), frames, out);
     else
