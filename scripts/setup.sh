@@ -32,6 +32,7 @@ test_packages=(
     fonts-liberation fonts-liberation2                  # the face of the text in the tests
     openbox libxcb-cursor0                              # a window manager and cursor themes for them
     python3-cairo                                       # draws the pictures of the editor, to compare
+    parallel                                            # the batches of docs/batches.md
 )
 # Each version formats and warns in its own way, so these are pinned.
 lint_packages=(clang-format-14 clang-tidy-14 shellcheck pyflakes3)
