@@ -87,6 +87,8 @@ void addSettings(Json &json, const CEffectSettings &settings, const CEffectLibra
     json["set"] = Json::object();
     for (const auto &assignment : settings.assignments())
         json["set"][assignment.name] = assignment.display;
+    if (settings.automation())
+        json["automate"] = settings.automation()->file();
 }
 
 void addResult(Json &json, const SRenderResult &result) {
@@ -123,6 +125,8 @@ std::string describe(const SRenderOutcome &outcome, const CEffectSettings &setti
         rows.push_back({"chain", describeChain(*settings.chain())});
     for (const auto &assignment : settings.assignments())
         rows.push_back({"set", assignment.name + " = " + assignment.display});
+    if (settings.automation())
+        rows.push_back({"automate", settings.automation()->file()});
     rows.push_back({"level in", describeLevels(result.levelsIn)});
     rows.push_back({"level out", describeLevels(result.levelsOut)});
     rows.push_back({"speed", decimal(result.timesRealTime(), 1) + " times real time"});

@@ -72,6 +72,22 @@ Settings
   --save-preset saves the settings to a new file, ready for --preset. See corvel preset --help.
   The program or preset is set first, then the chain, then the parameters.
 
+Automation
+  --automate reads a file with lines of TIME PARAMETER VALUE, in any order:
+    # seconds or m:ss.fff, separated by spaces, tabs, commas or semicolons
+    0         InGain  -oo
+    0:01.500  InGain  0 dB
+    62.25     DlyPngPng  On
+  A VALUE is one that --set takes. Between two points of a parameter, its normalised value
+  moves in a straight line; two points at the same time make a jump. A parameter that is a
+  choice, like DlyPngPng, keeps each value until its next point. Before the first point
+  the program or --set decides, and after the last one the value stays. Times count from the
+  start of the file and may lie before it or after its end.
+
+  A point takes effect at its exact sample. In between, values are updated once per block,
+  as in host programs: every 23 ms with the usual 1024 frames at 44.1 kHz. A smaller --block
+  makes movements smoother.
+
 Precision and blocks
   With --double the compressor and the de-esser stay at rest: the strip has them only in
   single precision. --block changes the sound if the compressor is in use and CmpLink is

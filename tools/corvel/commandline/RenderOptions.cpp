@@ -84,6 +84,8 @@ SCommand addRender(CLI::App &app, SRenderCall &call) {
     CLI::App &render = *app.add_subcommand("render", "Render audio files through the effect");
     addFiles(render, call);
     addSettings(render, call.settings);
+    render.add_option("--automate", call.settings.automate, "Change parameters during the file")
+        ->type_name("FILE");
     render.add_option("--save-preset", call.savePreset, "Save the settings as a new preset")
         ->type_name("FILE");
     addProcessing(render, call.options);

@@ -1,7 +1,7 @@
 #include "corvel/commands/Commands.h"
 #include "corvel/console/Print.h"
 #include "corvel/console/Text.h"
-#include "corvel/settings/CParameterText.h"
+#include "corvel/settings/Parameters.h"
 #include "corvel/settings/ProgramDescriptions.h"
 
 namespace Tessitor::Tool {
@@ -38,11 +38,7 @@ std::vector<SValue> valuesOf(CEffectInstance &effect) {
 
 // Leaves the parameter at another value.
 std::string rangeOf(CEffectInstance &effect, std::int32_t index) {
-    const CParameterText parameter(effect.text(effGetParamLabel, index), [&](float value) {
-        effect.setParameter(index, value);
-        return effect.text(effGetParamDisplay, index);
-    });
-    return parameter.range();
+    return parameterText(effect, index).range();
 }
 
 std::vector<std::string> labelsOf(const Chain &chain) {

@@ -29,9 +29,10 @@ void requireDoublePrecision(const CEffectInstance &effect) {
 
 template <typename Sample>
 void runLoop(const SRenderJob &job, const SRenderOptions &options, CAudioReader &reader,
-             CEffectInstance &effect, CAudioWriter &writer, SRenderResult &result,
+             CEffectInstance &effect, CAudioWriter &writer,
+             const std::optional<CAutomation> &automation, SRenderResult &result,
              const RenderListener &listener) {
-    TRenderLoop<Sample>(job, options, reader, effect, writer).run(result, listener);
+    TRenderLoop<Sample>(job, options, reader, effect, writer, automation).run(result, listener);
 }
 
 }  // namespace
@@ -91,7 +92,7 @@ SRenderResult render(const SRenderJob &job, const CEffectLibrary &library,
         result.openSeconds = opening.count();
     }
     const auto loop = options.doublePrecision ? runLoop<double> : runLoop<float>;
-    loop(job, options, reader, effect, writer, result, listener);
+    loop(job, options, reader, effect, writer, settings.automation(), result, listener);
     effect.stop();
 
     writer.finish();

@@ -6,6 +6,7 @@
 #include "corvel/audio/Interleave.h"
 #include "corvel/console/Errors.h"
 #include "corvel/console/Interrupt.h"
+#include "corvel/render/CAutomationPlayer.h"
 #include "corvel/render/CStopwatch.h"
 #include "corvel/render/Render.h"
 
@@ -29,7 +30,8 @@ class TRenderLoop {
 public:
     /// @param effect  already started, at stripRate if the options ask for resampling.
     TRenderLoop(const SRenderJob &job, const SRenderOptions &options, CAudioReader &reader,
-                CEffectInstance &effect, CAudioWriter &writer);
+                CEffectInstance &effect, CAudioWriter &writer,
+                const std::optional<CAutomation> &automation);
 
     /// @param result  receives frames and levels.
     void run(SRenderResult &result, const RenderListener &listener);
@@ -43,6 +45,7 @@ private:
     void feed(Samples samples);
     void process(Samples samples);
     void processBlock(Samples samples, Sample *out);
+    void processAutomated(Samples samples, Sample *out);
     void deliver(Samples samples);
     std::uint64_t countNonFinite(std::span<Sample> samples) const;
     static void stopIfInterrupted();
@@ -55,6 +58,7 @@ private:
     const std::int64_t m_tailFrames;
     const bool m_keepNan;
     std::optional<CResampler> m_toStrip, m_fromStrip;
+    std::optional<CAutomationPlayer> m_automation;
     CStopwatch m_effectTime;
 
     std::vector<Sample> m_chunk;      // one read from the file
@@ -72,7 +76,7 @@ private:
 template <typename Sample>
 TRenderLoop<Sample>::TRenderLoop(const SRenderJob &job, const SRenderOptions &options,
                                  CAudioReader &reader, CEffectInstance &effect,
-                                 CAudioWriter &writer)
+                                 CAudioWriter &writer, const std::optional<CAutomation> &automation)
     : m_reader(reader), m_effect(effect), m_writer(writer),
       m_channelsIn(static_cast<std::size_t>(reader.channels())),
       m_channelsOut(static_cast<std::size_t>(writer.channels())),
@@ -87,6 +91,9 @@ TRenderLoop<Sample>::TRenderLoop(const SRenderJob &job, const SRenderOptions &op
         m_toStrip.emplace(job.in.string(), reader.sampleRate(), stripRate, reader.channels());
         m_fromStrip.emplace(job.in.string(), stripRate, reader.sampleRate(), writer.channels());
     }
+    if (automation)
+        m_automation.emplace(*automation, effect,
+                             options.resample ? stripRate : reader.sampleRate());
 }
 
 template <typename Sample>
@@ -126,8 +133,9 @@ void TRenderLoop<Sample>::process(Samples samples) {
     m_processed.resize(std::max(m_processed.size(), frames * m_channelsOut));
     for (std::size_t done = 0; done < frames; done += m_blockFrames) {
         const std::size_t length = std::min(m_blockFrames, frames - done);
-        processBlock(samples.subspan(done * m_channelsIn, length * m_channelsIn),
-                     m_processed.data() + done * m_channelsOut);
+        const Samples block = samples.subspan(done * m_channelsIn, length * m_channelsIn);
+        Sample *const out = m_processed.data() + done * m_channelsOut;
+        m_automation ? processAutomated(block, out) : processBlock(block, out);
     }
 
     const std::size_t dropped = std::min(m_latencyLeft, frames);
@@ -152,6 +160,17 @@ void TRenderLoop<Sample>::processBlock(Samples samples, Sample *out) {
         interleave(m_outLeft.data(), m_outRight.data(), frames, out);
     else
         std::copy_n(m_outLeft.begin(), frames, out);
+}
+
+/// Splits a block where an automation has a point.
+template <typename Sample>
+void TRenderLoop<Sample>::processAutomated(Samples samples, Sample *out) {
+    while (!samples.empty()) {
+        const std::size_t frames = m_automation->startBlock(samples.size() / m_channelsIn);
+        processBlock(samples.first(frames * m_channelsIn), out);
+        samples = samples.subspan(frames * m_channelsIn);
+        out += frames * m_channelsOut;
+    }
 }
 
 template <typename Sample>

@@ -3,22 +3,13 @@
 #include "corvel/console/Errors.h"
 #include "corvel/console/Text.h"
 #include "corvel/presets/PresetFile.h"
-#include "corvel/settings/CParameterText.h"
+#include "corvel/settings/Parameters.h"
 
 #include <algorithm>
 #include <charconv>
 #include <span>
 
 namespace Tessitor::Tool {
-
-namespace {
-
-std::string displayWithUnit(CEffectInstance &effect, std::int32_t index) {
-    const std::string unit = effect.text(effGetParamLabel, index);
-    return effect.text(effGetParamDisplay, index) + (unit.empty() ? "" : " " + unit);
-}
-
-}  // namespace
 
 std::string programName(CEffectInstance &effect, std::int32_t program) {
     return effect.text(effGetProgramNameIndexed, program);
@@ -53,9 +44,8 @@ std::int32_t programFromText(CEffectInstance &effect, const std::string &text) {
 
 std::int32_t parameterFromName(CEffectInstance &effect, const std::string &option,
                                std::string_view name) {
-    for (std::int32_t index = 0; index < effect.record().numParams; ++index)
-        if (!name.empty() && equalInAnyCapitals(effect.text(effGetParamName, index), name))
-            return index;
+    if (const auto index = findParameter(effect, name))
+        return *index;
     throw CCallError(option + ": no parameter " + inQuotes(name) + "; corvel params lists them");
 }
 
@@ -79,6 +69,10 @@ CEffectSettings::CEffectSettings(const SSettingsRequest &request, CEffectInstanc
     for (const std::string &text : request.set)
         assign(text, trial);
     findSteps(isStrip, isSynchronised);
+    if (request.automate) {
+        m_automation.emplace(*request.automate, trial);
+        m_notes.insert(m_notes.end(), m_automation->notes().begin(), m_automation->notes().end());
+    }
 
     applyTo(trial);
     m_programName = trial.text(effGetProgramName);
@@ -96,10 +90,7 @@ void CEffectSettings::assign(const std::string &text, CEffectInstance &trial) {
         parameterFromName(trial, "--set", trimmed(std::string_view(text).substr(0, equals)));
     const std::string_view value = trimmed(std::string_view(text).substr(equals + 1));
     const std::string name = trial.text(effGetParamName, index);
-    const CParameterText parameter(trial.text(effGetParamLabel, index), [&](float tried) {
-        trial.setParameter(index, tried);
-        return trial.text(effGetParamDisplay, index);
-    });
+    const CParameterText parameter = parameterText(trial, index);
     try {
         dropEarlier(index);
         m_assignments.push_back({index, parameter.valueOf(value), name, {}});

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "corvel/effect/CEffectInstance.h"
+#include "corvel/settings/CAutomation.h"
 #include "corvel/settings/Chain.h"
 #include "corvel/settings/StripSteps.h"
 
@@ -13,10 +14,11 @@ namespace Tessitor::Tool {
 
 /// The effect settings on the command line.
 struct SSettingsRequest {
-    std::optional<std::string> program;   // number or name
-    std::optional<std::string> chain;     // module labels
-    std::vector<std::string> set;         // "NAME=VALUE"
-    std::optional<std::string> preset{};  // FILE or FILE:N, instead of a program
+    std::optional<std::string> program;     // number or name
+    std::optional<std::string> chain;       // module labels
+    std::vector<std::string> set;           // "NAME=VALUE"
+    std::optional<std::string> preset{};    // FILE or FILE:N, instead of a program
+    std::optional<std::string> automate{};  // file of a CAutomation
 };
 
 /// @return the name of a program; empty if the effect has none for it.
@@ -57,6 +59,7 @@ public:
     const std::string &programName() const { return m_programName; }
     const std::optional<Chain> &chain() const { return m_chain; }  ///< none for other effects
     const std::vector<SAssignment> &assignments() const { return m_assignments; }
+    const std::optional<CAutomation> &automation() const { return m_automation; }
     const std::vector<std::string> &notes() const { return m_notes; }  ///< one line each
 
 private:
@@ -71,6 +74,7 @@ private:
     std::vector<SAssignment> m_assignments;
     std::vector<SStep> m_steps;  // that lead to the assigned values
     std::vector<std::string> m_notes;
+    std::optional<CAutomation> m_automation;
     std::string m_programName;
     std::optional<Chain> m_chain;
 };

@@ -40,6 +40,9 @@ public:
     ///         if they are not numbers: "Separate, Linked". Empty if nothing is displayed.
     std::string range() const;
 
+    /// @return true if no value is displayed as a number: "Separate, Linked".
+    bool isChoice() const;
+
 private:
     struct SPoint {
         float value;

@@ -61,6 +61,11 @@ std::string CParameterText::withUnit(const std::string &text) const {
     return m_unit.empty() ? text : text + " " + m_unit;
 }
 
+bool CParameterText::isChoice() const {
+    return std::none_of(m_grid.begin(), m_grid.end(),
+                        [](const SPoint &point) { return point.shown.number.has_value(); });
+}
+
 std::string CParameterText::range() const {
     const auto isFinite = [](const SPoint &point) { return std::isfinite(*point.shown.number); };
     if (const std::vector<std::string> list = choices(); !list.empty()) {

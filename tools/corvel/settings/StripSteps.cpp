@@ -56,13 +56,17 @@ bool isDelaySynchronised(CEffectInstance &effect) {
     return isSynchronising(effect.parameter(kDlySync));
 }
 
+bool isDelayTiming(std::int32_t index) {
+    return index == kDlyTime || index == kDlySync;
+}
+
 std::vector<SStep> stepsToHear(std::vector<SStep> asked, bool isSynchronised) {
     std::sort(asked.begin(), asked.end(),
               [](const SStep &a, const SStep &b) { return a.index < b.index; });
     const auto time = valueFor(asked, kDlyTime), sync = valueFor(asked, kDlySync);
     std::vector<SStep> steps;
     for (const SStep &step : asked) {
-        if (step.index == kDlyTime || step.index == kDlySync)
+        if (isDelayTiming(step.index))
             continue;
         if (step.index == kPan)
             addPan(steps, step.value);

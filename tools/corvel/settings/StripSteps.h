@@ -22,6 +22,9 @@ struct SStep {
 /// @param effect  a channel strip.
 bool isDelaySynchronised(CEffectInstance &effect);
 
+/// @return true for the delay's time and its synchronisation, of which only one is heard.
+bool isDelayTiming(std::int32_t index);
+
 /// @param asked           at most one value for each parameter.
 /// @param isSynchronised  whether the delay follows the tempo before the changes.
 std::vector<SStep> stepsToHear(std::vector<SStep> asked, bool isSynchronised);
