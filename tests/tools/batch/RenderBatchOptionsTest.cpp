@@ -141,6 +141,9 @@ TEST_F(RenderBatchOptions, APatternNamesTheOutputs) {
     EXPECT_EQ(render({"takes/a.wav", "aiff/", "--name", "{stem}.v1", "--format", "aiff"}).errors,
               "");
     EXPECT_EQ(filesIn("aiff"), Names{"a.v1.aiff"});
+    EXPECT_EQ(render({"takes/a.wav", "brackets/", "--name", "[{stem}]"}).out.find("/./"),
+              std::string::npos);
+    EXPECT_EQ(filesIn("brackets"), Names{"[a].wav"});
 }
 
 TEST_F(RenderBatchOptions, AWrongPatternIsReported) {

@@ -96,6 +96,8 @@ SCommand addRender(CLI::App &app, SRenderCall &call) {
     render.footer(renderHelp);
     return {&render, [&call] {
                 call.files.files = namesAsTyped(std::move(call.files.files));
+                if (call.files.name)
+                    call.files.name = namesAsTyped({*call.files.name}).front();
                 return runRender(call);
             }};
 }
