@@ -239,6 +239,24 @@ TEST_F(RenderBatchOptions, TheNumberOfJobsIsChecked) {
                        std::string("--jobs: ") + number + " is not a whole number");
 }
 
+TEST_F(RenderBatchOptions, AnOutputThatAppearsMeanwhileIsSkipped) {
+    const auto whileAppearing = [&](const std::string &options) {
+        fs::remove_all(folder / "out");
+        return runProgram("sh",
+                          {"-c", "cd " + folder.path().string() +
+                                     "; " CORVEL_PROGRAM
+                                     " render takes/a.wav out/ --tail 60 --block 16 --plugin " +
+                                     testEffect("Whole") + options +
+                                     " & until ls -A out | grep -q 'part$'; do sleep 0.01; done; "
+                                     "echo other > out/a.wav; wait $!"});
+    };
+    EXPECT_EQ(whileAppearing(" --skip-existing").status, 0);
+    EXPECT_EQ(readFile(folder / "out/a.wav"), "other\n");
+    EXPECT_EQ(filesIn("out"), Names{"a.wav"});
+    EXPECT_THAT(whileAppearing("").errors,
+                HasSubstr("corvel: out/a.wav: exists already; --force replaces it\n"));
+}
+
 TEST_F(RenderBatchOptions, TwoRunsOnTheSameFilesDoNoHarm) {
     for (int i = 0; i < 30; ++i)
         writeSound(folder / "takes" / (std::to_string(i) + ".wav"), voice(5, 3000));
