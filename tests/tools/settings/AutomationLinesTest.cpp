@@ -63,6 +63,10 @@ TEST(AutomationLines, AByteOrderMarkAndColumnNamesAreSkipped) {
               "moves.csv:2: \"time\" is not a time; write seconds or m:ss, as in 1:05.250");
 }
 
+TEST(AutomationLines, AFileThatIsNoTextIsRefused) {
+    EXPECT_EQ(refusal(std::string("0 Gain 1\nRIFF\0\1", 15)), "moves.csv: not a text file");
+}
+
 TEST(AutomationLines, AWrongLineIsNamed) {
     EXPECT_EQ(refusal("0 Gain 1\nsoon Gain 1\n"),
               "moves.csv:2: \"soon\" is not a time; write seconds or m:ss, as in 1:05.250");

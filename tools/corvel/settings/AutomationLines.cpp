@@ -83,6 +83,8 @@ std::string placeInFile(const std::string &file, std::size_t line) {
 }
 
 std::vector<SAutomationLine> automationLines(std::string_view text, const std::string &file) {
+    if (text.find('\0') != text.npos)
+        throw CJobError(file + ": not a text file");
     std::vector<SAutomationLine> lines;
     std::size_t number = 0;
     for (const std::string_view whole : split(withoutMark(text), '\n')) {

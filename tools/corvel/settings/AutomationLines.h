@@ -21,7 +21,8 @@ struct SAutomationLine {
 /// and the value is the rest of the line. Each may be in quotes. What follows "#" at the start of a
 /// line or after a space is a comment; a first line that begins with "time" names the columns.
 /// @param file  for messages.
-/// @throws CJobError that begins with "FILE:LINE: " if a line is something else.
+/// @throws CJobError if it is no text. If a line is something else, the error begins with
+///         "FILE:LINE: ".
 std::vector<SAutomationLine> automationLines(std::string_view text, const std::string &file);
 
 /// @return "FILE:LINE: "
