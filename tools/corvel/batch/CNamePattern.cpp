@@ -18,10 +18,11 @@ constexpr std::string_view fieldNames[] = {"stem", "ext", "program", "index"};
 // Without characters that are not allowed in names on Linux or Windows.
 std::string asName(std::string text) {
     constexpr std::string_view forbidden = "/\\:*?\"<>|\x7F";
-    for (char &letter : text)
+    for (char &letter : text) {
         if (forbidden.find(letter) != std::string_view::npos ||
             static_cast<unsigned char>(letter) < ' ')
             letter = '-';
+    }
     text = trimmed(text);
     return text.empty() ? "unnamed" : text;
 }
@@ -96,7 +97,7 @@ fs::path CNamePattern::nameFor(const SNameFields &fields) const {
     std::string text;
     for (const SPart &part : m_parts)
         text += part.isField ? valueOf(part.text, fields) : part.text;
-    const fs::path name = text;
+    fs::path name = text;
     if (name.is_absolute() || std::find(name.begin(), name.end(), "..") != name.end())
         throw CCallError("--name: " + inQuotes(text) + " leads out of the folder for the outputs");
     return name;

@@ -26,7 +26,7 @@ void requireFeasible(const SRenderJob &job, const SRenderCall &call, bool makesF
 SRenderOutcome examine(const SRenderJob &job, const SRenderCall &call, bool makesFolders) {
     SRenderOutcome outcome{job, EOutcome::Planned, {}, {}};
     try {
-        if (isToBeSkipped(job, call))
+        if (call.skipExisting && isNewer(job.out, job.in))
             outcome.kind = EOutcome::Skipped;
         else
             requireFeasible(job, call, makesFolders);
@@ -59,10 +59,6 @@ std::string sum(const std::vector<SRenderOutcome> &outcomes) {
 }
 
 }  // namespace
-
-bool isToBeSkipped(const SRenderJob &job, const SRenderCall &call) {
-    return call.skipExisting && isNewer(job.out, job.in);
-}
 
 int runDry(const SJobs &jobs, const SRenderCall &call, const CEffectSettings &settings,
            const CEffectLibrary &library) {

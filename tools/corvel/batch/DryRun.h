@@ -5,10 +5,6 @@
 
 namespace Tessitor::Tool {
 
-/// @return true if a job need not be done, since its output is newer than its input and the call
-///         says to skip such files.
-bool isToBeSkipped(const SRenderJob &job, const SRenderCall &call);
-
 /// Prints what a command would do with each file, and changes nothing on the disk.
 /// @return the exit status that the command would have, as far as that can be told before.
 int runDry(const SJobs &jobs, const SRenderCall &call, const CEffectSettings &settings,

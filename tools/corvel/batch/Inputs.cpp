@@ -74,6 +74,7 @@ std::vector<SInput> filesIn(const std::vector<std::string> &names,
 
 std::vector<SInput> filesNamed(const std::vector<std::string> &names) {
     std::vector<SInput> inputs;
+    inputs.reserve(names.size());
     for (const std::string &name : names)
         inputs.push_back(
             {name, "", isFolder(name) ? "is a folder; --recursive renders the files in it" : ""});

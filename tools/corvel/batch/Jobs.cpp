@@ -40,12 +40,14 @@ STarget takeTarget(const SFileRequest &request, std::vector<std::string> &inputs
     if (inputs.size() != 1 || request.list)
         throw CCallError(last.string() + ": several inputs need a folder for their outputs; name "
                                          "it with --out-dir or end it in a slash");
-    for (const auto &[isGiven, option] :
-         {std::pair{request.recursive, "--recursive"}, {request.name.has_value(), "--name"}})
-        if (isGiven)
-            throw CCallError(last.string() + ": " + option +
-                             " needs a folder for the outputs; name it with --out-dir or end it "
-                             "in a slash");
+    const char *const option = request.recursive ? "--recursive"
+                               : request.name    ? "--name"
+                                                 : nullptr;
+    if (option != nullptr) {
+        throw CCallError(last.string() + ": " + option +
+                         " needs a folder for the outputs; name it with --out-dir or end it in a "
+                         "slash");
+    }
     return {{}, last};
 }
 

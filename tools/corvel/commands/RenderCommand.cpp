@@ -4,6 +4,7 @@
 #include "corvel/console/Errors.h"
 #include "corvel/console/Interrupt.h"
 #include "corvel/console/Print.h"
+#include "corvel/files/FileFacts.h"
 #include "corvel/presets/PresetCommand.h"
 #include "corvel/render/StripNotes.h"
 #include "platform/IsErrorStreamTerminal.h"
@@ -54,7 +55,8 @@ void run(SRenderOutcome &outcome, const CEffectLibrary &library, const CEffectSe
     if (isInterrupted())
         return;
     const SRenderJob &job = outcome.job;
-    if (isToBeSkipped(job, call)) {
+    const auto isDone = [&] { return call.skipExisting && isNewer(job.out, job.in); };
+    if (isDone()) {
         outcome.kind = EOutcome::Skipped;
         return;
     }
@@ -69,7 +71,7 @@ void run(SRenderOutcome &outcome, const CEffectLibrary &library, const CEffectSe
         outcome.kind = EOutcome::Interrupted;
     } catch (const std::exception &error) {
         // Another machine may have written the same output meanwhile.
-        outcome.kind = isToBeSkipped(job, call) ? EOutcome::Skipped : EOutcome::Failed;
+        outcome.kind = isDone() ? EOutcome::Skipped : EOutcome::Failed;
         outcome.error = reasonOf(error);
     }
 }
