@@ -45,7 +45,7 @@ SLevelCurve measureLevelCurve(const CSubject &subject, double tone) {
     const std::vector<double> unit = sine(tone);
     std::mutex lock;
     std::exception_ptr failure;
-    runOnAllCores(curve.in.size(), [&](std::size_t index) {
+    runInParallel(curve.in.size(), {}, [&](std::size_t index) {
         try {
             const auto effect = subject.start();
             const BothSides<float> out = passThrough(*effect, scaled(unit, curve.in[index]));
