@@ -62,6 +62,13 @@ TEST(CChart, DrawsALineWithAGapForWhatIsNoNumber) {
     EXPECT_EQ(at(pixels, chart.place({1.3, 4.5})), blue);
     EXPECT_EQ(at(pixels, chart.place({8.3, 4.5})), blue);
     EXPECT_EQ(at(pixels, chart.place({5.3, 4.5})), colourOf(EInk::Panel, ETheme::Light));
+    // No line leads to the gap.
+    SRectangle others = chart.plotArea();
+    others.height = chart.place({0.0, 5.0}).y - others.y;
+    EXPECT_EQ(pixelsOf(EInk::Blue, pixels, others), 0);
+    others.y = chart.place({0.0, 4.0}).y;
+    others.height = chart.plotArea().bottom() - others.y;
+    EXPECT_EQ(pixelsOf(EInk::Blue, pixels, others), 0);
 }
 
 TEST(CChart, CutsTheDataAtThePlotArea) {

@@ -55,6 +55,17 @@ TEST(StripPicture, SidesThatDifferHaveTheirOwnLines) {
     }
 }
 
+TEST(StripPicture, ADeepNotchDoesNotFlattenTheRest) {
+    SMeasurement measurement = plainMeasurement();
+    for (std::vector<double> &side : measurement.response.gains)
+        side = {-200.0, 0.0, 0.0};
+    const CPixels pixels(drawStrip(measurement, png));
+    // Sixty decibels are shown, from 6 dB down.
+    const double zero = response.y + response.height / 10.0;
+    EXPECT_EQ(pixels.at(1000, static_cast<int>(zero)), colourOf(EInk::Blue, ETheme::Light));
+    EXPECT_EQ(pixelsOf(EInk::Blue, pixels, {800.0, zero + 6.0, 300.0, 200.0}), 0);
+}
+
 TEST(StripPicture, LongNamesStayInsideThePicture) {
     SMeasurement measurement = plainMeasurement();
     measurement.program = std::string(200, 'M');

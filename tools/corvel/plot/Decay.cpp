@@ -5,31 +5,24 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 namespace Tessitor::Tool {
 
 namespace {
 
 constexpr std::size_t noisePeriod = 65536, burstFrames = 2 * noisePeriod;
-constexpr std::size_t fadeFrames = 256;
 constexpr std::size_t restFrames = std::size_t{longestTail} * probeRate;
 constexpr std::size_t binFrames = 441;  // 10 ms, the resolution of the curve
 constexpr std::size_t binsIn50ms = 5;
+// Lower noise would leave a high-pass filter with a thump.
 constexpr double lowest = 100.0, highest = 15000.0;    // Hz
 constexpr double shallowest = -25.0, deepest = -35.0;  // dB, to where a line is fitted
 constexpr double leastTail = 1e-6;                     // of the loudest 50 ms of the sound
 
-// The fade keeps high-pass filters from adding a thump at the end.
 std::vector<float> burst(double level) {
     std::vector<float> samples = pinkNoise(noisePeriod, lowest, highest, level);
     samples.resize(burstFrames);
     std::copy_n(samples.begin(), noisePeriod, samples.begin() + noisePeriod);
-    for (std::size_t i = 0; i < fadeFrames; ++i) {
-        const double phase = std::numbers::pi * static_cast<double>(i) / fadeFrames;
-        float &sample = samples[burstFrames - 1 - i];
-        sample *= static_cast<float>(0.5 - 0.5 * std::cos(phase));
-    }
     return samples;
 }
 
