@@ -125,14 +125,18 @@ void CJackBench::forget() {
     m_taken = m_recordedFrames;
 }
 
+void CJackBench::waitForCycles() {
+    const std::size_t before = m_recordedFrames;
+    waitUntil([&] { return m_recordedFrames >= before + 2 * blockFrames(); });
+    forget();
+}
+
 void CJackBench::sendMidi(const Tessitor::Tool::SMidiMessage &message) {
+    waitForCycles();  // since a connection may be new
     m_message = {message.status, message.data1, message.data2};
     m_messageBytes = message.isProgramChange() ? 2 : 3;
     waitUntil([this] { return m_messageBytes == 0; });
-    // The source may be a cycle ahead.
-    forget();
-    waitUntil([this] { return m_recordedFrames >= m_taken + 2 * blockFrames(); });
-    forget();
+    waitForCycles();  // since the source may be a cycle ahead
 }
 
 void CJackBench::keepTime(double beatsPerMinute) {

@@ -51,6 +51,7 @@ private:
     static constexpr std::size_t capacity = 1 << 20;  // frames
     using Ports = std::array<jack_port_t *, 3>;
 
+    void waitForCycles();
     static int processSource(jack_nframes_t frames, void *object);
     static int processSink(jack_nframes_t frames, void *object);
 

@@ -75,9 +75,12 @@ void CJackServer::end() {
     stop(SIGTERM);
 }
 
-// It leaves its semaphores.
 void CJackServer::crash() {
     stop(SIGKILL);
+}
+
+// A server that crashes or that still has clients leaves their semaphores.
+void CJackServer::removeLeftovers() const {
     std::vector<std::filesystem::path> left;
     for (const auto &entry : std::filesystem::directory_iterator("/dev/shm"))
         if (entry.path().string().find(m_name) != std::string::npos)
@@ -92,4 +95,5 @@ void CJackServer::stop(int signal) {
     kill(m_server, signal);
     waitpid(m_server, nullptr, 0);
     m_server = 0;
+    removeLeftovers();
 }

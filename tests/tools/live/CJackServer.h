@@ -20,6 +20,7 @@ public:
 
 private:
     void stop(int signal);
+    void removeLeftovers() const;
 
     const std::string m_name;
     pid_t m_server = 0;

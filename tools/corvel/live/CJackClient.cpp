@@ -4,6 +4,8 @@
 #include "corvel/console/Text.h"
 
 #include <algorithm>
+#include <chrono>
+#include <thread>
 
 namespace Tessitor::Tool {
 
@@ -136,6 +138,7 @@ std::vector<std::string> CJackClient::connectToSystem() {
     if (m_midiIn != nullptr)
         for (const std::string &source : systemPorts(midiType, JackPortIsOutput))
             connect(source, jack_port_name(m_midiIn));
+    waitForConnections();
     std::vector<std::string> missing;
     if (sources.empty())
         missing.emplace_back("inputs");
@@ -159,9 +162,20 @@ void CJackClient::connect(const std::string &from, const std::string &to) const 
     jack_connect(m_client.get(), from.c_str(), to.c_str());
 }
 
+// A new connection comes into effect at the start of a cycle. The current one may have started.
+void CJackClient::waitForConnections() const {
+    constexpr std::uint32_t cycles = 2;
+    const std::uint32_t before = m_cycles;
+    // A server that has stopped calls nobody.
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(1);
+    while (m_cycles - before < cycles && std::chrono::steady_clock::now() < deadline)
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+}
+
 // The audio thread
 
 int CJackClient::process(jack_nframes_t frames) {
+    ++m_cycles;
     setProcessLevelOfThread(kVstProcessLevelRealtime);
     const auto buffer = [frames](jack_port_t *port) {
         return static_cast<float *>(jack_port_get_buffer(port, frames));

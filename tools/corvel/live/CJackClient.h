@@ -44,7 +44,8 @@ public:
     /// @throws CJobError if the server refuses.
     void activate(CLiveRack &rack);
     /// Connects the inputs to the first two of the system's inputs, the outputs to the first two of
-    /// its outputs, and MIDI to all of the system's. A single one serves both sides.
+    /// its outputs, and MIDI to all of the system's. A single one serves both sides. Waits until
+    /// the connections carry sound, so that both sides begin at once. Call activate() first.
     /// @return what there was nothing to connect to: "inputs", "outputs" or both.
     std::vector<std::string> connectToSystem();
 
@@ -62,6 +63,7 @@ private:
     void setCallbacks();
     std::vector<std::string> systemPorts(const char *type, unsigned long flags) const;
     void connect(const std::string &from, const std::string &to) const;
+    void waitForConnections() const;
 
     // [audio thread]
     int process(jack_nframes_t frames);
@@ -77,6 +79,7 @@ private:
     CLiveRack *m_rack = nullptr;
     std::array<SMidiMessage, 512> m_messages{};  // of the current block
     std::atomic<std::uint32_t> m_sampleRate = 0, m_blockFrames = 0, m_xruns = 0;
+    std::atomic<std::uint32_t> m_cycles = 0;  // of the server, while active
     std::atomic<bool> m_isServerGone = false;
 };
 
