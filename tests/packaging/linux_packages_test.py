@@ -4,7 +4,7 @@ import re
 import tarfile
 import unittest
 
-from places import README, VERSION, VOICE, pack, run, temporary_folder
+from places import README, SOURCE, VERSION, VOICE, pack, run, temporary_folder
 
 
 class Packages:
@@ -52,6 +52,12 @@ class Deb(Packages, unittest.TestCase):
         depends = self.field("Depends")
         for library in ("libsndfile1", "libsamplerate0", "libfontconfig1", "libxkbcommon0", "libc6"):
             self.assertIn(library + " (>= ", depends)
+
+    def test_the_other_package_lists_the_same_libraries(self):
+        """Without those that every Debian has"""
+        depends = {name.split()[0] for name in self.field("Depends").split(", ")}
+        listed = (SOURCE / "packaging/linux/README").read_text(encoding="utf-8").split("apt install ")[1]
+        self.assertEqual(depends - {"libc6", "libgcc-s1", "libstdc++6"}, set(re.findall(r"lib\S+", listed)))
 
     def test_apt_could_install_it(self):
         self.assertIn("Inst corvel ", run(["apt-get", "--simulate", "install", self.package]))
