@@ -2,24 +2,13 @@
 
 #include "corvel/console/Text.h"
 #include "corvel/settings/CEffectSettings.h"
-#include "corvel/settings/CParameterText.h"
 #include "corvel/settings/Chain.h"
+#include "corvel/settings/Parameters.h"
 #include "corvel/settings/ProgramDescriptions.h"
 
 #include <algorithm>
 
 namespace Tessitor::Tool {
-
-namespace {
-
-CParameterText parameterText(CEffectInstance &effect, std::int32_t index) {
-    return {effect.text(effGetParamLabel, index), [&effect, index](float value) {
-                effect.setParameter(index, value);
-                return effect.text(effGetParamDisplay, index);
-            }};
-}
-
-}  // namespace
 
 Suggestions suggestPrograms(const std::optional<std::string> &plugin) {
     const CEffectLibrary library(CEffectLibrary::choose(plugin));
