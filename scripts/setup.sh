@@ -11,6 +11,7 @@ run_packages=(
     libxcb1-dev libxkbcommon-dev libxcb-xkb-dev  # windows and keys
     libfontconfig-dev libfreetype-dev libjpeg62-turbo-dev libpng-dev  # fonts and pictures
     libsndfile1-dev libsamplerate0-dev libcli11-dev nlohmann-json3-dev  # the command-line host
+    libebur128-dev                 # its loudness
     libjack-jackd2-dev             # corvel live
     googletest locales libxcb-xtest0-dev libxcb-res0-dev libxcb-xfixes0-dev  # the tests, part of every whole build
     libbenchmark-dev python3       # the benchmarks and the table of their results
