@@ -43,6 +43,13 @@ CAudioWriter::CAudioWriter(const std::filesystem::path &file, EExisting existing
     sf_command(m_file.get(), SFC_SET_ADD_PEAK_CHUNK, nullptr, SF_FALSE);
 }
 
+bool CAudioWriter::dither() {
+    if (m_bits == 0 || m_bits > 16)
+        return false;
+    m_dither.emplace(m_bits);
+    return true;
+}
+
 void CAudioWriter::write(const float *samples, std::int64_t frames) {
     writeAll(samples, frames);
 }
@@ -58,14 +65,24 @@ void CAudioWriter::writeAll(const Sample *samples, std::int64_t frames) {
     if (m_bits == 0) {
         written = writeFrames(m_file.get(), samples, frames);
     } else {
-        const auto count = static_cast<std::size_t>(frames * m_channels);
-        m_integers.resize(std::max(m_integers.size(), count));
-        m_clipped += quantise(samples, count, m_bits, m_integers.data());
+        quantiseAll(samples, static_cast<std::size_t>(frames * m_channels));
         written = sf_writef_int(m_file.get(), m_integers.data(), frames);
     }
     if (written != frames)
         failWith(errno);
     m_frames += frames;
+}
+
+template <typename Sample>
+void CAudioWriter::quantiseAll(const Sample *samples, std::size_t count) {
+    m_integers.resize(std::max(m_integers.size(), count));
+    if (m_dither) {
+        m_dithered.resize(std::max(m_dithered.size(), count));
+        m_dither->add(samples, count, m_dithered.data());
+        m_clipped += quantise(m_dithered.data(), count, m_bits, m_integers.data());
+    } else {
+        m_clipped += quantise(samples, count, m_bits, m_integers.data());
+    }
 }
 
 void CAudioWriter::finish() {

@@ -1,11 +1,13 @@
 #pragma once
 
 #include "corvel/audio/CAudioReader.h"
+#include "corvel/audio/CDither.h"
 #include "corvel/files/CPendingFile.h"
 
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,6 +22,10 @@ public:
                  int channels);
 
     int channels() const { return m_channels; }
+
+    /// From now on dithers the samples.
+    /// @return false if the format has no use for it: only 8-bit and 16-bit integers have.
+    bool dither();
 
     /// Appends interleaved samples. Integer formats round and clip them; floating-point formats do
     /// not change them.
@@ -36,6 +42,8 @@ public:
 private:
     template <typename Sample>
     void writeAll(const Sample *samples, std::int64_t frames);
+    template <typename Sample>
+    void quantiseAll(const Sample *samples, std::size_t count);
     [[noreturn]] void failWith(int systemError) const;
     [[noreturn]] void fail(const std::string &reason) const;
 
@@ -44,6 +52,8 @@ private:
     int m_bits;                 // per integer sample; 0 for floating point
     std::int64_t m_frames = 0;  // written
     std::uint64_t m_clipped = 0;
+    std::optional<CDither> m_dither;
+    std::vector<double> m_dithered;
     std::vector<std::int32_t> m_integers;
     CPendingFile m_pending;  // must outlive m_file
     std::unique_ptr<SNDFILE, SSoundFileCloser> m_file;
