@@ -69,6 +69,13 @@ TEST_F(RenderInterrupt, ACrashLeavesNoUnfinishedFile) {
     }
 }
 
+TEST_F(RenderInterrupt, TheScratchFileOfNormalizingIsDeleted) {
+    for (const std::string signal : {"TERM", "SEGV"}) {
+        runUntilItWrites("in.wav out.wav --normalize -16LUFS", "kill -" + signal + " $!");
+        EXPECT_EQ(folder.names(), (std::vector<std::string>{"in.wav", "out.wav"})) << signal;
+    }
+}
+
 TEST_F(RenderInterrupt, TwoSignalsLeaveNoUnfinishedFile) {
     runUntilItWrites("in.wav out.wav", "kill -TERM $!; kill -INT $!");
     EXPECT_TRUE(readFile(folder / "out.wav") == "old");

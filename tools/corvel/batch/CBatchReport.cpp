@@ -1,5 +1,6 @@
 #include "corvel/batch/CBatchReport.h"
 
+#include "corvel/batch/LoudnessReport.h"
 #include "corvel/console/Interrupt.h"
 #include "corvel/console/Print.h"
 
@@ -34,19 +35,25 @@ void CBatchReport::printOutcome(const SRenderOutcome &outcome) {
         return;
     if (std::exchange(m_describedOne, true))
         print("\n");
-    print(describe(outcome, m_settings));
+    print(describe(outcome, m_settings, m_call.options));
     if (m_call.verbose)
         print(describeProcessing(outcome.result, m_call.options, m_library));
 }
 
 int CBatchReport::finish() {
     if (!m_call.quiet)
-        for (const std::string &line : notes(m_outcomes, m_call.options))
-            printRemark(line);
+        printNotes();
     printLastLine();
     if (isInterrupted())
         return interruptionStatus();
     return count(m_outcomes, EOutcome::Failed) > 0 ? 1 : 0;
+}
+
+void CBatchReport::printNotes() const {
+    for (const std::string &line : notes(m_outcomes, m_call.options))
+        printRemark(line);
+    for (const std::string &line : notesOnLoudness(m_outcomes, m_call.options))
+        printRemark(line);
 }
 
 void CBatchReport::printLastLine() const {

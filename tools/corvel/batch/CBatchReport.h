@@ -26,6 +26,7 @@ public:
 
 private:
     void printOutcome(const SRenderOutcome &outcome);
+    void printNotes() const;
     void printLastLine() const;
 
     std::mutex m_lock;

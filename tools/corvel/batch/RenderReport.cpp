@@ -1,5 +1,6 @@
 #include "corvel/batch/RenderReport.h"
 
+#include "corvel/batch/LoudnessReport.h"
 #include "corvel/console/Text.h"
 
 #include <algorithm>
@@ -39,9 +40,10 @@ std::string counted(std::uint64_t number, const std::string &thing) {
     return std::to_string(number) + " " + thing + (number == 1 ? "" : "s");
 }
 
-std::string describeLevels(const CLevels &levels) {
+std::string describeLevels(const CLevels &levels, const std::optional<SLoudness> &loudness) {
     return "peak " + decimal(decibels(levels.peak()), 2) + " dBFS, RMS " +
-           decimal(decibels(levels.rms()), 2) + " dBFS";
+           decimal(decibels(levels.rms()), 2) + " dBFS" +
+           (loudness ? describeLoudness(*loudness) : "");
 }
 
 std::string describeChain(const Chain &chain) {
@@ -55,9 +57,12 @@ Json numberOrNull(double number) {
     return std::isfinite(number) ? Json(number) : Json();
 }
 
-Json toJson(const CLevels &levels) {
-    return {{"peak", numberOrNull(decibels(levels.peak()))},
-            {"rms", numberOrNull(decibels(levels.rms()))}};
+Json toJson(const CLevels &levels, const std::optional<SLoudness> &loudness) {
+    Json json = {{"peak", numberOrNull(decibels(levels.peak()))},
+                 {"rms", numberOrNull(decibels(levels.rms()))}};
+    if (loudness)
+        addLoudness(json, *loudness);
+    return json;
 }
 
 const char *statusOf(EOutcome kind) {
@@ -100,8 +105,10 @@ void addResult(Json &json, const SRenderResult &result) {
     json["framesIn"] = result.framesIn;
     json["framesOut"] = result.framesOut;
     json["seconds"] = result.seconds();
-    json["levelIn"] = toJson(result.levelsIn);
-    json["levelOut"] = toJson(result.levelsOut);
+    json["levelIn"] = toJson(result.levelsIn, result.loudnessIn);
+    json["levelOut"] = toJson(result.levelsOut, result.loudnessOut);
+    if (result.gain)
+        json["gain"] = result.gain->decibels();
     json["clippedSamples"] = result.clippedSamples;
     json["nonFiniteSamples"] = result.nonFiniteSamples;
     json["renderSeconds"] = result.renderSeconds;
@@ -114,7 +121,8 @@ void addResult(Json &json, const SRenderResult &result) {
 
 }  // namespace
 
-std::string describe(const SRenderOutcome &outcome, const CEffectSettings &settings) {
+std::string describe(const SRenderOutcome &outcome, const CEffectSettings &settings,
+                     const SRenderOptions &options) {
     const SRenderResult &result = outcome.result;
     std::vector<std::vector<std::string>> rows = {
         {"in", describeFile(outcome.job.in, result, result.channelsIn, result.formatIn)},
@@ -127,8 +135,10 @@ std::string describe(const SRenderOutcome &outcome, const CEffectSettings &setti
         rows.push_back({"set", assignment.name + " = " + assignment.display});
     if (settings.automation())
         rows.push_back({"automate", settings.automation()->file()});
-    rows.push_back({"level in", describeLevels(result.levelsIn)});
-    rows.push_back({"level out", describeLevels(result.levelsOut)});
+    rows.push_back({"level in", describeLevels(result.levelsIn, result.loudnessIn)});
+    if (result.gain)
+        rows.push_back({"gain", describeGain(*result.gain, options)});
+    rows.push_back({"level out", describeLevels(result.levelsOut, result.loudnessOut)});
     rows.push_back({"speed", decimal(result.timesRealTime(), 1) + " times real time"});
     return inColumns(rows);
 }

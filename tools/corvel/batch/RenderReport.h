@@ -20,7 +20,8 @@ struct SRenderOutcome {
 };
 
 /// @return a report on a successful job, in several lines.
-std::string describe(const SRenderOutcome &outcome, const CEffectSettings &settings);
+std::string describe(const SRenderOutcome &outcome, const CEffectSettings &settings,
+                     const SRenderOptions &options);
 
 /// @return more lines for such a report: how the file was processed and where the time went.
 std::string describeProcessing(const SRenderResult &result, const SRenderOptions &options,

@@ -25,7 +25,7 @@ Files
   The container is taken from --format, else from OUT's extension, else from the input. The
   sample type is taken from --format, else from the input, else it is the closest that the
   container supports. Integer formats clip samples beyond full scale, and a warning says how
-  many; floating-point formats keep them.
+  many (see --clip); floating-point formats keep them.
     wav, aiff   8, 16, 24, 32, float, double
     flac        8, 16, 24
     ogg         vorbis, opus
@@ -49,6 +49,24 @@ Batches
   writes nothing. --quiet leaves out reports, notes and warnings. --json prints one line for
   each file as it ends, with its "status" (rendered, skipped, failed, interrupted or planned)
   and all settings.
+
+Loudness
+  --loudness reports the integrated loudness by EBU R 128, in LUFS, and the true peak, in dBTP,
+  of each input and output. Measuring takes longer than rendering, so it is only done on
+  request; --normalize measures too. Sound that is silent or shorter than 0.4 s has no
+  loudness. A mono file counts as one channel: the same sound in stereo is 3 LU louder.
+
+  --normalize gives the whole output one gain, so that its loudness is -16LUFS, for example,
+  or its true peak is -1dBTP. Until the gain is known, the sound is kept in a temporary file
+  beside the output.
+
+  --clip says what happens to samples beyond full scale in integer formats: warn clips them
+  and counts them, fail does not write that file, and headroom turns the whole output down as
+  far as necessary, even if it then misses the target of --normalize.
+
+  --dither adds noise of one step of the output before rounding (TPDF), which makes the
+  rounding error independent of the sound. It is for outputs of 8 and 16 bits; others stay as
+  they are. The noise always starts the same, so a command always writes the same bytes.
 
 Settings
   --set NAME=VALUE sets a parameter and may be repeated; of several values for one parameter
@@ -98,6 +116,7 @@ Examples
   corvel render *.flac mixed/ --chain "Rumble Filter,Compressor" --format wav:24
   corvel render takes --recursive --out-dir mixed --name "{stem}-{program}" --skip-existing
   corvel render phone.wav out.wav --resample --json
+  corvel render take.wav podcast.wav --normalize -16LUFS --clip headroom --format wav:16 --dither
 )";
 
 }  // namespace Tessitor::Tool

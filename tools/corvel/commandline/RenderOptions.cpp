@@ -2,6 +2,7 @@
 
 #include "corvel/commandline/CallErrors.h"
 #include "corvel/commandline/CommonOptions.h"
+#include "corvel/commandline/LoudnessOptions.h"
 #include "corvel/commandline/RenderHelp.h"
 #include "corvel/commandline/SettingsOptions.h"
 #include "corvel/commandline/Validators.h"
@@ -76,6 +77,7 @@ void addOutput(CLI::App &render, SRenderOptions &options) {
         ->type_name("CONTAINER[:TYPE]");
     render.add_flag("--mono", options.mono,
                     "Write a mono file as the mono sum of the strip's output");
+    addLoudness(render, options);
 }
 
 }  // namespace

@@ -27,12 +27,37 @@ void requireDoublePrecision(const CEffectInstance &effect) {
         throw CJobError(effect.fileName() + ": cannot process in double precision");
 }
 
+std::optional<SLoudnessParts> partsMeasured(const SRenderOptions &options) {
+    if (!options.measuresLoudness())
+        return {};
+    SLoudnessParts parts;
+    parts.truePeak = true;
+    return parts;
+}
+
 template <typename Sample>
 void runLoop(const SRenderJob &job, const SRenderOptions &options, CAudioReader &reader,
              CEffectInstance &effect, CAudioWriter &writer,
              const std::optional<CAutomation> &automation, SRenderResult &result,
              const RenderListener &listener) {
-    TRenderLoop<Sample>(job, options, reader, effect, writer, automation).run(result, listener);
+    const std::optional<SLoudnessParts> parts = partsMeasured(options);
+    CSoundMeter meterIn(result.sampleRate, result.channelsIn, parts);
+    CSoundMeter meterOut(result.sampleRate, result.channelsOut, parts);
+    TRenderOutput<Sample> output(job, options, result, writer, meterOut);
+    const double share = output.hasTwoPasses() ? 0.5 : 1.0;  // of the time, roughly
+    TRenderLoop<Sample>(job, options, reader, effect, output, meterIn, automation)
+        .run(result, [&](double done) { listener(share * done); });
+    result.gain = output.finish([&](double done) { listener(share + (1.0 - share) * done); });
+    result.levelsIn = meterIn.levels();
+    result.levelsOut = meterOut.levels();
+    result.loudnessIn = meterIn.finishLoudness();
+    result.loudnessOut = meterOut.finishLoudness();
+}
+
+[[noreturn]] void failSinceItClips(const SRenderJob &job, std::uint64_t samples) {
+    throw CJobError(job.out.string() + ": " + std::to_string(samples) +
+                    (samples == 1 ? " sample" : " samples") +
+                    " would clip, so it was not written; --clip headroom turns it down");
 }
 
 }  // namespace
@@ -74,6 +99,7 @@ SRenderResult render(const SRenderJob &job, const CEffectLibrary &library,
                                        framesExpected, result.channelsOut, job.out);
     CAudioWriter writer(job.out, options.existing, result.formatOut, result.sampleRate,
                         result.channelsOut);
+    result.dithered = options.dither && writer.dither();
 
     const auto beforeEffect = std::chrono::steady_clock::now();
     CEffectInstance effect(library);
@@ -95,8 +121,10 @@ SRenderResult render(const SRenderJob &job, const CEffectLibrary &library,
     loop(job, options, reader, effect, writer, settings.automation(), result, listener);
     effect.stop();
 
-    writer.finish();
     result.clippedSamples = writer.clippedSamples();
+    if (options.clip == EClip::Fail && result.clippedSamples > 0)
+        failSinceItClips(job, result.clippedSamples);
+    writer.finish();
     const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - begin;
     result.renderSeconds = elapsed.count();
     return result;

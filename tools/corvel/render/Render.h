@@ -4,6 +4,7 @@
 #include "corvel/audio/CLevels.h"
 #include "corvel/audio/OutputFormat.h"
 #include "corvel/files/CPendingFile.h"
+#include "corvel/render/OutputGain.h"
 #include "corvel/settings/CEffectSettings.h"
 
 #include <cstdint>
@@ -28,6 +29,12 @@ struct SRenderOptions {
     bool keepNan = false;   // otherwise samples that are not finite are rendered as 0
     bool timed = false;     // measure the effect's own time
     EExisting existing = EExisting::Kept;  // output files
+    bool loudness = false;                 // measured also without a reason below
+    std::optional<SLoudnessTarget> normalize;
+    EClip clip = EClip::Warn;
+    bool dither = false;  // outputs of 8 and 16 bits
+
+    bool measuresLoudness() const { return loudness || normalize; }
 };
 
 std::int64_t tailFrames(const SRenderOptions &options, int sampleRate);
@@ -44,6 +51,9 @@ struct SRenderResult {
     int formatIn = 0, formatOut = 0;  // of libsndfile
     std::int64_t framesIn = 0, framesOut = 0;
     CLevels levelsIn, levelsOut;
+    std::optional<SLoudness> loudnessIn, loudnessOut;  // if measured
+    std::optional<SOutputGain> gain;                   // if the options may ask for one
+    bool dithered = false;
     std::uint64_t clippedSamples = 0;
     std::uint64_t nonFiniteSamples = 0;  // in the input
     double renderSeconds = 0.0;          // wall clock

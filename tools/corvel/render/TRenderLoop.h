@@ -1,14 +1,15 @@
 #pragma once
 
 #include "corvel/audio/CAudioReader.h"
-#include "corvel/audio/CAudioWriter.h"
 #include "corvel/audio/CResampler.h"
+#include "corvel/audio/CSoundMeter.h"
 #include "corvel/audio/Interleave.h"
 #include "corvel/console/Errors.h"
 #include "corvel/console/Interrupt.h"
 #include "corvel/render/CAutomationPlayer.h"
 #include "corvel/render/CStopwatch.h"
 #include "corvel/render/Render.h"
+#include "corvel/render/TRenderOutput.h"
 
 #include <algorithm>
 #include <cmath>
@@ -21,7 +22,7 @@ namespace Tessitor::Tool {
 
 /// The signal path of a render:
 ///
-///     reader -> [resampler to stripRate] -> effect -> [resampler to the file's rate] -> writer
+///     reader -> [resampler to stripRate] -> effect -> [resampler to the file's rate] -> output
 ///
 /// Each stage passes on the samples that it has ready. The effect and the resamplers may hold some
 /// back; silence after the end of the input flushes them.
@@ -29,11 +30,12 @@ template <typename Sample>
 class TRenderLoop {
 public:
     /// @param effect  already started, at stripRate if the options ask for resampling.
+    /// @param meterIn  receives the input.
     TRenderLoop(const SRenderJob &job, const SRenderOptions &options, CAudioReader &reader,
-                CEffectInstance &effect, CAudioWriter &writer,
+                CEffectInstance &effect, TRenderOutput<Sample> &output, CSoundMeter &meterIn,
                 const std::optional<CAutomation> &automation);
 
-    /// @param result  receives frames and levels.
+    /// @param result  receives the number of frames.
     void run(SRenderResult &result, const RenderListener &listener);
 
 private:
@@ -52,7 +54,8 @@ private:
 
     CAudioReader &m_reader;
     CEffectInstance &m_effect;
-    CAudioWriter &m_writer;
+    TRenderOutput<Sample> &m_output;
+    CSoundMeter &m_meterIn;
     const std::size_t m_channelsIn, m_channelsOut;
     const std::size_t m_blockFrames, m_chunkFrames;
     const std::int64_t m_tailFrames;
@@ -68,7 +71,6 @@ private:
     std::size_t m_latencyLeft;  // frames of the effect's output still to be dropped
     std::int64_t m_framesDelivered = 0;
     std::int64_t m_framesWanted = std::numeric_limits<std::int64_t>::max();  // until input ends
-    CLevels m_levelsOut;
 };
 
 // Definitions
@@ -76,10 +78,11 @@ private:
 template <typename Sample>
 TRenderLoop<Sample>::TRenderLoop(const SRenderJob &job, const SRenderOptions &options,
                                  CAudioReader &reader, CEffectInstance &effect,
-                                 CAudioWriter &writer, const std::optional<CAutomation> &automation)
-    : m_reader(reader), m_effect(effect), m_writer(writer),
+                                 TRenderOutput<Sample> &output, CSoundMeter &meterIn,
+                                 const std::optional<CAutomation> &automation)
+    : m_reader(reader), m_effect(effect), m_output(output), m_meterIn(meterIn),
       m_channelsIn(static_cast<std::size_t>(reader.channels())),
-      m_channelsOut(static_cast<std::size_t>(writer.channels())),
+      m_channelsOut(static_cast<std::size_t>(output.channels())),
       m_blockFrames(static_cast<std::size_t>(options.blockSize)),
       // Whole blocks, so that only the last block of a file is shorter.
       m_chunkFrames(m_blockFrames * std::max<std::size_t>(1, chunkFrames / m_blockFrames)),
@@ -89,7 +92,7 @@ TRenderLoop<Sample>::TRenderLoop(const SRenderJob &job, const SRenderOptions &op
       m_latencyLeft(static_cast<std::size_t>(std::max(0, effect.record().initialDelay))) {
     if (options.resample && reader.sampleRate() != stripRate) {
         m_toStrip.emplace(job.in.string(), reader.sampleRate(), stripRate, reader.channels());
-        m_fromStrip.emplace(job.in.string(), stripRate, reader.sampleRate(), writer.channels());
+        m_fromStrip.emplace(job.in.string(), stripRate, reader.sampleRate(), output.channels());
     }
     if (automation)
         m_automation.emplace(*automation, effect,
@@ -102,7 +105,7 @@ void TRenderLoop<Sample>::run(SRenderResult &result, const RenderListener &liste
                m_reader.read(m_chunk.data(), static_cast<std::int64_t>(m_chunkFrames)))) {
         const std::span<Sample> samples(m_chunk.data(), frames * m_channelsIn);
         result.nonFiniteSamples += countNonFinite(samples);
-        result.levelsIn.add(samples.data(), samples.size());
+        m_meterIn.add(samples.data(), frames);
         result.framesIn += static_cast<std::int64_t>(frames);
         feed(samples);
         listener(static_cast<double>(result.framesIn) / static_cast<double>(m_reader.frames()));
@@ -117,7 +120,6 @@ void TRenderLoop<Sample>::run(SRenderResult &result, const RenderListener &liste
         stopIfInterrupted();
     }
     result.framesOut = m_framesDelivered;
-    result.levelsOut = m_levelsOut;
     if (result.openSeconds)
         result.effectSeconds = m_effectTime.seconds();
 }
@@ -177,8 +179,7 @@ template <typename Sample>
 void TRenderLoop<Sample>::deliver(Samples samples) {
     const auto ready = static_cast<std::int64_t>(samples.size() / m_channelsOut);
     const std::int64_t frames = std::min(ready, m_framesWanted - m_framesDelivered);
-    m_levelsOut.add(samples.data(), static_cast<std::size_t>(frames) * m_channelsOut);
-    m_writer.write(samples.data(), frames);
+    m_output.write(samples.data(), static_cast<std::size_t>(frames));
     m_framesDelivered += frames;
 }
 
