@@ -159,7 +159,8 @@ TEST(CLoudness, TheShortTermLoudnessIsThatOfTheLastThreeSeconds) {
     const CLoudness meter = meterOf(sound);
     const std::vector<float> &curve = meter.shortTerm();
     ASSERT_EQ(curve.size(), 60u);
-    EXPECT_NEAR(curve[0], -23.0f, 0.2f);  // of the first 100 ms only
+    EXPECT_LT(curve[2], -70.0f);          // less than a block
+    EXPECT_NEAR(curve[3], -23.0f, 0.2f);  // of the first 400 ms only
     EXPECT_NEAR(curve[29], -23.0f, 0.1f);
     EXPECT_NEAR(curve[44], -26.0f, 0.1f);
     EXPECT_LT(curve[59], -70.0f);

@@ -31,7 +31,8 @@ std::int64_t framesIn(const std::filesystem::path &file) {
 
 CAudioWriter::CAudioWriter(const std::filesystem::path &file, EExisting existing, int format,
                            int sampleRate, int channels)
-    : m_place(file), m_channels(channels), m_bits(integerBits(format)), m_pending(file, existing) {
+    : m_place(file), m_sampleRate(sampleRate), m_channels(channels), m_bits(integerBits(format)),
+      m_pending(file, existing) {
     SF_INFO info{};
     info.format = format;
     info.samplerate = sampleRate;

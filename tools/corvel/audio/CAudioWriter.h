@@ -22,6 +22,7 @@ public:
                  int channels);
 
     int channels() const { return m_channels; }
+    int sampleRate() const { return m_sampleRate; }
 
     /// From now on dithers the samples.
     /// @return false if the format has no use for it: only 8-bit and 16-bit integers have.
@@ -48,6 +49,7 @@ private:
     [[noreturn]] void fail(const std::string &reason) const;
 
     std::filesystem::path m_place;
+    int m_sampleRate;
     int m_channels;
     int m_bits;                 // per integer sample; 0 for floating point
     std::int64_t m_frames = 0;  // written

@@ -6,6 +6,7 @@
 #include <array>
 #include <cmath>
 #include <ebur128.h>
+#include <limits>
 
 namespace Tessitor::Tool {
 
@@ -99,10 +100,13 @@ void CLoudness::handleHop() {
     ++m_hops;
     m_framesToHop = m_hopFrames;
     const unsigned long elapsedMs = m_hops * hopMs;
-    if (m_parts.blocks && elapsedMs >= blockMs)
+    const bool isBlock = elapsedMs >= blockMs;
+    if (m_parts.blocks && isBlock)
         m_blocks.push_back(loudnessOfLast(blockMs));
     if (m_parts.shortTerm)
-        m_shortTerm.push_back(static_cast<float>(loudnessOfLast(std::min(elapsedMs, shortTermMs))));
+        m_shortTerm.push_back(
+            isBlock ? static_cast<float>(loudnessOfLast(std::min(elapsedMs, shortTermMs)))
+                    : -std::numeric_limits<float>::infinity());
 }
 
 double CLoudness::loudnessOfLast(unsigned long milliseconds) const {

@@ -41,8 +41,8 @@ public:
     ///         100 ms; minus infinity for silence. Empty unless asked for.
     const std::vector<double> &blocks() const { return m_blocks; }
 
-    /// @return LUFS of the last 3 s at every 100 ms; at the start, of what there is. Minus infinity
-    ///         for silence. Empty unless asked for.
+    /// @return LUFS of the last 3 s at every 100 ms; at the start, of what there is, from 400 ms
+    ///         on. Minus infinity for silence. Empty unless asked for.
     const std::vector<float> &shortTerm() const { return m_shortTerm; }
 
 private:

@@ -2,7 +2,6 @@
 
 #include "corvel/console/Text.h"
 
-#include <cmath>
 #include <functional>
 
 namespace Tessitor::Tool {
@@ -13,11 +12,6 @@ using Json = nlohmann::ordered_json;
 
 Json numberOrNull(const std::optional<double> &number) {
     return number ? Json(*number) : Json();
-}
-
-std::string inDecibels(double factor) {
-    const double gain = 20.0 * std::log10(factor);
-    return std::string(gain < 0.0 ? "" : "+").append(decimal(gain, 2)).append(" dB");
 }
 
 // One line, for any number of files
@@ -43,20 +37,6 @@ std::string describeLoudness(const SLoudness &loudness) {
     if (loudness.truePeak)
         text += ", true peak " + decimal(*loudness.truePeak, 2) + " dBTP";
     return text;
-}
-
-std::string describeGain(const SOutputGain &gain, const SRenderOptions &options) {
-    if (!gain.toTarget && !gain.isLowered())
-        return "none";
-    std::string text = inDecibels(gain.factor);
-    if (gain.isLowered())
-        text += ", so that nothing clips";
-    if (!gain.toTarget)
-        return text;
-    const std::string target = toText(*options.normalize);
-    if (gain.isLowered())
-        return text + "; " + target + " would need " + inDecibels(*gain.toTarget);
-    return text + ", to " + target;
 }
 
 void addLoudness(Json &level, const SLoudness &loudness) {

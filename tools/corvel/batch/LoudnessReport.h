@@ -12,9 +12,6 @@ namespace Tessitor::Tool {
 /// @return what follows the levels: ", -16.02 LUFS, true peak -1.20 dBTP".
 std::string describeLoudness(const SLoudness &loudness);
 
-/// @return "+4.20 dB, to -16 LUFS".
-std::string describeGain(const SOutputGain &gain, const SRenderOptions &options);
-
 /// Adds the fields "loudness" and "truePeak", null where there is none.
 void addLoudness(nlohmann::ordered_json &level, const SLoudness &loudness);
 

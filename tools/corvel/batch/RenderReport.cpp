@@ -137,7 +137,7 @@ std::string describe(const SRenderOutcome &outcome, const CEffectSettings &setti
         rows.push_back({"automate", settings.automation()->file()});
     rows.push_back({"level in", describeLevels(result.levelsIn, result.loudnessIn)});
     if (result.gain)
-        rows.push_back({"gain", describeGain(*result.gain, options)});
+        rows.push_back({"gain", describe(*result.gain, options.normalize)});
     rows.push_back({"level out", describeLevels(result.levelsOut, result.loudnessOut)});
     rows.push_back({"speed", decimal(result.timesRealTime(), 1) + " times real time"});
     return inColumns(rows);

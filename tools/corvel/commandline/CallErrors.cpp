@@ -70,6 +70,8 @@ std::string describe(const CLI::ParseError &error) {
         return text;  // written by our own validators
     if (dynamic_cast<const CLI::ExcludesError *>(&error) != nullptr)
         return text.replace(text.find(" excludes "), 10, " cannot be used with ");
+    if (dynamic_cast<const CLI::RequiresError *>(&error) != nullptr)
+        return text.replace(text.find(" requires "), 10, ": needs ");
     if (option.empty())
         return "the command line cannot be understood; see corvel --help";
     if (dynamic_cast<const CLI::ConversionError *>(&error) != nullptr)

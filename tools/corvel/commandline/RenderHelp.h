@@ -53,7 +53,7 @@ Batches
 Loudness
   --loudness reports the integrated loudness by EBU R 128, in LUFS, and the true peak, in dBTP,
   of each input and output. Measuring takes longer than rendering, so it is only done on
-  request; --normalize measures too. Sound that is silent or shorter than 0.4 s has no
+  request, or for --normalize or --plot. Sound that is silent or shorter than 0.4 s has no
   loudness. A mono file counts as one channel: the same sound in stereo is 3 LU louder.
 
   --normalize gives the whole output one gain, so that its loudness is -16LUFS, for example,
@@ -67,6 +67,12 @@ Loudness
   --dither adds noise of one step of the output before rounding (TPDF), which makes the
   rounding error independent of the sound. It is for outputs of 8 and 16 bits; others stay as
   they are. The noise always starts the same, so a command always writes the same bytes.
+
+Pictures
+  --plot draws the waveform and the loudness of the last 3 s, before and after, and the
+  difference. FILE ends in .svg or .png; "svg" or "png" alone puts each picture beside its
+  output: out.wav.svg. An .svg shows light or dark colours, whichever the viewer prefers; a
+  .png is light. --light and --dark choose. An existing picture is only replaced with --force.
 
 Settings
   --set NAME=VALUE sets a parameter and may be repeated; of several values for one parameter

@@ -3,6 +3,7 @@
 #include "corvel/commandline/CallErrors.h"
 #include "corvel/commandline/CommonOptions.h"
 #include "corvel/commandline/LoudnessOptions.h"
+#include "corvel/commandline/PictureOptions.h"
 #include "corvel/commandline/RenderHelp.h"
 #include "corvel/commandline/SettingsOptions.h"
 #include "corvel/commandline/Validators.h"
@@ -92,6 +93,7 @@ SCommand addRender(CLI::App &app, SRenderCall &call) {
         ->type_name("FILE");
     addProcessing(render, call.options);
     addOutput(render, call.options);
+    addPicture(render, call);
     addBatch(render, call);
     addPlugin(render, call.plugin);
     addJson(render, call.json);

@@ -24,6 +24,7 @@ struct SRenderCall {
     bool quiet = false;                     // print only errors, and JSON if asked for
     bool verbose = false;                   // describe also how the files were processed
     std::optional<std::string> savePreset;  // file to save the settings to
+    std::optional<std::string> plot;        // what namePictures() takes
     bool json = false;
 };
 int runRender(const SRenderCall &call);

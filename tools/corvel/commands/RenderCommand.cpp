@@ -1,5 +1,6 @@
 #include "corvel/batch/CBatchReport.h"
 #include "corvel/batch/DryRun.h"
+#include "corvel/batch/Pictures.h"
 #include "corvel/batch/Workers.h"
 #include "corvel/console/Errors.h"
 #include "corvel/console/Interrupt.h"
@@ -84,7 +85,9 @@ int runRender(const SRenderCall &call) {
     CEffectInstance trial(library);
     requireRenderable(trial, call.options);
     const CEffectSettings settings(call.settings, trial);
-    const SJobs jobs = jobsFromFiles(call.files, call.options.format, settings.programName());
+    SJobs jobs = jobsFromFiles(call.files, call.options.format, settings.programName());
+    if (call.plot)
+        namePictures(jobs, *call.plot);
     printNotes(settings.notes(), call);
     printNotes(notesOnStrip(trial, call.options), call);
     if (jobs.jobs.empty()) {

@@ -17,6 +17,11 @@ double factorOf(double decibels) {
     return std::pow(10.0, decibels / 20.0);
 }
 
+std::string inDecibels(double factor) {
+    const double gain = decibels(factor);
+    return std::string(gain < 0.0 ? "" : "+").append(decimal(gain, 2)).append(" dB");
+}
+
 }  // namespace
 
 EClip clipFromText(const std::string &text) {
@@ -37,6 +42,19 @@ SLoudnessParts partsFor(const SLoudnessTarget &target) {
     parts.truePeak = target.unit == ELoudnessUnit::Dbtp;
     parts.blocks = target.unit == ELoudnessUnit::Lufs;
     return parts;
+}
+
+std::string describe(const SOutputGain &gain, const std::optional<SLoudnessTarget> &target) {
+    if (!gain.toTarget && !gain.isLowered())
+        return "none";
+    std::string text = inDecibels(gain.factor);
+    if (gain.isLowered())
+        text += ", so that nothing clips";
+    if (!gain.toTarget)
+        return text;
+    if (gain.isLowered())
+        return text + "; " + toText(*target) + " would need " + inDecibels(*gain.toTarget);
+    return text + ", to " + toText(*target);
 }
 
 std::optional<double> factorToTarget(const SLoudnessTarget &target, CLoudness &sound) {

@@ -26,6 +26,10 @@ struct SOutputGain {
     bool isLowered() const { return factor < toTarget.value_or(1.0); }  ///< so that nothing clips
 };
 
+/// @return the gain for the user: "+4.20 dB, to -16 LUFS".
+/// @param target  if one was asked for.
+std::string describe(const SOutputGain &gain, const std::optional<SLoudnessTarget> &target);
+
 /// The range of samples. Those that are infinite or not a number do not count.
 struct SSampleRange {
     double lowest = 0.0, highest = 0.0;

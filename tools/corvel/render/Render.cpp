@@ -1,6 +1,8 @@
 #include "corvel/render/Render.h"
 
 #include "corvel/console/Errors.h"
+#include "corvel/plot/PictureFile.h"
+#include "corvel/render/RenderPicture.h"
 #include "corvel/render/TRenderLoop.h"
 
 #include <chrono>
@@ -27,22 +29,15 @@ void requireDoublePrecision(const CEffectInstance &effect) {
         throw CJobError(effect.fileName() + ": cannot process in double precision");
 }
 
-std::optional<SLoudnessParts> partsMeasured(const SRenderOptions &options) {
-    if (!options.measuresLoudness())
-        return {};
-    SLoudnessParts parts;
-    parts.truePeak = true;
-    return parts;
+SMeasurements measurementsFor(const SRenderJob &job, const SRenderOptions &options) {
+    return {.loudness = options.loudness || options.normalize, .curves = !job.picture.empty()};
 }
 
 template <typename Sample>
 void runLoop(const SRenderJob &job, const SRenderOptions &options, CAudioReader &reader,
              CEffectInstance &effect, CAudioWriter &writer,
-             const std::optional<CAutomation> &automation, SRenderResult &result,
-             const RenderListener &listener) {
-    const std::optional<SLoudnessParts> parts = partsMeasured(options);
-    CSoundMeter meterIn(result.sampleRate, result.channelsIn, parts);
-    CSoundMeter meterOut(result.sampleRate, result.channelsOut, parts);
+             const std::optional<CAutomation> &automation, CSoundMeter &meterIn,
+             CSoundMeter &meterOut, SRenderResult &result, const RenderListener &listener) {
     TRenderOutput<Sample> output(job, options, result, writer, meterOut);
     const double share = output.hasTwoPasses() ? 0.5 : 1.0;  // of the time, roughly
     TRenderLoop<Sample>(job, options, reader, effect, output, meterIn, automation)
@@ -52,6 +47,23 @@ void runLoop(const SRenderJob &job, const SRenderOptions &options, CAudioReader 
     result.levelsOut = meterOut.levels();
     result.loudnessIn = meterIn.finishLoudness();
     result.loudnessOut = meterOut.finishLoudness();
+}
+
+// Fails now rather than after the render.
+void requirePlaceForPicture(const SRenderJob &job, const SRenderOptions &options) {
+    if (!job.picture.empty())
+        const CPendingFile trial(job.picture, options.existing);
+}
+
+std::string drawPicture(const SRenderJob &job, const CEffectSettings &settings,
+                        const SRenderOptions &options, const CSoundMeter &before,
+                        const CSoundMeter &after, const SRenderResult &result) {
+    SPictureText text{job.out.string(), "from " + job.in.string() + ", " + settings.programName()};
+    if (result.gain)
+        text.subtitle += ", gain " + describe(*result.gain, options.normalize);
+    const EPictureFormat format = pictureFormatOf(job.picture);
+    return drawRender({before, result.loudnessIn}, {after, result.loudnessOut}, text,
+                      {.format = format, .theme = options.theme.value_or(usualTheme(format))});
 }
 
 [[noreturn]] void failSinceItClips(const SRenderJob &job, std::uint64_t samples) {
@@ -97,6 +109,7 @@ SRenderResult render(const SRenderJob &job, const CEffectLibrary &library,
         reader.knowsLength() ? reader.frames() + tailFrames(options, reader.sampleRate()) : 0;
     result.formatOut = formatForLength(outputFormat(reader.format(), options.format, job.out),
                                        framesExpected, result.channelsOut, job.out);
+    requirePlaceForPicture(job, options);
     CAudioWriter writer(job.out, options.existing, result.formatOut, result.sampleRate,
                         result.channelsOut);
     result.dithered = options.dither && writer.dither();
@@ -117,14 +130,23 @@ SRenderResult render(const SRenderJob &job, const CEffectLibrary &library,
             std::chrono::steady_clock::now() - beforeEffect;
         result.openSeconds = opening.count();
     }
+    const SMeasurements measurements = measurementsFor(job, options);
+    CSoundMeter meterIn(reader.sampleRate(), reader.channels(), measurements);
+    CSoundMeter meterOut(writer.sampleRate(), writer.channels(), measurements);
     const auto loop = options.doublePrecision ? runLoop<double> : runLoop<float>;
-    loop(job, options, reader, effect, writer, settings.automation(), result, listener);
+    loop(job, options, reader, effect, writer, settings.automation(), meterIn, meterOut, result,
+         listener);
     effect.stop();
 
     result.clippedSamples = writer.clippedSamples();
     if (options.clip == EClip::Fail && result.clippedSamples > 0)
         failSinceItClips(job, result.clippedSamples);
+    const std::string picture =
+        job.picture.empty() ? std::string()
+                            : drawPicture(job, settings, options, meterIn, meterOut, result);
     writer.finish();
+    if (!job.picture.empty())
+        writePicture(job.picture, picture, options.existing);
     const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - begin;
     result.renderSeconds = elapsed.count();
     return result;

@@ -4,6 +4,7 @@
 #include "corvel/audio/CLevels.h"
 #include "corvel/audio/OutputFormat.h"
 #include "corvel/files/CPendingFile.h"
+#include "corvel/plot/Palette.h"
 #include "corvel/render/OutputGain.h"
 #include "corvel/settings/CEffectSettings.h"
 
@@ -32,9 +33,8 @@ struct SRenderOptions {
     bool loudness = false;                 // measured also without a reason below
     std::optional<SLoudnessTarget> normalize;
     EClip clip = EClip::Warn;
-    bool dither = false;  // outputs of 8 and 16 bits
-
-    bool measuresLoudness() const { return loudness || normalize; }
+    bool dither = false;          // outputs of 8 and 16 bits
+    std::optional<ETheme> theme;  // of pictures
 };
 
 std::int64_t tailFrames(const SRenderOptions &options, int sampleRate);
@@ -42,7 +42,8 @@ std::int64_t tailFrames(const SRenderOptions &options, int sampleRate);
 struct SRenderJob {
     std::filesystem::path in;
     std::filesystem::path out;
-    std::string problem{};  // why it cannot be rendered; empty if nothing is known
+    std::string problem{};            // why it cannot be rendered; empty if nothing is known
+    std::filesystem::path picture{};  // of the sound before and after; empty for none
 };
 
 struct SRenderResult {

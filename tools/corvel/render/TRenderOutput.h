@@ -78,7 +78,7 @@ TRenderOutput<Sample>::TRenderOutput(const SRenderJob &job, const SRenderOptions
     if (m_target || m_keepsHeadroom)
         m_scratch.emplace(job.out, options.existing);
     if (m_target)
-        m_loudness.emplace(result.sampleRate, writer.channels(), partsFor(*m_target));
+        m_loudness.emplace(writer.sampleRate(), writer.channels(), partsFor(*m_target));
 }
 
 template <typename Sample>
