@@ -103,10 +103,11 @@ void CLoudness::handleHop() {
     const bool isBlock = elapsedMs >= blockMs;
     if (m_parts.blocks && isBlock)
         m_blocks.push_back(loudnessOfLast(blockMs));
-    if (m_parts.shortTerm)
+    if (m_parts.shortTerm) {
         m_shortTerm.push_back(
             isBlock ? static_cast<float>(loudnessOfLast(std::min(elapsedMs, shortTermMs)))
                     : -std::numeric_limits<float>::infinity());
+    }
 }
 
 double CLoudness::loudnessOfLast(unsigned long milliseconds) const {

@@ -20,11 +20,12 @@ class CSoundMeter {
 public:
     CSoundMeter(int sampleRate, int channels, const SMeasurements &measurements)
         : m_sampleRate(sampleRate), m_channels(static_cast<std::size_t>(channels)) {
-        if (measurements.loudness || measurements.curves)
+        if (measurements.loudness || measurements.curves) {
             m_loudness.emplace(sampleRate, channels,
                                SLoudnessParts{.truePeak = true,
                                               .blocks = false,
                                               .shortTerm = measurements.curves});
+        }
         if (measurements.curves)
             m_waveform.emplace(channels);
     }

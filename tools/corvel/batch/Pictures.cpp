@@ -5,6 +5,9 @@
 #include "corvel/files/FileFacts.h"
 #include "corvel/plot/PictureFile.h"
 
+#include <filesystem>
+#include <set>
+
 namespace Tessitor::Tool {
 
 namespace {
@@ -14,12 +17,15 @@ bool isEnding(const std::string &request) {
 }
 
 void requireInputsToSurvive(const SJobs &jobs) {
-    for (const SRenderJob &drawn : jobs.jobs)
-        for (const SRenderJob &job : jobs.jobs)
-            if (placeOf(drawn.picture) == placeOf(job.in) ||
-                placeOf(drawn.picture) == placeOf(job.out))
-                throw CCallError(drawn.picture.string() +
-                                 ": is also an input or an output and would be overwritten");
+    std::set<std::filesystem::path> taken;
+    for (const SRenderJob &job : jobs.jobs) {
+        taken.insert(placeOf(job.in));
+        taken.insert(placeOf(job.out));
+    }
+    for (const SRenderJob &job : jobs.jobs)
+        if (taken.contains(placeOf(job.picture)))
+            throw CCallError(job.picture.string() +
+                             ": is also an input or an output and would be overwritten");
 }
 
 }  // namespace

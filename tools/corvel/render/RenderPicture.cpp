@@ -66,13 +66,14 @@ void drawHead(CCanvas &canvas, const SPictureText &text) {
     canvas.text({sideMargin, 56.0}, canvas.shortened(text.subtitle, width, subtitle), subtitle);
 }
 
-// The smallest round number that is not below the peak
+// The smallest round number that is not below the peak. Below 0.01 its digits would be too many.
 double fullHeight(double peak) {
-    for (double power = 0.01; power < 1e6; power *= 10.0)
-        for (const double digit : {1.0, 2.0, 5.0})
-            if (peak <= digit * power)
-                return digit * power;
-    return 1e6;
+    const double floored = std::max(peak, 0.01);
+    const double power = std::pow(10.0, std::floor(std::log10(floored)));
+    for (const double digit : {1.0, 2.0, 5.0})
+        if (floored <= digit * power)
+            return digit * power;
+    return 10.0 * power;
 }
 
 double peakOf(const CWaveform &waveform) {
