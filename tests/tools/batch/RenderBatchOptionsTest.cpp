@@ -226,7 +226,7 @@ TEST_F(RenderBatchOptions, AVerboseRunSaysHowFilesWereProcessed) {
               json["renderSeconds"].get<double>());
     EXPECT_THAT(render({"takes/a.wav", "d.wav"}).out, Not(HasSubstr("processed")));
     expectOneError(render({"takes/a.wav", "e.wav", "--verbose", "--quiet"}), 2,
-                   "--quiet cannot be used with --verbose");
+                   "--quiet and --verbose exclude each other");
 }
 
 TEST_F(RenderBatchOptions, TheNumberOfJobsIsChecked) {

@@ -68,8 +68,6 @@ std::string describe(const CLI::ParseError &error) {
         return text.replace(text.find(" excludes "), 10, " and ") + " exclude each other";
     if (dynamic_cast<const CLI::ValidationError *>(&error) != nullptr)
         return text;  // written by our own validators
-    if (dynamic_cast<const CLI::ExcludesError *>(&error) != nullptr)
-        return text.replace(text.find(" excludes "), 10, " cannot be used with ");
     if (dynamic_cast<const CLI::RequiresError *>(&error) != nullptr)
         return text.replace(text.find(" requires "), 10, ": needs ");
     if (option.empty())
