@@ -32,7 +32,10 @@ TEST(Measurement, UsesItsOptions) {
     SMeasurementOptions options;
     options.level = -70.0;
     EXPECT_NEAR(measureStrip(compressor, options).response.gains[0][60], 0.0, 0.1);
+    const SSettingsRequest gate{"Empty", "Gate", {"GateThrsh=-30dB"}};
+    EXPECT_EQ(measureStrip(gate, options).decay.tail, ETail::Unknown);
     options.level = -10.0;
+    EXPECT_EQ(measureStrip(gate, options).decay.tail, ETail::None);
     EXPECT_NEAR(measureStrip(compressor, options).response.gains[0][60], -15.0, 1.0);
 
     const SSettingsRequest highPass{"Empty", "HiPass", {"HPFreq=2000Hz"}};

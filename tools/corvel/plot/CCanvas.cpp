@@ -63,14 +63,6 @@ void setDash(cairo_t *context, EDash dash) {
         cairo().setDash(context, dash == EDash::Dashed ? dashed : dotted, 2, 0.0);
 }
 
-// Removes the last character, which may have several bytes.
-void dropLast(std::string &text) {
-    while (!text.empty() && (static_cast<unsigned char>(text.back()) & 0xC0u) == 0x80u)
-        text.pop_back();
-    if (!text.empty())
-        text.pop_back();
-}
-
 }  // namespace
 
 struct CCanvas::SDrawing {
@@ -165,8 +157,9 @@ std::string CCanvas::shortened(std::string_view text, double width, const SLette
     std::string shown = printable(text);
     if (textWidth(shown, lettering) <= width)
         return shown;
+    // Half a letter of several bytes is escaped, and never fits where the letter did not.
     while (!shown.empty() && textWidth(shown + "…", lettering) > width)
-        dropLast(shown);
+        shown.pop_back();
     return shown + "…";
 }
 
