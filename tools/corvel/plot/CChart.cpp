@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <ranges>
 #include <utility>
 
 namespace Tessitor::Tool {
@@ -92,11 +91,12 @@ void CChart::draw(const SSeries &series) {
 }
 
 void CChart::draw(const SBand &band) {
-    std::vector<SPoint> outline;
+    std::vector<SPoint> outline, low;
     for (const SPoint &value : band.high)
         outline.push_back(place(value));
-    for (const SPoint &value : std::ranges::reverse_view(band.low))
-        outline.push_back(place(value));
+    for (const SPoint &value : band.low)
+        low.push_back(place(value));
+    outline.insert(outline.end(), low.rbegin(), low.rend());
     m_canvas.clip(m_plot);
     m_canvas.fill(outline, band.ink, band.opacity);
     m_canvas.unclip();
