@@ -1,5 +1,6 @@
 #include "corvel/audio/CAudioReader.h"
 
+#include "corvel/audio/Mp3Length.h"
 #include "corvel/console/Errors.h"
 #include "tools/support/AudioFiles.h"
 #include "tools/support/CTemporaryFolder.h"
@@ -55,12 +56,16 @@ INSTANTIATE_TEST_SUITE_P(
                     SF_FORMAT_WAV | SF_FORMAT_PCM_16, SF_FORMAT_WAVEX | SF_FORMAT_PCM_24,
                     SF_FORMAT_RF64 | SF_FORMAT_PCM_32, SF_FORMAT_AIFF | SF_FORMAT_PCM_16,
                     SF_FORMAT_AIFF | SF_FORMAT_FLOAT, SF_FORMAT_FLAC | SF_FORMAT_PCM_16,
-                    SF_FORMAT_FLAC | SF_FORMAT_PCM_24));
+                    SF_FORMAT_FLAC | SF_FORMAT_PCM_24, SF_FORMAT_W64 | SF_FORMAT_FLOAT,
+                    SF_FORMAT_CAF | SF_FORMAT_PCM_24, SF_FORMAT_CAF | SF_FORMAT_ALAC_16,
+                    SF_FORMAT_AU | SF_FORMAT_PCM_16));
 
 TEST(CAudioReader, AFileThatIsCutShortIsRefused) {
     const CTemporaryFolder folder;
     for (const int format : {SF_FORMAT_WAV | SF_FORMAT_PCM_16, SF_FORMAT_AIFF | SF_FORMAT_PCM_24,
-                             SF_FORMAT_FLAC | SF_FORMAT_PCM_16, SF_FORMAT_OGG | SF_FORMAT_VORBIS}) {
+                             SF_FORMAT_FLAC | SF_FORMAT_PCM_16, SF_FORMAT_OGG | SF_FORMAT_VORBIS,
+                             SF_FORMAT_W64 | SF_FORMAT_PCM_16, SF_FORMAT_CAF | SF_FORMAT_PCM_16,
+                             SF_FORMAT_AU | SF_FORMAT_FLOAT}) {
         SSound sound = voice(3, 44100);
         sound.format = format;
         writeSound(folder / "whole", sound);
@@ -70,7 +75,7 @@ TEST(CAudioReader, AFileThatIsCutShortIsRefused) {
             copyHead(folder / "whole", folder / "cut", length * tenths / 10);
             EXPECT_THAT(refusal(folder / "cut"), HasSubstr("truncated")) << format << tenths;
         }
-        copyHead(folder / "whole", folder / "cut", 20);
+        copyHead(folder / "whole", folder / "cut", 3);
         EXPECT_THAT(refusal(folder / "cut"), HasSubstr("cut: not a readable audio file"));
     }
 }
@@ -112,9 +117,10 @@ TEST(CAudioReader, OtherFilesAreRefused) {
     EXPECT_THAT(refusal(folder / "text.wav"), HasSubstr("not a readable audio file"));
 
     SSound sound = voice(3, 100);
-    sound.format = SF_FORMAT_AU | SF_FORMAT_PCM_16;
-    writeSound(folder / "sound.au", sound);
-    EXPECT_THAT(refusal(folder / "sound.au"), HasSubstr("not a WAV, AIFF, FLAC or Ogg file"));
+    sound.format = SF_FORMAT_VOC | SF_FORMAT_PCM_16;
+    writeSound(folder / "sound.voc", sound);
+    EXPECT_THAT(refusal(folder / "sound.voc"),
+                HasSubstr("not a WAV, AIFF, FLAC, Ogg, MP3, W64, CAF or AU file"));
 }
 
 TEST(CAudioReader, MoreThanTwoChannelsAreRefused) {
@@ -209,4 +215,135 @@ TEST(CAudioReader, NoTextOfTheLibraryIsShown) {
     writeFile(folder / "text.wav", std::string(5000, 'x'));
     EXPECT_EQ(refusal(folder / "text.wav"),
               (folder / "text.wav").string() + ": not a readable audio file");
+}
+
+TEST(CAudioReader, AnMp3FileIsReadToItsEnd) {
+    const CTemporaryFolder folder;
+    SSound sound = voice(3, 100000);
+    sound.format = SF_FORMAT_MPEG | SF_FORMAT_MPEG_LAYER_III;
+    writeSound(folder / "sound", sound);
+    CAudioReader reader(folder / "sound");
+    EXPECT_FALSE(reader.knowsLength());
+    EXPECT_GE(readAll(reader, 1000).size(), sound.samples.size());
+}
+
+TEST(CAudioReader, AnMp3FileThatSaysItsLengthIsRefusedWhenCutShort) {
+    const CTemporaryFolder folder;
+    SSound sound = voice(3, 100000);
+    sound.format = SF_FORMAT_MPEG | SF_FORMAT_MPEG_LAYER_III;
+    writeSound(folder / "plain", sound);
+    // The first frame is silent, and announces the frames and the bytes of the file.
+    const std::string frames = readFile(folder / "plain");
+    std::string first = frames.substr(0, 4) + std::string(32, '\0') + "Xing";
+    const std::size_t bytes = frames.size();
+    first += std::string("\0\0\0\3\0\0\0\x50", 8);
+    for (const int shift : {24, 16, 8, 0})
+        first += static_cast<char>(bytes >> shift & 0xFF);
+    const std::string whole = first + frames.substr(first.size());
+    const std::string tag("ID3\3\0\0\0\0\1\2", 10);  // 130 bytes
+    for (const std::string &front : {std::string(), tag + std::string(130, 'x')}) {
+        writeFile(folder / "whole", front + whole);
+        EXPECT_EQ(mp3BytesMissing(folder / "whole"), 0u);
+        copyHead(folder / "whole", folder / "cut", front.size() + bytes - 7);
+        EXPECT_EQ(mp3BytesMissing(folder / "cut"), 7u);
+        EXPECT_THAT(refusal(folder / "cut"), HasSubstr("cut: truncated, 7 bytes of audio"));
+    }
+    writeFile(folder / "other", "WXYZ" + whole.substr(4));
+    copyHead(folder / "other", folder / "cut", bytes - 7);
+    EXPECT_EQ(mp3BytesMissing(folder / "cut"), 0u);
+}
+
+TEST(CAudioReader, AnAuOrCafFileWithoutALengthIsReadToItsEnd) {
+    const CTemporaryFolder folder;
+    for (const int container : {SF_FORMAT_AU, SF_FORMAT_CAF}) {
+        SSound sound = voice(3, 5000);
+        sound.format = container | SF_FORMAT_PCM_16;
+        writeSound(folder / "sound", sound);
+        std::string bytes = readFile(folder / "sound");
+        if (container == SF_FORMAT_AU)
+            bytes.replace(8, 4, 4, '\xFF');
+        else
+            bytes.replace(bytes.find("data") + 4, 8, 8, '\xFF');
+        writeFile(folder / "piped", bytes);
+        CAudioReader reader(folder / "piped");
+        EXPECT_EQ(readAll(reader, 1000),
+                  std::vector<float>(sound.samples.begin(), sound.samples.end()));
+    }
+}
+
+TEST(CAudioReader, AW64FileWithTheLongestLengthIsReadToItsEnd) {
+    const CTemporaryFolder folder;
+    SSound sound = voice(3, 5000);
+    sound.format = SF_FORMAT_W64 | SF_FORMAT_PCM_16;
+    writeSound(folder / "sound", sound);
+    std::string bytes = readFile(folder / "sound");
+    bytes.replace(bytes.find("data") + 16, 8, std::string(7, '\xFF') + '\x7F');
+    writeFile(folder / "piped", bytes);
+    CAudioReader reader(folder / "piped");
+    EXPECT_EQ(readAll(reader, 1000),
+              std::vector<float>(sound.samples.begin(), sound.samples.end()));
+}
+
+class CAudioReaderExcerpts : public testing::TestWithParam<int> {};
+
+TEST_P(CAudioReaderExcerpts, AreExactToTheFrame) {
+    const CTemporaryFolder folder;
+    SSound sound = voice(3, 60000);
+    sound.format = GetParam();
+    writeSound(folder / "sound", sound);
+    CAudioReader whole(folder / "sound");
+    const std::vector<float> all = readAll(whole, 1000);
+    for (const std::int64_t start : {0, 1, 16384, 44101}) {
+        for (const std::int64_t length : {1, 999, 7000}) {
+            CAudioReader reader(folder / "sound");
+            reader.select(start, length);
+            EXPECT_EQ(reader.frames(), length);
+            EXPECT_EQ(readAll(reader, 1000), std::vector<float>(all.begin() + 2 * start,
+                                                                all.begin() + 2 * (start + length)))
+                << start << " " << length;
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Formats, CAudioReaderExcerpts,
+                         testing::Values(SF_FORMAT_WAV | SF_FORMAT_PCM_24,
+                                         SF_FORMAT_FLAC | SF_FORMAT_PCM_16,
+                                         SF_FORMAT_OGG | SF_FORMAT_VORBIS,
+                                         SF_FORMAT_MPEG | SF_FORMAT_MPEG_LAYER_III,
+                                         SF_FORMAT_WAV | SF_FORMAT_IMA_ADPCM));
+
+TEST(CAudioReader, AnExcerptEndsWithTheFile) {
+    const CTemporaryFolder folder;
+    const SSound sound = voice(3, 5000);
+    writeSound(folder / "sound", sound);
+    CAudioReader reader(folder / "sound");
+    reader.select(4000, 2000);
+    EXPECT_EQ(reader.frames(), 1000);
+    EXPECT_EQ(readAll(reader, 300).size(), 2000u);
+}
+
+TEST(CAudioReader, AnExcerptThatBeginsAtTheEndIsRefused) {
+    const CTemporaryFolder folder;
+    for (const int format :
+         {SF_FORMAT_WAV | SF_FORMAT_FLOAT, SF_FORMAT_MPEG | SF_FORMAT_MPEG_LAYER_III}) {
+        SSound sound = voice(3, 44100);
+        sound.format = format;
+        writeSound(folder / "sound", sound);
+        CAudioReader whole(folder / "sound");
+        const auto frames = static_cast<std::int64_t>(readAll(whole, 1000).size() / 2);
+        for (const std::int64_t start : {frames, frames + 1000}) {
+            CAudioReader reader(folder / "sound");
+            try {
+                reader.select(start, 10);
+                readAll(reader, 10);
+                ADD_FAILURE() << format;
+            } catch (const CJobError &error) {
+                EXPECT_THAT(error.what(), HasSubstr("seconds; --start leaves nothing of it"));
+            }
+        }
+    }
+    writeSound(folder / "empty", voice(3, 0));
+    CAudioReader empty(folder / "empty");
+    empty.select(0, 10);
+    EXPECT_TRUE(readAll(empty, 10).empty());
 }

@@ -13,7 +13,7 @@ class CAudioWriterFormats : public testing::TestWithParam<int> {};
 TEST_P(CAudioWriterFormats, EverySampleIsWritten) {
     const CTemporaryFolder folder;
     const SSound sound = voice(5, 3000);
-    CAudioWriter writer(folder / "out", EExisting::Replaced, GetParam(), 48000, 2);
+    CAudioWriter writer(folder / "out", EExisting::Replaced, GetParam(), 48000, 2, 3000);
     writer.write(sound.samples.data(), 1000);
     const std::vector<float> floats(sound.samples.begin() + 2000, sound.samples.end());
     writer.write(floats.data(), 2000);
@@ -89,4 +89,15 @@ TEST(CAudioWriter, AFormatThatCannotBeWrittenLeavesNoFile) {
         CAudioWriter(folder / "out", EExisting::Replaced, SF_FORMAT_OGG | SF_FORMAT_OPUS, 44100, 2),
         CJobError);
     EXPECT_TRUE(folder.names().empty());
+}
+
+TEST(CAudioWriter, The64BitFormIsUsedOnlyWhenAnUnknownLengthNeedsIt) {
+    const CTemporaryFolder folder;
+    const SSound sound = voice(5, 100);
+    CAudioWriter writer(folder / "out", EExisting::Replaced, SF_FORMAT_RF64 | SF_FORMAT_FLOAT,
+                        44100, 2);
+    writer.write(sound.samples.data(), 100);
+    writer.finish();
+    EXPECT_TRUE(readFile(folder / "out").starts_with("RIFF"));
+    EXPECT_EQ(readSound(folder / "out").samples, sound.samples);
 }

@@ -102,7 +102,8 @@ TEST(OutputFormat, IsDescribedInWords) {
 
 TEST(OutputFormat, OtherContainersAreUnknown) {
     EXPECT_TRUE(isKnownContainer(SF_FORMAT_RF64 | SF_FORMAT_FLOAT));
-    EXPECT_FALSE(isKnownContainer(SF_FORMAT_AU | SF_FORMAT_PCM_16));
+    EXPECT_TRUE(isKnownContainer(SF_FORMAT_AU | SF_FORMAT_PCM_16));
+    EXPECT_FALSE(isKnownContainer(SF_FORMAT_VOC | SF_FORMAT_PCM_16));
 }
 
 TEST(OutputFormat, TheNameOfAnOutputMustNotMislead) {
@@ -114,4 +115,24 @@ TEST(OutputFormat, TheNameOfAnOutputMustNotMislead) {
     for (const char *const name : {"a.flac", "a", "a.mp3"})
         EXPECT_EQ(problemOfName(name, flac), "") << name;
     EXPECT_EQ(problemOfName("a.wav", flac), "its ending means WAV, but --format asks for FLAC");
+}
+
+TEST(OutputFormat, WhatIsOnlyReadBecomesWav) {
+    EXPECT_EQ(outputFormat(SF_FORMAT_MPEG | SF_FORMAT_MPEG_LAYER_III, {}, "out"), wavFloat);
+    EXPECT_EQ(outputFormat(SF_FORMAT_W64 | SF_FORMAT_PCM_24, {}, "out"),
+              SF_FORMAT_WAV | SF_FORMAT_PCM_24);
+    EXPECT_EQ(outputFormat(SF_FORMAT_CAF | SF_FORMAT_ALAC_20, {}, "out.flac"),
+              SF_FORMAT_FLAC | SF_FORMAT_PCM_24);
+    EXPECT_EQ(outputFormat(SF_FORMAT_AU | SF_FORMAT_PCM_16, {}, "out.aiff"),
+              SF_FORMAT_AIFF | SF_FORMAT_PCM_16);
+    EXPECT_EQ(describeFormat(SF_FORMAT_MPEG | SF_FORMAT_MPEG_LAYER_III), "MP3, layer III");
+    EXPECT_THROW(formatFromText(""), CCallError);
+}
+
+TEST(OutputFormat, AnUnknownLengthMayExceed4GiB) {
+    EXPECT_EQ(formatForUnknownLength(wav16), SF_FORMAT_RF64 | SF_FORMAT_PCM_16);
+    EXPECT_EQ(formatForUnknownLength(SF_FORMAT_WAVEX | SF_FORMAT_FLOAT),
+              SF_FORMAT_RF64 | SF_FORMAT_FLOAT);
+    EXPECT_EQ(formatForUnknownLength(SF_FORMAT_FLAC | SF_FORMAT_PCM_16),
+              SF_FORMAT_FLAC | SF_FORMAT_PCM_16);
 }

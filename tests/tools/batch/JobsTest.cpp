@@ -95,3 +95,20 @@ TEST(Jobs, AnInputIsNotOverwritten) {
     std::filesystem::create_hard_link(folder / "a.wav", folder / "second.wav");
     EXPECT_THROW(jobsFor({folder / "a.wav", folder / "second.wav"}), CCallError);
 }
+
+TEST(Jobs, ADashIsAStream) {
+    const CTemporaryFolder folder;
+    EXPECT_EQ(outputs(jobsFor({"-", "b.wav"})), Names{"b.wav"});
+    EXPECT_EQ(outputs(jobsFor({"a.wav", "-"})), Names{"-"});
+    EXPECT_EQ(outputs(jobsFor({"-", "-"})), Names{"-"});
+    EXPECT_EQ(outputs(jobsFor({"./-", "./--"})), Names{"./--"});
+}
+
+TEST(Jobs, AStreamIsAlone) {
+    const CTemporaryFolder folder;
+    EXPECT_THROW(jobsFor({"-", folder.path()}), CCallError);
+    EXPECT_THROW(jobsFor({"-", "later/"}), CCallError);
+    EXPECT_THROW(jobsFor({"-", "a.wav", "later/"}), CCallError);
+    EXPECT_THROW(jobsFor({"a.wav", "b.wav", "-"}), CCallError);
+    EXPECT_THROW(jobsFromFiles({{"-"}, "later"}, noFormat, ""), CCallError);
+}

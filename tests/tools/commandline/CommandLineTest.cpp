@@ -36,10 +36,11 @@ TEST(CommandLine, HelpListsEveryCommandAndOption) {
     const SProgramRun render = corvel({"render", "--help"});
     EXPECT_EQ(render.status, 0);
     for (const char *option :
-         {"--program", "--set",         "--chain",    "--tempo",     "--block", "--double",
-          "--tail",    "--format",      "--resample", "--mono",      "--json",  "--plugin",
-          "--preset",  "--save-preset", "--loudness", "--normalize", "--clip",  "--dither",
-          "--plot",    "--light",       "--dark"})
+         {"--program",  "--set",       "--chain",       "--tempo",    "--block",
+          "--double",   "--tail",      "--format",      "--resample", "--mono",
+          "--channels", "--raw",       "--start",       "--length",   "--json",
+          "--plugin",   "--preset",    "--save-preset", "--loudness", "--clip",
+          "--dither",   "--normalize", "--plot",        "--light",    "--dark"})
         EXPECT_THAT(render.out, HasSubstr(option));
     for (int slot = 2; slot < 18; ++slot)
         EXPECT_THAT(render.out, HasSubstr(std::string(Tessitor::Tool::moduleLabel(slot))));

@@ -81,10 +81,6 @@ TEST_F(RenderErrors, AnInputWithThreeChannels) {
     expectFailureOfInput("three.wav", "has 3 channels; only mono and stereo can be rendered");
 }
 
-TEST_F(RenderErrors, AMonoSumOfAStereoFile) {
-    expectFailureOfInput("in.wav", "is stereo; --mono is for mono files", {"--mono"});
-}
-
 TEST_F(RenderErrors, ARateThatCannotBeConverted) {
     SSound sound = voice(21, 100);
     sound.sampleRate = 1;
@@ -128,7 +124,9 @@ INSTANTIATE_TEST_SUITE_P(Formats, RenderToFullDisk,
                          testing::Values("wav:float", "wav:16", "aiff:24", "flac:16", "ogg"));
 
 TEST_F(RenderErrors, AFormatThatDoesNotSupportTheRate) {
-    expectFailure(1, "new.ogg: cannot be written (Ogg, Opus, does not support 44100 Hz)",
+    expectFailure(1,
+                  "new.ogg: Opus does not support 44100 Hz; add --resample, which writes 48000 Hz, "
+                  "or use another format, such as ogg:vorbis",
                   renderTo("new.ogg", {"--format", "ogg:opus"}));
 }
 
@@ -175,11 +173,35 @@ TEST_F(RenderErrors, WrongSettings) {
 }
 
 TEST_F(RenderErrors, WrongNumbers) {
-    for (const char *const option : {"--tempo", "--block", "--tail"})
+    for (const char *const option : {"--tempo", "--block", "--tail", "--start", "--length"})
         for (const char *const value : {"-1", "x", "1e9", "nan"})
             expectFailure(2, option, renderTo("out.wav", {option, value}));
     expectFailure(2, "--block", renderTo("out.wav", {"--block", "0"}));
     expectFailure(2, "--tempo", renderTo("out.wav", {"--tempo", "0"}));
+}
+
+TEST_F(RenderErrors, WrongTimes) {
+    expectFailure(2, "--start: \"1:60\" is not a time, such as 90, 1.5s, 250ms or 1:02:03.5",
+                  renderTo("out.wav", {"--start", "1:60"}));
+    expectFailure(2, "--start: must not exceed 1000 hours",
+                  renderTo("out.wav", {"--start", "1001:00:00"}));
+    for (const char *const value : {"0", "1001:00:00"})
+        expectFailure(2, "--length: must be more than 0 and at most 1000 hours",
+                      renderTo("out.wav", {"--length", value}));
+    expectFailure(2, "--tail: must not exceed an hour", renderTo("out.wav", {"--tail", "1:00:01"}));
+    expectFailure(2, "--tail: \"never\" is not a time", renderTo("out.wav", {"--tail", "never"}));
+    for (const char *const option : {"--start", "--length", "--tail"})
+        expectFailure(2, option, renderTo("out.wav", {option, ""}));
+}
+
+TEST_F(RenderErrors, AStartBeyondTheEnd) {
+    expectFailureOfInput("in.wav", "lasts 0.068 seconds; --start leaves nothing of it",
+                         {"--start", "1"});
+}
+
+TEST_F(RenderErrors, WrongChannels) {
+    for (const char *const value : {"quad", "", "2"})
+        expectFailure(2, "is neither mono nor stereo", renderTo("out.wav", {"--channels", value}));
 }
 
 TEST_F(RenderErrors, WrongFormat) {
@@ -191,7 +213,9 @@ TEST_F(RenderErrors, WrongFormat) {
 TEST_F(RenderErrors, AnEndingThatMeansNoFormat) {
     const std::string endings =
         "; use --format or one of .wav .wave .aiff .aif .aifc .flac .ogg .oga";
-    expectFailure(2, "out.mp3: corvel does not write .mp3" + endings, renderTo("out.mp3"));
+    for (const std::string ending : {".mp3", ".w64", ".caf", ".au"})
+        expectFailure(2, "out" + ending + ": corvel does not write " + ending + endings,
+                      renderTo("out" + ending));
     expectFailure(2, "take.1: corvel does not write .1" + endings, renderTo("take.1"));
     std::filesystem::rename(folder / "in.wav", folder / "in.dat");
     std::filesystem::create_directory(folder / "to");

@@ -188,6 +188,19 @@ TEST_F(Render, TheStripsMonoSumIsWrittenOnRequest) {
     EXPECT_EQ(out.samples, sound.samples);
 }
 
+TEST_F(Render, TheMonoSumOfAStereoFileIsTheMeanOfItsChannels) {
+    const SSound sound = voice(11, 30000);
+    for (const std::vector<std::string> &options :
+         {std::vector<std::string>{"--channels", "mono"}, {"--mono"}, {"--mono", "--double"}}) {
+        const SSound out = render(sound, options);
+        ASSERT_EQ(out.channels, 1);
+        ASSERT_EQ(out.frames(), 30000u);
+        for (std::size_t i = 0; i < 30000; ++i)
+            ASSERT_EQ(out.samples[i], (sound.samples[2 * i] + sound.samples[2 * i + 1]) / 2.0);
+    }
+    EXPECT_EQ(render(sound, {"--channels", "stereo"}).samples, sound.samples);
+}
+
 TEST_F(Render, AnEmptyFileGivesAnEmptyFile) {
     const SSound out = render(voice(11, 0), {"--json"});
     EXPECT_EQ(out.frames(), 0u);

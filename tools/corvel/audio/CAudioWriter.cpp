@@ -2,6 +2,7 @@
 
 #include "corvel/audio/OutputFormat.h"
 #include "corvel/audio/Quantise.h"
+#include "corvel/audio/StandardStream.h"
 #include "corvel/console/Errors.h"
 
 #include <algorithm>
@@ -30,16 +31,22 @@ std::int64_t framesIn(const std::filesystem::path &file) {
 }  // namespace
 
 CAudioWriter::CAudioWriter(const std::filesystem::path &file, EExisting existing, int format,
-                           int sampleRate, int channels)
-    : m_place(file), m_sampleRate(sampleRate), m_channels(channels), m_bits(integerBits(format)),
-      m_pending(file, existing) {
+                           int sampleRate, int channels, std::optional<std::int64_t> frames)
+    : m_place(file), m_format(format), m_sampleRate(sampleRate), m_channels(channels),
+      m_bits(integerBits(format)) {
     SF_INFO info{};
     info.format = format;
     info.samplerate = sampleRate;
     info.channels = channels;
-    m_file.reset(sf_open(m_pending.path().c_str(), SFM_WRITE, &info));
+    if (isStandardStream(file))
+        m_file.reset(m_pipe.emplace(frames).open(info));
+    else
+        m_file.reset(sf_open(m_pending.emplace(file, existing).path().c_str(), SFM_WRITE, &info));
     if (m_file == nullptr)
         fail(describeFormat(format) + ", does not support " + std::to_string(sampleRate) + " Hz");
+    // For WAV without a length: if it stays below 4 GiB, it becomes plain WAV again.
+    if ((format & SF_FORMAT_TYPEMASK) == SF_FORMAT_RF64 && !frames)
+        sf_command(m_file.get(), SFC_RF64_AUTO_DOWNGRADE, nullptr, SF_TRUE);
     // The peak chunk contains the time of day. With it, each run would write a different file.
     sf_command(m_file.get(), SFC_SET_ADD_PEAK_CHUNK, nullptr, SF_FALSE);
 }
@@ -69,6 +76,8 @@ void CAudioWriter::writeAll(const Sample *samples, std::int64_t frames) {
         quantiseAll(samples, static_cast<std::size_t>(frames * m_channels));
         written = sf_writef_int(m_file.get(), m_integers.data(), frames);
     }
+    if (m_pipe)
+        m_pipe->requireNoError();
     if (written != frames)
         failWith(errno);
     m_frames += frames;
@@ -90,10 +99,16 @@ void CAudioWriter::finish() {
     errno = 0;
     sf_close(m_file.release());
     const int systemError = errno;
+    if (m_pipe) {
+        m_pipe->finish();
+        m_pipe->requireNoError();
+        return;
+    }
+    formatForLength(m_format, m_frames, m_channels, m_place);
     // libsndfile does not report every error at the end of encoding.
-    if (framesIn(m_pending.path()) < m_frames)
+    if (framesIn(m_pending->path()) < m_frames)
         failWith(systemError);
-    m_pending.commit();
+    m_pending->commit();
 }
 
 void CAudioWriter::failWith(int systemError) const {
@@ -102,7 +117,7 @@ void CAudioWriter::failWith(int systemError) const {
 }
 
 void CAudioWriter::fail(const std::string &reason) const {
-    throw CJobError(m_place.string() + ": cannot be written (" + reason + ")");
+    throw CJobError(nameOfOutput(m_place) + ": cannot be written (" + reason + ")");
 }
 
 }  // namespace Tessitor::Tool

@@ -22,4 +22,11 @@ void interleave(const Sample *left, const Sample *right, std::size_t frames, Sam
     }
 }
 
+/// Mixes two channels into one, each at half its level, so that nothing clips.
+template <typename Sample>
+void mixDown(const Sample *left, const Sample *right, std::size_t frames, Sample *mono) {
+    for (std::size_t i = 0; i < frames; ++i)
+        mono[i] = Sample(0.5) * (left[i] + right[i]);
+}
+
 }  // namespace Tessitor::Tool

@@ -3,7 +3,6 @@
 #include "corvel/console/Errors.h"
 
 #include <algorithm>
-#include <array>
 #include <cctype>
 #include <limits>
 #include <sndfile.h>
@@ -13,15 +12,15 @@ namespace Tessitor::Tool {
 namespace {
 
 struct SContainer {
-    const char *name;      // in --format
-    const char *title;     // in messages
-    int format;            // to write
-    std::vector<int> kin;  // variants: read, and kept in the output
+    std::string_view name;  // in --format; empty if it is only read
+    const char *title;      // in messages
+    int format;             // to write
+    std::vector<int> kin;   // variants: read, and kept in the output
     std::vector<std::string_view> extensions;
     std::vector<int> sampleTypes;  // the least lossy first
 };
 
-const std::array<SContainer, 4> containers = {{
+const std::vector<SContainer> containers = {
     {"wav",
      "WAV",
      SF_FORMAT_WAV,
@@ -43,7 +42,12 @@ const std::array<SContainer, 4> containers = {{
      {".flac"},
      {SF_FORMAT_PCM_24, SF_FORMAT_PCM_16, SF_FORMAT_PCM_S8}},
     {"ogg", "Ogg", SF_FORMAT_OGG, {}, {".ogg", ".oga"}, {SF_FORMAT_VORBIS, SF_FORMAT_OPUS}},
-}};
+    {"", "MP3", SF_FORMAT_MPEG, {}, {}, {}},
+    {"", "W64", SF_FORMAT_W64, {}, {}, {}},
+    {"", "CAF", SF_FORMAT_CAF, {}, {}, {}},
+    {"", "AU", SF_FORMAT_AU, {}, {}, {}},
+    {"", "no header", SF_FORMAT_RAW, {}, {}, {}},
+};
 
 struct SSampleType {
     const char *name;   // in --format
@@ -62,6 +66,13 @@ constexpr SSampleType sampleTypes[] = {
     {"double", "64-bit float", SF_FORMAT_DOUBLE, 0},
     {"vorbis", "Vorbis", SF_FORMAT_VORBIS, 0},
     {"opus", "Opus", SF_FORMAT_OPUS, 0},
+    {"", "layer I", SF_FORMAT_MPEG_LAYER_I, 0},
+    {"", "layer II", SF_FORMAT_MPEG_LAYER_II, 0},
+    {"", "layer III", SF_FORMAT_MPEG_LAYER_III, 0},
+    {"", "16-bit ALAC", SF_FORMAT_ALAC_16, 16},
+    {"", "20-bit ALAC", SF_FORMAT_ALAC_20, 24},
+    {"", "24-bit ALAC", SF_FORMAT_ALAC_24, 24},
+    {"", "32-bit ALAC", SF_FORMAT_ALAC_32, 32},
 };
 
 // Companded and adaptive sample types are encoded from 16-bit integers.
@@ -132,7 +143,7 @@ SFormatRequest formatFromText(std::string_view text) {
     const auto container =
         std::find_if(containers.begin(), containers.end(),
                      [&](const SContainer &candidate) { return candidate.name == name; });
-    if (container == containers.end())
+    if (container == containers.end() || name.empty())
         throw CCallError("--format: no container \"" + name + "\"; use wav, aiff, flac or ogg");
     if (colon == std::string_view::npos)
         return {container->format, 0};
@@ -161,7 +172,11 @@ int outputFormat(int inputFormat, const SFormatRequest &request, const std::file
     const SContainer *input = findContainer(inputFormat);
     const SContainer *asked =
         request.container != 0 ? findContainer(request.container) : containerOfExtension(out);
-    const SContainer &container = asked != nullptr ? *asked : *input;
+    // What is only read becomes WAV.
+    const bool isWritten = !input->name.empty();
+    const SContainer &container = asked != nullptr ? *asked
+                                  : isWritten      ? *input
+                                                   : containers.front();
     if (request.sampleType != 0)
         return container.format | request.sampleType;
     if (&container == input)
@@ -191,21 +206,26 @@ std::string problemOfName(const std::filesystem::path &out, const SFormatRequest
 
 int formatForLength(int format, std::int64_t frames, int channels,
                     const std::filesystem::path &out) {
-    // Rounded up to whole bytes, with room for the header.
-    const int bits = integerBits(format);
-    const int bytes = bits != 0 ? bits / 8 : sampleTypeOf(format) == SF_FORMAT_DOUBLE ? 8 : 4;
+    const int bytes = bytesPerSample(format);
+    // With room for the header
     constexpr std::int64_t limit = std::numeric_limits<std::uint32_t>::max() - 4096;
     if (frames <= limit / bytes / channels)
         return format;
     if (containerOf(format) == SF_FORMAT_AIFF)
         throw CJobError(out.string() + ": too long for AIFF, which cannot exceed 4 GiB");
-    if (containerOf(format) == SF_FORMAT_WAV || containerOf(format) == SF_FORMAT_WAVEX)
-        return SF_FORMAT_RF64 | sampleTypeOf(format);
-    return format;
+    return formatForUnknownLength(format);
+}
+
+int formatForUnknownLength(int format) {
+    return isWav(format) ? SF_FORMAT_RF64 | sampleTypeOf(format) : format;
 }
 
 bool isKnownContainer(int format) {
     return findContainer(format) != nullptr;
+}
+
+bool isWav(int format) {
+    return findContainer(format) == &containers.front();
 }
 
 std::string extensionOf(int format) {
@@ -218,6 +238,11 @@ std::string describeFormat(int format) {
 
 int integerBits(int format) {
     return findSampleType(format).bits;
+}
+
+int bytesPerSample(int format) {
+    const int bits = integerBits(format);
+    return bits != 0 ? bits / 8 : sampleTypeOf(format) == SF_FORMAT_DOUBLE ? 8 : 4;
 }
 
 }  // namespace Tessitor::Tool

@@ -25,7 +25,8 @@ std::vector<std::string> formatTexts();
 
 /// @return the format to write. The container is the requested one, otherwise that of the extension
 ///         of `out`, otherwise that of the input. The sample type is the requested one, otherwise
-///         that of the input, otherwise the closest that the container supports.
+///         that of the input, otherwise the closest that the container supports. An input whose
+///         container is only read becomes WAV.
 int outputFormat(int inputFormat, const SFormatRequest &request, const std::filesystem::path &out);
 
 /// @return false if the extension belongs to another container or to none.
@@ -40,10 +41,15 @@ std::string problemOfName(const std::filesystem::path &out, const SFormatRequest
 int formatForLength(int format, std::int64_t frames, int channels,
                     const std::filesystem::path &out);
 
+/// @return the format for a file whose length is not known: for WAV its 64-bit form.
+int formatForUnknownLength(int format);
+
 /// @return false for containers that this program does not read.
 bool isKnownContainer(int format);
 
-/// @return ".wav", ".aiff", ".flac" or ".ogg".
+bool isWav(int format);  ///< in all its variants
+
+/// @return ".wav", ".aiff", ".flac" or ".ogg", for a container that is written.
 std::string extensionOf(int format);
 
 /// @return a readable text: "WAV, 24-bit".
@@ -52,5 +58,8 @@ std::string describeFormat(int format);
 /// @return the bits per sample if a file of this format is written from integers; 0 if it is
 ///         written from floating-point samples.
 int integerBits(int format);
+
+/// @return the size of a sample that is not compressed.
+int bytesPerSample(int format);
 
 }  // namespace Tessitor::Tool

@@ -1,5 +1,7 @@
 #include "corvel/audio/SoundChunk.h"
 
+#include "corvel/audio/OtherSoundChunks.h"
+
 #include <algorithm>
 #include <array>
 #include <fstream>
@@ -51,16 +53,6 @@ std::uint64_t longLength(std::ifstream &file, std::uint64_t field) {
     return length;
 }
 
-// A program that writes to a pipe cannot go back and fill in the length. It writes the most that a
-// signed or an unsigned number can hold, rounded down to whole blocks, or leaves a 0.
-bool isPlaceholder(std::uint64_t length) {
-    constexpr std::uint64_t rounding = 8192;
-    for (const std::uint64_t most : {std::uint64_t(1) << 31, (std::uint64_t(1) << 32) - 1})
-        if (length <= most && length > most - rounding)
-            return true;
-    return length == 0 || length >= std::uint64_t(1) << 62;
-}
-
 // Such a length may be true: then other chunks follow up to the end of the file.
 bool chunksFillTheRest(std::ifstream &file, std::uint64_t position, std::uint64_t end,
                        bool bigEndian) {
@@ -78,6 +70,16 @@ bool chunksFillTheRest(std::ifstream &file, std::uint64_t position, std::uint64_
 
 }  // namespace
 
+// A program that writes to a pipe cannot go back and fill in the length. It writes the most that a
+// signed or an unsigned number can hold, rounded down to whole blocks, or leaves a 0.
+bool isPlaceholder(std::uint64_t length) {
+    constexpr std::uint64_t rounding = 8192;
+    for (const std::uint64_t most : {std::uint64_t(1) << 31, (std::uint64_t(1) << 32) - 1})
+        if (length <= most && length > most - rounding)
+            return true;
+    return length == 0 || length >= std::uint64_t(1) << 62;
+}
+
 std::optional<SSoundChunk> findSoundChunk(const std::filesystem::path &path) {
     std::ifstream file(path, std::ios::binary);
     SChunkHead head;
@@ -86,7 +88,7 @@ std::optional<SSoundChunk> findSoundChunk(const std::filesystem::path &path) {
     const bool isLong = idOf(head) == "RF64";
     const bool isWav = isLong || idOf(head) == "RIFF" || idOf(head) == "RIFX";
     if (!isWav && idOf(head) != "FORM")
-        return std::nullopt;
+        return findOtherSoundChunk(path);
     const bool bigEndian = idOf(head) == "RIFX" || idOf(head) == "FORM";
     const std::string_view sound = isWav ? "data" : "SSND";
     std::error_code ignored;

@@ -7,7 +7,8 @@
 
 namespace Tessitor::Tool {
 
-/// Where the sound of a WAV, RF64 or AIFF file is, and how long the header says it is.
+/// Where the sound of a WAV, RF64, AIFF, W64, CAF or AU file is, and how long the header says it
+/// is.
 struct SSoundChunk {
     std::uint64_t sound;                    // offset of the first byte
     std::uint64_t bytesThere;               // from there to the end of the file
@@ -20,7 +21,10 @@ struct SSoundChunk {
 /// @return none for other kinds of file and for a file without sound.
 std::optional<SSoundChunk> findSoundChunk(const std::filesystem::path &file);
 
-/// libsndfile does not notice when a WAV or AIFF file is cut short.
+/// @return true for a length in a header that stands for an unknown one, also 0.
+bool isPlaceholder(std::uint64_t length);
+
+/// libsndfile does not notice when most of these are cut short.
 /// @return how many bytes of sound are missing at the end of the file, going by the length in its
 ///         header. 0 for a complete file and for one whose writer did not know the length.
 std::uint64_t bytesMissing(const SSoundChunk &chunk);

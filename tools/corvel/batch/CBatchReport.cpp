@@ -1,5 +1,6 @@
 #include "corvel/batch/CBatchReport.h"
 
+#include "corvel/audio/StandardStream.h"
 #include "corvel/batch/LoudnessReport.h"
 #include "corvel/console/Interrupt.h"
 #include "corvel/console/Print.h"
@@ -41,6 +42,9 @@ void CBatchReport::printOutcome(const SRenderOutcome &outcome) {
 }
 
 int CBatchReport::finish() {
+    // The reader of the sound had enough, as "head" often has: nothing to report.
+    if (isOutputAbandoned() && isStandardStream(m_outcomes.front().job.out))
+        return interruptionStatus();
     if (!m_call.quiet)
         printNotes();
     printLastLine();

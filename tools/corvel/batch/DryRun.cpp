@@ -1,5 +1,6 @@
 #include "corvel/batch/DryRun.h"
 
+#include "corvel/audio/StandardStream.h"
 #include "corvel/batch/RenderReport.h"
 #include "corvel/console/Errors.h"
 #include "corvel/console/Print.h"
@@ -17,7 +18,11 @@ namespace {
 void requireFeasible(const SRenderJob &job, const SRenderCall &call, bool makesFolders) {
     if (!job.problem.empty())
         throw CJobError(job.in.string() + ": " + job.problem);
-    requireMatching(CAudioReader(job.in), job, call.options);
+    // What arrives is only known when it is there.
+    if (!isStandardStream(job.in))
+        requireMatching(CAudioReader(job.in), job, call.options);
+    if (isStandardStream(job.out))
+        return;
     std::error_code ignored;
     if (!makesFolders || fs::exists(fs::symlink_status(job.out, ignored)))
         CPendingFile::requireWritable(job.out, call.options.existing);

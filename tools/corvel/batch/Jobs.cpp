@@ -1,5 +1,6 @@
 #include "corvel/batch/Jobs.h"
 
+#include "corvel/audio/StandardStream.h"
 #include "corvel/batch/CNamePattern.h"
 #include "corvel/batch/Inputs.h"
 #include "corvel/batch/ListedNames.h"
@@ -20,7 +21,18 @@ namespace {
 
 bool isFolder(const fs::path &target) {
     std::error_code ignored;
+    if (isStandardStream(target))
+        return false;
     return !target.has_filename() || fs::is_directory(target, ignored);
+}
+
+// A stream holds one sound only, and has no name from which that of the output could be made.
+void requireStreamsAlone(const std::vector<std::string> &inputs, const fs::path &target) {
+    const bool readsStream = std::find(inputs.begin(), inputs.end(), "-") != inputs.end();
+    if (readsStream && (inputs.size() > 1 || target.empty()))
+        throw CCallError("standard input must be the only input, and its output needs a name");
+    if (isStandardStream(target) && inputs.size() > 1)
+        throw CCallError("only one input can be written to standard output");
 }
 
 // Where the outputs go: to a folder or to one file.
@@ -37,6 +49,7 @@ STarget takeTarget(const SFileRequest &request, std::vector<std::string> &inputs
     inputs.pop_back();
     if (isFolder(last))
         return {last, {}};
+    requireStreamsAlone(inputs, last);
     if (inputs.size() != 1 || request.list)
         throw CCallError(last.string() + ": several inputs need a folder for their outputs; name "
                                          "it with --out-dir or end it in a slash");
@@ -59,6 +72,7 @@ std::vector<SInput> inputsOf(const SFileRequest &request, std::vector<std::strin
         for (std::string &name : listedNames(readAll(*request.list)))
             names.push_back(std::move(name));
     }
+    requireStreamsAlone(names, target.file);
     std::vector<SInput> inputs =
         request.recursive ? filesIn(names, target.folder) : filesNamed(names);
     if (inputs.empty() && !names.empty())
@@ -76,6 +90,12 @@ std::string endingFor(const fs::path &in, const SFormatRequest &format) {
     if (format.container != 0 && !isExtensionOf(format.container, in))
         return extensionOf(format.container);
     return in.extension().string();
+}
+
+bool usesStream(const std::vector<SRenderJob> &jobs) {
+    return std::any_of(jobs.begin(), jobs.end(), [](const SRenderJob &job) {
+        return isStandardStream(job.in) || isStandardStream(job.out);
+    });
 }
 
 void requireInputsToSurvive(const std::vector<SRenderJob> &jobs) {
@@ -129,7 +149,8 @@ SJobs jobsFromFiles(const SFileRequest &request, const SFormatRequest &format,
         }
         result.jobs.push_back({input.file, out, input.problem});
     }
-    requireInputsToSurvive(result.jobs);
+    if (!usesStream(result.jobs))
+        requireInputsToSurvive(result.jobs);
     return result;
 }
 

@@ -27,7 +27,8 @@ struct SJobs {
 void requireFileNames(const SFileRequest &request);
 
 /// In a folder, each output is named after its input. An empty list gives no jobs. The last file is
-/// a folder if it exists as one or ends in a slash.
+/// a folder if it exists as one or ends in a slash. "-" is a stream, which only a single job can
+/// read or write.
 /// @param program  name of the program, for the names of the outputs.
 /// @throws CCallError if requireFileNames() does, several inputs would be written to one file, or
 ///         an input would be overwritten; CJobError if the list cannot be read or a folder contains

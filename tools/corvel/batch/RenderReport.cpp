@@ -1,5 +1,6 @@
 #include "corvel/batch/RenderReport.h"
 
+#include "corvel/audio/StandardStream.h"
 #include "corvel/batch/LoudnessReport.h"
 #include "corvel/console/Text.h"
 
@@ -12,9 +13,8 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-std::string describeFile(const std::filesystem::path &file, const SRenderResult &result,
-                         int channels, int format) {
-    return file.string() + " (" + std::to_string(result.sampleRate) + " Hz, " +
+std::string describeFile(const std::string &name, int sampleRate, int channels, int format) {
+    return name + " (" + std::to_string(sampleRate) + " Hz, " +
            (channels == 1 ? "mono" : "stereo") + ", " + describeFormat(format) + ")";
 }
 
@@ -98,6 +98,7 @@ void addSettings(Json &json, const CEffectSettings &settings, const CEffectLibra
 
 void addResult(Json &json, const SRenderResult &result) {
     json["sampleRate"] = result.sampleRate;
+    json["sampleRateOut"] = result.sampleRateOut;
     json["channelsIn"] = result.channelsIn;
     json["channelsOut"] = result.channelsOut;
     json["formatIn"] = describeFormat(result.formatIn);
@@ -125,8 +126,10 @@ std::string describe(const SRenderOutcome &outcome, const CEffectSettings &setti
                      const SRenderOptions &options) {
     const SRenderResult &result = outcome.result;
     std::vector<std::vector<std::string>> rows = {
-        {"in", describeFile(outcome.job.in, result, result.channelsIn, result.formatIn)},
-        {"out", describeFile(outcome.job.out, result, result.channelsOut, result.formatOut)},
+        {"in", describeFile(nameOfInput(outcome.job.in), result.sampleRate, result.channelsIn,
+                            result.formatIn)},
+        {"out", describeFile(nameOfOutput(outcome.job.out), result.sampleRateOut,
+                             result.channelsOut, result.formatOut)},
         {"duration", describeDuration(result.seconds())},
         {"program", settings.programName()}};
     if (settings.chain())
@@ -163,12 +166,16 @@ std::vector<std::string> warnings(const SRenderOutcome &outcome, const SRenderOp
     const SRenderResult &result = outcome.result;
     std::vector<std::string> lines;
     if (result.nonFiniteSamples > 0) {
-        lines.push_back("warning: " + outcome.job.in.string() + ": " +
+        lines.push_back("warning: " + nameOfInput(outcome.job.in) + ": " +
                         counted(result.nonFiniteSamples, "sample") + " infinite or not a number, " +
                         (options.keepNan ? "kept" : "rendered as 0; --keep-nan keeps them"));
     }
+    if (result.framesMissing > 0)
+        lines.push_back("warning: " + nameOfInput(outcome.job.in) + ": ended " +
+                        counted(static_cast<std::uint64_t>(result.framesMissing), "frame") +
+                        " before the length in its header");
     if (result.clippedSamples > 0)
-        lines.push_back("warning: " + outcome.job.out.string() + ": " +
+        lines.push_back("warning: " + nameOfOutput(outcome.job.out) + ": " +
                         counted(result.clippedSamples, "sample") + " clipped");
     return lines;
 }
@@ -183,7 +190,7 @@ std::vector<std::string> notes(const std::vector<SRenderOutcome> &outcomes,
         return {};
     const std::string reason = ", but the strip is tuned for 44100 Hz; --resample converts";
     if (others.size() == 1)
-        return {"note: " + others.front()->job.in.string() + ": " +
+        return {"note: " + nameOfInput(others.front()->job.in) + ": " +
                 std::to_string(others.front()->result.sampleRate) + " Hz" + reason};
     return {"note: " + std::to_string(others.size()) + " files have another sample rate" + reason};
 }

@@ -15,9 +15,14 @@ Files
   --skip-existing passes over outputs that are newer than their inputs, so the same command
   continues a batch that was interrupted. A name that starts with a dash follows after "--".
 
-  Inputs are WAV, AIFF, FLAC and Ogg files with one or two channels at any sample rate. The
-  output keeps the rate of its input. A mono file is processed as if the host had connected
-  only the left input. Its output is stereo, or with --mono the strip's mono sum.
+  Inputs are WAV, AIFF, FLAC, Ogg, MP3, W64, CAF and AU files with one or two channels at any
+  sample rate. The output keeps the rate of its input. A mono file is processed as if the host
+  had connected only the left input. The output is stereo, or with --channels mono the sum of
+  both channels at half their level.
+
+  The output keeps the title, the artist and the other texts of its input, its cue points, and
+  the broadcast chunk of a WAV file, as far as its container can hold them. With --start the
+  cue points and the time reference move along.
 
   Samples that are infinite or not a number are rendered as 0, and a warning says how many.
   --keep-nan leaves them alone; they usually silence the rest of the file.
@@ -29,6 +34,24 @@ Files
     wav, aiff   8, 16, 24, 32, float, double
     flac        8, 16, 24
     ogg         vorbis, opus
+  W64, CAF, AU and MP3 are only read. Opus does not support 44100 Hz: with --resample, such an
+  input becomes 48000 Hz.
+
+Streams
+  IN may be "-" for standard input, and OUT for standard output. The report then goes to
+  standard error. What arrives as WAV is rendered while it arrives, for as long as it does;
+  other files are first read to their end. The output is WAV, or wav, flac or ogg with
+  --format. The header of a WAV stream has no length if the input has none.
+
+  With --raw, streams have no header: RATE in Hz, CHANNELS 1 or 2, and FORMAT one of s16, s24,
+  s32 (integers), f32, f64 (floating point), all little-endian. It holds for input and output,
+  unless --format asks for another output.
+
+Times
+  A TIME is a number of seconds, such as 90, 1.5s or 250ms, or minutes or hours and minutes in
+  front, such as 1:30 or 1:02:03.5. --start beyond the end of the input is an error; --length
+  beyond it means the end. With --tail auto, the output ends with the last sample above -90
+  dBFS before 2 seconds and a beat of silence.
 
 Batches
   --recursive takes folders as inputs and keeps their sub-folders in the output folder. In
@@ -123,6 +146,7 @@ Examples
   corvel render takes --recursive --out-dir mixed --name "{stem}-{program}" --skip-existing
   corvel render phone.wav out.wav --resample --json
   corvel render take.wav podcast.wav --normalize -16LUFS --clip headroom --format wav:16 --dither
+  sox take.mp3 -t wav - | corvel render - - --program "Lead Vocal" | flac -o out.flac -
 )";
 
 }  // namespace Tessitor::Tool

@@ -6,6 +6,8 @@
 #include "corvel/commandline/PictureOptions.h"
 #include "corvel/commandline/RenderHelp.h"
 #include "corvel/commandline/SettingsOptions.h"
+#include "corvel/commandline/StreamOptions.h"
+#include "corvel/commandline/TimeOptions.h"
 #include "corvel/commandline/Validators.h"
 
 #include <utility>
@@ -56,11 +58,6 @@ void addProcessing(CLI::App &render, SRenderOptions &options) {
         ->check(wholeNumber())
         ->check(between(1, 1 << 20))
         ->capture_default_str();
-    render
-        .add_option("--tail", options.tailSeconds,
-                    "Keep rendering past the end of the input, up to an hour")
-        ->type_name("SECONDS")
-        ->check(between(0.0, 3600.0));
     render.add_flag("--double", options.doublePrecision,
                     "Process in double precision; compressor and de-esser stay at rest");
     render.add_flag("--resample", options.resample,
@@ -76,8 +73,6 @@ void addOutput(CLI::App &render, SRenderOptions &options) {
             [&options](const std::string &text) { options.format = formatFromText(text); },
             "Container and sample type of the output")
         ->type_name("CONTAINER[:TYPE]");
-    render.add_flag("--mono", options.mono,
-                    "Write a mono file as the mono sum of the strip's output");
     addLoudness(render, options);
 }
 
@@ -92,8 +87,10 @@ SCommand addRender(CLI::App &app, SRenderCall &call) {
     render.add_option("--save-preset", call.savePreset, "Save the settings as a new preset")
         ->type_name("FILE");
     addProcessing(render, call.options);
+    addTime(render, call.options);
     addOutput(render, call.options);
     addPicture(render, call);
+    addStream(render, call.options);
     addBatch(render, call);
     addPlugin(render, call.plugin);
     addJson(render, call.json);

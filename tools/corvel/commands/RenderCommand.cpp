@@ -2,6 +2,7 @@
 #include "corvel/batch/DryRun.h"
 #include "corvel/batch/Pictures.h"
 #include "corvel/batch/Workers.h"
+#include "corvel/commands/PrepareStreams.h"
 #include "corvel/console/Errors.h"
 #include "corvel/console/Interrupt.h"
 #include "corvel/console/Print.h"
@@ -81,6 +82,7 @@ void run(SRenderOutcome &outcome, const CEffectLibrary &library, const CEffectSe
 
 int runRender(const SRenderCall &call) {
     requireFileNames(call.files);
+    prepareStreams(call.files, call.options);
     const CEffectLibrary library(CEffectLibrary::choose(call.plugin));
     CEffectInstance trial(library);
     requireRenderable(trial, call.options);

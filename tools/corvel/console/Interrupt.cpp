@@ -64,6 +64,10 @@ bool isInterrupted() {
     return received != 0;
 }
 
+bool isOutputAbandoned() {
+    return received == SIGPIPE;
+}
+
 std::string interruptionText() {
     for (const SRequest &request : requests)
         if (request.signal == received)

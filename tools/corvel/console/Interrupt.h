@@ -19,6 +19,9 @@ void noteInterrupts();
 /// [any thread]
 bool isInterrupted();
 
+/// @return true if that was a broken pipe: nobody reads the output any more. [any thread]
+bool isOutputAbandoned();
+
 /// @return what happened, for the user: "interrupted".
 std::string interruptionText();
 

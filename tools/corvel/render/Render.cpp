@@ -3,10 +3,10 @@
 #include "corvel/console/Errors.h"
 #include "corvel/plot/PictureFile.h"
 #include "corvel/render/RenderPicture.h"
+#include "corvel/render/SOutputPlan.h"
 #include "corvel/render/TRenderLoop.h"
 
 #include <chrono>
-#include <cmath>
 
 namespace Tessitor::Tool {
 
@@ -74,10 +74,6 @@ std::string drawPicture(const SRenderJob &job, const CEffectSettings &settings,
 
 }  // namespace
 
-std::int64_t tailFrames(const SRenderOptions &options, int sampleRate) {
-    return std::llround(options.tailSeconds * sampleRate);
-}
-
 void requireRenderable(const CEffectInstance &effect, const SRenderOptions &options) {
     requireStereoEffect(effect);
     if (options.doublePrecision)
@@ -89,29 +85,30 @@ void requireMatching(const CAudioReader &input, const SRenderJob &job,
     const std::string problem = problemOfName(job.out, options.format);
     if (!problem.empty())
         throw CJobError(job.out.string() + ": " + problem);
-    if (options.mono && input.channels() != 1)
-        throw CJobError(job.in.string() + ": is stereo; --mono is for mono files");
+    planOutput(job, options, input);
 }
 
 SRenderResult render(const SRenderJob &job, const CEffectLibrary &library,
                      const CEffectSettings &settings, const SRenderOptions &options,
                      const RenderListener &listener) {
     const auto begin = std::chrono::steady_clock::now();
-    CAudioReader reader(job.in);
+    CAudioReader reader(job.in, options.raw);
+    const std::int64_t start = options.excerpt.startFrame(reader.sampleRate());
+    reader.select(start, options.excerpt.frames(reader.sampleRate()));
     requireMatching(reader, job, options);
+    const SOutputPlan plan = planOutput(job, options, reader);
 
     SRenderResult result;
     result.sampleRate = reader.sampleRate();
     result.channelsIn = reader.channels();
-    result.channelsOut = options.mono ? 1 : 2;
+    result.sampleRateOut = plan.sampleRate;
+    result.channelsOut = plan.channels;
     result.formatIn = reader.format();
-    const std::int64_t framesExpected =
-        reader.knowsLength() ? reader.frames() + tailFrames(options, reader.sampleRate()) : 0;
-    result.formatOut = formatForLength(outputFormat(reader.format(), options.format, job.out),
-                                       framesExpected, result.channelsOut, job.out);
+    result.formatOut = plan.format;
     requirePlaceForPicture(job, options);
-    CAudioWriter writer(job.out, options.existing, result.formatOut, result.sampleRate,
-                        result.channelsOut);
+    CAudioWriter writer(job.out, options.existing, plan.format, plan.sampleRate, plan.channels,
+                        plan.frames);
+    writer.setTags(tagsOfPart(reader.tags(), start, reader.frames()));
     result.dithered = options.dither && writer.dither();
 
     const auto beforeEffect = std::chrono::steady_clock::now();
@@ -123,7 +120,8 @@ SRenderResult render(const SRenderJob &job, const CEffectLibrary &library,
     run.blockSize = options.blockSize;
     run.doublePrecision = options.doublePrecision;
     run.rightInputConnected = result.channelsIn == 2;
-    run.rightOutputConnected = result.channelsOut == 2;
+    // Of a mono input, the strip makes the mono sum itself.
+    run.rightOutputConnected = result.channelsIn == 2 || result.channelsOut == 2;
     effect.start(run);
     if (options.timed) {
         const std::chrono::duration<double> opening =
@@ -138,6 +136,7 @@ SRenderResult render(const SRenderJob &job, const CEffectLibrary &library,
          listener);
     effect.stop();
 
+    result.framesMissing = reader.framesMissing();
     result.clippedSamples = writer.clippedSamples();
     if (options.clip == EClip::Fail && result.clippedSamples > 0)
         failSinceItClips(job, result.clippedSamples);

@@ -3,6 +3,8 @@
 #include "corvel/audio/CAudioReader.h"
 #include "corvel/audio/CLevels.h"
 #include "corvel/audio/OutputFormat.h"
+#include "corvel/audio/SExcerpt.h"
+#include "corvel/audio/SRawFormat.h"
 #include "corvel/files/CPendingFile.h"
 #include "corvel/plot/Palette.h"
 #include "corvel/render/OutputGain.h"
@@ -21,12 +23,15 @@ inline constexpr int stripRate = 44100;
 /// Settings for all files of a command.
 struct SRenderOptions {
     SFormatRequest format;
+    std::optional<SRawFormat> raw;  // of standard input and output
+    std::optional<int> channels;    // of the output
+    SExcerpt excerpt;
     double tempo = 120.0;           // beats per minute
     double tailSeconds = 0.0;       // of silence after the input
+    bool tailAuto = false;          // until the output is silent
     std::int32_t blockSize = 1024;  // frames
     bool doublePrecision = false;
     bool resample = false;  // to stripRate and back
-    bool mono = false;      // the strip's mono sum; for mono files only
     bool keepNan = false;   // otherwise samples that are not finite are rendered as 0
     bool timed = false;     // measure the effect's own time
     EExisting existing = EExisting::Kept;  // output files
@@ -37,8 +42,6 @@ struct SRenderOptions {
     std::optional<ETheme> theme;  // of pictures
 };
 
-std::int64_t tailFrames(const SRenderOptions &options, int sampleRate);
-
 struct SRenderJob {
     std::filesystem::path in;
     std::filesystem::path out;
@@ -47,10 +50,12 @@ struct SRenderJob {
 };
 
 struct SRenderResult {
-    int sampleRate = 0;  // Hz, the same for both files
+    int sampleRate = 0;     // Hz, of the input
+    int sampleRateOut = 0;  // Hz
     int channelsIn = 0, channelsOut = 0;
     int formatIn = 0, formatOut = 0;  // of libsndfile
     std::int64_t framesIn = 0, framesOut = 0;
+    std::int64_t framesMissing = 0;  // at the end of standard input, by its header
     CLevels levelsIn, levelsOut;
     std::optional<SLoudness> loudnessIn, loudnessOut;  // if measured
     std::optional<SOutputGain> gain;                   // if the options may ask for one
@@ -61,7 +66,7 @@ struct SRenderResult {
     // Until the effect was ready, and in its process calls; only with SRenderOptions::timed
     std::optional<double> openSeconds{}, effectSeconds{};
 
-    double seconds() const { return static_cast<double>(framesOut) / sampleRate; }
+    double seconds() const { return static_cast<double>(framesOut) / sampleRateOut; }
     double timesRealTime() const { return renderSeconds > 0.0 ? seconds() / renderSeconds : 0.0; }
 };
 

@@ -4,11 +4,14 @@
 #include "corvel/audio/CResampler.h"
 #include "corvel/audio/CSoundMeter.h"
 #include "corvel/audio/Interleave.h"
+#include "corvel/audio/StandardStream.h"
 #include "corvel/console/Errors.h"
 #include "corvel/console/Interrupt.h"
 #include "corvel/render/CAutomationPlayer.h"
 #include "corvel/render/CStopwatch.h"
 #include "corvel/render/Render.h"
+#include "corvel/render/RenderLengths.h"
+#include "corvel/render/TAutoTail.h"
 #include "corvel/render/TRenderOutput.h"
 
 #include <algorithm>
@@ -22,7 +25,7 @@ namespace Tessitor::Tool {
 
 /// The signal path of a render:
 ///
-///     reader -> [resampler to stripRate] -> effect -> [resampler to the file's rate] -> output
+///     reader -> [resampler to stripRate] -> effect -> [resampler] -> [end of the tail] -> output
 ///
 /// Each stage passes on the samples that it has ready. The effect and the resamplers may hold some
 /// back; silence after the end of the input flushes them.
@@ -49,6 +52,8 @@ private:
     void processBlock(Samples samples, Sample *out);
     void processAutomated(Samples samples, Sample *out);
     void deliver(Samples samples);
+    void write(Samples samples);
+    bool isDone() const;
     std::uint64_t countNonFinite(std::span<Sample> samples) const;
     static void stopIfInterrupted();
 
@@ -58,8 +63,9 @@ private:
     CSoundMeter &m_meterIn;
     const std::size_t m_channelsIn, m_channelsOut;
     const std::size_t m_blockFrames, m_chunkFrames;
-    const std::int64_t m_tailFrames;
     const bool m_keepNan;
+    const int m_rateIn, m_rateOut;
+    const std::int64_t m_tailFrames;
     std::optional<CResampler> m_toStrip, m_fromStrip;
     std::optional<CAutomationPlayer> m_automation;
     CStopwatch m_effectTime;
@@ -69,8 +75,11 @@ private:
     std::vector<Sample> m_inLeft, m_inRight, m_outLeft, m_outRight;  // one block
 
     std::size_t m_latencyLeft;  // frames of the effect's output still to be dropped
-    std::int64_t m_framesDelivered = 0;
-    std::int64_t m_framesWanted = std::numeric_limits<std::int64_t>::max();  // until input ends
+    static constexpr std::int64_t untilInputEnds = std::numeric_limits<std::int64_t>::max();
+    std::int64_t m_framesDelivered = 0, m_framesWritten = 0;
+    std::int64_t m_soundFrames = untilInputEnds;   // without the tail
+    std::int64_t m_framesWanted = untilInputEnds;  // with it
+    std::optional<TAutoTail<Sample>> m_autoTail;
 };
 
 // Definitions
@@ -86,17 +95,19 @@ TRenderLoop<Sample>::TRenderLoop(const SRenderJob &job, const SRenderOptions &op
       m_blockFrames(static_cast<std::size_t>(options.blockSize)),
       // Whole blocks, so that only the last block of a file is shorter.
       m_chunkFrames(m_blockFrames * std::max<std::size_t>(1, chunkFrames / m_blockFrames)),
-      m_tailFrames(tailFrames(options, reader.sampleRate())), m_keepNan(options.keepNan),
-      m_effectTime(options.timed), m_chunk(m_chunkFrames * m_channelsIn), m_inLeft(m_blockFrames),
-      m_inRight(m_blockFrames), m_outLeft(m_blockFrames), m_outRight(m_blockFrames),
+      m_keepNan(options.keepNan), m_rateIn(reader.sampleRate()), m_rateOut(output.sampleRate()),
+      m_tailFrames(tailFrames(options, m_rateOut)), m_effectTime(options.timed),
+      m_chunk(m_chunkFrames * m_channelsIn), m_inLeft(m_blockFrames), m_inRight(m_blockFrames),
+      m_outLeft(m_blockFrames), m_outRight(m_blockFrames),
       m_latencyLeft(static_cast<std::size_t>(std::max(0, effect.record().initialDelay))) {
-    if (options.resample && reader.sampleRate() != stripRate) {
-        m_toStrip.emplace(job.in.string(), reader.sampleRate(), stripRate, reader.channels());
-        m_fromStrip.emplace(job.in.string(), stripRate, reader.sampleRate(), output.channels());
-    }
+    if (options.resample && m_rateIn != stripRate)
+        m_toStrip.emplace(nameOfInput(job.in), m_rateIn, stripRate, reader.channels());
+    if (options.resample && m_rateOut != stripRate)
+        m_fromStrip.emplace(nameOfInput(job.in), stripRate, m_rateOut, output.channels());
+    if (options.tailAuto)
+        m_autoTail.emplace(m_channelsOut, silenceFrames(options, m_rateOut));
     if (automation)
-        m_automation.emplace(*automation, effect,
-                             options.resample ? stripRate : reader.sampleRate());
+        m_automation.emplace(*automation, effect, options.resample ? stripRate : m_rateIn);
 }
 
 template <typename Sample>
@@ -112,14 +123,15 @@ void TRenderLoop<Sample>::run(SRenderResult &result, const RenderListener &liste
         stopIfInterrupted();
     }
 
-    m_framesWanted = result.framesIn + m_tailFrames;
+    m_soundFrames = framesAtRate(result.framesIn, m_rateIn, m_rateOut);
+    m_framesWanted = m_soundFrames + m_tailFrames;
     std::fill(m_chunk.begin(), m_chunk.end(), Sample(0));
-    while (m_framesDelivered < m_framesWanted) {
+    while (!isDone()) {
         const auto missing = static_cast<std::size_t>(m_framesWanted - m_framesDelivered);
         feed(Samples(m_chunk.data(), std::min(missing, m_chunkFrames) * m_channelsIn));
         stopIfInterrupted();
     }
-    result.framesOut = m_framesDelivered;
+    result.framesOut = m_framesWritten;
     if (result.openSeconds)
         result.effectSeconds = m_effectTime.seconds();
 }
@@ -156,10 +168,13 @@ void TRenderLoop<Sample>::processBlock(Samples samples, Sample *out) {
     else
         std::copy(samples.begin(), samples.end(), m_inLeft.begin());
     Sample *ins[] = {m_inLeft.data(), m_inRight.data()};
-    Sample *outs[] = {m_outLeft.data(), m_channelsOut == 2 ? m_outRight.data() : nullptr};
+    const bool isStereo = m_channelsIn == 2 || m_channelsOut == 2;
+    Sample *outs[] = {m_outLeft.data(), isStereo ? m_outRight.data() : nullptr};
     m_effectTime.measure([&] { m_effect.process(ins, outs, static_cast<std::int32_t>(frames)); });
     if (m_channelsOut == 2)
         interleave(m_outLeft.data(), m_outRight.data(), frames, out);
+    else if (isStereo)
+        mixDown(m_outLeft.data(), m_outRight.data(), frames, out);
     else
         std::copy_n(m_outLeft.begin(), frames, out);
 }
@@ -179,8 +194,25 @@ template <typename Sample>
 void TRenderLoop<Sample>::deliver(Samples samples) {
     const auto ready = static_cast<std::int64_t>(samples.size() / m_channelsOut);
     const std::int64_t frames = std::min(ready, m_framesWanted - m_framesDelivered);
-    m_output.write(samples.data(), static_cast<std::size_t>(frames));
+    const std::int64_t sound =
+        std::clamp<std::int64_t>(m_soundFrames - m_framesDelivered, 0, frames);
+    write(samples.first(static_cast<std::size_t>(sound) * m_channelsOut));
+    const Samples tail = samples.subspan(static_cast<std::size_t>(sound) * m_channelsOut,
+                                         static_cast<std::size_t>(frames - sound) * m_channelsOut);
+    write(m_autoTail ? m_autoTail->pass(tail) : tail);
     m_framesDelivered += frames;
+}
+
+template <typename Sample>
+void TRenderLoop<Sample>::write(Samples samples) {
+    const std::size_t frames = samples.size() / m_channelsOut;
+    m_output.write(samples.data(), frames);
+    m_framesWritten += static_cast<std::int64_t>(frames);
+}
+
+template <typename Sample>
+bool TRenderLoop<Sample>::isDone() const {
+    return m_framesDelivered == m_framesWanted || (m_autoTail && m_autoTail->isOver());
 }
 
 /// Also replaces them with 0, unless they are to be kept: one of them would spoil the rest of the
