@@ -88,6 +88,31 @@ TEST_F(RenderStreams, AnUnknownLengthIsReadToTheEnd) {
     }
 }
 
+TEST_F(RenderStreams, ChunksInFrontOfTheSoundMayHaveAnOddLength) {
+    std::string wav = readFile(folder / "in.wav");
+    wav.insert(wav.find("data"), "odd " + std::string("\3\0\0\0abc\0", 8));
+    for (const std::string &piped : {wav, withoutLengths(wav)}) {
+        writeFile(folder / "odd.wav", piped);
+        const SProgramRun run = shell("render - - --set Gain=0.75", "cat odd.wav |");
+        EXPECT_EQ(run.status, 0) << run.errors;
+        EXPECT_TRUE(run.out == withoutLengths(expected));
+    }
+}
+
+TEST_F(RenderStreams, AnAutomaticTailHasNoLengthInTheHeader) {
+    EXPECT_TRUE(shell("render in.wav - --set Gain=0.75 --tail auto").out ==
+                withoutLengths(expected));
+}
+
+TEST_F(RenderStreams, AFileOfUnknownLengthHasRoomFor64Bits) {
+    writeFile(folder / "piped.wav", withoutLengths(readFile(folder / "in.wav")));
+    EXPECT_EQ(shell("render - new.wav --set Gain=0.75", "cat piped.wav |").status, 0);
+    const std::string wav = readFile(folder / "new.wav");
+    EXPECT_TRUE(wav.starts_with("RIFF"));
+    EXPECT_EQ(wav.substr(12, 4), "JUNK");
+    EXPECT_EQ(readSound(folder / "new.wav").samples, readSound(folder / "out.wav").samples);
+}
+
 TEST_F(RenderStreams, ItsOwnOutputIsReadAgain) {
     const SProgramRun run = shell("render - back.wav --json --set Gain=0.5",
                                   "cat in.wav | " CORVEL_PROGRAM " render - - --set Gain=0.5 "

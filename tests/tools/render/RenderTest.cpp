@@ -184,6 +184,7 @@ TEST_F(Render, AMonoFileBecomesStereo) {
 TEST_F(Render, TheStripsMonoSumIsWrittenOnRequest) {
     const SSound sound = voice(11, 1000, 1);
     const SSound out = render(sound, {"--mono"});
+    EXPECT_THAT(readFile(folder / "log"), HasSubstr(" one output\n"));
     EXPECT_EQ(out.channels, 1);
     EXPECT_EQ(out.samples, sound.samples);
 }
@@ -198,6 +199,8 @@ TEST_F(Render, TheMonoSumOfAStereoFileIsTheMeanOfItsChannels) {
         for (std::size_t i = 0; i < 30000; ++i)
             ASSERT_EQ(out.samples[i], (sound.samples[2 * i] + sound.samples[2 * i + 1]) / 2.0);
     }
+    // The effect itself stays stereo.
+    EXPECT_THAT(readFile(folder / "log"), Not(HasSubstr("one output")));
     EXPECT_EQ(render(sound, {"--channels", "stereo"}).samples, sound.samples);
 }
 

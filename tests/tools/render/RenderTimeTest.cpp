@@ -68,15 +68,15 @@ TEST_F(RenderTime, AnAutomaticTailOfNothingIsEmpty) {
 TEST_F(RenderTime, AnAutomaticTailEndsWithTheLastEcho) {
     effect = CORVEL_EFFECT;
     SSound sound;
-    sound.samples.assign(2 * 1000, 0.5);
+    sound.samples.assign(2 * 10, 0.5);
     writeSound(folder / "in.wav", sound);
-    const std::vector<std::string> delay = {"--chain", "Delay",        "--set", "DlyTime=1500 ms",
-                                            "--set",   "DlyFdBk=50 %", "--set", "DlyWet=0 dB",
-                                            "--tail",  "auto"};
+    const std::vector<std::string> delay = {"--chain", "Delay",        "--set",   "DlyTime=1500 ms",
+                                            "--set",   "DlyFdBk=50 %", "--set",   "DlyWet=0 dB",
+                                            "--tail",  "auto",         "--tempo", "1000"};
     const SSound out = render(delay);
     // The first echo has the level of the input, the next ones half as much each.
     constexpr std::size_t period = 66151;
-    EXPECT_EQ(out.frames(), 1000u + 15 * period);
+    EXPECT_EQ(out.frames(), 10u + 15 * period);
     EXPECT_GE(std::abs(out.samples.back()), 3.162e-5);
     EXPECT_LT(std::abs(out.samples.back()), 2 * 3.163e-5);
 
@@ -85,6 +85,10 @@ TEST_F(RenderTime, AnAutomaticTailEndsWithTheLastEcho) {
         options.insert(options.end(), {"--block", block});
         EXPECT_EQ(render(options).samples, out.samples) << block;
     }
+    // At a lower rate the echoes have the same distance in frames.
+    sound.sampleRate = 8000;
+    writeSound(folder / "in.wav", sound);
+    EXPECT_EQ(render(delay).samples, out.samples);
 }
 
 TEST_F(RenderTime, AnAutomaticTailThatNeverFallsSilentEndsAfterAnHour) {

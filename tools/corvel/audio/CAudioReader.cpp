@@ -24,7 +24,7 @@ CAudioReader::CAudioReader(const fs::path &file, const std::optional<SRawFormat>
         openStream(raw);
     else
         openFile();
-    m_knowsLength = hasMost() && m_stream == nullptr;
+    m_knowsLength = isBounded() && m_stream == nullptr;
 }
 
 void CAudioReader::openStream(const std::optional<SRawFormat> &raw) {
@@ -192,7 +192,7 @@ void CAudioReader::requireAllFrames() {
     // SoX converts MP3 to a stream of about the length that it announces: three frames of MP3 may
     // be missing.
     const std::int64_t tolerance = m_stream != nullptr ? std::int64_t(3) * 1152 : 0;
-    m_framesMissing = hasMost() ? m_info.frames - m_framesRead : 0;
+    m_framesMissing = isBounded() ? m_info.frames - m_framesRead : 0;
     if (m_framesMissing > tolerance)
         fail("truncated or damaged, it ends after " + std::to_string(m_framesRead) + " of " +
              std::to_string(m_info.frames) + " frames");

@@ -38,7 +38,7 @@ public:
     /// whose header may contain an estimate, and for MP3, where libsndfile makes one.
     bool knowsLength() const { return m_knowsLength; }
     /// @return true if no more than frames() can follow.
-    bool hasMost() const { return m_info.frames != SF_COUNT_MAX && !isMp3(); }
+    bool isBounded() const { return m_info.frames != SF_COUNT_MAX && !isMp3(); }
     /// @return how many frames standard input has ended before the length in its header.
     std::int64_t framesMissing() const { return m_framesMissing; }
     std::int64_t frames() const;  ///< that read() will return; SF_COUNT_MAX if there is no estimate

@@ -57,6 +57,8 @@ bool CStreamedSound::readWavHead() {
         }
         if (!readOn(size + size % 2))
             return false;
+        // libsndfile does not expect the byte of padding in RF64.
+        m_head.replace(chunk - 4, 4, bytesOf(size + size % 2), 0, 4);
         const std::string_view contents = std::string_view(m_head).substr(chunk);
         if (name == "fmt " && size >= 16)
             isReadable = isPlain(numberIn(contents.substr(0, 2)));

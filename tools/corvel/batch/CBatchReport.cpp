@@ -43,7 +43,7 @@ void CBatchReport::printOutcome(const SRenderOutcome &outcome) {
 
 int CBatchReport::finish() {
     // The reader of the sound had enough, as "head" often has: nothing to report.
-    if (isOutputAbandoned() && isStandardStream(m_outcomes.front().job.out))
+    if (isOutputAbandoned() && !m_outcomes.empty() && isStandardStream(m_outcomes.front().job.out))
         return interruptionStatus();
     if (!m_call.quiet)
         printNotes();

@@ -40,7 +40,7 @@ SOutputPlan planOutput(const SRenderJob &job, const SRenderOptions &options,
                       : outputFormat(reader.format(), options.format, job.out);
     plan.channels = channelsOf(job, options);
     plan.sampleRate = sampleRateOf(job, options, plan.format, reader.sampleRate());
-    if (reader.hasMost()) {
+    if (reader.isBounded()) {
         plan.frames = framesAtRate(reader.frames(), reader.sampleRate(), plan.sampleRate) +
                       tailFrames(options, plan.sampleRate);
     }

@@ -268,6 +268,8 @@ private:
         m_held.fill(std::vector<double>(latency, 0.0));
         m_tempo = -1.0;
         log(m_mono ? "mono" : "stereo");
+        if (m_host(&m_record, audioMasterPinConnected, 1, 1, nullptr, 0.0f) != 0)
+            log("one output");
     }
 
     template <typename Sample>
