@@ -130,8 +130,10 @@ std::int64_t CAudioReader::read(double *samples, std::int64_t frames) {
 template <typename Sample>
 std::int64_t CAudioReader::readParts(Sample *samples, std::int64_t frames) {
     frames = std::min(frames, m_end - m_framesRead);
+    if (frames == 0)
+        return 0;
     std::int64_t done = 0;
-    while (frames > 0) {
+    for (;;) {
         Sample *const next = samples + done * channels();
         if constexpr (std::is_same_v<Sample, float>)
             done += sf_readf_float(m_file.get(), next, frames - done);

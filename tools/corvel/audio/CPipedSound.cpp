@@ -28,7 +28,8 @@ SNDFILE *CPipedSound::open(SF_INFO &info) {
     // The types up to this number are not compressed.
     if ((info.format & SF_FORMAT_SUBMASK) > SF_FORMAT_DOUBLE)
         m_frames.reset();
-    m_frameBytes = static_cast<std::uint64_t>(bytesPerSample(info.format) * info.channels);
+    m_frameBytes = static_cast<std::uint64_t>(bytesPerSample(info.format)) *
+                   static_cast<std::uint64_t>(info.channels);
     return sf_open_virtual(&calls, SFM_WRITE, &info, this);
 }
 

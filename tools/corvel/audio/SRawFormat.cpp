@@ -32,10 +32,11 @@ int numberUpTo(int highest, std::string_view text) {
 }
 
 int sampleTypeOf(std::string_view name) {
-    for (const SRawType &type : rawTypes)
+    for (const SRawType &type : rawTypes) {
         if (equalInAnyCapitals(name, type.name) ||
             equalInAnyCapitals(name, std::string(type.name).append("le")))
             return type.sampleType;
+    }
     return 0;
 }
 
@@ -43,9 +44,10 @@ int sampleTypeOf(std::string_view name) {
 
 SRawFormat rawFormatFromText(std::string_view text) {
     const auto parts = split(text, ':');
-    if (parts.size() != 3)
+    if (parts.size() != 3) {
         throw CCallError("--raw: " + inQuotes(text) +
                          " is not RATE:CHANNELS:FORMAT, such as 44100:2:s16");
+    }
     const SRawFormat format = {numberUpTo(highestRate, parts[0]), numberUpTo(2, parts[1]),
                                sampleTypeOf(parts[2])};
     if (format.sampleRate == 0)

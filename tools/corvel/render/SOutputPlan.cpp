@@ -44,10 +44,11 @@ SOutputPlan planOutput(const SRenderJob &job, const SRenderOptions &options,
         plan.frames = framesAtRate(reader.frames(), reader.sampleRate(), plan.sampleRate) +
                       tailFrames(options, plan.sampleRate);
     }
-    if (!isStandardStream(job.out))
+    if (!isStandardStream(job.out)) {
         plan.format = plan.frames
                           ? formatForLength(plan.format, *plan.frames, plan.channels, job.out)
                           : formatForUnknownLength(plan.format);
+    }
     if (!reader.knowsLength() || options.tailAuto)
         plan.frames.reset();
     return plan;
