@@ -257,6 +257,23 @@ TEST_F(RenderLoudness, ClippingCanFail) {
     EXPECT_EQ(run.errors, "");
 }
 
+TEST_F(RenderLoudness, WhatClipsDoesNotReachStandardOutput) {
+    writeSound(folder / "in.wav", loudIntegers());
+    renderFiles(twiceAnd({"in.wav", "-", "--clip", "fail", "--raw", "44100:2:s16"}));
+    expectOneError(run, 1, "standard output: it would clip, so nothing was written");
+    renderFiles({"in.wav", "-", "--clip", "fail", "--raw", "44100:2:s16"});
+    EXPECT_EQ(run.status, 0) << run.errors;
+    EXPECT_EQ(run.out.size(), 44100u * 4u);
+}
+
+TEST_F(RenderLoudness, AStreamIsNormalized) {
+    writeSound(folder / "in.wav", voice(1, 60000));
+    renderFiles({"in.wav", "-", "--normalize", "-16LUFS", "--format", "wav:float"});
+    EXPECT_EQ(run.status, 0) << run.errors;
+    writeFile(folder / "out.wav", run.out);
+    EXPECT_NEAR(*measure(readSound(folder / "out.wav")).integrated, -16.0, 1e-4);
+}
+
 TEST_F(RenderLoudness, AFileThatClipsFailsAlone) {
     writeSound(folder / "loud.wav", loudIntegers());
     writeSound(folder / "quiet.wav", scaled(voice(1, 1000), 0.1));

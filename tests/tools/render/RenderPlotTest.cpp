@@ -84,6 +84,13 @@ TEST_F(RenderPlot, OnePictureForSeveralInputsIsAWrongCall) {
     EXPECT_FALSE(std::filesystem::exists(folder / "out"));
 }
 
+TEST_F(RenderPlot, StandardOutputHasNoNameForAPicture) {
+    expectOneError(render({"in.wav", "-", "--plot", "svg"}), 2,
+                   "--plot: standard output has no name for the picture; use a file name");
+    EXPECT_EQ(render({"in.wav", "-", "--plot", "picture.svg"}).status, 0);
+    EXPECT_THAT(readFile(folder / "picture.svg"), HasSubstr("<title>standard output</title>"));
+}
+
 TEST_F(RenderPlot, AnotherEndingIsAWrongCall) {
     for (const char *name : {"picture.jpg", "picture", "picture.svg.gz", ".svg", ""})
         expectOneError(render({"in.wav", "out.wav", "--plot", name}), 2,

@@ -1,5 +1,6 @@
 #include "corvel/batch/Pictures.h"
 
+#include "corvel/audio/StandardStream.h"
 #include "corvel/console/Errors.h"
 #include "corvel/console/Text.h"
 #include "corvel/files/FileFacts.h"
@@ -35,6 +36,8 @@ void namePictures(SJobs &jobs, const std::string &request) {
     if (!isBesideOutputs && jobs.jobs.size() > 1)
         throw CCallError("--plot: several inputs need a picture each; --plot svg or --plot png "
                          "puts it beside the output");
+    if (isBesideOutputs && isStandardStream(jobs.jobs.front().out))
+        throw CCallError("--plot: standard output has no name for the picture; use a file name");
     for (SRenderJob &job : jobs.jobs) {
         job.picture = isBesideOutputs ? job.out.string() + "." + request : request;
         pictureFormatOf(job.picture);

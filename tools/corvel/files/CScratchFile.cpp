@@ -1,15 +1,26 @@
 #include "corvel/files/CScratchFile.h"
 
+#include "corvel/audio/StandardStream.h"
 #include "corvel/console/Errors.h"
+#include "platform/NamelessFile.h"
 
 #include <cerrno>
 #include <system_error>
 
 namespace Tessitor::Tool {
 
-CScratchFile::CScratchFile(const std::filesystem::path &beside, EExisting existing)
-    : m_beside(beside), m_pending(beside, existing),
-      m_file(std::fopen(m_pending.path().c_str(), "w+b")) {
+namespace {
+
+std::filesystem::path folderFor(const std::filesystem::path &place) {
+    if (isStandardStream(place))
+        return std::filesystem::temp_directory_path();
+    return place.has_parent_path() ? place.parent_path() : ".";
+}
+
+}  // namespace
+
+CScratchFile::CScratchFile(const std::filesystem::path &place)
+    : m_place(place), m_file(openNamelessFile(folderFor(place))) {
     if (m_file == nullptr)
         fail();
 }
@@ -33,7 +44,7 @@ std::size_t CScratchFile::read(void *bytes, std::size_t count) {
 }
 
 void CScratchFile::fail() const {
-    throw CJobError(m_beside.string() + ": its temporary file cannot be used (" +
+    throw CJobError(nameOfOutput(m_place) + ": its temporary file cannot be used (" +
                     std::system_category().message(errno) + ")");
 }
 

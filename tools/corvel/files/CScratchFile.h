@@ -1,7 +1,5 @@
 #pragma once
 
-#include "corvel/files/CPendingFile.h"
-
 #include <cstddef>
 #include <cstdio>
 #include <filesystem>
@@ -9,14 +7,14 @@
 
 namespace Tessitor::Tool {
 
-/// Bytes that are too many for the memory: written once, then read. They lie beside the file that
-/// is made from them, in a file that is deleted with this object, or by a signal that ends the
-/// program.
+/// Bytes that are too many for the memory: written once, then read. They are kept in a file without
+/// a name, so it ends with the program, whatever ends it.
 class CScratchFile {
 public:
-    /// @param beside  the file that is made from it; also what errors name.
+    /// @param place  of the file that is made from them, which decides on the disk; or "-" for
+    ///               standard output. Errors name it.
     /// @throws CJobError if nothing can be written there.
-    CScratchFile(const std::filesystem::path &beside, EExisting existing);
+    explicit CScratchFile(const std::filesystem::path &place);
 
     /// @throws CJobError, for example if the disk is full.
     void write(const void *bytes, std::size_t count);
@@ -33,8 +31,7 @@ private:
     };
     [[noreturn]] void fail() const;
 
-    std::filesystem::path m_beside;
-    CPendingFile m_pending;  // never committed; must outlive m_file
+    std::filesystem::path m_place;
     std::unique_ptr<std::FILE, SCloser> m_file;
 };
 

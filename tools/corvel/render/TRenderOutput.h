@@ -2,6 +2,8 @@
 
 #include "corvel/audio/CAudioWriter.h"
 #include "corvel/audio/CSoundMeter.h"
+#include "corvel/audio/StandardStream.h"
+#include "corvel/console/Errors.h"
 #include "corvel/console/Interrupt.h"
 #include "corvel/files/CScratchFile.h"
 #include "corvel/render/OutputGain.h"
@@ -55,6 +57,7 @@ private:
     const std::size_t m_channels;
     const std::optional<SLoudnessTarget> m_target;
     const bool m_keepsHeadroom;
+    const bool m_failsEarly;  // since standard output cannot be taken back
     const int m_bits;
     const bool m_dithered;
 
@@ -74,9 +77,11 @@ TRenderOutput<Sample>::TRenderOutput(const SRenderJob &job, const SRenderOptions
     : m_writer(writer), m_meter(meter), m_channels(static_cast<std::size_t>(writer.channels())),
       m_target(options.normalize),
       m_keepsHeadroom(options.clip == EClip::Headroom && integerBits(result.formatOut) != 0),
+      m_failsEarly(options.clip == EClip::Fail && isStandardStream(job.out) &&
+                   integerBits(result.formatOut) != 0),
       m_bits(integerBits(result.formatOut)), m_dithered(result.dithered) {
-    if (m_target || m_keepsHeadroom)
-        m_scratch.emplace(job.out, options.existing);
+    if (m_target || m_keepsHeadroom || m_failsEarly)
+        m_scratch.emplace(job.out);
     if (m_target)
         m_loudness.emplace(writer.sampleRate(), writer.channels(), partsFor(*m_target));
 }
@@ -105,7 +110,12 @@ std::optional<SOutputGain> TRenderOutput<Sample>::finish(const RenderListener &l
     if (!m_scratch)
         return {};
     const SOutputGain result = gain();
+    if (m_failsEarly && result.factor > factorToFullScale(m_range, m_bits, m_dithered))
+        throw CJobError("standard output: it would clip, so nothing was written; --clip headroom "
+                        "turns it down");
     deliverScratch(result.factor, listener);
+    if (!m_target && !m_keepsHeadroom)
+        return {};
     return result;
 }
 
