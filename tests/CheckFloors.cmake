@@ -45,7 +45,8 @@ set(standard
     valarray variant vector version)
 # Headers of the compiler, the same on every system
 set(compiler cpuid.h cxxabi.h emmintrin.h immintrin.h)
-set(libraries_corvel CLI/CLI.hpp cairo-svg.h ebur128.h nlohmann/json.hpp samplerate.h sndfile.h)
+set(libraries_corvel CLI/CLI.hpp cairo-svg.h ebur128.h jack/jack.h jack/midiport.h nlohmann/json.hpp samplerate.h
+    sndfile.h)
 set(libraries_manual_facts nlohmann/json.hpp)
 
 file(GLOB_RECURSE files RELATIVE ${SOURCE} ${SOURCE}/src/*.h ${SOURCE}/src/*.cpp ${SOURCE}/tools/*.h

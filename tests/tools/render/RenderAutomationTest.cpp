@@ -160,6 +160,13 @@ TEST_F(RenderAutomation, AMonoFileIsAutomated) {
     EXPECT_NEAR(mono[4410], 0.25 * gain(1.0), 1e-6);
 }
 
+TEST_F(RenderAutomation, AnExcerptKeepsTheTimesOfTheFile) {
+    EXPECT_EQ(firstChange(render("0.2 Gain @1\n", {"--start", "0.05"})), 6615u);
+    const std::vector<double> out = render("0.02 Gain @1\n", {"--start", "0.05"});
+    EXPECT_NEAR(out.front(), 0.25 * gain(1.0), 1e-6);
+    EXPECT_EQ(out.back(), out.front());
+}
+
 TEST_F(RenderAutomation, WithoutPointsNothingChanges) {
     render("# nothing yet\n");
     EXPECT_EQ(readSound(folder / "out.wav").samples, sound.samples);

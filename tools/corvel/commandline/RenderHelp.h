@@ -129,7 +129,7 @@ Automation
   moves in a straight line; two points at the same time make a jump. A parameter that is a
   choice, like DlyPngPng, keeps each value until its next point. Before the first point
   the program or --set decides, and after the last one the value stays. Times count from the
-  start of the file and may lie before it or after its end.
+  start of the file, with --start too, and may lie before it or after its end.
 
   A point takes effect at its exact sample. In between, values are updated once per block,
   as in host programs: every 23 ms with the usual 1024 frames at 44.1 kHz. A smaller --block

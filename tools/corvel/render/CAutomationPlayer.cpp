@@ -17,13 +17,14 @@ std::int64_t frameAt(double seconds, double sampleRate) {
 }  // namespace
 
 CAutomationPlayer::CAutomationPlayer(const CAutomation &automation, CEffectInstance &effect,
-                                     double sampleRate)
+                                     double sampleRate, double startSeconds)
     : m_effect(effect), m_isStrip(hasChain(effect)) {
     for (const CAutomation::SLane &source : automation.lanes()) {
         SLane &lane = m_lanes.emplace_back();
         lane.source = &source;
         for (const CAutomation::SPoint &point : source.points)
-            lane.frames.push_back(frameAt(point.seconds, sampleRate));
+            lane.frames.push_back(frameAt(point.seconds, sampleRate) -
+                                  frameAt(startSeconds, sampleRate));
     }
 }
 

@@ -15,8 +15,10 @@ namespace Tessitor::Tool {
 /// parameter its value is left alone, and after the last point it stays.
 class CAutomationPlayer {
 public:
-    /// @param sampleRate  that the effect runs at, Hz. The first block starts at 0 seconds.
-    CAutomationPlayer(const CAutomation &automation, CEffectInstance &effect, double sampleRate);
+    /// @param sampleRate    that the effect runs at, Hz.
+    /// @param startSeconds  the time of the first frame.
+    CAutomationPlayer(const CAutomation &automation, CEffectInstance &effect, double sampleRate,
+                      double startSeconds = 0.0);
 
     /// Sets the values for the start of the next block.
     /// @param frames  how long the block would be; at least 1.

@@ -1,5 +1,6 @@
 #include "corvel/render/Render.h"
 
+#include "corvel/audio/StandardStream.h"
 #include "corvel/console/Errors.h"
 #include "corvel/plot/PictureFile.h"
 #include "corvel/render/RenderPicture.h"
@@ -58,7 +59,8 @@ void requirePlaceForPicture(const SRenderJob &job, const SRenderOptions &options
 std::string drawPicture(const SRenderJob &job, const CEffectSettings &settings,
                         const SRenderOptions &options, const CSoundMeter &before,
                         const CSoundMeter &after, const SRenderResult &result) {
-    SPictureText text{job.out.string(), "from " + job.in.string() + ", " + settings.programName()};
+    SPictureText text{nameOfOutput(job.out),
+                      "from " + nameOfInput(job.in) + ", " + settings.programName()};
     if (result.gain)
         text.subtitle += ", gain " + describe(*result.gain, options.normalize);
     const EPictureFormat format = pictureFormatOf(job.picture);

@@ -107,7 +107,8 @@ TRenderLoop<Sample>::TRenderLoop(const SRenderJob &job, const SRenderOptions &op
     if (options.tailAuto)
         m_autoTail.emplace(m_channelsOut, silenceFrames(options, m_rateOut));
     if (automation)
-        m_automation.emplace(*automation, effect, options.resample ? stripRate : m_rateIn);
+        m_automation.emplace(*automation, effect, options.resample ? stripRate : m_rateIn,
+                             options.excerpt.startSeconds);
 }
 
 template <typename Sample>

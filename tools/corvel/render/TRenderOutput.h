@@ -34,6 +34,7 @@ public:
                   CAudioWriter &writer, CSoundMeter &meter);
 
     int channels() const { return m_writer.channels(); }
+    int sampleRate() const { return m_writer.sampleRate(); }
 
     /// @param samples  interleaved.
     void write(const Sample *samples, std::size_t frames);
