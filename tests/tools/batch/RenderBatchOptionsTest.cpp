@@ -175,6 +175,13 @@ TEST_F(RenderBatchOptions, ADryRunChangesNothing) {
     EXPECT_FALSE(fs::exists(folder / "out/day 1"));
 }
 
+TEST_F(RenderBatchOptions, ADryRunNamesTheStandardStreams) {
+    const SProgramRun run = render({"-", "-", "--dry-run"}, "exec < /dev/null;");
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.out, "");
+    EXPECT_EQ(run.errors, "standard input -> standard output\n1 of 1 files would be rendered\n");
+}
+
 TEST_F(RenderBatchOptions, ADryRunKnowsWhatCannotBeWritten) {
     writeFile(folder / "old.wav", "old");
     const auto dry = [&](std::vector<std::string> arguments) {

@@ -46,7 +46,8 @@ std::string describe(const SRenderOutcome &outcome) {
     std::error_code ignored;
     const bool skipped = outcome.kind == EOutcome::Skipped;
     const bool replaced = !skipped && fs::exists(outcome.job.out, ignored);
-    return printable(outcome.job.in.string()) + " -> " + printable(outcome.job.out.string()) +
+    return printable(nameOfInput(outcome.job.in)) + " -> " +
+           printable(nameOfOutput(outcome.job.out)) +
            (skipped    ? "  (skipped: newer than its input)"
             : replaced ? "  (replaces the existing file)"
                        : "") +
