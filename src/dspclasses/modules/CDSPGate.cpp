@@ -70,10 +70,11 @@ void CDSPGate::run(const Sample *const *in, Sample *const *out, int frames) {
         peak = 0.0f;
         gain = closed;
     }
-    if (frames > 0)
-        runWide([=, this](auto processor) {
-            runSteps<decltype(processor)>(in[0], in[1], out[0], out[1], frames);
-        });
+    if (frames <= 0)
+        return;
+    runWide([=, this](auto processor) {
+        runSteps<decltype(processor)>(in[0], in[1], out[0], out[1], frames);
+    });
 }
 
 template <typename Processor, typename Sample>

@@ -23,10 +23,11 @@ void requireInputsToSurvive(const SJobs &jobs) {
         taken.insert(placeOf(job.in));
         taken.insert(placeOf(job.out));
     }
-    for (const SRenderJob &job : jobs.jobs)
+    for (const SRenderJob &job : jobs.jobs) {
         if (taken.contains(placeOf(job.picture)))
             throw CCallError(job.picture.string() +
                              ": is also an input or an output and would be overwritten");
+    }
 }
 
 }  // namespace

@@ -170,10 +170,11 @@ std::vector<std::string> warnings(const SRenderOutcome &outcome, const SRenderOp
                         counted(result.nonFiniteSamples, "sample") + " infinite or not a number, " +
                         (options.keepNan ? "kept" : "rendered as 0; --keep-nan keeps them"));
     }
-    if (result.framesMissing > 0)
+    if (result.framesMissing > 0) {
         lines.push_back("warning: " + nameOfInput(outcome.job.in) + ": ended " +
                         counted(static_cast<std::uint64_t>(result.framesMissing), "frame") +
                         " before the length in its header");
+    }
     if (result.clippedSamples > 0)
         lines.push_back("warning: " + nameOfOutput(outcome.job.out) + ": " +
                         counted(result.clippedSamples, "sample") + " clipped");

@@ -88,14 +88,14 @@ int runRender(const SRenderCall &call) {
     requireRenderable(trial, call.options);
     const CEffectSettings settings(call.settings, trial);
     SJobs jobs = jobsFromFiles(call.files, call.options.format, settings.programName());
-    if (call.plot)
-        namePictures(jobs, *call.plot);
-    printNotes(settings.notes(), call);
-    printNotes(notesOnStrip(trial, call.options), call);
     if (jobs.jobs.empty()) {
         printNotes({"note: " + *call.files.list + ": lists no files"}, call);
         return 0;
     }
+    if (call.plot)
+        namePictures(jobs, *call.plot);
+    printNotes(settings.notes(), call);
+    printNotes(notesOnStrip(trial, call.options), call);
     if (call.dryRun)
         return runDry(jobs, call, settings, library);
     if (call.savePreset)
