@@ -23,14 +23,14 @@ public:
     /// The same in double precision. [audio thread] The base does nothing.
     virtual void processDoubleReplacing(double **in, double **out, int frames);
 
-    /// What a block does with its output.
-    enum class EEffect {
-        Sound,  ///< writes it
-        Copy,   ///< writes the input to it
-        None,   ///< leaves it alone
+    /// What a block leaves in the output buffers.
+    enum class EOutput {
+        Processed,
+        Copied,     ///< the input, unchanged
+        Unwritten,  ///< what they held before
     };
-    /// [audio thread] EEffect::Sound from the base.
-    virtual EEffect getEffect() const { return EEffect::Sound; }
+    /// @return what the next block does. [audio thread] EOutput::Processed from the base.
+    virtual EOutput getOutput() const { return EOutput::Processed; }
 
     /// Clears the running state, now or when the next block begins, and keeps the parameters. The
     /// base does nothing. [any thread]

@@ -13,11 +13,11 @@ float CDSPMono::getParameter(int /*index*/) {
     return static_cast<float>(mode.load()) / 3.0f;
 }
 
-CDSPBase::EEffect CDSPMono::getEffect() const {
+CDSPBase::EOutput CDSPMono::getOutput() const {
     const std::int32_t present = mode;
     if (present == kStereo)
-        return EEffect::Copy;
-    return present >= kCombine && present < kStereo ? EEffect::Sound : EEffect::None;
+        return EOutput::Copied;
+    return present >= kCombine && present < kStereo ? EOutput::Processed : EOutput::Unwritten;
 }
 
 template <typename Sample>

@@ -25,7 +25,7 @@ public:
     void processReplacing(float **in, float **out, int frames) override;
     void processDoubleReplacing(double **in, double **out, int frames) override;
 
-    EEffect getEffect() const override;
+    EOutput getOutput() const override;
 
     std::int32_t getMode() const { return mode; }  ///< an EMode or any other number
 

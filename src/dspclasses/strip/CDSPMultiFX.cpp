@@ -111,8 +111,8 @@ void CDSPMultiFX::run(Sample **in, Sample **out, int frames, TStripBuffers<Sampl
     Sample **cur = buffers.DryBuf, **alt = buffers.WetBuf;
     // After a routing that writes nothing, one hears what its output holds from the stages before.
     // So all of them must then write to the buffers.
-    const bool mayTakeShortcuts =
-        moduleIn(kInMonoSlot).getEffect() != EEffect::None && outMono->getEffect() != EEffect::None;
+    const bool mayTakeShortcuts = moduleIn(kInMonoSlot).getOutput() != EOutput::Unwritten &&
+                                  outMono->getOutput() != EOutput::Unwritten;
     if (!mayTakeShortcuts) {
         std::copy_n(source[0], frames, cur[0]);
         std::copy_n(source[1], frames, cur[1]);
@@ -129,7 +129,7 @@ void CDSPMultiFX::run(Sample **in, Sample **out, int frames, TStripBuffers<Sampl
             process(module, cur, out, frames);
             return;
         }
-        if (mayTakeShortcuts && module.getEffect() == EEffect::Copy)
+        if (mayTakeShortcuts && module.getOutput() == EOutput::Copied)
             continue;
         process(module, cur, alt, frames);
         std::swap(cur, alt);
