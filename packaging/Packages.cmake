@@ -26,8 +26,8 @@ else()
     set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
     set(CPACK_DEBIAN_PACKAGE_SECTION sound)
     set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-    # Opened at run time, so it is not found by itself.
-    set(CPACK_DEBIAN_PACKAGE_DEPENDS "libcairo2")
+    # Opened at run time, so they are not found by themselves.
+    set(CPACK_DEBIAN_PACKAGE_DEPENDS "libcairo2, libjack-jackd2-0 | libjack-0.125")
     # The theme's mouse pointers, the button Help and the window's text
     set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "libxcb-cursor0, xdg-utils, fonts-liberation")
     set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)

@@ -21,6 +21,15 @@ TEST(LiveErrors, NoServerIsOneLine) {
                    "corvel: no JACK server \"nobody\" is running\n");
 }
 
+TEST(LiveErrors, OnlyPlayingLiveNeedsJack) {
+    const CTemporaryFolder folder;
+    writeFile(folder / "libjack.so.0", "no library");
+    const std::string broken = "LD_LIBRARY_PATH=" + folder.path().string();
+    EXPECT_EQ(corvel({"programs"}, broken).status, 0);
+    expectOneError(corvel({"live"}, broken), 1,
+                   "libjack.so.0: cannot be loaded; corvel live plays through it");
+}
+
 TEST(LiveErrors, WrongValuesAreWrongCalls) {
     for (const std::string value : {"x", "", "9", "1001", "-1", "nan"})
         expectWrongCall({"--tempo", value}, value + " is not a number from 10 to 1000");

@@ -16,8 +16,8 @@ constexpr const char *midiType = JACK_DEFAULT_MIDI_TYPE;
 
 // The library would print its own errors and remarks, some of them on the audio thread.
 void silenceLibrary() {
-    jack_set_error_function([](const char *) {});
-    jack_set_info_function([](const char *) {});
+    CJack::get().setErrorFunction([](const char *) {});
+    CJack::get().setInfoFunction([](const char *) {});
 }
 
 std::string describeFailure(const SJackOptions &options, jack_status_t status) {
@@ -34,7 +34,7 @@ std::string describeFailure(const SJackOptions &options, jack_status_t status) {
 }  // namespace
 
 std::string problemOfClientName(const std::string &name) {
-    const auto longest = static_cast<std::size_t>(jack_client_name_size()) - 1;
+    const auto longest = static_cast<std::size_t>(CJack::get().clientNameSize()) - 1;
     const auto isControl = [](char letter) { return static_cast<unsigned char>(letter) < ' '; };
     if (name.empty())
         return "the name is empty";
@@ -52,11 +52,11 @@ CJackClient::open(const SJackOptions &options) {
     silenceLibrary();
     jack_status_t status{};
     jack_client_t *client =
-        options.server
-            ? jack_client_open(options.name.c_str(),
-                               static_cast<jack_options_t>(JackNoStartServer | JackServerName),
-                               &status, options.server->c_str())
-            : jack_client_open(options.name.c_str(), JackNoStartServer, &status);
+        options.server ? CJack::get().clientOpen(
+                             options.name.c_str(),
+                             static_cast<jack_options_t>(JackNoStartServer | JackServerName),
+                             &status, options.server->c_str())
+                       : CJack::get().clientOpen(options.name.c_str(), JackNoStartServer, &status);
     if (client == nullptr)
         throw CJobError(describeFailure(options, status));
     return std::unique_ptr<jack_client_t, SCloser>(client);
@@ -64,8 +64,8 @@ CJackClient::open(const SJackOptions &options) {
 
 CJackClient::CJackClient(const SJackOptions &options)
     : m_latency(options.latency), m_client(open(options)),
-      m_sampleRate(jack_get_sample_rate(m_client.get())),
-      m_blockFrames(jack_get_buffer_size(m_client.get())) {
+      m_sampleRate(m_jack.getSampleRate(m_client.get())),
+      m_blockFrames(m_jack.getBufferSize(m_client.get())) {
     m_in = {addPort("in_left", audioType, JackPortIsInput),
             addPort("in_right", audioType, JackPortIsInput)};
     m_out = {addPort("out_left", audioType, JackPortIsOutput),
@@ -75,12 +75,20 @@ CJackClient::CJackClient(const SJackOptions &options)
     setCallbacks();
 }
 
+void CJackClient::SCloser::operator()(jack_client_t *client) const {
+    CJack::get().clientClose(client);
+}
+
+std::string CJackClient::name() const {
+    return m_jack.getClientName(m_client.get());
+}
+
 CJackClient::~CJackClient() {
-    jack_deactivate(m_client.get());
+    m_jack.deactivate(m_client.get());
 }
 
 jack_port_t *CJackClient::addPort(const char *portName, const char *type, unsigned long flags) {
-    jack_port_t *port = jack_port_register(m_client.get(), portName, type, flags, 0);
+    jack_port_t *port = m_jack.portRegister(m_client.get(), portName, type, flags, 0);
     if (port == nullptr)
         throw CJobError("the JACK server has no port left for " + name());
     return port;
@@ -88,33 +96,33 @@ jack_port_t *CJackClient::addPort(const char *portName, const char *type, unsign
 
 void CJackClient::setCallbacks() {
     jack_client_t *client = m_client.get();
-    jack_set_process_callback(
+    m_jack.setProcessCallback(
         client, [](jack_nframes_t frames, void *object) { return self(object).process(frames); },
         this);
-    jack_set_sample_rate_callback(
+    m_jack.setSampleRateCallback(
         client,
         [](jack_nframes_t rate, void *object) {
             self(object).m_sampleRate = rate;
             return 0;
         },
         this);
-    jack_set_buffer_size_callback(
+    m_jack.setBufferSizeCallback(
         client,
         [](jack_nframes_t frames, void *object) {
             self(object).m_blockFrames = frames;
             return 0;
         },
         this);
-    jack_set_xrun_callback(
+    m_jack.setXrunCallback(
         client,
         [](void *object) {
             ++self(object).m_xruns;
             return 0;
         },
         this);
-    jack_on_shutdown(
+    m_jack.onShutdown(
         client, [](void *object) { self(object).m_isServerGone = true; }, this);
-    jack_set_latency_callback(
+    m_jack.setLatencyCallback(
         client,
         [](jack_latency_callback_mode_t mode, void *object) { self(object).reportLatency(mode); },
         this);
@@ -122,7 +130,7 @@ void CJackClient::setCallbacks() {
 
 void CJackClient::activate(CLiveRack &rack) {
     m_rack = &rack;
-    if (jack_activate(m_client.get()) != 0)
+    if (m_jack.activate(m_client.get()) != 0)
         throw CJobError("the JACK server does not start the client");
 }
 
@@ -131,13 +139,13 @@ std::vector<std::string> CJackClient::connectToSystem() {
     const auto sinks = systemPorts(audioType, JackPortIsInput);
     for (std::size_t i = 0; i < m_in.size(); ++i) {
         if (!sources.empty())
-            connect(sources[std::min(i, sources.size() - 1)], jack_port_name(m_in[i]));
+            connect(sources[std::min(i, sources.size() - 1)], m_jack.portName(m_in[i]));
         if (!sinks.empty())
-            connect(jack_port_name(m_out[i]), sinks[std::min(i, sinks.size() - 1)]);
+            connect(m_jack.portName(m_out[i]), sinks[std::min(i, sinks.size() - 1)]);
     }
     if (m_midiIn != nullptr)
         for (const std::string &source : systemPorts(midiType, JackPortIsOutput))
-            connect(source, jack_port_name(m_midiIn));
+            connect(source, m_jack.portName(m_midiIn));
     waitForConnections();
     std::vector<std::string> missing;
     if (sources.empty())
@@ -149,8 +157,7 @@ std::vector<std::string> CJackClient::connectToSystem() {
 
 std::vector<std::string> CJackClient::systemPorts(const char *type, unsigned long flags) const {
     const std::unique_ptr<const char *, decltype(&jack_free)> ports(
-        jack_get_ports(m_client.get(), nullptr, type, flags | JackPortIsPhysical),
-        [](void *list) { jack_free(list); });
+        m_jack.getPorts(m_client.get(), nullptr, type, flags | JackPortIsPhysical), m_jack.free);
     std::vector<std::string> names;
     for (const char **port = ports.get(); port != nullptr && *port != nullptr; ++port)
         names.emplace_back(*port);
@@ -159,7 +166,7 @@ std::vector<std::string> CJackClient::systemPorts(const char *type, unsigned lon
 
 // A connection that the server refuses, since a port has just gone, is left to the user.
 void CJackClient::connect(const std::string &from, const std::string &to) const {
-    jack_connect(m_client.get(), from.c_str(), to.c_str());
+    m_jack.connect(m_client.get(), from.c_str(), to.c_str());
 }
 
 // A new connection comes into effect at the start of a cycle. The current one may have started.
@@ -177,8 +184,8 @@ void CJackClient::waitForConnections() const {
 int CJackClient::process(jack_nframes_t frames) {
     ++m_cycles;
     setProcessLevelOfThread(kVstProcessLevelRealtime);
-    const auto buffer = [frames](jack_port_t *port) {
-        return static_cast<float *>(jack_port_get_buffer(port, frames));
+    const auto buffer = [this, frames](jack_port_t *port) {
+        return static_cast<float *>(m_jack.portGetBuffer(port, frames));
     };
     const std::size_t messages = readMidi(frames);
     m_rack->process({{buffer(m_in[0]), buffer(m_in[1])},
@@ -192,12 +199,12 @@ int CJackClient::process(jack_nframes_t frames) {
 std::size_t CJackClient::readMidi(jack_nframes_t frames) {
     if (m_midiIn == nullptr)
         return 0;
-    void *buffer = jack_port_get_buffer(m_midiIn, frames);
-    const std::uint32_t events = jack_midi_get_event_count(buffer);
+    void *buffer = m_jack.portGetBuffer(m_midiIn, frames);
+    const std::uint32_t events = m_jack.midiGetEventCount(buffer);
     std::size_t count = 0;
     for (std::uint32_t i = 0; i < events && count < m_messages.size(); ++i) {
         jack_midi_event_t event{};
-        if (jack_midi_event_get(&event, buffer, i) != 0)
+        if (m_jack.midiEventGet(&event, buffer, i) != 0)
             continue;
         if (const auto message =
                 midiMessageFrom({event.buffer, event.size}, static_cast<std::int32_t>(event.time)))
@@ -209,7 +216,7 @@ std::size_t CJackClient::readMidi(jack_nframes_t frames) {
 STransport CJackClient::readTransport() const {
     jack_position_t position{};
     STransport transport;
-    transport.isRolling = jack_transport_query(m_client.get(), &position) == JackTransportRolling;
+    transport.isRolling = m_jack.transportQuery(m_client.get(), &position) == JackTransportRolling;
     transport.frame = position.frame;
     const bool isSensible = position.beats_per_minute > 0.0 && position.beats_per_bar > 0.0f &&
                             position.beat_type > 0.0f && position.ticks_per_beat > 0.0;
@@ -229,10 +236,10 @@ void CJackClient::reportLatency(jack_latency_callback_mode_t mode) const {
     const auto &to = mode == JackCaptureLatency ? m_out : m_in;
     for (std::size_t i = 0; i < from.size(); ++i) {
         jack_latency_range_t range{};
-        jack_port_get_latency_range(from[i], mode, &range);
+        m_jack.portGetLatencyRange(from[i], mode, &range);
         range.min += latency;
         range.max += latency;
-        jack_port_set_latency_range(to[i], mode, &range);
+        m_jack.portSetLatencyRange(to[i], mode, &range);
     }
 }
 

@@ -1,12 +1,11 @@
 #pragma once
 
+#include "corvel/live/CJack.h"
 #include "corvel/live/CLiveRack.h"
 
 #include <array>
 #include <atomic>
 #include <cstdint>
-#include <jack/jack.h>
-#include <jack/midiport.h>
 #include <memory>
 #include <optional>
 #include <string>
@@ -35,7 +34,7 @@ public:
     CJackClient(const CJackClient &) = delete;
     CJackClient &operator=(const CJackClient &) = delete;
 
-    std::string name() const { return jack_get_client_name(m_client.get()); }
+    std::string name() const;
     // Both may change while the client runs.
     std::uint32_t sampleRate() const { return m_sampleRate; }    ///< Hz
     std::uint32_t blockFrames() const { return m_blockFrames; }  ///< the longest block
@@ -54,7 +53,7 @@ public:
 
 private:
     struct SCloser {
-        void operator()(jack_client_t *client) const { jack_client_close(client); }
+        void operator()(jack_client_t *client) const;
     };
 
     static CJackClient &self(void *object) { return *static_cast<CJackClient *>(object); }
@@ -72,6 +71,7 @@ private:
 
     void reportLatency(jack_latency_callback_mode_t mode) const;  // a thread of the library
 
+    const CJack &m_jack = CJack::get();
     const std::int32_t m_latency;
     std::unique_ptr<jack_client_t, SCloser> m_client;
     std::array<jack_port_t *, 2> m_in{}, m_out{};  // owned by the client

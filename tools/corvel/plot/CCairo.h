@@ -1,31 +1,27 @@
 #pragma once
 
+#include "corvel/files/CSystemLibrary.h"
+
 #include <cairo-svg.h>
 
 namespace Tessitor::Tool {
 
-/// The functions of cairo that draw pictures. The library is loaded with the first picture: with
-/// all that it needs itself, loading it would add half as much again to the start of the program.
+/// The functions of cairo that draw pictures. The library is opened with the first picture.
 class CCairo {
 public:
     /// @throws CJobError if cairo is not installed, or too old. [any thread]
-    static const CCairo &get();
+    static const CCairo &get() {
+        static const CCairo cairo;
+        return cairo;
+    }
     CCairo(const CCairo &) = delete;
     CCairo &operator=(const CCairo &) = delete;
 
 private:
-    /// Becomes a pointer to a function of the type that is asked for.
-    struct SFunction {
-        template <typename Function>
-        operator Function *() const {
-            return reinterpret_cast<Function *>(address);
-        }
-
-        void *address;
-    };
-
     CCairo() = default;
-    static SFunction find(const char *name);
+    CSystemLibrary::SFunction find(const char *name) const { return m_library.function(name); }
+
+    const CSystemLibrary m_library{"libcairo.so.2", "pictures are drawn with it"};
 
 public:
     decltype(&cairo_clip) clip = find("cairo_clip");
