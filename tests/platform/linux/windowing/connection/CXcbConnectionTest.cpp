@@ -6,6 +6,7 @@
 #include "platform/linux/windowing/connection/CNoPipeSignal.h"
 #include "platform/windowing/CWindowSpy.h"
 
+#include <cstdlib>
 #include <gmock/gmock.h>
 #include <thread>
 
@@ -34,6 +35,7 @@ void endHost(std::unique_ptr<CTestClient> host) {
 }
 
 TEST(CXcbConnection, IsNotOpenedWithoutAServer) {
+    unsetenv("DISPLAY");
     CWindowSpy spy;
     spy.options.parent = handleOf(1);
     EXPECT_EQ(createNativeWindow(spy.options, spy, spy.reason), nullptr);
