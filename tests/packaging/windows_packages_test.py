@@ -61,7 +61,7 @@ class Installer(unittest.TestCase):
         return self.folder / name
 
     def uninstall(self, folder):
-        """The uninstaller goes on as a copy of itself, which can delete it; the key is its last work."""
+        """The uninstaller copies itself and continues as the copy; the key is the last thing it deletes."""
         wine(folder / "Corvel/Uninstall.exe", "/S")
         end = time.monotonic() + DEADLINE
         while self.registered():

@@ -49,7 +49,7 @@ template <int lanes>
     return {typename TDoubles<lanes>::Values{} + value};
 }
 
-/// c0 + c1 x, c2 + c3 x and so on are formed first, since they do not wait for each other.
+/// @return c0 + c1 x. The polynomials begin with such pairs, which do not wait for each other.
 template <typename Processor, int lanes>
 [[gnu::always_inline]] inline TDoubles<lanes> linear(const TDoubles<lanes> &x, double c0,
                                                      double c1) {
@@ -181,17 +181,17 @@ template <int lanes>
 /// logarithm. If not, which happens to about one in 2^18 values, all lanes take the long way.
 template <typename Processor>
 [[gnu::always_inline]] inline SFloats4 nearestLogs(const TLogParts<4> &parts) {
-    using SFour = TDoubles<4>;
+    using Four = TDoubles<4>;
 
     // ln(1 + f) = 2 atanh(s) = s (2 + z p(z)) with z = s^2. p is a minimax polynomial; the relative
     // error of the sum is 2^-44.1.
-    const SFour s{parts.s}, k{parts.k}, z = s * s, z2 = z * z;
-    const SFour p01 = linear<Processor>(z, 0x1.55555555f33a0p-1, 0x1.999996d25f45cp-2);
-    const SFour p23 = linear<Processor>(z, 0x1.2494154752006p-2, 0x1.c6255a329300fp-3);
-    const SFour p4 = inEveryLane<4>(0x1.9197e22a80712p-3);
-    const SFour p = multiplyAdd<Processor>(z2, multiplyAdd<Processor>(z2, p4, p23), p01);
-    const SFour quotient = multiplyAdd<Processor>(z, p, inEveryLane<4>(2.0));
-    const SFour log = multiplyAdd<Processor>(s, quotient, k * inEveryLane<4>(0x1.62e42fefa39efp-1));
+    const Four s{parts.s}, k{parts.k}, z = s * s, z2 = z * z;
+    const Four p01 = linear<Processor>(z, 0x1.55555555f33a0p-1, 0x1.999996d25f45cp-2);
+    const Four p23 = linear<Processor>(z, 0x1.2494154752006p-2, 0x1.c6255a329300fp-3);
+    const Four p4 = inEveryLane<4>(0x1.9197e22a80712p-3);
+    const Four p = multiplyAdd<Processor>(z2, multiplyAdd<Processor>(z2, p4, p23), p01);
+    const Four quotient = multiplyAdd<Processor>(z, p, inEveryLane<4>(2.0));
+    const Four log = multiplyAdd<Processor>(s, quotient, k * inEveryLane<4>(0x1.62e42fefa39efp-1));
 
     constexpr double error = 0x1p-43;
     const SFloats4 inner = narrowed(log * inEveryLane<4>(1.0 - error));

@@ -72,8 +72,8 @@ template <typename Sample>
     step.store(out, TFour<Sample>{step.load(in).values * factors});
 }
 
-/// In double precision most of exp and log is skipped, and a loop with fused multiply-add takes a
-/// fifth longer.
+/// In double precision hardly any exp and log is computed, and compiled for fused multiply-add the
+/// loop takes a fifth longer.
 template <typename Sample, typename Processor>
 using MathOf = std::conditional_t<std::is_same_v<Sample, double>, SNarrowLanes, Processor>;
 
@@ -97,7 +97,8 @@ private:
     Mask4 m_areActive{};
 };
 
-/// Stands for the held gain while it is not yet known. Gains are not negative.
+/// Marks the frames whose gain is the held one, which is known only after the block. No gain is
+/// negative.
 constexpr float gainToHold = -1.0f;
 
 /// @param out  the gains of the frames, some of them gainToHold; replaced by the output.

@@ -112,10 +112,10 @@ TEST_F(RenderAutomation, DelayTimeAndSynchronisationGoTogether) {
     const auto out = [&](const std::string &moves) {
         return render(moves, options, CORVEL_EFFECT);
     };
-    // A time that moves while the delay follows the tempo is not heard.
+    // While the delay follows the tempo, a change of its time is not heard.
     EXPECT_TRUE(out("0 DlySync Quaver\n0 DlyTime 300 ms\n0.1 DlyTime 100 ms\n") ==
                 out("0 DlySync Quaver\n0 DlyTime 300 ms\n"));
-    // Afterwards the one that was asked for last is.
+    // After that, the last time that was set is heard.
     EXPECT_TRUE(out("0 DlyTime 300 ms\n0 DlySync Quaver\n0 DlySync ms\n") ==
                 out("0 DlyTime 300 ms\n"));
 }

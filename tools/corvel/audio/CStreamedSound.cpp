@@ -14,7 +14,7 @@ constexpr std::size_t fileHead = 12;   // bytes: "RIFF", a length, "WAVE"
 constexpr std::size_t chunkHead = 8;   // bytes: the name and the length
 constexpr std::size_t longLength = 8;  // offset in the chunk "ds64", after its head
 constexpr std::uint64_t mostHead = std::uint64_t(64) << 20;  // bytes; room for a picture
-// Stands for a length that is not known: longer than anything, and far from overflow.
+// The length of a stream that does not say it: longer than any sound, and far from overflow.
 constexpr std::uint64_t endless = std::uint64_t(1) << 60;
 constexpr std::string_view longestLength = "\xFF\xFF\xFF\xFF";
 
@@ -143,7 +143,7 @@ sf_count_t CStreamedSound::read(char *bytes, sf_count_t count) {
     sf_count_t got = 0;
     if (const auto place = static_cast<std::size_t>(m_position); place < m_head.size())
         got = static_cast<sf_count_t>(m_head.copy(bytes, static_cast<std::size_t>(count), place));
-    // Nothing but the next byte can be had.
+    // A stream can only be read on from where it is.
     if (m_position + got == m_arrived) {
         const sf_count_t wanted = std::min(count - got, m_length - m_arrived);
         const std::size_t arrived = m_input.read(bytes + got, static_cast<std::size_t>(wanted));

@@ -4,7 +4,7 @@
 
 namespace Tessitor::Tool {
 
-/// The highest rate that Opus supports, which is the one that others are converted to, Hz.
+/// The highest rate that Opus supports, Hz. Other rates are converted to it.
 inline constexpr int fullOpusRate = 48000;
 
 inline bool isOpus(int format) {

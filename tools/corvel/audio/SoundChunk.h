@@ -21,7 +21,7 @@ struct SSoundChunk {
 /// @return none for other kinds of file and for a file without sound.
 std::optional<SSoundChunk> findSoundChunk(const std::filesystem::path &file);
 
-/// @return true for a length in a header that stands for an unknown one, also 0.
+/// @return true if a length in a header only means "unknown", as 0 does.
 bool isPlaceholder(std::uint64_t length);
 
 /// libsndfile does not notice when most of these are cut short.

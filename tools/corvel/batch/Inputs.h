@@ -10,7 +10,7 @@ namespace Tessitor::Tool {
 /// A file to render.
 struct SInput {
     std::filesystem::path file;
-    std::filesystem::path below{};  // the part of its folder below the one that was named
+    std::filesystem::path below{};  // the path from the named folder to its own
     std::string problem{};          // why it cannot be rendered; empty if nothing is known
 };
 

@@ -15,7 +15,7 @@ namespace {
 const Suggestions files = {{"@files", ""}};
 const Suggestions folders = {{"@folders", ""}};
 
-/// What the words before the one that is being typed mean.
+/// What the words before the unfinished one mean.
 struct STyped {
     const CLI::App *command;
     const CLI::Option *awaiting = nullptr;  // the option whose value comes next

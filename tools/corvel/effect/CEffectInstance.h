@@ -54,7 +54,7 @@ public:
     /// Sends stop and mains off. Does nothing unless started.
     void stop();
 
-    /// What the effect is told when it asks for the time during the next block. Without this, the
+    /// The answer when the effect asks for the time during the next block. Without this, the
     /// transport runs on from block to block.
     void setTime(const VstTimeInfo &time) { m_host.time = time; }
 

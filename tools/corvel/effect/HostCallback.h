@@ -24,8 +24,9 @@ struct SHostState {
     IEditorHost *editor = nullptr;  // while it is open
 };
 
-/// What effects are told that the calling thread works for: kVstProcessLevelOffline unless this has
-/// been called, of VstProcessLevel. [any thread] Costs nothing to speak of.
+/// Sets the answer for effects that ask, on the calling thread, what it works for.
+/// @param level  of VstProcessLevel; kVstProcessLevelOffline on threads that never called this.
+/// [any thread] Cheap enough to be called for every block.
 void setProcessLevelOfThread(std::int32_t level);
 
 /// The function through which effects call this host. [any thread]

@@ -21,7 +21,7 @@ public:
     explicit CPendingFile(const std::filesystem::path &place, EExisting existing = EExisting::Kept);
 
     /// Makes nothing.
-    /// @throws CJobError if there would be no use in trying, as far as that can be told.
+    /// @throws CJobError if the constructor would fail. Some failures only show when it runs.
     static void requireWritable(const std::filesystem::path &place, EExisting existing);
 
     /// Deletes the file unless it was committed.

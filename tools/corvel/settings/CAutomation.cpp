@@ -13,7 +13,7 @@ namespace Tessitor::Tool {
 
 namespace {
 
-// Finds the values of one parameter and then restores the one that it had.
+// Tries values of one parameter, and in the end restores the original one.
 class CLaneReader {
 public:
     CLaneReader(CEffectInstance &trial, std::int32_t index)
