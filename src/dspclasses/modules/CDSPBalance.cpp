@@ -23,8 +23,7 @@ float CDSPBalance::getParameter(int /*index*/) {
 
 template <typename Sample>
 void CDSPBalance::run(const Sample *const *in, Sample *const *out, int frames) const {
-    copyScaled(in[0], out[0], frames, leftGain);
-    copyScaled(in[1], out[1], frames, rightGain);
+    copyScaled(in, out, frames, leftGain, rightGain);
 }
 
 void CDSPBalance::processReplacing(float **in, float **out, int frames) {

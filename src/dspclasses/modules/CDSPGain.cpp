@@ -18,8 +18,7 @@ float CDSPGain::getParameter(int /*index*/) {
 
 template <typename Sample>
 void CDSPGain::run(const Sample *const *in, Sample *const *out, int frames) const {
-    copyScaled(in[0], out[0], frames, gain);
-    copyScaled(in[1], out[1], frames, gain);
+    copyScaled(in, out, frames, gain, gain);
 }
 
 void CDSPGain::processReplacing(float **in, float **out, int frames) {

@@ -2,6 +2,7 @@
 
 #include "dspclasses/blocks/SquareRootLaw.h"
 #include "dspclasses/kernels/FrameGroups.h"
+#include "dspclasses/kernels/WideLoop.h"
 
 // Kept: each half skips a spread that equals its last one, but has already set the gains of the
 // other input by then. So the matrix depends on earlier positions: moving from 0.75 to 0.25 and
@@ -56,10 +57,14 @@ static void mix(const Sample *__restrict inL, const Sample *__restrict inR, Samp
 
 template <typename Sample>
 void CDSPPan::run(const Sample *const *in, Sample *const *out, int frames) const {
-    forEachGroup(frames, [&](int first, int count) {
-        const Sample ll = leftToLeft.load(), lr = leftToRight.load();
-        const Sample rl = rightToLeft.load(), rr = rightToRight.load();
-        mix(in[0] + first, in[1] + first, out[0] + first, out[1] + first, count, ll, lr, rl, rr);
+    const Sample *inL = in[0], *inR = in[1];
+    Sample *outL = out[0], *outR = out[1];
+    runWide([=, this] {
+        forEachGroup(frames, [=, this](int first, int count) {
+            const Sample ll = leftToLeft.load(), lr = leftToRight.load();
+            const Sample rl = rightToLeft.load(), rr = rightToRight.load();
+            mix(inL + first, inR + first, outL + first, outR + first, count, ll, lr, rl, rr);
+        });
     });
 }
 
