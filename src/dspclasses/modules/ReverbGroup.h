@@ -7,7 +7,7 @@
 /// The signals of a group of frames between the stages of the reverb, and the loops that compute
 /// one of them from others without any state.
 struct SReverbGroup {
-    static constexpr int longest = 64;  // frames
+    static constexpr int longest = 256;  // frames
     using Lines = float[reverbLines][longest];
 
     float left[longest];  // filtered, then diffused; at the end the wet signal
