@@ -19,7 +19,7 @@ void copyScaled(const Sample *const *in, Sample *const *out, int frames,
     const Sample *inL = in[0], *inR = in[1];
     Sample *outL = out[0], *outR = out[1];
     runWide([=, &leftGain, &rightGain] {
-        forEachGroup(frames, [=, &leftGain, &rightGain](int first, int count) {
+        forEachVectorGroup(frames, [=, &leftGain, &rightGain](int first, int count) {
             const Sample left = leftGain.load(), right = rightGain.load();
             copyScaled<Sample>(inL + first, outL + first, count, left);
             copyScaled<Sample>(inR + first, outR + first, count, right);

@@ -60,7 +60,7 @@ void CDSPPan::run(const Sample *const *in, Sample *const *out, int frames) const
     const Sample *inL = in[0], *inR = in[1];
     Sample *outL = out[0], *outR = out[1];
     runWide([=, this] {
-        forEachGroup(frames, [=, this](int first, int count) {
+        forEachVectorGroup(frames, [=, this](int first, int count) {
             const Sample ll = leftToLeft.load(), lr = leftToRight.load();
             const Sample rl = rightToLeft.load(), rr = rightToRight.load();
             mix(inL + first, inR + first, outL + first, outR + first, count, ll, lr, rl, rr);
