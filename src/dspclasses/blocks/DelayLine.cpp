@@ -65,14 +65,13 @@ void DelayLine::write(const float *samples, int count) {
     writeIndex = ring().write(samples, count);
 }
 
-int DelayLine::getLongestRun(float offset) const {
-    return ring().getLongestRun(wholeCount(offset));
-}
-
-void DelayLine::read(float offset, float *samples, int count) const {
+DelayLine::SRun DelayLine::getRun(float offset) const {
     assertNotNegative(offset);
     const std::uint32_t distance = wholeCount(offset);
-    ring().read(distance, offset - static_cast<float>(distance), samples, count);
+    const SDelayRing now = ring();
+    const std::uint32_t place = now.placeOf(distance);
+    return {now.samples + place, offset - static_cast<float>(distance),
+            now.stretchFrom(place, now.getLongestRun(distance))};
 }
 
 int DelayLine::getLongestConstantRun() const {

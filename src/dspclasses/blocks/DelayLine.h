@@ -48,15 +48,21 @@ public:
     void clear();
 
     // Runs of frames. In each frame, the read comes before the write. A run does all its reads
-    // first and then all its writes, so no frame may read what its own run writes. getLongestRun
-    // and canReadRun return how long a run may be. See docs/kernels.md.
+    // first and then all its writes, so no frame may read what its own run writes. SRun::frames,
+    // getLongestConstantRun and canReadRun say how long a run may be. See docs/kernels.md.
+
+    /// The samples of a run at one offset, in the memory of the line.
+    struct SRun {
+        const float *newer;  ///< for each frame; the sample before it is its older neighbour
+        float fraction;      ///< of the way from the newer to the older neighbour
+        int frames;          ///< how long the run may be, at least 1
+    };
 
     void write(const float *samples, int count);
 
-    /// @return the longest run allowed at this offset, in frames; at least 1.
-    int getLongestRun(float offset) const;
-    void read(float offset, float *samples, int count) const;
-    int getLongestConstantRun() const;
+    /// @param offset  samples; asserts that it is neither negative nor a NaN.
+    SRun getRun(float offset) const;
+    int getLongestConstantRun() const;  ///< frames; at least 1
     void readConstant(float *samples, int count) const;
 
     /// @param offsets  samples, one per frame.

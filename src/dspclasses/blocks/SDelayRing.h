@@ -35,6 +35,11 @@ struct SDelayRing {
         return static_cast<int>(std::min(frames, 0x7fffffffu));
     }
 
+    /// @return how many of the next `count` samples lie between `place` and the end of the ring.
+    int stretchFrom(std::uint32_t place, int count) const {
+        return static_cast<int>(std::min(mask - place, static_cast<std::uint32_t>(count - 1))) + 1;
+    }
+
     /// Reads `count` frames at one distance.
     /// @param fraction  from 0 to 1, of the way towards the older neighbour.
     void read(std::uint32_t distance, float fraction, float *to, int count) const {
@@ -75,11 +80,6 @@ struct SDelayRing {
     void clear() const { std::fill_n(samples - 1, std::size_t{mask} + 2, 0.0f); }
 
 private:
-    /// @return how many of the next `count` samples lie between `place` and the end of the ring.
-    int stretchFrom(std::uint32_t place, int count) const {
-        return static_cast<int>(std::min(mask - place, static_cast<std::uint32_t>(count - 1))) + 1;
-    }
-
     static void readStretch(const float *newer, float fraction, float *to, int count) {
         runWide([=] {
             for (int i = 0; i < count; ++i)

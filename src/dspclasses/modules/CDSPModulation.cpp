@@ -208,7 +208,7 @@ void CDSPModulation::runChannel(const Sample *in, Sample *out, int frames,
     }
     // Frame by frame, since a frame may read what its own group writes.
     for (int i = 0; i < frames; ++i) {
-        line.read(sweep[i], delayed, 1);
+        delayed[0] = line.read(sweep[i]);
         mixChannel(in + i, delayed, out + i, toLine, 1, settings);
         line.write(toLine, 1);
     }

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <span>
 
 static constexpr int lines = reverbLines;
 
@@ -144,29 +145,32 @@ void CDSPReverb::clear() {
     }
 }
 
-int CDSPReverb::framesAhead() const {
-    int frames = SReverbGroup::longest;
+CDSPReverb::LineEnds CDSPReverb::endsOfLines() const {
+    LineEnds ends;
     for (int k = 0; k < lines; ++k)
-        frames = std::min(frames, tailDelays[k].getLongestRun(tailLengths[k]));
-    return frames;
+        ends[k] = tailDelays[k].getRun(tailLengths[k]);
+    return ends;
 }
 
-void CDSPReverb::readLines(SReverbGroup &group, int frames) const {
-    for (int k = 0; k < lines; ++k)
-        tailDelays[k].read(tailLengths[k], group.tail[k], frames);
+/// @return how many frames may run before one needs what another feeds to a line.
+static int framesAhead(std::span<const DelayLine::SRun> ends) {
+    int frames = SReverbGroup::longest;
+    for (const DelayLine::SRun &end : ends)
+        frames = std::min(frames, end.frames);
+    return frames;
 }
 
 /// The two recursions from frame to frame. They share a loop, so that the processor can work on one
 /// while the other waits for its last result.
-void CDSPReverb::filterInputAndWalls(const float *left, const float *right, SReverbGroup &group,
-                                     int frames) {
+void CDSPReverb::filterInputAndWalls(const float *left, const float *right, const LineEnds &ends,
+                                     SReverbGroup &group, int frames) {
     CInputTicker input(inputFilter);
-    CWallTicker walls(tailGains, tailDampers);
+    CWallTicker walls(ends, tailGains, tailDampers);
     for (int i = 0; i < frames; ++i) {
         group.left[i] = input.tick(left[i]);
         group.right[i] = input.tick(right[i]);
         float damped[lines];
-        storeFour(damped, walls.tick(perLine([&](int k) { return group.tail[k][i]; })));
+        storeFour(damped, walls.tick(i));
         for (int k = 0; k < lines; ++k)
             group.tail[k][i] = damped[k];
     }
@@ -239,11 +243,11 @@ void CDSPReverb::run(const Sample *const *in, Sample *const *out, int frames) {
         if (resetRequest.take())
             clear();
         SReverbGroup group;
-        const int count = std::min(framesAhead(), frames - done);
+        const LineEnds ends = endsOfLines();
+        const int count = std::min(framesAhead(ends), frames - done);
         const Sample *left = in[0] + done, *right = in[1] + done;
-        readLines(group, count);
         filterInputAndWalls(asFloats(left, group.left, count), asFloats(right, group.right, count),
-                            group, count);
+                            ends, group, count);
         diffuseInput(group, count);
         runEarlyLine(group, count);
         mixWet(group, earlyLevel, tailLevel, count);

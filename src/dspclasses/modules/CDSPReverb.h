@@ -8,6 +8,8 @@
 #include "dspclasses/modules/ReverbGeometry.h"
 #include "values/TRelaxed.h"
 
+#include <array>
+
 struct SReverbGroup;
 
 /// Reverb: a feedback delay network of four lines. Numbers in brackets are indices of the four.
@@ -67,10 +69,10 @@ private:
     void run(const Sample *const *in, Sample *const *out, int frames);
 
     // The stages of a group of frames, in this order.
-    int framesAhead() const;  ///< frames that may run before one needs what another feeds to a line
-    void readLines(SReverbGroup &group, int frames) const;
-    void filterInputAndWalls(const float *left, const float *right, SReverbGroup &group,
-                             int frames);
+    using LineEnds = std::array<DelayLine::SRun, reverbLines>;
+    LineEnds endsOfLines() const;
+    void filterInputAndWalls(const float *left, const float *right, const LineEnds &ends,
+                             SReverbGroup &group, int frames);
     void diffuseInput(SReverbGroup &group, int frames);
     void runEarlyLine(SReverbGroup &group, int frames);
     void feedLines(const SReverbGroup &group, int frames);

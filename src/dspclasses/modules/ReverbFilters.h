@@ -1,10 +1,13 @@
 #pragma once
 
 #include "dspclasses/blocks/CDSPOnePole.h"
+#include "dspclasses/blocks/DelayLine.h"
 #include "dspclasses/kernels/Denormals.h"
 #include "dspclasses/kernels/Lanes.h"
 #include "dspclasses/modules/ReverbGeometry.h"
 #include "values/TRelaxed.h"
+
+#include <array>
 
 /// One value per line of the network, from valueOf(line).
 template <typename ValueOf>
@@ -34,18 +37,25 @@ private:
     float state;
 };
 
-/// The gains and the dampers of the four lines for a group of frames, a line in each lane.
+/// The ends of the four lines, with their gains and dampers, for a group of frames. A line in each
+/// lane.
 class CWallTicker {
 public:
-    CWallTicker(const TRelaxed<float> *lineGains, const CDSPOnePole *dampers)
-        : lineGain(perLine([=](int k) { return lineGains[k].load(); })),
+    CWallTicker(const std::array<DelayLine::SRun, reverbLines> &lineEnds,
+                const TRelaxed<float> *lineGains, const CDSPOnePole *dampers)
+        : ends(lineEnds), fraction(perLine([&](int k) { return lineEnds[k].fraction; })),
+          lineGain(perLine([=](int k) { return lineGains[k].load(); })),
           gain(perLine([=](int k) { return dampers[k].getGain(); })),
           pole(perLine([=](int k) { return dampers[k].getPole(); })),
+          older(perLine([&](int k) { return lineEnds[k].newer[-1]; })),
           state(perLine([=](int k) { return dampers[k].getState(); })) {}
 
-    /// @param ends  the outputs of the lines.
-    SFloats4 tick(SFloats4 ends) {
-        state = flushDenormal(gain * (ends * lineGain) + pole * state);
+    /// @param frame  from 0, in order.
+    SFloats4 tick(int frame) {
+        const SFloats4 newer = perLine([&](int k) { return ends[k].newer[frame]; });
+        const SFloats4 end = (older - newer) * fraction + newer;
+        older = newer;
+        state = flushDenormal(gain * (end * lineGain) + pole * state);
         return state;
     }
 
@@ -57,6 +67,7 @@ public:
     }
 
 private:
-    const SFloats4 lineGain, gain, pole;
-    SFloats4 state;
+    const std::array<DelayLine::SRun, reverbLines> ends;
+    const SFloats4 fraction, lineGain, gain, pole;
+    SFloats4 older, state;
 };

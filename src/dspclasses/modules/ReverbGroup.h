@@ -13,7 +13,7 @@ struct SReverbGroup {
     float left[longest];  // filtered, then diffused; at the end the wet signal
     float right[longest];
     Lines early;  // from the taps
-    Lines tail;   // from the lines, then damped
+    Lines tail;   // from the lines, damped
 };
 
 /// The mean of the channels, without denormals.

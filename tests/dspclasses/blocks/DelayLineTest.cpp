@@ -132,8 +132,7 @@ TEST(DelayLineDeathTest, StopsAtANegativeOffsetAndAtANaN) {
     const char *text = "Assertion failed: offset >= 0.0f, file dspclasses/DelayLine, line 74";
     EXPECT_DEATH(line.read(-0.5f), text);
     EXPECT_DEATH(line.read(NAN), text);
-    float sample;
-    EXPECT_DEATH(line.read(-1.0f, &sample, 1), text);
+    EXPECT_DEATH(line.getRun(-1.0f), text);
     EXPECT_EQ(line.read(-0.0f), 0.0f);
 }
 
@@ -148,13 +147,25 @@ TEST(DelayLineDeathTest, StopsAtANegativeStoredOffset) {
 
 TEST(DelayLine, ARunEndsBeforeAReadWouldNeedAWriteOfTheSameRun) {
     DelayLine line(16);
-    EXPECT_EQ(line.getLongestRun(0.0f), 1);
-    EXPECT_EQ(line.getLongestRun(5.9f), 6);
-    EXPECT_EQ(line.getLongestRun(14.0f), 15);
-    EXPECT_EQ(line.getLongestRun(15.0f), 1);
-    EXPECT_EQ(line.getLongestRun(16.0f + 5.0f), 6);
+    count(line, 15);  // into the last place of the ring, so that no run passes its end
+    EXPECT_EQ(line.getRun(0.0f).frames, 1);
+    EXPECT_EQ(line.getRun(5.9f).frames, 6);
+    EXPECT_EQ(line.getRun(14.0f).frames, 15);
+    EXPECT_EQ(line.getRun(15.0f).frames, 1);
+    EXPECT_EQ(line.getRun(16.0f + 5.0f).frames, 6);
     line.setConstantOffset(9.0f);
     EXPECT_EQ(line.getLongestConstantRun(), 10);
+}
+
+TEST(DelayLine, ARunInTheMemoryOfTheLineEndsWithTheRing) {
+    DelayLine line(16);
+    count(line, 17);  // into the second place
+    const DelayLine::SRun run = line.getRun(5.0f);
+    EXPECT_EQ(run.frames, 4);
+    EXPECT_EQ(run.newer[0], 12.0f);
+    EXPECT_EQ(run.newer[3], 15.0f);
+    count(line, 3);
+    EXPECT_EQ(line.getRun(4.0f).newer[-1], 15.0f);  // before the first place, the last one repeats
 }
 
 TEST(DelayLine, SweptRunsKeepAwayFromTheirOwnWrites) {
@@ -177,20 +188,23 @@ TEST(DelayLine, RunsEqualThePlainVersionFrameByFrame) {
         const auto capacity = std::uint32_t{1} << random.whole(0, 9);
         DelayLine line(capacity);
         CPlainDelayLine plain(capacity);
-        for (int run = 0; run < 30; ++run) {
+        for (int n = 0; n < 30; ++n) {
             const auto offset = static_cast<float>(
                 random.chance(0.5) ? random.whole(0, static_cast<int>(2 * capacity))
                                    : random.real(0.0, capacity));
             line.setConstantOffset(std::min(offset, static_cast<float>(capacity - 1)));
             plain.setConstantOffset(std::min(offset, static_cast<float>(capacity - 1)));
             const int frames = random.whole(
-                1, std::min({200, line.getLongestRun(offset), line.getLongestConstantRun()}));
+                1, std::min({200, line.getRun(offset).frames, line.getLongestConstantRun()}));
             std::vector<float> swept(static_cast<std::size_t>(frames));
             const double nearest = random.chance(0.7) ? frames : 0.0;
             for (float &place : swept)
                 place = static_cast<float>(random.real(nearest, std::max(nearest, capacity - 3.0)));
             std::vector<float> got(swept.size()), constant(swept.size()), gotSwept(swept.size());
-            line.read(offset, got.data(), frames);
+            const DelayLine::SRun run = line.getRun(offset);
+            for (int i = 0; i < frames; ++i)
+                got[static_cast<std::size_t>(i)] =
+                    (run.newer[i - 1] - run.newer[i]) * run.fraction + run.newer[i];
             line.readConstant(constant.data(), frames);
             const bool canSweep = line.canReadRun(swept.data(), frames);
             sweeps += canSweep ? 1 : 0;
