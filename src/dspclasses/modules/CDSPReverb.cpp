@@ -152,12 +152,13 @@ CDSPReverb::LineEnds CDSPReverb::endsOfLines() const {
     return ends;
 }
 
-/// @return how many frames may run before one needs what another feeds to a line.
+/// @return how many frames may run before one needs what another feeds to a line. Sixteen or a
+///         multiple where possible, which leaves the wide loops no remainder.
 static int framesAhead(std::span<const DelayLine::SRun> ends) {
     int frames = SReverbGroup::longest;
     for (const DelayLine::SRun &end : ends)
         frames = std::min(frames, end.frames);
-    return frames;
+    return frames < 16 ? frames : frames & ~15;
 }
 
 /// The two recursions from frame to frame. They share a loop, so that the processor can work on one
