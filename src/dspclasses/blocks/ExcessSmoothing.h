@@ -42,7 +42,7 @@ template <typename Sample>
                                                  const TFour<Sample> &excessesDb,
                                                  const Mask4 &areAbove) {
     const float before = smoothedDb;
-    if (before >= -smoothingBias && smoother.releaseCoef >= 0.0f && !isAnySet(areAbove)) {
+    if (!isAnySet(areAbove) && before >= -smoothingBias && smoother.releaseCoef >= 0.0f) {
         return recurseFour(smoothedDb, excessesDb, [&smoother](float decaying, Sample) {
             return decayExcess(smoother, decaying);
         });
