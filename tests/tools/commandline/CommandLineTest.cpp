@@ -49,10 +49,13 @@ TEST(CommandLine, HelpListsEveryCommandAndOption) {
 TEST(CommandLine, WrongCommandsAreRefusedInOneLine) {
     expectWrongCall({}, "no command");
     expectWrongCall({"play"}, "there is no command \"play\"");
+    expectWrongCall({"play", "in.wav", "--loud"}, "there is no command \"play\"");
     expectWrongCall({"--loud"}, "corvel has no option --loud");
     expectWrongCall({"render"}, "corvel render needs an input and an output");
     expectWrongCall({"render", "in.wav"}, "corvel render needs an input and an output");
     expectWrongCall({"render", "in.wav", "out.wav", "--loud"},
+                    "corvel render has no option --loud");
+    expectWrongCall({"render", "in.wav", "out.wav", "--loud", "--very"},
                     "corvel render has no option --loud");
     expectWrongCall({"render", "in.wav", "out.wav", "--program"}, "--program: needs a value");
     expectWrongCall({"render", "in.wav", "out.wav", "--tempo", "99", "--tempo", "98"},
@@ -62,6 +65,10 @@ TEST(CommandLine, WrongCommandsAreRefusedInOneLine) {
     expectWrongCall({"render", "in.wav", "out.wav", "--block", "1.5"},
                     "--block: 1.5 is not a whole number");
     expectWrongCall({"info", "a.so", "b.so"}, "corvel info does not expect \"b.so\"");
+    expectWrongCall({"programs", "--", "-x"}, "corvel programs does not expect \"-x\"");
+    expectWrongCall({"programs", "++"}, "corvel programs does not expect \"++\"");
+    expectWrongCall({"preset", "save", "a.fxp", "b.fxp"},
+                    "corvel preset save does not expect \"b.fxp\"");
     expectWrongCall({"params", "--program", "7", "--plugin", testEffect("Whole")},
                     "no program \"7\"");
 }

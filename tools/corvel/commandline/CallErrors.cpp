@@ -26,12 +26,18 @@ std::string optionIn(const std::string &text) {
     return text.substr(begin, text.find_first_of(" :,", begin) - begin);
 }
 
-std::string describeExtra(const std::string &command, const std::string &extra) {
+std::string describeExtra(const CLI::App &app) {
+    const std::string extra = app.remaining(true).front();
+    std::string command = app.get_name();
+    for (auto parsed = app.get_subcommands(); !parsed.empty();
+         parsed = parsed.front()->get_subcommands())
+        command += " " + parsed.front()->get_name();
     if (extra.starts_with('-'))
-        return "corvel" + (command == "corvel" ? "" : " " + command) + " has no option " + extra;
-    if (command == "corvel")
-        return "there is no command \"" + extra + "\"; corvel --help lists them";
-    return "corvel " + command + " does not expect \"" + extra + "\"";
+        return command + " has no option " + extra;
+    const std::string name = "\"" + namesAsTyped({extra}).front() + "\"";
+    if (command == app.get_name())
+        return "there is no command " + name + "; corvel --help lists them";
+    return command + " does not expect " + name;
 }
 
 }  // namespace
@@ -59,11 +65,11 @@ std::vector<std::string> namesAsTyped(std::vector<std::string> names) {
     return names;
 }
 
-std::string describe(const CLI::ParseError &error) {
+std::string describe(const CLI::ParseError &error, const CLI::App &app) {
     std::string text = error.what();
     const std::string option = optionIn(text);
     if (dynamic_cast<const CLI::ExtrasError *>(&error) != nullptr)
-        return describeExtra(error.get_name(), text.substr(text.find(": ") + 2));
+        return describeExtra(app);
     if (dynamic_cast<const CLI::ExcludesError *>(&error) != nullptr)
         return text.replace(text.find(" excludes "), 10, " and ") + " exclude each other";
     if (dynamic_cast<const CLI::ValidationError *>(&error) != nullptr)

@@ -13,7 +13,8 @@ std::vector<std::string> argumentsForParser(int argc, char **argv);
 /// @return the file names as they were typed, without what argumentsForParser() added.
 std::vector<std::string> namesAsTyped(std::vector<std::string> names);
 
+/// @param app  the parser that threw the error.
 /// @return what is wrong with the call, in our words.
-std::string describe(const CLI::ParseError &error);
+std::string describe(const CLI::ParseError &error, const CLI::App &app);
 
 }  // namespace Tessitor::Tool

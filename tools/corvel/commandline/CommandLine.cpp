@@ -60,7 +60,7 @@ int parseAndRun(int argc, char **argv) {
     } catch (const CLI::Success &help) {
         return app.exit(help);
     } catch (const CLI::ParseError &error) {
-        throw CCallError(describe(error));
+        throw CCallError(describe(error, app));
     }
     for (const SCommand &command : commands)
         if (command.app->parsed())
