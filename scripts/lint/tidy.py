@@ -34,7 +34,8 @@ def compile_commands(builds, folders):
     for build in builds:
         for entry in json.loads(Path(build, "compile_commands.json").read_text(encoding="utf-8")):
             source = os.path.relpath(entry["file"])
-            if source.startswith(tuple(f"{folder.rstrip('/')}/" for folder in folders)):
+            inside = source.startswith(tuple(f"{folder.rstrip('/')}/" for folder in folders))
+            if inside and source.endswith(".cpp"):
                 words = shlex.split(entry["command"])
                 words = words[: words.index("-o")]
                 commands.setdefault(source, [word for word in words if word not in GCC_ONLY])
