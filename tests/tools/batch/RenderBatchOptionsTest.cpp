@@ -197,6 +197,8 @@ TEST_F(RenderBatchOptions, ADryRunKnowsWhatCannotBeWritten) {
               "corvel: none/new.wav: cannot be written (No such file or directory)\n");
     EXPECT_THAT(dry({"takes/a.wav", "new.ogg", "--format", "ogg:opus"}).errors,
                 StartsWith("corvel: new.ogg: Opus does not support 44100 Hz"));
+    EXPECT_THAT(dry({"takes/a.wav", "new.wav", "--start", "99"}).errors,
+                HasSubstr("--start leaves nothing of it"));
     EXPECT_EQ(readFile(folder / "old.wav"), "old");
 }
 

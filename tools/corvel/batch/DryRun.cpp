@@ -20,7 +20,7 @@ void requireFeasible(const SRenderJob &job, const SRenderCall &call, bool makesF
         throw CJobError(job.in.string() + ": " + job.problem);
     // What arrives is only known when it is there.
     if (!isStandardStream(job.in))
-        requireMatching(CAudioReader(job.in), job, call.options);
+        openInput(job, call.options);
     if (isStandardStream(job.out))
         return;
     std::error_code ignored;

@@ -82,22 +82,22 @@ void requireRenderable(const CEffectInstance &effect, const SRenderOptions &opti
         requireDoublePrecision(effect);
 }
 
-void requireMatching(const CAudioReader &input, const SRenderJob &job,
-                     const SRenderOptions &options) {
+CAudioReader openInput(const SRenderJob &job, const SRenderOptions &options) {
+    CAudioReader reader(job.in, options.raw);
+    const SExcerpt &excerpt = options.excerpt;
+    reader.select(excerpt.startFrame(reader.sampleRate()), excerpt.frames(reader.sampleRate()));
     const std::string problem = problemOfName(job.out, options.format);
     if (!problem.empty())
         throw CJobError(job.out.string() + ": " + problem);
-    planOutput(job, options, input);
+    planOutput(job, options, reader);
+    return reader;
 }
 
 SRenderResult render(const SRenderJob &job, const CEffectLibrary &library,
                      const CEffectSettings &settings, const SRenderOptions &options,
                      const RenderListener &listener) {
     const auto begin = std::chrono::steady_clock::now();
-    CAudioReader reader(job.in, options.raw);
-    const std::int64_t start = options.excerpt.startFrame(reader.sampleRate());
-    reader.select(start, options.excerpt.frames(reader.sampleRate()));
-    requireMatching(reader, job, options);
+    CAudioReader reader = openInput(job, options);
     const SOutputPlan plan = planOutput(job, options, reader);
 
     SRenderResult result;
@@ -110,6 +110,7 @@ SRenderResult render(const SRenderJob &job, const CEffectLibrary &library,
     requirePlaceForPicture(job, options);
     CAudioWriter writer(job.out, options.existing, plan.format, plan.sampleRate, plan.channels,
                         plan.frames);
+    const std::int64_t start = options.excerpt.startFrame(reader.sampleRate());
     writer.setTags(tagsOfPart(reader.tags(), start, reader.frames()));
     result.dithered = options.dither && writer.dither();
 

@@ -77,9 +77,10 @@ using RenderListener = std::function<void(double done)>;
 ///         options.
 void requireRenderable(const CEffectInstance &effect, const SRenderOptions &options);
 
-/// @throws CJobError if the options do not suit the input or the name of the output.
-void requireMatching(const CAudioReader &input, const SRenderJob &job,
-                     const SRenderOptions &options);
+/// @return the part of the input that the options select.
+/// @throws CJobError if it cannot be read, or if the options do not suit it or the name of the
+///         output; or CInterruption.
+CAudioReader openInput(const SRenderJob &job, const SRenderOptions &options);
 
 /// Renders one file with a new instance, so that earlier files leave no trace.
 /// @param library  must pass requireRenderable().
