@@ -5,6 +5,7 @@
 #include "dspclasses/support/Oracle.h"
 
 #include <array>
+#include <cstdlib>
 #include <cstring>
 #include <gmock/gmock.h>
 #include <limits>
@@ -206,6 +207,23 @@ TEST(CDSPMultiFX, PassesTheSignalOnWithoutCopies) {
     EXPECT_EQ(pairOf(log, 4, true)[1], output.channels[1].data());
 }
 
+TEST(CDSPMultiFX, LetsTheLastModuleWriteToOutputsThatDoNotOverlap) {
+    constexpr int frames = 8;
+    SWitnessLog log;
+    CDSPMultiFX strip(makeWitnesses(log));
+    strip.setStripParameter(kOutMono, stereo);
+    TStereo<float> input(frames);
+    std::vector<float> memory(3 * frames);
+    for (const int apart : {-8, -7, -1, 0, 1, 7, 8}) {
+        log.buffers.clear();
+        float *left = memory.data() + frames;
+        float *out[] = {left, left + apart};
+        process(strip, input.pointers().data(), out, frames);
+        ASSERT_EQ(log.buffers.size(), 8u);
+        EXPECT_EQ(pairOf(log, 1, true)[0] == left, std::abs(apart) >= frames) << apart;
+    }
+}
+
 TEST(CDSPMultiFX, NeverRunsAModuleInPlace) {
     for (const bool isRouted : {false, true}) {
         SWitnessLog log;
@@ -381,6 +399,22 @@ TYPED_TEST(CDSPMultiFXRun, LeavesTheRightChannelInABufferThatIsBothOutputs) {
     EXPECT_EQ(output.channels[0], expected.channels[1]);
 }
 
+TYPED_TEST(CDSPMultiFXRun, LeavesTheRightChannelWhereTheOutputsOverlap) {
+    constexpr std::ptrdiff_t apart = 16;
+    this->strip.appendFX(kPanSlot);
+    this->strip.setStripParameter(kPan, 0.3f);
+    const TStereo<TypeParam> rendered = render(this->strip, this->input, 64);
+    for (const bool isRightFirst : {false, true}) {
+        const std::ptrdiff_t left = isRightFirst ? apart : 0, right = apart - left;
+        std::vector<TypeParam> expected(64 + apart), memory(expected.size());
+        std::copy_n(rendered.channels[0].begin(), 64, expected.begin() + left);
+        std::copy_n(rendered.channels[1].begin(), 64, expected.begin() + right);
+        TypeParam *out[] = {memory.data() + left, memory.data() + right};
+        process(this->strip, this->input.pointers().data(), out, 64);
+        EXPECT_EQ(memory, expected) << isRightFirst;
+    }
+}
+
 TYPED_TEST(CDSPMultiFXRun, DoesNotWriteToTheInput) {
     this->strip.appendFX(kCompressorSlot);
     std::fill_n(this->input.channels[0].begin() + 5, 9,
@@ -392,11 +426,11 @@ TYPED_TEST(CDSPMultiFXRun, DoesNotWriteToTheInput) {
 }
 
 TYPED_TEST(CDSPMultiFXRun, SoundsLikeThePlainVersionIfARoutingIsInvalid) {
-    constexpr float invalid = 2.0f;
+    constexpr float invalid = 2.0f, negative = -1.0f;
     for (const std::vector<int> &chain :
          {std::vector<int>{}, std::vector<int>{kGainSlot}, std::vector<int>{kGainSlot, kPanSlot}}) {
-        for (const float inMono : {0.0f, stereo, invalid}) {
-            for (const float outMono : {0.0f, stereo, invalid}) {
+        for (const float inMono : {0.0f, stereo, invalid, negative}) {
+            for (const float outMono : {0.0f, stereo, invalid, negative}) {
                 SCOPED_TRACE(testing::Message() << chain.size() << ' ' << inMono << ' ' << outMono);
                 CDSPMultiFX fresh;
                 CPlainStrip plain(makePlainModules());
