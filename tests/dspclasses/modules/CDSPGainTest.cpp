@@ -4,7 +4,10 @@
 #include "dspclasses/support/Matrix.h"
 #include "dspclasses/support/Oracle.h"
 
+#include <algorithm>
+#include <atomic>
 #include <memory>
+#include <thread>
 
 using enum CDSPGain::EParameter;
 
@@ -40,6 +43,26 @@ TEST(CDSPGain, TurnsDecibelsIntoAFactor) {
         gain.setParameter(kLevel, decibels);
         EXPECT_NEAR(factorOf(gain) / std::pow(10.0, decibels / 20.0), 1.0, 1e-6) << decibels;
     }
+}
+
+TEST(CDSPGain, FollowsAnotherThreadWithinABlock) {
+    constexpr int frames = 1 << 16, mostBlocks = 10000;
+    CDSPGain gain;
+    std::atomic<bool> isDone = false;
+    std::jthread changes([&] {
+        for (float decibels = 0.0f; !isDone; decibels = 6.0f - decibels)
+            gain.setParameter(kLevel, decibels);
+    });
+    const TStereo<float> ones = steady(frames, 1.0f, 1.0f);
+    const auto changesWithinABlock = [&] {
+        const std::vector<float> left = render(gain, ones, frames).channels[0];
+        return std::count(left.begin(), left.end(), left[0]) < frames;
+    };
+    int blocks = 1;
+    while (blocks < mostBlocks && !changesWithinABlock())
+        ++blocks;
+    isDone = true;
+    EXPECT_LT(blocks, mostBlocks);
 }
 
 TEST(CDSPGain, IgnoresTheIndex) {
