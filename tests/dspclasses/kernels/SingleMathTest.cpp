@@ -133,6 +133,15 @@ TEST(SingleMath, LogarithmIsRoundedOnce) {
         [](float x) { return logSingle(x); });
 }
 
+// Of all floats, this one takes the short polynomial of the lanes furthest past a midpoint.
+TEST(SingleMath, LogarithmInLanesKnowsItsErrorNearAMidpoint) {
+    EXPECT_EQ(logSingle(0x1.455342p+0f), 0x1.eacc88p-3f);
+    expectLanesLikeScalars(
+        {3.0f, 0x1.455342p+0f, 3.0f, 3.0f},
+        [](auto processor, SFloats4 x) { return logSingle<decltype(processor)>(x); },
+        [](float x) { return logSingle(x); });
+}
+
 TEST(SingleMath, PowerReturnsExactPowers) {
     EXPECT_EQ(powSingle(2.0f, 10.0f), 1024.0f);
     EXPECT_EQ(powSingle(2.0f, -149.0f), 0x1p-149f);
