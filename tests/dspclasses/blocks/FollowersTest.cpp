@@ -73,7 +73,10 @@ TEST(SFollower, TwoSideBySideEqualTwoAloneForAnyCoefficients) {
         const auto draw = [&random](double low, double high) {
             return static_cast<float>(random.real(low, high));
         };
-        const SFollower follower{draw(-2.0, 1.5), draw(-2.0, 1.5)};
+        const auto coefficient = [&] {
+            return random.chance(0.1) ? -std::numeric_limits<float>::infinity() : draw(-2.0, 1.5);
+        };
+        const SFollower follower{coefficient(), coefficient()};
         std::array<float, 2> states{draw(0.0, 1.5), draw(0.0, 1.5)};
         std::array<SFloats4, 2> inputs{};
         for (SFloats4 &input : inputs)
