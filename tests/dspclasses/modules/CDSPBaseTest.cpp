@@ -8,6 +8,7 @@ TEST(CDSPBase, StartsAt44100) {
     CDSPBase base;
     EXPECT_EQ(base.getSampleRate(), 44100.0f);
     EXPECT_EQ(std::bit_cast<std::uint32_t>(base.getInvSampleRate()), 0x37BE37C6u);
+    EXPECT_EQ(base.getRateRatio(), 1.0f);
 }
 
 TEST(CDSPBase, StoresTheRatioOfTheLastChangeOfRate) {
