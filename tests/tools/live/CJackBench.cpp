@@ -145,8 +145,9 @@ void CJackBench::keepTime(double beatsPerMinute) {
         m_source, 0,
         [](jack_transport_state_t, jack_nframes_t, jack_position_t *position, int, void *object) {
             position->valid = JackPositionBBT;
-            position->bar = position->beat = 1;
-            position->tick = 0;
+            position->bar = 3;
+            position->beat = 2;
+            position->tick = 960;
             position->beats_per_bar = position->beat_type = 4.0f;
             position->ticks_per_beat = 1920.0;
             position->beats_per_minute = static_cast<CJackBench *>(object)->m_beatsPerMinute;

@@ -41,7 +41,7 @@ public:
     void setBlockFrames(std::uint32_t frames) { jack_set_buffer_size(m_source, frames); }
     std::uint32_t blockFrames() const { return jack_get_buffer_size(m_source); }
     void delayNextCycle(int milliseconds) { m_delay = milliseconds; }
-    /// Keeps the time for the server.
+    /// Keeps the time for the server: always the middle of the second beat of the third bar.
     void keepTime(double beatsPerMinute);
     jack_client_t *client() const { return m_sink; }
     /// @return the names of the ports that a port is connected to.

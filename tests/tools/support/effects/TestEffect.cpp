@@ -282,6 +282,12 @@ private:
         }
         log("process " + std::to_string(frames) + " at " +
             std::to_string(std::lround(time->samplePos)));
+        if ((time->flags & kVstBarsValid) != 0) {
+            std::array<char, 64> line{};
+            std::snprintf(line.data(), line.size(), "quarter %g, bar from %g", time->ppqPos,
+                          time->barStartPos);
+            log(line.data());
+        }
 
         const double gain = std::pow(10.0, static_cast<double>(decibels(values()[0])) / 20.0);
         for (std::int32_t i = 0; i < frames; ++i) {
