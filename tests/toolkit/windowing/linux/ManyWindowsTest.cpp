@@ -40,8 +40,7 @@ private:
 class ManyWindows : public CNativeWindowTest {
 protected:
     static constexpr int times = 1000, fieldEach = 2;
-    // The smallest piece of memory takes 32 bytes. What malloc keeps for the next ones counts as
-    // used, and grows ever more slowly.
+    // Less than the smallest piece of memory, 32 bytes, for each window that has a field
     static constexpr std::size_t allowance = times * 12;
 
     ~ManyWindows() override { image->dereference(); }
