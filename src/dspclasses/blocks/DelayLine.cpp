@@ -4,6 +4,7 @@
 #include "dspclasses/blocks/SDelayRing.h"
 #include "dspclasses/blocks/SweptRead.h"
 #include "dspclasses/blocks/WholeCount.h"
+#include "dspclasses/kernels/WideLoop.h"
 
 // Kept: the text of the reports is fixed. This name, the expressions and the line numbers below
 // belong to it and do not follow this file.
@@ -51,7 +52,7 @@ void DelayLine::setConstantOffset(float offset) {
 
 float DelayLine::readConstant() const {
     float sample;
-    readConstant(&sample, 1);
+    getConstantRun().read(&sample, 1);
     return sample;
 }
 
@@ -65,21 +66,27 @@ void DelayLine::write(const float *samples, int count) {
     writeIndex = ring().write(samples, count);
 }
 
+void DelayLine::SRun::read(float *samples, int count) const {
+    runWide([count, to = samples, from = newer, share = fraction] {
+        for (int i = 0; i < count; ++i)
+            to[i] = (from[i - 1] - from[i]) * share + from[i];
+    });
+}
+
+DelayLine::SRun DelayLine::runAt(std::uint32_t distance, float fraction) const {
+    const SDelayRing now = ring();
+    const std::uint32_t place = now.placeOf(distance);
+    return {now.samples + place, fraction, now.stretchFrom(place, now.getLongestRun(distance))};
+}
+
 DelayLine::SRun DelayLine::getRun(float offset) const {
     assertNotNegative(offset);
     const std::uint32_t distance = wholeCount(offset);
-    const SDelayRing now = ring();
-    const std::uint32_t place = now.placeOf(distance);
-    return {now.samples + place, offset - static_cast<float>(distance),
-            now.stretchFrom(place, now.getLongestRun(distance))};
+    return runAt(distance, offset - static_cast<float>(distance));
 }
 
-int DelayLine::getLongestConstantRun() const {
-    return ring().getLongestRun(constantOffset);
-}
-
-void DelayLine::readConstant(float *samples, int count) const {
-    ring().read(constantOffset, constantFraction, samples, count);
+DelayLine::SRun DelayLine::getConstantRun() const {
+    return runAt(constantOffset, constantFraction);
 }
 
 bool DelayLine::canReadRun(const float *offsets, int count) const {

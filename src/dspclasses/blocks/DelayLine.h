@@ -39,7 +39,7 @@ public:
     /// Copies the newest samples, the oldest of them first.
     void copyNewest(float *samples, int count) const;
 
-    /// Stores the whole part of the offset for readConstant and grows the line to hold it.
+    /// Stores the whole part of the offset for the constant reads and grows the line to hold it.
     /// @param offset  samples; asserts that it is neither negative nor a NaN. [any thread]
     void setConstantOffset(float offset);
     float readConstant() const;
@@ -48,22 +48,24 @@ public:
     void clear();
 
     // Runs of frames. In each frame, the read comes before the write. A run does all its reads
-    // first and then all its writes, so no frame may read what its own run writes. SRun::frames,
-    // getLongestConstantRun and canReadRun say how long a run may be. See docs/kernels.md.
+    // first and then all its writes, so no frame may read what its own run writes. SRun::frames and
+    // canReadRun say how long a run may be. See docs/kernels.md.
 
     /// The samples of a run at one offset, in the memory of the line.
     struct SRun {
         const float *newer;  ///< for each frame; the sample before it is its older neighbour
         float fraction;      ///< of the way from the newer to the older neighbour
         int frames;          ///< how long the run may be, at least 1
+
+        /// Copies the first `count` of them, up to `frames`.
+        void read(float *samples, int count) const;
     };
 
     void write(const float *samples, int count);
 
     /// @param offset  samples; asserts that it is neither negative nor a NaN.
     SRun getRun(float offset) const;
-    int getLongestConstantRun() const;  ///< frames; at least 1
-    void readConstant(float *samples, int count) const;
+    SRun getConstantRun() const;
 
     /// @param offsets  samples, one per frame.
     /// @return whether a run of `count` frames may read at these offsets. False also for a NaN. If
@@ -73,6 +75,7 @@ public:
 
 private:
     SDelayRing ring() const;
+    SRun runAt(std::uint32_t distance, float fraction) const;
 
     CDelayBuffer buffer;
     TRelaxed<std::uint32_t> writeIndex = 0;  // place of the newest sample

@@ -65,9 +65,11 @@ smoothFourTwice(const SFollower &smoother, std::array<float, 2> &smoothedDb,
     if (std::abs(smoothedDb[0]) >= leastUnbiased && std::abs(smoothedDb[1]) >= leastUnbiased) {
         std::array<float, 2> states = smoothedDb;
         const std::array<Floats4, 2> smoothed = followFourTwice(smoother, states, excessesDb);
-        const SFloats4 smallest =
-            smaller(magnitude(SFloats4{smoothed[0]}), magnitude(SFloats4{smoothed[1]}));
-        if (!isAnySet(smallest.values < leastUnbiased)) [[likely]] {
+        // Two comparisons: the smaller of two values would hide one of them beside a NaN.
+        const SFloats4 first = magnitude(SFloats4{smoothed[0]});
+        const SFloats4 second = magnitude(SFloats4{smoothed[1]});
+        if (!isAnySet((first.values < leastUnbiased) | (second.values < leastUnbiased)))
+            [[likely]] {
             smoothedDb = states;
             return smoothed;
         }

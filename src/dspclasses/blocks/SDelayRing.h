@@ -40,19 +40,6 @@ struct SDelayRing {
         return static_cast<int>(std::min(mask - place, static_cast<std::uint32_t>(count - 1))) + 1;
     }
 
-    /// Reads `count` frames at one distance.
-    /// @param fraction  from 0 to 1, of the way towards the older neighbour.
-    void read(std::uint32_t distance, float fraction, float *to, int count) const {
-        std::uint32_t place = placeOf(distance);
-        while (count > 0) {
-            const int stretch = stretchFrom(place, count);
-            readStretch(samples + place, fraction, to, stretch);
-            place = 0;
-            to += stretch;
-            count -= stretch;
-        }
-    }
-
     /// Copies the newest `count` samples, the oldest of them first.
     void copyNewest(float *to, int count) const {
         std::uint32_t place = newest - static_cast<std::uint32_t>(count);
@@ -80,13 +67,6 @@ struct SDelayRing {
     void clear() const { std::fill_n(samples - 1, std::size_t{mask} + 2, 0.0f); }
 
 private:
-    static void readStretch(const float *newer, float fraction, float *to, int count) {
-        runWide([=] {
-            for (int i = 0; i < count; ++i)
-                to[i] = (newer[i - 1] - newer[i]) * fraction + newer[i];
-        });
-    }
-
     static void writeStretch(const float *from, float *to, int count) {
         runWide([=] {
             for (int i = 0; i < count; ++i)

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
-static constexpr int groupFrames = 256;
+static constexpr int longestRun = 256;
 
 /// Kept: a level below -400 dB is stored as 0.
 static float zeroIfInaudible(float level) {
@@ -175,11 +175,12 @@ void CDSPDelay::run(const Sample *const *in, Sample *const *out, int frames) {
         }
         const SLevels levels{dryLevel, wetLevel, feedback};
         const bool crossesOver = pingPong;
-        const int count = std::min({frames - done, groupFrames, leftLine.getLongestConstantRun(),
-                                    rightLine.getLongestConstantRun()});
-        float left[groupFrames], right[groupFrames], toLine[groupFrames];
-        leftLine.readConstant(left, count);
-        rightLine.readConstant(right, count);
+        const DelayLine::SRun leftRun = leftLine.getConstantRun(),
+                              rightRun = rightLine.getConstantRun();
+        const int count = std::min({frames - done, longestRun, leftRun.frames, rightRun.frames});
+        float left[longestRun], right[longestRun], toLine[longestRun];
+        leftRun.read(left, count);
+        rightRun.read(right, count);
         mixEcho(in[0] + done, left, crossesOver ? right : left, out[0] + done, toLine, count,
                 levels);
         leftLine.write(toLine, count);

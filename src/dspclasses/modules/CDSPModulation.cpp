@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <cmath>
 
-static constexpr int groupFrames = 64;
+static constexpr int longestRun = 64;
 
 CDSPModulation::CDSPModulation() {
     leftLine.resize(4096);
@@ -150,8 +150,8 @@ struct CDSPModulation::SSettings {
 
 /// For each frame, first the phase of the oscillator, later the offset to read at.
 struct CDSPModulation::SSweep {
-    float left[groupFrames];
-    float right[groupFrames];
+    float left[longestRun];
+    float right[longestRun];
 };
 
 /// The only recursion from frame to frame, for both channels in one loop.
@@ -199,7 +199,7 @@ void CDSPModulation::runChannel(const Sample *in, Sample *out, int frames,
                                 const SSettings &settings, float *sweep, DelayLine &line) {
     sweepOffsets(sweep, frames, static_cast<Sample>(settings.depth),
                  static_cast<Sample>(settings.base));
-    float delayed[groupFrames], toLine[groupFrames];
+    float delayed[longestRun], toLine[longestRun];
     if (line.canReadRun(sweep, frames)) {
         line.readRun(sweep, delayed, frames);
         mixChannel(in, delayed, out, toLine, frames, settings);
@@ -216,14 +216,14 @@ void CDSPModulation::runChannel(const Sample *in, Sample *out, int frames,
 
 template <typename Sample>
 void CDSPModulation::run(const Sample *const *in, Sample *const *out, int frames) {
-    for (int first = 0; first < frames; first += groupFrames) {
+    for (int first = 0; first < frames; first += longestRun) {
         if (resetRequest.take()) {
             leftLine.clear();
             rightLine.clear();
         }
         const SSettings settings{directGain, delayedGain,  feedbackGain, dryGain,
                                  wetGain,    lfoIncrement, depthSamples, baseSamples};
-        const int count = std::min(groupFrames, frames - first);
+        const int count = std::min(longestRun, frames - first);
         SSweep sweep;
         advanceOscillators(sweep, count, settings.increment);
         runChannel(in[0] + first, out[0] + first, count, settings, sweep.left, leftLine);

@@ -193,10 +193,11 @@ void CDSPReverb::runEarlyLine(SReverbGroup &group, int frames) {
     mixToMono(group.left, group.right, mono + held, frames);
     earlyLine.write(mono + frames, held);
     for (int k = 0; k < lines; ++k) {
-        const std::uint32_t offset = wholeCount(tapOffsets[k]);
-        const float *newer = mono + (held - 1 - offset % held);
-        const float *older = mono + (held - 1 - (offset + 1) % held);
-        const float fraction = tapOffsets[k] - static_cast<float>(offset);
+        const float offset = tapOffsets[k];
+        const std::uint32_t whole = wholeCount(offset);
+        const float *newer = mono + (held - 1 - whole % held);
+        const float *older = mono + (held - 1 - (whole + 1) % held);
+        const float fraction = offset - static_cast<float>(whole);
         readTap(newer, older, fraction, tapGains[k], group.early[k], frames);
     }
 }

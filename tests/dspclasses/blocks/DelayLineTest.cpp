@@ -154,7 +154,7 @@ TEST(DelayLine, ARunEndsBeforeAReadWouldNeedAWriteOfTheSameRun) {
     EXPECT_EQ(line.getRun(15.0f).frames, 1);
     EXPECT_EQ(line.getRun(16.0f + 5.0f).frames, 6);
     line.setConstantOffset(9.0f);
-    EXPECT_EQ(line.getLongestConstantRun(), 10);
+    EXPECT_EQ(line.getConstantRun().frames, 10);
 }
 
 TEST(DelayLine, ARunInTheMemoryOfTheLineEndsWithTheRing) {
@@ -194,18 +194,15 @@ TEST(DelayLine, RunsEqualThePlainVersionFrameByFrame) {
                                    : random.real(0.0, capacity));
             line.setConstantOffset(std::min(offset, static_cast<float>(capacity - 1)));
             plain.setConstantOffset(std::min(offset, static_cast<float>(capacity - 1)));
-            const int frames = random.whole(
-                1, std::min({200, line.getRun(offset).frames, line.getLongestConstantRun()}));
+            const DelayLine::SRun run = line.getRun(offset), constantRun = line.getConstantRun();
+            const int frames = random.whole(1, std::min(run.frames, constantRun.frames));
             std::vector<float> swept(static_cast<std::size_t>(frames));
             const double nearest = random.chance(0.7) ? frames : 0.0;
             for (float &place : swept)
                 place = static_cast<float>(random.real(nearest, std::max(nearest, capacity - 3.0)));
             std::vector<float> got(swept.size()), constant(swept.size()), gotSwept(swept.size());
-            const DelayLine::SRun run = line.getRun(offset);
-            for (int i = 0; i < frames; ++i)
-                got[static_cast<std::size_t>(i)] =
-                    (run.newer[i - 1] - run.newer[i]) * run.fraction + run.newer[i];
-            line.readConstant(constant.data(), frames);
+            run.read(got.data(), frames);
+            constantRun.read(constant.data(), frames);
             const bool canSweep = line.canReadRun(swept.data(), frames);
             sweeps += canSweep ? 1 : 0;
             if (canSweep)
@@ -235,9 +232,11 @@ TEST(DelayLine, InterpolatesInfinitiesLikeAnyOtherSample) {
     }
     line.setConstantOffset(5.0f);
     plain.setConstantOffset(5.0f);
-    std::vector<float> run(6);
-    line.readConstant(run.data(), 6);
-    for (const float sample : run) {
+    const DelayLine::SRun run = line.getConstantRun();
+    ASSERT_EQ(run.frames, 6);
+    std::vector<float> samples(6);
+    run.read(samples.data(), 6);
+    for (const float sample : samples) {
         EXPECT_TRUE(sameBits(sample, plain.readConstant())) << sample;
         plain.write(0.0f);
     }

@@ -96,6 +96,22 @@ TEST(TDetectorPair, EqualsTwoDetectorsForLevelsOfAnySize) {
     }
 }
 
+TEST(TDetectorPair, EqualsTwoDetectorsWhileOneChannelBecomesNaN) {
+    constexpr float infinity = std::numeric_limits<float>::infinity();
+    // The channel that is above a threshold of -infinity becomes a NaN. In the same step, the other
+    // falls so low that the bias changes its bits.
+    const SDetectorSettings settings{-infinity, 1.0f, {0.9f, 0.1f}, {-0.5f, 0.0f, 1.0f}};
+    for (const std::size_t above : {0u, 1u}) {
+        std::array<SDetectorState, 2> states;
+        states[above] = {2.0f, 10.0f};
+        states[1 - above] = {0.0f, 0x1p-40f};
+        std::array<Levels, 2> levels{Levels(4), Levels(4)};
+        levels[above].assign(4, 2.0f);
+        expectTwoAlone(settings, states, levels);
+        EXPECT_TRUE(std::isnan(states[above].smoothedExcessDb));
+    }
+}
+
 TEST(TDetectorPair, EqualsTwoDetectorsWhileOneChannelIsSilent) {
     CRandom random(7);
     const SDetectorSettings settings{0.0f, 1.0f, {0.9f, 0.95f}, {-0.5f, 0.0f, 1.0f}};
