@@ -1,7 +1,8 @@
 #pragma once
 
 /// The contract of every processing module. A module processes exactly two channels, never in
-/// place: `in` and `out` are different buffers, and every sample of both outputs is written.
+/// place: `in` and `out` are different buffers. Unless getOutput() says otherwise, every sample of
+/// both outputs is written.
 class CDSPBase {
 public:
     CDSPBase() = default;

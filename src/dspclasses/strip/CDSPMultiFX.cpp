@@ -100,8 +100,8 @@ static bool areSeparate(const Sample *left, const Sample *right, int frames) {
            (isUpTo(left + frames, right) || isUpTo(right + frames, left));
 }
 
-/// The first stage reads the host's buffers and the last one writes to them, without a copy. That
-/// is safe since the second stage runs only when all input has been read.
+/// The first stage reads the host's buffers, and the last one, unless it is a routing, writes to
+/// them. That is safe since the second stage runs only when all input has been read.
 template <typename Sample>
 void CDSPMultiFX::run(Sample **in, Sample **out, int frames, TStripBuffers<Sample> &buffers) {
     if (in == nullptr || out == nullptr)

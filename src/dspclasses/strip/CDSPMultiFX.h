@@ -31,6 +31,7 @@ public:
 
     /// [audio thread] Allocates only for a block that is longer than all before. Does nothing more
     /// if `in` or `out` is null. With a mono input, out[1] may be null, and out[0] is half the sum.
+    /// Asserts in single precision that the first block has frames.
     void processReplacing(float **in, float **out, int frames) override;
     void processDoubleReplacing(double **in, double **out, int frames) override;
 

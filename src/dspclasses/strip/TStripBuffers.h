@@ -4,8 +4,9 @@
 #include <memory>
 #include <new>
 
-/// Two pairs of channels. Each stage of the strip reads one pair and writes the other. The buffers
-/// never shrink, and no signal is carried from one block to the next.
+/// Two pairs of channels. Each stage of the strip reads one pair and writes the other, except that
+/// the first may read the host's input and the last may write its output. The buffers never shrink,
+/// and no signal is carried from one block to the next.
 template <typename Sample>
 class TStripBuffers {
 public:

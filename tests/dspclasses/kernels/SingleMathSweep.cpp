@@ -8,6 +8,7 @@
 #include "dspclasses/kernels/SingleReference.h"
 #include "dspclasses/kernels/WideLoop.h"
 
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <cmath>
@@ -16,37 +17,49 @@
 #include <cstring>
 #include <functional>
 #include <limits>
+#include <vector>
 
 namespace {
 
 using Chunk = std::array<float, 4096>;
 
+struct SForm {
+    const char *name;
+    std::function<void(const Chunk &, Chunk &)> run;
+};
+
 struct SFunction {
     const char *name;
     std::function<bool(float)> isArgument;
     std::function<float(float)> reference;
-    std::function<void(const Chunk &, Chunk &)> scalar;
-    std::function<void(const Chunk &, Chunk &)> lanes;  // may be empty
+    std::vector<SForm> forms;
 };
 
 template <typename One>
-std::function<void(const Chunk &, Chunk &)> oneByOne(One one) {
-    return [one](const Chunk &x, Chunk &y) {
-        for (std::size_t i = 0; i < x.size(); ++i)
-            y[i] = one(x[i]);
-    };
+SForm oneByOne(One one) {
+    return {"scalar", [one](const Chunk &x, Chunk &y) {
+                std::transform(x.begin(), x.end(), y.begin(), one);
+            }};
 }
 
-template <typename FourLanes>
-std::function<void(const Chunk &, Chunk &)> fourByFour(FourLanes onFourLanes) {
-    return [onFourLanes](const Chunk &x, Chunk &y) {
-        const float *from = x.data();
-        float *to = y.data();
-        runWide([=](auto processor) {
+/// @return the scalar form, the one for four lanes and, if the processor can, the same with fused
+///         multiply-add.
+template <typename One, typename FourLanes>
+std::vector<SForm> allForms(One one, FourLanes onFourLanes) {
+    const auto loop = [onFourLanes](const Chunk &x, Chunk &y) {
+        return [onFourLanes, from = x.data(), to = y.data()](auto processor) {
             for (std::size_t i = 0; i < std::tuple_size_v<Chunk>; i += 4)
                 storeFour(to + i, onFourLanes(processor, loadFour(from + i)));
-        });
+        };
     };
+    std::vector<SForm> forms{
+        oneByOne(one),
+        {"four lanes of SSE2", [loop](const Chunk &x, Chunk &y) { loop(x, y)(SNarrowLanes()); }}};
+    if (processorHasWideLanes()) {
+        forms.push_back({"four lanes of AVX2",
+                         [loop](const Chunk &x, Chunk &y) { runOnWideLanes(loop(x, y)); }});
+    }
+    return forms;
 }
 
 bool same(float a, float b) {
@@ -63,24 +76,22 @@ long sweep(const SFunction &function) {
                         static_cast<double>(x), static_cast<double>(got),
                         static_cast<double>(expected));
     };
-    Chunk x, scalar, lanes;
+    Chunk x, expected, got;
     for (std::uint64_t first = 0; first < 0x100000000u; first += x.size()) {
         for (std::size_t i = 0; i < x.size(); ++i) {
             const auto value = std::bit_cast<float>(static_cast<std::uint32_t>(first + i));
             x[i] = function.isArgument(value) ? value : 1.0f;
         }
-        function.scalar(x, scalar);
-        if (function.lanes)
-            function.lanes(x, lanes);
-        for (std::size_t i = 0; i < x.size(); ++i) {
-            const float expected = function.reference(x[i]);
-            check("scalar", x[i], scalar[i], expected);
-            if (function.lanes)
-                check("four lanes", x[i], lanes[i], expected);
+        std::transform(x.begin(), x.end(), expected.begin(), function.reference);
+        for (const SForm &form : function.forms) {
+            form.run(x, got);
+            for (std::size_t i = 0; i < x.size(); ++i)
+                check(form.name, x[i], got[i], expected[i]);
         }
         arguments += static_cast<long>(x.size());
     }
-    std::printf("%s: %ld arguments, %ld wrong\n", function.name, arguments, wrong);
+    std::printf("%s: %ld arguments in %zu forms, %ld wrong\n", function.name, arguments,
+                function.forms.size(), wrong);
     return wrong;
 }
 
@@ -96,8 +107,7 @@ SFunction powersOf(const char *name, float base) {
     return {name,
             anyFloat,
             [base](float x) { return SingleReference::power(base, x); },
-            oneByOne([base](float x) { return powSingle(base, x); }),
-            {}};
+            {oneByOne([base](float x) { return powSingle(base, x); })}};
 }
 
 }  // namespace
@@ -105,11 +115,11 @@ SFunction powersOf(const char *name, float base) {
 int main(int argc, char **argv) {
     const SFunction functions[] = {
         {"exp", anyFloat, SingleReference::exponential,
-         oneByOne([](float x) { return expSingle(x); }),
-         fourByFour([](auto processor, SFloats4 x) { return expSingle<decltype(processor)>(x); })},
+         allForms([](float x) { return expSingle(x); },
+                  [](auto processor, SFloats4 x) { return expSingle<decltype(processor)>(x); })},
         {"log", positiveFinite, SingleReference::logarithm,
-         oneByOne([](float x) { return logSingle(x); }),
-         fourByFour([](auto processor, SFloats4 x) { return logSingle<decltype(processor)>(x); })},
+         allForms([](float x) { return logSingle(x); },
+                  [](auto processor, SFloats4 x) { return logSingle<decltype(processor)>(x); })},
         powersOf("pow2", 2.0f),
         powersOf("pow5", 5.0f),
     };
