@@ -1,7 +1,7 @@
 /// Checks SingleMath with every float: the logarithm of each float above 0, the exponential of
 /// each, and the powers of 2 and 5 (the bases of the parameter laws) with each as the exponent. It
-/// takes about two and a half hours (the logarithm about 6 minutes, the exponential about 20, each
-/// power about an hour), so it is a separate program: singlemath_sweep [exp|log|pow2|pow5]...
+/// takes more than two hours (the logarithm about 6 minutes, the exponential about 10, each power
+/// about an hour), so it is a separate program: singlemath_sweep [exp|log|pow2|pow5]...
 
 #include "dspclasses/kernels/SingleMath.h"
 #include "dspclasses/kernels/SingleMathLanes.h"
