@@ -68,8 +68,8 @@ smoothFourTwice(const SFollower &smoother, std::array<float, 2> &smoothedDb,
         // Two comparisons: the smaller of two values would hide one of them beside a NaN.
         const SFloats4 first = magnitude(SFloats4{smoothed[0]});
         const SFloats4 second = magnitude(SFloats4{smoothed[1]});
-        if (!isAnySet((first.values < leastUnbiased) | (second.values < leastUnbiased)))
-            [[likely]] {
+        const Mask4 areTiny = (first.values < leastUnbiased) | (second.values < leastUnbiased);
+        if (!isAnySet(areTiny)) [[likely]] {
             smoothedDb = states;
             return smoothed;
         }
